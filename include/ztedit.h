@@ -1,0 +1,199 @@
+/* ztedit.h - masked edit controls (ztedit050.dll)
+ *
+ * The ideas, in the words used below:
+ *
+ *   control    a window of the class "ZTEDIT050", or a standard edit control subclassed with ZTE_SuperEditWndProc, that has
+ *              been configured with an EditInitParams record, at creation or later by ZTE_Init.
+ *   mask       a text such as "MM/DD/YY" that says, position by position, what may be typed and which characters stand
+ *              fixed; or a keyword such as "[date]" that expands from the regional settings. At most 255 characters.
+ *   literal    a fixed character of the mask, shown as it stands and skipped by the caret; '~' makes the next one a literal.
+ *   position   a place in the text shown, counted from 0.
+ *   data type  what the text means: DT_STRING to DT_DECIMAL.
+ *   canonical  the form in which dates and times are handed in as text, the same under every mask and setting:
+ *              "1995-07-04", "14:07:09:000250", "1995-07-04 14:07".
+ *
+ * All functions are called on the thread that owns the control. For a window that is no control they do nothing and return
+ * what is stated there. Nothing is thrown or logged and no message is shown; a refused key beeps.
+ *
+ * The parent gets two notifications as WM_COMMAND (control identifier in the low word, lParam the control):
+ *   ZTN_AUTOSKIP  the last position was filled, or Right pressed at the end, while autoskip is on: move the focus on.
+ *   EN_CHANGE     after each step of the spin, beside those that the standard edit control sends.
+ *
+ * A control's record and strings live in the heap given at creation, which the caller discards as a whole (usually one heap
+ * per form). Results are blocks of that heap, to be freed with SharedHeapFree.
+ */
+#ifndef ZTEDIT_H
+#define ZTEDIT_H
+
+#include <stdint.h>
+#include <windows.h>
+
+#include "ztdecimal.h"
+#include "ztshared.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+#define ZTEDIT_CLASS "ZTEDIT050"
+#define ZTN_AUTOSKIP 0x0903
+
+/* Data types, and what a pointer to a value of the type points to. */
+#define DT_STRING 1   /* char[]: a zero-terminated text, without the mask's literals */
+#define DT_NUMBER 2   /* double */
+#define DT_DATE 3     /* DateTimeValue */
+#define DT_TIME 4     /* DateTimeValue */
+#define DT_DATETIME 5 /* DateTimeValue */
+#define DT_DECIMAL 6  /* DecimalValue */
+
+/* EditInitParams.options */
+#define ZTEO_AUTOSKIP 0x1     /* notify with ZTN_AUTOSKIP when the last position is filled */
+#define ZTEO_SPIN 0x2         /* the control owns a spin; the spin fields below are used */
+#define ZTEO_CODE_PICK 0x4    /* typed characters choose entries of the code table */
+#define ZTEO_CODE_DISPLAY 0x8 /* values are shown through the code table */
+
+/* ZTE_SetSpin styles */
+#define SPINSTYLE_PICKLIST 0x10000000u
+#define SPINSTYLE_CODETABLE 0x08000000u
+
+/* Configures a new control: the creation parameter of CreateWindowEx, or given to ZTE_Init. Only read; everything in it is
+ * borrowed for the call except heap, which must outlive the control. */
+typedef struct EditInitParams {
+    SharedHeap heap;
+    uint32_t heapFlags;        /* handed to every allocation */
+    uint32_t reserved;         /* not read */
+    const char* maskText;      /* see ZTE_FmtSetMask; null for none */
+    int32_t dataType;          /* DT_STRING to DT_DECIMAL */
+    const char* initialData;   /* see ZTE_FmtSetDataString; null leaves the type's empty value */
+    const char* spinRangeText; /* see ZTE_SetSpin; this and the next two count with ZTEO_SPIN only */
+    uint32_t spinIncrement;
+    const char* codeTableText;
+    uint32_t options; /* ZTEO_ bits; only the lowest byte is read */
+} EditInitParams;
+
+/* What ZTE_FmtFormatData returns. Free the text, then the record, with SharedHeapFree. */
+typedef struct FormatResult {
+    char* text;            /* the display text */
+    uint32_t formatFlags;  /* FORMAT_ bits */
+    int32_t firstFieldPos; /* position at which editing starts: the first field, or a number's first digit or sign */
+} FormatResult;
+
+#define FORMAT_DONE 0x0001          /* always set */
+#define FORMAT_HAS_LITERALS 0x4000  /* the text holds literals; set for every date and time */
+#define FORMAT_LITERAL_AFTER 0x8000 /* a literal follows a field */
+
+/* ---- The control --------------------------------------------------------------------------------------------------- */
+
+/* The window procedure of "ZTEDIT050". May also subclass a standard edit control; call ZTE_Init afterwards. A window that
+ * has not been configured behaves as a plain edit. */
+LRESULT CALLBACK ZTE_SuperEditWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+/* Configures an existing window whose messages reach ZTE_SuperEditWndProc, for example one from a dialog template. A second
+ * call configures the control anew. The result carries no status.
+ *
+ *     EditInitParams p = {0};
+ *     p.heap = heap;  p.maskText = "MM/DD/YY";  p.dataType = DT_DATE;  p.options = ZTEO_AUTOSKIP;
+ *     ZTE_Init(GetDlgItem(dialog, IDC_DUE), &p);
+ */
+int32_t WINAPI ZTE_Init(HWND hwnd, const EditInitParams* params);
+
+/* Turns autoskip on or off. Only bit 0 of on counts, on purpose: 2 turns it off, 3 on. */
+void WINAPI ZTE_SetAutoskip(HWND hwnd, uint32_t on);
+
+/* Narrows the formatting rectangle of a control with a spin, so that text never runs under the arrows. Setting data does
+ * this by itself; call it after changing the formatting rectangle from outside. */
+void WINAPI ZTE_UtilSetFormatRect(HWND hwnd);
+
+/* ---- Mask and data ------------------------------------------------------------------------------------------------- */
+
+/* Installs an edit mask and shows the type's empty value under it.
+ *
+ * mask      mask text or one of the keywords "[date]", "[time]", "[date] [time]", "[currency(n)]" (n digits, at most 16);
+ *           null counts as empty. Borrowed for the call.
+ * dataType  DT_STRING to DT_DECIMAL.
+ *
+ * Returns 1 when the mask was installed, 0 when it does not fit the type and the type's default stands in: none for
+ * strings, "#,#.00" for numbers and decimals, "MM/DD/YY", "HH:MM:SS:FFF", "MM/DD/YY HH:MM:SS:FFF". 1 for a window that is
+ * no control.
+ */
+int32_t WINAPI ZTE_FmtSetMask(HWND hwnd, const char* mask, int32_t dataType);
+
+/* Shows a value. data points to a value of the control's type (see DT_STRING ...); null shows the empty value, 0 for
+ * numbers. The result carries no status; 0 for a window that is no control. */
+int32_t WINAPI ZTE_FmtSetData(HWND hwnd, const void* data);
+
+/* Shows a value given as text. Strings: as it stands. Numbers and decimals: '.' is the point whatever the settings ("1234.5").
+ * Dates and times: the display text of the mask, or canonical text; a text that is neither shows the empty value. */
+int32_t WINAPI ZTE_FmtSetDataString(HWND hwnd, const char* text);
+
+/* Reads the value shown.
+ *
+ * Returns a block of the control's heap that the caller frees: for strings the text without literals; for numbers and
+ * decimals the number as text, with the regional decimal character, a percentage as the fraction it stands for; for dates
+ * and times a DateTimeValue. Null for a window that is no control and for the empty date; midnight reads as null in a
+ * DT_TIME control, on purpose.
+ */
+void* WINAPI ZTE_FmtGetData(HWND hwnd);
+
+/* The control's data type, 0 for a window that is no control. */
+uint16_t WINAPI ZTE_FmtGetDataType(HWND hwnd);
+
+/* Formats a value as ZTE_FmtSetData would show it, without touching the window text. Null for a window that is no control. */
+FormatResult* WINAPI ZTE_FmtFormatData(HWND hwnd, const void* data);
+
+/* Reads a text of the caller's as if the control showed it. Results as ZTE_FmtGetData, except that dates and times are read
+ * as canonical text only (an unreadable one gives the empty DateTimeValue), and a percentage is not divided. Null for an
+ * empty or null text. */
+void* WINAPI ZTE_FmtUnformatData(HWND hwnd, const char* text);
+
+/* ---- Spin ---------------------------------------------------------------------------------------------------------- */
+
+/* Sets up what the spin steps.
+ *
+ * increment  the step; 0 is taken as 1.
+ * range      "minimum~maximum", either side may be empty. For numbers a maximum of 0 means none; the minimum is 0 when not
+ *            given. For dates and times each end is in the mask's layout or canonical. Null leaves number bounds as they were.
+ * codeTable  entries separated by '/', each a display text, a tab and a data value; "//" is a literal '/'. The value "null!"
+ *            stands for no data. Null for none.
+ * style      SPINSTYLE_ bits; other bits are ignored.
+ */
+void WINAPI ZTE_SetSpin(HWND hwnd, uint32_t increment, const char* range, const char* codeTable, uint32_t style);
+
+/* Creates and shows the spin of a control that has none. */
+void WINAPI ZTE_CreateSpin(HWND hwnd);
+
+/* Destroys the spin; the range text and the code table go with it, so a later spin needs ZTE_SetSpin again. */
+void WINAPI ZTE_DestroySpin(HWND hwnd);
+
+/* Paints the control's spin into dc. rect null: the client rectangle of the spin window. */
+void WINAPI ZTE_PaintSpin(HWND hwnd, HDC dc, const RECT* rect);
+
+/* Paints an unpressed spin into rect without a control. Returns the width of its buttons in pixels. */
+int16_t WINAPI ZTE_PaintSpinOnce(const RECT* rect, HDC dc);
+
+/* The width in pixels, always even, that a spin of the rectangle's height gets. rect null: the spin window's client
+ * rectangle. 0 for a window that is no control. */
+int16_t WINAPI ZTE_GetSpinWidth(HWND hwnd, const RECT* rect);
+
+/* The background colour of the spin; 0 (black) leaves the background to the window class. Takes effect at the next paint. */
+void WINAPI ZTE_SetSpinBkColor(HWND hwnd, COLORREF colour);
+
+/* Reads an end of a date or time range, in the mask's layout or canonical. Returns 0 on success, and fills value. */
+int16_t WINAPI ZTE_SpinDateRange(HWND hwnd, DateTimeValue* value, const char* text);
+
+/* Returns 1 when second is earlier or smaller than first, else 0; ends without a date or time, and zero numbers, are never
+ * out of order. Points to doubles for numbers and decimals, to DateTimeValues for dates and times. 1 for a window that is no
+ * control. */
+int16_t WINAPI ZTE_SpinRangeCompare(HWND hwnd, const void* first, const void* second);
+
+/* The window procedure of the class "spin". */
+LRESULT CALLBACK ZTE_SpinWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+/* Library exit procedure; does nothing. */
+int32_t WINAPI WEP(int32_t argument);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
