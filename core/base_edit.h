@@ -1,4 +1,5 @@
-// The standard edit control underneath: every call to it goes through these wrappers.
+// The standard edit control underneath: every call to it goes through these wrappers. Those that may make the control go
+// away (by what its parent does on a notification) throw ControlGone when it did; see life_guard.h.
 #pragma once
 
 #include <string>
@@ -29,7 +30,8 @@ inline void PlaceCaret(const EditInstance& edit, int32_t position) { Select(edit
 // EM_REPLACESEL to the base, without an undo step.
 void ReplaceSelection(const EditInstance& edit, const char* text);
 
-void SetRedraw(const EditInstance& edit, bool on);
+// Turns redrawing off, or on again when the library turned it off. A hidden window stays as it is.
+void SetRedraw(EditInstance& edit, bool on);
 
 // The control's text, read from the base edit procedure.
 std::string ReadText(const EditInstance& edit);
@@ -40,11 +42,19 @@ void SetText(const EditInstance& edit, const char* text);
 // SetText framed by UpdateFormatRect before and after.
 void ShowText(const EditInstance& edit, const char* text);
 
-// A key-down and key-up of the key, straight to the base.
+// Keys and characters straight to the base: count times a key-down and a key-up; a key-down alone; a character.
 void SendKeyToBase(const EditInstance& edit, WPARAM key, LPARAM keyData, int32_t count = 1);
+void SendKeyDownToBase(const EditInstance& edit, WPARAM key, LPARAM keyData);
+void SendCharToBase(const EditInstance& edit, char character, LPARAM keyData);
+
+// Whether the control is read-only or disabled: it then takes no input from the user.
+bool IsInputRefused(HWND hwnd);
 
 // Sends WM_COMMAND with the notification code to the parent; the control may be gone afterwards.
 void NotifyParent(HWND hwnd, HWND parent, uint16_t code);
+
+// Tells the parent that the focus may move on.
+void NotifyAutoskip(const EditInstance& edit);
 
 // MessageBeep(0).
 void Beep();

@@ -10,6 +10,7 @@
 namespace zte {
 
 struct CodeTable;
+class LifeGuard;
 
 // Bits of EditInstance::flags.
 enum : uint32_t {
@@ -71,8 +72,11 @@ struct EditInstance {
     int16_t fractionPos;
     int16_t fractionLen;
     // Everything above is laid out for callers that look into the record; state of our own goes below.
-    int32_t carriedTo;    // caret position to which typing has just carried the caret over literals; 0: none
-    uint8_t backspaceDown;  // 1 while a Backspace key that the library carried out is held
+    LifeGuard* guard;          // innermost entry into the library that works on this record
+    int32_t carriedFrom;       // typing has just carried the caret over the literals from here ...
+    int32_t carriedTo;         // ... to here; 0: it has not
+    bool redrawOff;            // redrawing was turned off by the library
+    bool swallowBackspace;     // the character of a Backspace already carried out in a number is to come
 };
 
 static_assert(std::is_trivially_copyable_v<EditInstance>, "the record is allocated zeroed and freed as one block");

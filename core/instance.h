@@ -17,6 +17,10 @@ void DetachEditInstance(HWND hwnd);
 // As ZTE_UtilSetFormatRect, with the record at hand.
 void UpdateFormatRect(const EditInstance& edit);
 
+// Keeps the text off a spin, whether the control was created with it or got it later; after the edit control underneath
+// has laid its formatting rectangle anew.
+void KeepTextOffSpin(const EditInstance& edit);
+
 // The spin's width for a height, not rounded up to even: 2h/3 + 2, at least 7, at most the scroll-bar width + 2.
 int16_t SpinWidthForHeight(int16_t height);
 

@@ -7,16 +7,6 @@ namespace zte {
 
 constexpr DateTimeValue kEmptyDateTime = {0, DATETIME_NO_DATE, 0, 0, DATETIME_NO_TIME, 0, 0, 0};
 
-// Seen while one text is walked.
-struct FieldsSeen {
-    bool hour;
-    bool year;
-};
-
-// Reads the field at text, whose mask characters begin at maskAtField (an index into the mask text). Returns the count of
-// characters the field spans, or -1 when they are no number or month name.
-int32_t ReadDateField(EditInstance& edit, DateTimeValue& value, const char* text, FieldsSeen& seen, const char* maskAtField);
-
 // Starts from the empty value and reads every field of the text; false at the first unreadable field, with what was read
 // up to there left in value.
 bool WalkDateText(EditInstance& edit, const char* text, DateTimeValue& value);

@@ -7,6 +7,9 @@
 
 namespace zte {
 
+// Canonical text, with '.' as the only point: as far as it is a number, 0 when it is none.
+double NumberFromPlainText(const char* text);
+
 // As far as the text is a number; the regional decimal character counts as the point, as '.' does.
 double NumberFromText(const char* text);
 DecimalValue DecimalFromText(const char* text, int32_t decimalPlaces);

@@ -1,14 +1,19 @@
 // Reads display text back into data, and re-lays number texts through their mask.
 #pragma once
 
+#include <string>
+
 #include "core/edit_instance.h"
 
 namespace zte {
 
 // The data now shown, without the null rules of ZTE_FmtGetData: what the validators and the spin read while the user edits.
-// A block of the control's heap that the caller frees (a number as text with the regional decimal character, a string,
-// or a DateTimeValue), or null when the window text is empty.
+// A number as text with the regional decimal character, a string, or a DateTimeValue. A block of the control's heap that
+// the caller frees, or null when the window text is empty.
 void* ReadCurrentData(EditInstance& edit);
+
+// The same for dates and times; the empty value when the window text is empty or unreadable.
+DateTimeValue ReadCurrentDateTime(EditInstance& edit);
 
 // Lays a number text (null: the window text) through the mask again. Returns by how many characters the text grew, 0 when
 // it did not.

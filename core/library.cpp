@@ -1,0 +1,71 @@
+// Loading and unloading the library: its window classes and first look at the regional settings.
+#include "core/library.h"
+
+#include "core/base_edit.h"
+#include "intl/regional_settings.h"
+#include "ztedit.h"
+
+namespace zte {
+
+namespace {
+
+constexpr char kSpinClass[] = "spin";
+
+WNDCLASSA SpinClass()
+{
+    WNDCLASSA spin{};
+    spin.lpfnWndProc = ZTE_SpinWndProc;
+    spin.cbWndExtra = 4;
+    spin.hInstance = libraryInstance;
+    spin.hCursor = LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(IDC_ARROW));
+    spin.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+    spin.lpszClassName = kSpinClass;
+    return spin;
+}
+
+}  // namespace
+
+bool RegisterClasses(HINSTANCE instance)
+{
+    libraryInstance = instance;
+    WNDCLASSA edit{};
+    GetClassInfoA(nullptr, "edit", &edit);
+    baseEditProc = edit.lpfnWndProc;
+
+    edit.style |= CS_GLOBALCLASS;  // any module's windows and dialog templates may name the class
+    edit.lpfnWndProc = ZTE_SuperEditWndProc;
+    edit.hInstance = libraryInstance;
+    edit.lpszMenuName = nullptr;
+    edit.lpszClassName = ZTEDIT_CLASS;
+    if (!RegisterClassA(&edit))
+        return false;
+
+    const WNDCLASSA spin = SpinClass();
+    if (!RegisterClassA(&spin))
+        return false;
+    ReadIntlSettings();
+    return true;
+}
+
+void UnregisterClasses(int flag)
+{
+    if (flag != 0)
+        return;
+    UnregisterClassA(ZTEDIT_CLASS, libraryInstance);
+    UnregisterClassA(kSpinClass, libraryInstance);
+}
+
+}  // namespace zte
+
+int32_t WINAPI WEP(int32_t /*argument*/) { return 1; }
+
+// The language runtime has been started by its own entry point before this one is called. A failed registration is not
+// reported: the library stays loaded without its classes.
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID /*reserved*/)
+{
+    if (reason == DLL_PROCESS_ATTACH)
+        zte::RegisterClasses(instance);
+    else if (reason == DLL_PROCESS_DETACH)
+        zte::UnregisterClasses(0);
+    return TRUE;
+}

@@ -1,0 +1,65 @@
+// Lets code that works on a control survive the control's destruction inside a message that it sends.
+#pragma once
+
+#include "core/edit_instance.h"
+
+namespace zte {
+
+// Thrown by the wrappers of base_edit.h when the control was destroyed while they were sending; never leaves the library.
+struct ControlGone {};
+
+// Stands on the stack of every entry into the library that works on a record. Destroying the control tells all of them.
+class LifeGuard {
+public:
+    explicit LifeGuard(EditInstance& edit) : edit_(edit), outer_(edit.guard) { edit.guard = this; }
+    LifeGuard(const LifeGuard&) = delete;
+    LifeGuard& operator=(const LifeGuard&) = delete;
+    ~LifeGuard()
+    {
+        if (alive_)
+            edit_.guard = outer_;
+    }
+
+    bool IsAlive() const { return alive_; }
+
+    // Called once, when the record is about to be freed.
+    static void TellAll(const EditInstance& edit)
+    {
+        for (LifeGuard* guard = edit.guard; guard; guard = guard->outer_)
+            guard->alive_ = false;
+    }
+
+private:
+    EditInstance& edit_;
+    LifeGuard* outer_;
+    bool alive_ = true;
+};
+
+// Watches one message that may destroy the control; Check() throws ControlGone when it did. Without a guard on the stack
+// nobody could catch, so nothing is thrown.
+class LifeCheck {
+public:
+    explicit LifeCheck(const EditInstance& edit) : guard_(edit.guard) {}
+    void Check() const
+    {
+        if (guard_ && !guard_->IsAlive())
+            throw ControlGone{};
+    }
+
+private:
+    const LifeGuard* guard_;
+};
+
+// Runs work on a control that may be destroyed meanwhile; the result of work, or gone when the control went away.
+template <typename Result, typename Work>
+Result WhileAlive(EditInstance& edit, Result gone, Work&& work)
+{
+    const LifeGuard guard(edit);
+    try {
+        return work();
+    } catch (const ControlGone&) {
+        return gone;
+    }
+}
+
+}  // namespace zte

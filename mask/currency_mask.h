@@ -1,0 +1,13 @@
+// Builds the currency mask of the regional settings.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace zte {
+
+// A mask of totalDigits digits, fraction included, with the currency symbol; empty when it would not fit a mask. The
+// separators are written as ',' and '.' whatever the regional ones are.
+std::string BuildCurrencyMask(int16_t totalDigits);
+
+}  // namespace zte
