@@ -1,0 +1,57 @@
+# zt_add_library: one of the three DLLs, from the sources of some folders.
+
+# zt_add_library(<name> FOLDERS <folder>... LINK <library>...)
+#
+# Makes of the folders' sources
+#   <name>_objects      the object files, for unit tests of internal functions
+#   <name>_dll          bin/<name>.dll, exporting what <name>.def lists, under undecorated names
+#   <name>              the import library lib/lib<name>.dll.a, what a customer links: link this target to use the DLL
+# The .def and .rc file stand in the first folder. The import library is made from the object files and the .def file, not by
+# the linker: ld's own would know a stdcall function of the .def file by its plain name only, so that no 32-bit caller that
+# includes the header could link.
+function(zt_add_library name)
+    cmake_parse_arguments(arg "" "" "FOLDERS;LINK" ${ARGN})
+    list(GET arg_FOLDERS 0 main_folder)
+    set(def ${CMAKE_SOURCE_DIR}/${main_folder}/${name}.def)
+    set(rc ${CMAKE_SOURCE_DIR}/${main_folder}/${name}.rc)
+    set(sources)
+    foreach(folder IN LISTS arg_FOLDERS)
+        file(GLOB found CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${folder}/*.cpp)
+        list(APPEND sources ${found})
+    endforeach()
+    file(GLOB present CONFIGURE_DEPENDS ${def} ${rc})
+    if(NOT sources OR NOT def IN_LIST present)
+        message(STATUS "${name}.dll is left out: its sources or its .def file do not exist yet")
+        return()
+    endif()
+
+    add_library(${name}_objects OBJECT ${sources})
+    target_link_libraries(${name}_objects PUBLIC zt_build_flags)
+
+    set(import_library ${CMAKE_ARCHIVE_OUTPUT_DIRECTORY}/lib${name}.dll.a)
+    add_custom_command(
+        OUTPUT ${import_library}
+        COMMAND ${CMAKE_COMMAND}
+            -DDEF=${def} -DOUTPUT=${import_library} -DDLLTOOL=${CMAKE_DLLTOOL} -DNM=${CMAKE_NM}
+            -DPROCESSOR=${CMAKE_SYSTEM_PROCESSOR} "-DOBJECTS=$<JOIN:$<TARGET_OBJECTS:${name}_objects>,$<SEMICOLON>>"
+            -P ${CMAKE_SOURCE_DIR}/cmake/make_import_library.cmake
+        DEPENDS ${def} ${name}_objects $<TARGET_OBJECTS:${name}_objects>
+            ${CMAKE_SOURCE_DIR}/cmake/make_import_library.cmake
+        COMMENT "Making the import library of ${name}.dll"
+        VERBATIM)
+    add_custom_target(${name}_import_library ALL DEPENDS ${import_library})
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE ${import_library})
+    target_include_directories(${name} INTERFACE ${CMAKE_SOURCE_DIR}/include)
+    add_dependencies(${name} ${name}_import_library)
+
+    add_library(${name}_dll SHARED ${def})
+    if(rc IN_LIST present)
+        target_sources(${name}_dll PRIVATE ${rc})
+    endif()
+    target_link_libraries(${name}_dll PRIVATE ${name}_objects ${arg_LINK})
+    set_target_properties(${name}_dll PROPERTIES
+        LINKER_LANGUAGE CXX OUTPUT_NAME ${name} PREFIX "" IMPORT_PREFIX "unused-" LINK_DEPENDS ${def})
+    # The .def file gives plain names; the fix-up pairs them with the decorated functions of the 32-bit objects.
+    target_link_options(${name}_dll PRIVATE -s $<$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86>:-Wl,--enable-stdcall-fixup>)
+endfunction()

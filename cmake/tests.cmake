@@ -1,0 +1,68 @@
+# The test programs: each folder below tests/ with C++ sources becomes bin/test_<folder>.exe and one ctest entry.
+
+set(INSTALL_GTEST OFF)
+set(BUILD_GMOCK ON)  # only what a test program links is built
+add_subdirectory(${ZT_GOOGLETEST_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+
+file(GLOB zt_support_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/support/*.cpp)
+set(zt_test_framework gtest)
+if(NOT ${CMAKE_SOURCE_DIR}/tests/support/main.cpp IN_LIST zt_support_sources)
+    set(zt_test_framework gtest_main)
+endif()
+add_library(zt_test_flags INTERFACE)
+target_link_libraries(zt_test_flags INTERFACE zt_build_flags ${zt_test_framework} user32 gdi32)
+target_include_directories(zt_test_flags INTERFACE ${CMAKE_SOURCE_DIR}/tests)
+# A customer's link must be free of warnings as well.
+target_link_options(zt_test_flags INTERFACE -Wl,--fatal-warnings)
+if(zt_support_sources)
+    add_library(zt_test_support OBJECT ${zt_support_sources})
+    target_link_libraries(zt_test_support PUBLIC zt_test_flags)
+endif()
+
+# zt_add_test(<name> COMMAND <program> [<argument>...]): an entry of ctest, run once under Wine with a time limit.
+function(zt_add_test name)
+    cmake_parse_arguments(arg "" "" "COMMAND" ${ARGN})
+    add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tools/run_under_wine.sh ${arg_COMMAND}
+        WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
+endfunction()
+
+# zt_add_test_program(<folder> <library>...): the test program of tests/<folder>, linked with the libraries given.
+function(zt_add_test_program folder)
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/tests/${folder}/*.rc)
+    if(NOT sources)
+        return()
+    endif()
+    foreach(library IN LISTS ARGN)
+        if(NOT TARGET ${library})
+            message(STATUS "test_${folder}.exe is left out: ${library} does not exist yet")
+            return()
+        endif()
+    endforeach()
+    set(program test_${folder})
+    add_executable(${program} ${sources})
+    target_link_libraries(${program} PRIVATE ${ARGN} zt_test_flags)
+    if(TARGET zt_test_support)
+        target_link_libraries(${program} PRIVATE zt_test_support)
+    endif()
+    foreach(library ztdecimal ztshared ztedit050)
+        if(TARGET ${library}_dll)
+            add_dependencies(${program} ${library}_dll)
+        endif()
+    endforeach()
+    zt_add_test(${folder} COMMAND $<TARGET_FILE:${program}> --gtest_brief=1)
+endfunction()
+
+file(GLOB zt_test_folders CONFIGURE_DEPENDS LIST_DIRECTORIES true RELATIVE ${CMAKE_SOURCE_DIR}/tests ${CMAKE_SOURCE_DIR}/tests/*)
+list(REMOVE_ITEM zt_test_folders support units shared)
+foreach(folder IN LISTS zt_test_folders)
+    if(IS_DIRECTORY ${CMAKE_SOURCE_DIR}/tests/${folder})
+        zt_add_test_program(${folder} ztedit050 ztshared ztdecimal)
+    endif()
+endforeach()
+zt_add_test_program(shared ztshared ztdecimal)
+# Unit tests of internal functions have the control library inside them, resources included.
+zt_add_test_program(units ztedit050_objects ztshared ztdecimal)
+if(TARGET test_units)
+    target_sources(test_units PRIVATE ${CMAKE_SOURCE_DIR}/core/ztedit050.rc)
+endif()
