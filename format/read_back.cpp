@@ -1,6 +1,7 @@
 // Reads display text back into data: the control's text with the null rules of its type, a caller's text without.
 #include "format/read_back.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "core/base_edit.h"
@@ -87,6 +88,16 @@ DateTimeValue CanonicalValue(const EditInstance& edit, const char* text)
     DateTimeValue value;
     ParseCanonical(edit.dataType, text, value);
     return value;
+}
+
+// A data value as the text that it is, in a block that is never smaller than the record a caller may take it for.
+void* DuplicateCode(const EditInstance& edit, const char* code)
+{
+    const size_t size = std::max(std::strlen(code) + 1, sizeof(DateTimeValue));
+    void* block = SharedHeapAlloc(edit.heap, static_cast<uint32_t>(size), edit.heapFlags);
+    std::memset(block, 0, size);
+    std::memcpy(block, code, std::strlen(code));
+    return block;
 }
 
 // The fields of the window text, as far as they can be read.
@@ -194,13 +205,19 @@ void* GetData(EditInstance& edit)
     return Duplicate(edit, WindowData(edit, text).c_str());
 }
 
+DateTimeValue ReadPastedDateTime(const EditInstance& edit, const char* text)
+{
+    const char* code = CodeValue(edit, text);
+    return CanonicalValue(edit, code ? code : text);
+}
+
 // Dates and times are read as canonical text only: what is pasted comes in that form.
 void* UnformatData(EditInstance& edit, const char* text)
 {
     if (!edit.mask || !text || !*text)
         return nullptr;
     if (const char* code = CodeValue(edit, text))
-        return Duplicate(edit, code);
+        return DuplicateCode(edit, code);
     if (IsDateOrTime(edit.dataType))
         return NewDateTime(edit, CanonicalValue(edit, text));
     return Duplicate(edit, FieldCharacters(edit, text, Source::Caller).c_str());

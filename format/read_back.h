@@ -15,6 +15,9 @@ void* ReadCurrentData(EditInstance& edit);
 // The same for dates and times; the empty value when the window text is empty or unreadable.
 DateTimeValue ReadCurrentDateTime(EditInstance& edit);
 
+// The date or time that a pasted text stands for: canonical text, or the display text of a code-table entry.
+DateTimeValue ReadPastedDateTime(const EditInstance& edit, const char* text);
+
 // Lays a number text (null: the window text) through the mask again. Returns by how many characters the text grew, 0 when
 // it did not.
 int32_t ReformatNumber(EditInstance& edit, const char* text);

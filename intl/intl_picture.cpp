@@ -101,7 +101,8 @@ const char* TakeRun(const RunRule& rule, const char* picture, MaskWriter& out)
 // than the picture has.
 const char* TakeAmPm(const char* picture, MaskWriter& out)
 {
-    for (const char* form : {"AM/PM", "am/pm", "A/P", "a/p"}) {
+    constexpr const char* kForms[] = {"AM/PM", "am/pm", "A/P", "a/p"};
+    for (const char* form : kForms) {
         if (std::strncmp(picture, form, std::strlen(form)) != 0)
             continue;
         out.Put("AM/PM");

@@ -56,11 +56,6 @@ const char* PositionalMaskChar(const char* mask, int32_t position)
     return kNothing;
 }
 
-bool IsInsideAmPmField(const EditInstance& edit, int32_t position)
-{
-    return HasAmPmField(edit) && position >= edit.ampmPos && position < edit.ampmPos + kAmPmLength;
-}
-
 }  // namespace
 
 MaskChar MaskCharAt(const char* mask, const char* text, int32_t dataType, int32_t position)
@@ -71,6 +66,11 @@ MaskChar MaskCharAt(const char* mask, const char* text, int32_t dataType, int32_
         return {'\0', true};
     const bool inside = position >= 0 && position < static_cast<int32_t>(std::strlen(text));
     return {NumericMaskChar(mask, inside ? text[position] : '\0', position), false};
+}
+
+bool IsInsideAmPmField(const EditInstance& edit, int32_t position)
+{
+    return HasAmPmField(edit) && position >= edit.ampmPos && position < edit.ampmPos + kAmPmLength;
 }
 
 // The letters of an AM/PM field are literals, never the minutes that its "M" would be.

@@ -36,6 +36,9 @@ inline bool IsAmPmPosition(const EditInstance& edit, int32_t position)
     return HasAmPmField(edit) && position == edit.ampmPos;
 }
 
+// True for every position that the letters of the mask's AM/PM field take.
+bool IsInsideAmPmField(const EditInstance& edit, int32_t position);
+
 // Count of display positions: of characters other than '~'.
 int32_t MaskDisplayLength(const char* mask);
 
