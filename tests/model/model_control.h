@@ -1,0 +1,258 @@
+// The model of a masked edit control: a text, a caret and the record behind them, without any window.
+// Written apart from the library, so that a difference between the two shows a mistake in one of them.
+#ifndef TESTS_MODEL_MODEL_CONTROL_H
+#define TESTS_MODEL_MODEL_CONTROL_H
+
+#include "model_edit.h"
+#include "model_number.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace model {
+
+enum Type {
+    kString = 1,
+    kNumber,
+    kDate,
+    kTime,
+    kDateTime,
+    kDecimal,
+};
+
+struct Regional {
+    char decimal = '.';
+    char thousand = ',';
+    std::string currency = "$";
+    int currencyPosition = 0;
+    int currencyDigits = 2;
+    std::string am = "AM";
+    std::string pm = "PM";
+    std::string shortDate = "m/d/yy";
+    std::string timeSeparator = ":";
+
+    char Point() const { return decimal == '\0' ? '.' : decimal; }
+};
+
+constexpr int kNoDate = -32767;
+constexpr int kNoTime = -1;
+
+struct Stamp {
+    int microsecond = 0;
+    int year = kNoDate;  // since 1900
+    int month = 0;       // 0..11
+    int day = 0;
+    int hour = kNoTime;
+    int minute = 0;
+    int second = 0;
+
+    bool HasDate() const { return year != kNoDate; }
+    bool HasTime() const { return hour != kNoTime; }
+    bool operator==(const Stamp& other) const;
+};
+
+struct Value {
+    bool none = true;
+    std::string text;
+    Number number;
+    Stamp stamp;
+
+    static Value None() { return {}; }
+    static Value OfText(const std::string& text);
+    static Value OfNumber(const Number& number);
+    static Value OfStamp(const Stamp& stamp);
+};
+
+struct Shown {
+    std::string text;
+    unsigned flags = 0;
+    int first = 0;
+};
+
+struct CodeEntry {
+    std::string display;
+    std::string value;
+};
+
+// Status and mask of a regional picture.
+struct Picture {
+    int status = 0;
+    std::string mask;
+};
+
+Picture PictureToMask(const Regional& regional, int size, int kind);
+std::string CurrencyMask(const Regional& regional, int totalDigits);
+bool ParseCanonical(Stamp& stamp, const std::string& text, Type type, const Regional& regional);
+int DaysOfMonth(int calendarYear, int month);
+std::vector<CodeEntry> CycleOfCodeTable(const std::string& text);
+
+class Control {
+public:
+    explicit Control(const Regional& regional) : regional_(&regional) {}
+
+    // What a program does to the control.
+    int SetMask(const char* mask, Type type);
+    void SetData(const Value& value);
+    void SetDataString(const std::string& text);
+    Shown Format(const Value& value);
+    Value GetData();
+    Value Unformat(const std::string& text);
+    void SetAutoskip(bool on) { autoskip_ = on; }
+    void SetSelection(int start, int end);
+    void SetSpin(unsigned increment, const char* range, const char* codeTable, bool pick, bool codes, Type type);
+    bool SpinDateRange(Stamp& stamp, const std::string& text);
+    bool OutOfOrder(const Stamp& first, const Stamp& second) const;
+
+    // What a user does to it.
+    void KeyDown(int key, bool shift);
+    void KeyUp() { deletePending_ = false; }
+    void Char(char c, bool shift = false);
+    void Paste(const std::string& clipboard);
+    void Click(int position);
+
+    const std::string& Text() const { return edit_.Text(); }
+    int Start() const { return edit_.Start(); }
+    int End() const { return edit_.End(); }
+    int Autoskips() const { return autoskips_; }
+    int Changes() const { return changes_; }
+    int Beeps() const { return beeps_; }
+    const std::string& Mask() const { return mask_; }
+    bool Charwise() const { return charwise_; }
+    int FirstField() const { return firstField_; }
+    bool TookClock() const { return fromClock_; }
+
+private:
+    struct MaskChar {
+        char c = '\0';
+        int index = -1;  // offset in the mask, -1 for a character that stands apart from it
+    };
+    struct Fields {
+        bool accepted = false;
+        bool ampm = false;
+        int ampmPos = -1;
+        int yearDigits = 0;
+    };
+    enum class Verdict {
+        Refused,
+        Accepted,
+    };
+
+    bool IsNumeric() const { return type_ == kNumber || type_ == kDecimal; }
+    bool IsTemporal() const { return type_ == kDate || type_ == kTime || type_ == kDateTime; }
+    char Point() const { return regional_->Point(); }
+
+    // mask
+    static bool InTable(char c, Type type);
+    MaskChar CharAt(const std::string& text, int position) const;
+    static MaskChar PositionalCharAt(const std::string& mask, int position);
+    int RunAfter(int position) const;
+    int RunBefore(int position) const;
+    bool OnAmPm(int position) const;
+    bool InsideAmPm(int position) const;
+    bool Editable(const std::string& text, int position) const;
+    bool CheckMask(const std::string& mask, Type type);
+    bool CheckNumberMask(const std::string& mask) const;
+    bool CheckFields(const std::string& mask, Type type);
+    std::string FormatTextOf(const std::string& mask, Type type, bool literals, int& first) const;
+    void ChooseEditMode();
+
+    // values
+    void FormatNumber(const Number& number, Shown& shown) const;
+    void FormatFields(const Value& value, Shown& shown) const;
+    int WalkDate(Stamp& stamp, const std::string& text, const std::string& markerText);
+    int ParseField(Stamp& stamp, const std::string& text, int position, const MaskChar& at, bool& hour, bool& year,
+                   const std::string& markerText);
+    bool DisplayToStamp(Stamp& stamp, const std::string& text);
+    bool ShowsMarker(const std::string& text) const;
+    Stamp ReadStamp(bool internal);
+    std::string ReadFields(const std::string& text, bool dropGroups) const;
+    int Reformat(const std::string* text);
+    int CalendarYear(int year) const;
+    int DaysInMonth(int year, int month) const;
+    int YearFromText() const;
+    int MonthFromText() const;
+    bool ZeroDate(const Stamp& stamp) const;
+    void DateFromDayOfYear(Stamp& stamp, int day) const;
+    int PointPos(const std::string& text) const;
+
+    // typing
+    Verdict Validate(char c, int position);
+    Verdict ValidateNumber(char c, int position);
+    Verdict ValidateYear(char c, int position);
+    Verdict ValidateMonth(char c, int position);
+    Verdict ValidateMonthName(char c, int position);
+    Verdict ValidateDay(char c, int position);
+    Verdict ValidateJulian(char c, int position);
+    Verdict ValidateHour(char c, int position);
+    Verdict ValidateMinute(char c, int position);
+    void EnterChar(char c);
+    void EnterNumericChar(char c);
+    void OverwriteNumber(int position, const std::string& before, char under);
+    void RefuseNumeric();
+    void FinishNumeric(int position, int oldPoint, bool lastFraction);
+    bool SkipLiterals(int position, bool remember);
+    int FindLiteralAhead(const std::string& text, int position, char c) const;
+    void PadFieldDigit(int position);
+    bool HandleKeyDown(int key, bool shift, bool byUser);
+    bool NumericDeletion(int key, bool shift);
+    bool PositionalDeletion(int key, bool shift);
+    void MoveCaret(int key, bool shift, bool byUser);
+    int StepsToEditable(int position, bool forward) const;
+    bool DeleteSelection(bool typing);
+    void DeleteNumericSelection(bool typing);
+    void TypeAhead(char c);
+    void Beep() { ++beeps_; }
+    void PlaceCaret(int position) { edit_.Select(position, position); }
+
+    // spin
+    void SpinStep(bool up);
+    void SpinCodeTable(bool up);
+    void SpinNumber(bool up);
+    void SpinDate(bool up);
+    const CodeEntry* FindValue(const Value& value, const std::string& formatted) const;
+
+    const Regional* regional_;
+    PlainEdit edit_;
+    std::string mask_;
+    Type type_ = kString;
+    unsigned formatFlags_ = 0;
+    int displayLength_ = 0;
+    int decimalPlaces_ = 0;
+    int firstField_ = 0;
+    int yearDigits_ = 0;
+    int ampmPos_ = 0;
+    int pendingDay_ = -1;
+    bool ampm_ = false;
+    bool percent_ = false;
+    bool charwise_ = false;
+    bool autoskip_ = false;
+    bool typing_ = false;
+    bool deletePending_ = false;
+    bool backspaceDone_ = false;
+    bool numericBackspaceDone_ = false;
+    bool spun_ = false;
+    bool codeSpin_ = false;
+    bool codePick_ = false;
+    bool positioned_ = false;
+    bool hasTable_ = false;
+    bool zeroPadded_ = false;
+    bool shift_ = false;  // the Shift key is held down
+    std::vector<CodeEntry> cycle_;
+    int cursor_ = -1;
+    unsigned increment_ = 0;
+    double spinMin_ = 0.0;
+    double spinMax_ = 0.0;
+    bool fromClock_ = false;  // a step took the current date, which the model does not know
+    std::optional<std::string> range_;
+    std::string typed_;
+    std::string typedFraction_;
+    std::string carried_;  // literals over which typing has just carried the caret
+    int autoskips_ = 0;
+    int changes_ = 0;
+    int beeps_ = 0;
+};
+
+}  // namespace model
+
+#endif

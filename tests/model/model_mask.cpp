@@ -1,0 +1,514 @@
+// The model's masks: which positions are fields, which masks a type accepts, keywords and regional pictures.
+// Everything is read from the mask text on demand.
+#include "model_control.h"
+
+#include <cctype>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace model {
+namespace {
+
+char Upper(char c)
+{
+    return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+}
+
+bool SameText(const std::string& a, const char* b)
+{
+    return _stricmp(a.c_str(), b) == 0;
+}
+
+const char* DefaultMask(Type type)
+{
+    switch (type) {
+    case kString: return "";
+    case kNumber:
+    case kDecimal: return "#,#.00";
+    case kDate: return "MM/DD/YY";
+    case kTime: return "HH:MM:SS:FFF";
+    default: return "MM/DD/YY HH:MM:SS:FFF";
+    }
+}
+
+// Writes a mask of at most `size` bytes, terminator included.
+class MaskWriter {
+public:
+    explicit MaskWriter(int size) : size_(size) {}
+    void Put(char c)
+    {
+        if (static_cast<int>(picture.mask.size()) < size_)
+            picture.mask += c;
+        else
+            picture.status = 1;
+    }
+    void Put(const char* text)
+    {
+        while (*text != '\0' && picture.status == 0)
+            Put(*text++);
+    }
+    bool Full() const { return static_cast<int>(picture.mask.size()) >= size_; }
+
+    Picture picture;
+
+private:
+    int size_;
+};
+
+struct RunRule {
+    char letter;
+    int limit;
+    int error;
+};
+
+}  // namespace
+
+Picture PictureToMask(const Regional& regional, int size, int kind)
+{
+    const std::string& sep = regional.timeSeparator;
+    const std::string picture = kind == 1 ? regional.shortDate : "hh'" + sep + "'mm'" + sep + "'ss";
+    MaskWriter out(size);
+    bool hourSeen = false;
+    bool open = false;
+    size_t i = 0;
+    const auto run = [&](char letter) {
+        int n = 0;
+        while (i < picture.size() && Upper(picture[i]) == letter)
+            ++n, ++i;
+        return n;
+    };
+    const auto fail = [&](int status) { out.picture.status = status; };
+    while (i < picture.size() && out.picture.status == 0 && !open) {
+        const char c = picture[i];
+        int n = 0;
+        switch (Upper(c)) {
+        case 'M':
+            n = run('M');
+            if (n > (hourSeen ? 2 : 4))
+                fail(hourSeen ? 14 : 9);
+            else
+                out.Put("mm");
+            break;
+        case 'D':
+            n = run('D');
+            if (n > 4)
+                fail(10);
+            else
+                out.Put(n == 3 ? "ddd" : "dd");
+            break;
+        case 'Y':
+            n = run('Y');
+            if (n != 2 && n != 4)
+                fail(11);
+            else
+                out.Put(n == 2 ? "yy" : "yyyy");
+            break;
+        case 'H':
+            n = run('H');
+            hourSeen = true;
+            if (n > 2)
+                fail(12);
+            else
+                out.Put("hh");
+            break;
+        case 'S':
+            if (run('S') > 2)
+                fail(13);
+            else
+                out.Put("ss");
+            break;
+        case 'F':
+            n = run('F');
+            if (n > 6)
+                fail(16);
+            else
+                out.Put(std::string(static_cast<size_t>(n) + 1, 'f').c_str());
+            break;
+        case 'A':
+            if (picture.compare(i, 5, "AM/PM") == 0 || picture.compare(i, 5, "am/pm") == 0 ||
+                picture.compare(i, 3, "A/P") == 0 || picture.compare(i, 3, "a/p") == 0) {
+                out.Put("AM/PM");
+                i = std::min(picture.size(), i + 5);
+            } else
+                fail(15);
+            break;
+        case '\\':
+            ++i;
+            open = i >= picture.size();
+            if (!open)
+                out.Put(picture[i++]);
+            break;
+        case '\'':
+        case '"': {
+            ++i;
+            while (i < picture.size() && picture[i] != c && out.picture.status == 0)
+                out.Put(picture[i++]);
+            open = i >= picture.size();
+            ++i;
+            break;
+        }
+        default: out.Put(picture[i++]);
+        }
+    }
+    if (out.picture.status == 0 && open)
+        fail(7);
+    if (out.picture.status == 0 && out.Full())
+        fail(1);
+    return out.picture;
+}
+
+std::string CurrencyMask(const Regional& regional, int totalDigits)
+{
+    std::string integer;
+    if (regional.currencyDigits < totalDigits) {
+        const int n = totalDigits - regional.currencyDigits;
+        for (int i = n; i > 0; --i) {
+            integer += '#';
+            if (i > 1 && (i - 1) % 3 == 0)
+                integer += ',';
+        }
+    }
+    std::string fraction;
+    if (regional.currencyDigits != 0)
+        fraction = "." + std::string(static_cast<size_t>(std::max(0, regional.currencyDigits)), '0');
+    const bool behind = regional.currencyPosition == 1 || regional.currencyPosition == 3;
+    return behind ? integer + fraction + regional.currency : regional.currency + integer + fraction;
+}
+
+bool Control::InTable(char c, Type type)
+{
+    const char upper = Upper(c);
+    if (upper == 'X' || upper == '!' || upper == '^')
+        return true;
+    const char* letters = "";
+    switch (type) {
+    case kString: letters = "#0A"; break;
+    case kNumber:
+    case kDecimal: letters = "#0"; break;
+    case kDate: letters = "YMDJ"; break;
+    case kTime: letters = "MHSF"; break;
+    case kDateTime: letters = "YMDJHSF"; break;
+    }
+    return upper != '\0' && std::strchr(letters, upper) != nullptr;
+}
+
+Control::MaskChar Control::PositionalCharAt(const std::string& mask, int position)
+{
+    int display = 0;
+    for (size_t i = 0; i < mask.size(); ++i) {
+        if (mask[i] == '~')
+            continue;
+        if (display == position) {
+            const bool escaped = i > 0 && mask[i - 1] == '~';
+            return escaped ? MaskChar{'~', -1} : MaskChar{mask[i], static_cast<int>(i)};
+        }
+        ++display;
+    }
+    if (!mask.empty() && mask.find('~') == std::string::npos)
+        return {mask[0], 0};
+    return {'\0', -1};
+}
+
+Control::MaskChar Control::CharAt(const std::string& text, int position) const
+{
+    const size_t point = mask_.find('.');
+    const bool escapedPoint = point != std::string::npos && point > 0 && mask_[point - 1] == '~';
+    if (!IsNumeric() || escapedPoint)
+        return PositionalCharAt(mask_, position);
+    const auto at = static_cast<size_t>(position);
+    const char c = position >= 0 && at < text.size() ? text[at] : '\0';
+    const bool digit = c >= '0' && c <= '9';
+    if (c != '\0' && !digit && c != '-' && c != '+')
+        return {c == Point() ? '.' : c == regional_->thousand ? ',' : c, -1};
+    if (digit && at < mask_.size() && mask_[at] == '0')
+        return {'0', -1};
+    return {'#', -1};
+}
+
+int Control::RunAfter(int position) const
+{
+    const MaskChar at = CharAt(Text(), position);
+    int n = 0;
+    if (at.index >= 0)
+        while (static_cast<size_t>(at.index + n + 1) < mask_.size() &&
+               mask_[static_cast<size_t>(at.index + n + 1)] == at.c)
+            ++n;
+    return n;
+}
+
+int Control::RunBefore(int position) const
+{
+    const MaskChar at = CharAt(Text(), position);
+    int n = 0;
+    if (at.index < 0)
+        return 0;
+    while (at.index - n - 1 >= 0 && mask_[static_cast<size_t>(at.index - n - 1)] == at.c)
+        ++n;
+    if (n > 0 && at.index - n - 1 >= 0 && mask_[static_cast<size_t>(at.index - n - 1)] == '~')
+        --n;
+    return n;
+}
+
+bool Control::OnAmPm(int position) const
+{
+    return ampm_ && (type_ == kTime || type_ == kDateTime) && position == ampmPos_;
+}
+
+bool Control::InsideAmPm(int position) const
+{
+    return ampm_ && (type_ == kTime || type_ == kDateTime) && position >= ampmPos_ && position < ampmPos_ + 5;
+}
+
+bool Control::Editable(const std::string& text, int position) const
+{
+    return !InsideAmPm(position) && InTable(CharAt(text, position).c, type_);
+}
+
+std::string Control::FormatTextOf(const std::string& mask, Type type, bool literals, int& first) const
+{
+    std::string text;
+    int escapes = 0;
+    bool firstSeen = false;
+    for (size_t i = 0; i < mask.size();) {
+        const char c = mask[i];
+        if (c == '~' && i + 1 < mask.size()) {
+            text += '\\';
+            text += mask[i + 1];
+            ++escapes;
+            i += 2;
+        } else if (c == '.' || c == ',' || c == '%')
+            text += mask[i++];
+        else if (InTable(c, type)) {
+            if (!firstSeen && literals)
+                first = static_cast<int>(i) - escapes;
+            firstSeen = true;
+            text += mask[i++];
+        } else
+            do
+                text += mask[i++];
+            while (i < mask.size() && !InTable(mask[i], type));
+    }
+    return text;
+}
+
+bool Control::CheckNumberMask(const std::string& mask) const
+{
+    bool body = false;
+    bool currency = false;
+    bool decimal = false;
+    bool percent = false;
+    for (size_t i = 0; i < mask.size();) {
+        const char c = mask[i];
+        if (c == '#' || c == '0') {
+            if (percent)
+                return false;
+            body = true;
+            ++i;
+        } else if (c == '~') {
+            if (body || i + 1 >= mask.size() || mask[i + 1] == '~')
+                return false;
+            i += 2;
+        } else if (mask.compare(i, regional_->currency.size(), regional_->currency) == 0) {
+            if (currency || body)
+                return false;
+            currency = body = true;
+            i += regional_->currency.size();
+        } else if (c == '\'' || c == '"')
+            return false;
+        else if (c == Point()) {
+            if (decimal)
+                return false;
+            decimal = true;
+            ++i;
+        } else if (c == regional_->thousand) {
+            if (decimal)
+                return false;
+            ++i;
+        } else if (c == '%') {
+            if (percent || currency)
+                return false;
+            percent = true;
+            ++i;
+        } else if (body)
+            return false;
+        else
+            ++i;
+    }
+    int unused = 0;
+    return Format::Compile(FormatTextOf(mask, kNumber, false, unused)).has_value();
+}
+
+bool Control::CheckFields(const std::string& mask, Type type)
+{
+    bool day = false;
+    bool month = false;
+    bool year = false;
+    bool julian = false;
+    bool hour = false;
+    bool minute = false;
+    bool second = false;
+    bool fraction = false;
+    bool marker = false;
+    int display = 0;
+    const bool dates = type != kTime;
+    const bool times = type != kDate;
+    if (times)
+        ampm_ = false;
+    const auto claim = [](bool& seen) {
+        const bool first = !seen;
+        seen = true;
+        return first;
+    };
+    for (size_t i = 0; i < mask.size();) {
+        const char c = mask[i];
+        const char letter = Upper(c);
+        if (c == '~') {
+            if (i + 1 >= mask.size() || mask[i + 1] == '~')
+                return false;
+            i += 2;
+            display += type == kDate ? 0 : 1;
+            continue;
+        }
+        if (letter == 'A' && times && (mask.compare(i, 5, "AM/PM") == 0 || mask.compare(i, 5, "am/pm") == 0)) {
+            if (!claim(marker))
+                return false;
+            ampmPos_ = display;
+            i += 5;
+            continue;
+        }
+        const bool field =
+            (dates && std::strchr("DMYJ", letter) != nullptr) || (times && std::strchr("HMSF", letter) != nullptr);
+        if (!field) {
+            ++i;
+            ++display;
+            continue;
+        }
+        // The run is measured at the display position of that number: escapes in front shift it.
+        const MaskChar at = PositionalCharAt(mask, static_cast<int>(i));
+        int run = 1;
+        if (at.index >= 0)
+            while (static_cast<size_t>(at.index + run) < mask.size() &&
+                   mask[static_cast<size_t>(at.index + run)] == at.c)
+                ++run;
+        bool good = false;
+        bool counts = true;
+        switch (letter) {
+        case 'D': good = run == 2 && !julian && claim(day); break;
+        case 'J': good = run == 3 && !day && !month && claim(julian); break;
+        case 'Y':
+            good = (run == 2 || run == 4) && claim(year);
+            counts = type != kDate;
+            if (good)
+                yearDigits_ = run;
+            break;
+        case 'H': good = run == 2 && claim(hour); break;
+        case 'S': good = run == 2 && claim(second); break;
+        case 'F': good = run <= 6 && claim(fraction); break;
+        default:
+            if (!dates || hour)
+                good = run == 2 && claim(minute);
+            else
+                good = (run == 2 || run == 3) && !julian && claim(month);
+        }
+        if (!good)
+            return false;
+        i += static_cast<size_t>(run);
+        display += counts ? run : 0;
+    }
+    if (type == kDate && (!year || (day && !month)))
+        return false;
+    if (type == kDateTime && day && !(month && year))
+        return false;
+    if (times && ((fraction && !second) || (second && !minute) || (minute && !hour)))
+        return false;
+    if (times)
+        ampm_ = marker;
+    return true;
+}
+
+bool Control::CheckMask(const std::string& mask, Type type)
+{
+    if (mask.empty())
+        return false;
+    const bool tooLong = mask.size() > 255;
+    if (type == kNumber || type == kDecimal)
+        return !tooLong && CheckNumberMask(mask);
+    if (type != kString) {
+        if (tooLong && type != kDate)
+            ampm_ = false;
+        return !tooLong && CheckFields(mask, type);
+    }
+    for (size_t i = 0; i < mask.size(); ++i)
+        if (mask[i] == '~' && (++i >= mask.size() || mask[i] == '~'))
+            return false;
+    return !tooLong;
+}
+
+void Control::ChooseEditMode()
+{
+    charwise_ = (formatFlags_ & 0x4000) != 0 || !IsNumeric() || mask_.find('#') == std::string::npos;
+}
+
+int Control::SetMask(const char* mask, Type type)
+{
+    const std::string given = mask == nullptr ? "" : mask;
+    type_ = type;
+    decimalPlaces_ = 0;
+    spun_ = false;
+    carried_.clear();
+    int result = 1;
+    std::optional<std::string> expansion;
+    if (SameText(given, "[date]") || SameText(given, "[time]")) {
+        const Picture picture = PictureToMask(*regional_, 255, SameText(given, "[date]") ? 1 : 2);
+        if (picture.status == 0)
+            expansion = picture.mask;
+    } else if (SameText(given, "[date] [time]")) {
+        const Picture date = PictureToMask(*regional_, 255, 1);
+        const Picture time = PictureToMask(*regional_, 254 - static_cast<int>(date.mask.size()), 2);
+        if (date.status == 0 && time.status == 0)
+            expansion = date.mask + " " + time.mask;
+    } else if (given.compare(0, 9, "[currency") == 0) {
+        const size_t open = given.find('(');
+        const size_t close = open == std::string::npos ? open : given.find(')', open);
+        if (close != std::string::npos && close - open - 1 <= 19) {
+            const auto digits = static_cast<short>(std::atoi(given.substr(open + 1, close - open - 1).c_str()));
+            const std::string built = CurrencyMask(*regional_, digits);
+            if (digits <= 16 && built.size() <= 255)
+                expansion = built;
+        }
+    }
+    if (expansion)
+        mask_ = *expansion;
+    else if (CheckMask(given, type))
+        mask_ = given;
+    else {
+        result = 0;
+        mask_ = DefaultMask(type);
+        if (type == kDate || type == kDateTime)
+            yearDigits_ = 2;
+    }
+    if (IsNumeric()) {
+        const size_t point = mask_.find('.');
+        for (size_t i = point + 1; point != std::string::npos && i < mask_.size(); ++i, ++decimalPlaces_)
+            if (mask_[i] != '0' && mask_[i] != '#')
+                break;
+        percent_ = mask_.find('%') != std::string::npos;
+    } else
+        percent_ = false;
+    ChooseEditMode();
+    displayLength_ = 0;
+    for (const char c : mask_)
+        displayLength_ += c == '~' ? 0 : 1;
+    if (!codeSpin_) {
+        if (type == kString)
+            SetData(Value::OfText(mask_.empty() ? std::string() : std::string(255, ' ')));
+        else if (IsNumeric())
+            SetData(Value::None());
+        else
+            SetData(Value::OfStamp(Stamp()));
+    }
+    return result;
+}
+
+}  // namespace model

@@ -1,0 +1,414 @@
+// The model's spin: ranges, code tables, and the step of a number, a date field or a code table.
+// A step reads the value shown, changes it and shows it again.
+#include "model_control.h"
+
+#include <cctype>
+#include <cmath>
+#include <cstdlib>
+
+namespace model {
+namespace {
+
+constexpr int kLastYear = 1100;  // the year 3000, the highest that a step writes
+
+double AsDouble(const Number& number)
+{
+    return std::atof(((number.negative ? "-0" : "0") + number.digits + "e" + std::to_string(-number.scale)).c_str());
+}
+
+// Exact comparison and sum of decimals of few digits, as integers of a common scale.
+struct Exact {
+    long long value = 0;
+    int scale = 0;
+};
+
+Exact ToExact(const Number& number)
+{
+    Exact exact{number.digits.empty() ? 0 : std::atoll(number.digits.c_str()), number.scale};
+    if (number.negative)
+        exact.value = -exact.value;
+    for (; exact.scale < 0; ++exact.scale)
+        exact.value *= 10;
+    return exact;
+}
+
+Number FromExact(const Exact& exact)
+{
+    Number number = Number::FromText(std::to_string(exact.value));
+    number.scale = exact.scale;
+    return number;
+}
+
+void Align(Exact& a, Exact& b)
+{
+    for (; a.scale < b.scale; ++a.scale)
+        a.value *= 10;
+    for (; b.scale < a.scale; ++b.scale)
+        b.value *= 10;
+}
+
+Exact Sum(Exact a, Exact b)
+{
+    Align(a, b);
+    return {a.value + b.value, a.scale};
+}
+
+bool Less(Exact a, Exact b)
+{
+    Align(a, b);
+    return a.value < b.value;
+}
+
+int CompareDates(const Stamp& a, const Stamp& b)
+{
+    const int left = (a.year * 12 + a.month) * 32 + a.day;
+    const int right = (b.year * 12 + b.month) * 32 + b.day;
+    return left < right ? -1 : left > right ? 1 : 0;
+}
+
+int CompareTimes(const Stamp& a, const Stamp& b)
+{
+    const long long left = ((a.hour * 60LL + a.minute) * 60 + a.second) * 1000000 + a.microsecond;
+    const long long right = ((b.hour * 60LL + b.minute) * 60 + b.second) * 1000000 + b.microsecond;
+    return left < right ? -1 : left > right ? 1 : 0;
+}
+
+// The step rules of numbers, for doubles and exact decimals alike.
+template <typename T, typename LessThan, typename Add>
+bool StepInRange(T& value, T step, T min, const T* max, bool up, bool raiseToMin, LessThan less, Add add)
+{
+    if (!up) {
+        if (less(value, min)) {
+            if (max == nullptr)
+                return false;
+            value = *max;
+            return true;
+        }
+        const T next = add(value, step);
+        if (less(next, min))
+            return false;
+        value = max != nullptr && less(*max, next) ? *max : next;
+        return true;
+    }
+    if (max != nullptr && less(*max, value)) {
+        value = min;
+        return true;
+    }
+    const T next = add(value, step);
+    if (max != nullptr && less(*max, next))
+        return false;
+    value = raiseToMin && less(next, min) ? min : next;
+    return true;
+}
+
+}  // namespace
+
+std::vector<CodeEntry> CycleOfCodeTable(const std::string& text)
+{
+    std::vector<CodeEntry> cycle;
+    CodeEntry entry;
+    std::string buffer;
+    bool isValue = false;
+    const auto close = [&] {
+        if (isValue)
+            cycle.push_back({entry.display, buffer.substr(0, 255)});
+        entry = {};
+        buffer.clear();
+        isValue = false;
+    };
+    size_t i = text.compare(0, 1, "/") == 0 && text.compare(0, 2, "//") != 0 ? 1 : 0;
+    for (; i < text.size(); ++i) {
+        const char c = text[i];
+        const bool literal = c == '/' && i + 1 < text.size() && text[i + 1] == '/';
+        if (c == '\t') {
+            entry.display = buffer.substr(0, 255);
+            buffer.clear();
+            isValue = true;
+        } else if (c == '/' && !literal)
+            close();
+        else
+            buffer += c;
+        i += literal ? 1 : 0;
+    }
+    if (!buffer.empty() || isValue)
+        close();
+    return cycle;
+}
+
+void Control::SetSpin(unsigned increment, const char* range, const char* codeTable, bool pick, bool codes, Type type)
+{
+    type_ = type;
+    range_.reset();
+    if (range != nullptr) {
+        range_ = range;
+        if (!IsTemporal()) {
+            const size_t tilde = range_->find('~');
+            spinMin_ = std::atof(range_->substr(0, tilde).c_str());
+            spinMax_ = tilde == std::string::npos ? 0.0 : std::atof(range_->c_str() + tilde + 1);
+        }
+    }
+    hasTable_ = codeTable != nullptr;
+    cycle_ = hasTable_ ? CycleOfCodeTable(codeTable) : std::vector<CodeEntry>();
+    cursor_ = -1;
+    increment_ = increment == 0 ? 1 : increment;
+    codePick_ = pick;
+    codeSpin_ = codes;
+}
+
+void Control::TypeAhead(char c)
+{
+    if (!hasTable_)
+        return;
+    const int count = static_cast<int>(cycle_.size());
+    const auto search = [&](int from) {
+        for (int i = from; i < count; ++i)
+            if (!cycle_[static_cast<size_t>(i)].display.empty() && cycle_[static_cast<size_t>(i)].display[0] == c)
+                return i;
+        return -1;
+    };
+    int found = positioned_ || cursor_ >= 0 ? search(cursor_ + 1) : -1;
+    if (found < 0)
+        found = search(0);
+    if (found < 0)
+        return;
+    cursor_ = found;
+    edit_.SetText(cycle_[static_cast<size_t>(found)].display);
+}
+
+void Control::SpinStep(bool up)
+{
+    carried_.clear();
+    if (increment_ == 0 || (!hasTable_ && codeSpin_))
+        return;
+    spun_ = true;
+    if (hasTable_ && codeSpin_)
+        SpinCodeTable(up);
+    else if (IsNumeric())
+        SpinNumber(up);
+    else if (IsTemporal())
+        SpinDate(up);
+    ++changes_;
+}
+
+void Control::SpinCodeTable(bool up)
+{
+    const int count = static_cast<int>(cycle_.size());
+    if (!positioned_)
+        cursor_ = up ? 0 : count - 1;
+    else
+        cursor_ = up ? cursor_ + 1 : cursor_ - 1;
+    positioned_ = true;
+    if (count == 0)
+        return;
+    cursor_ = (cursor_ + count) % count;
+    edit_.SetText(cycle_[static_cast<size_t>(cursor_)].display);
+}
+
+void Control::SpinNumber(bool up)
+{
+    const Value data = GetData();
+    std::string text = data.text;
+    for (char& c : text)
+        c = c == Point() ? '.' : c;
+    Value next;
+    bool changed = false;
+    if (type_ == kNumber) {
+        double value = std::atof(text.c_str());
+        const double step = static_cast<double>(increment_);
+        const double max = spinMax_;
+        changed = StepInRange(
+            value, up ? step : -step, spinMin_, spinMax_ != 0.0 ? &max : nullptr, up, true,
+            [](double a, double b) { return a < b; }, [](double a, double b) { return a + b; });
+        next = Value::OfNumber(Number::FromDouble(value));
+    } else {
+        Exact value = ToExact(Number::FromText(text));
+        const Exact step{up ? static_cast<long long>(increment_) : -static_cast<long long>(increment_), 0};
+        const size_t tilde = range_ ? range_->find('~') : std::string::npos;
+        const Exact min = ToExact(Number::FromText(range_ ? range_->substr(0, tilde) : ""));
+        const bool hasMax = tilde != std::string::npos && tilde + 1 < range_->size();
+        const Exact max = hasMax ? ToExact(Number::FromText(range_->substr(tilde + 1))) : Exact();
+        changed = StepInRange(value, step, min, hasMax ? &max : nullptr, up, hasMax, Less, Sum);
+        next = Value::OfNumber(FromExact(value));
+    }
+    if (changed)
+        SetData(next);
+    edit_.Select(0, 32767);
+}
+
+bool Control::SpinDateRange(Stamp& stamp, const std::string& text)
+{
+    stamp = Stamp();
+    if (DisplayToStamp(stamp, text))
+        return true;
+    stamp = Stamp();
+    return ParseCanonical(stamp, text, type_, *regional_);
+}
+
+bool Control::OutOfOrder(const Stamp& first, const Stamp& second) const
+{
+    if (type_ != kTime && first.HasDate() && second.HasDate()) {
+        const int order = CompareDates(second, first);
+        if (order != 0 || type_ == kDate)
+            return order < 0;
+    }
+    if (type_ != kDate && first.HasTime() && second.HasTime())
+        return CompareTimes(second, first) < 0;
+    return false;
+}
+
+void Control::SpinDate(bool up)
+{
+    const int caret = edit_.Start();
+    if (Text().empty() || caret >= displayLength_)
+        return;
+    if (OnAmPm(caret)) {
+        const std::string& am = regional_->am;
+        const bool morning = Text().compare(static_cast<size_t>(caret), am.size(), am) == 0;
+        edit_.Select(caret, caret + 1);
+        edit_.Replace(std::string(1, morning ? regional_->pm[0] : am[0]));
+        edit_.Select(caret, caret + 1);
+        return;
+    }
+    Stamp value = ReadStamp(true);
+    if (!value.HasDate()) {
+        value.year = value.month = value.day = 0;
+    }
+    if (!value.HasTime())
+        value.hour = 0;
+    Stamp min;
+    Stamp max;
+    if (range_ && !range_->empty()) {
+        const size_t tilde = range_->find('~');
+        const bool low = SpinDateRange(min, range_->substr(0, tilde));
+        const bool high = tilde != std::string::npos && SpinDateRange(max, range_->substr(tilde + 1));
+        if (low && high && OutOfOrder(min, max))
+            min = max = Stamp();
+    }
+    const int before = RunBefore(caret);
+    const int after = RunAfter(caret);
+    const int n = before + 1 + after;
+    const char letter = static_cast<char>(std::toupper(static_cast<unsigned char>(CharAt(Text(), caret).c)));
+    bool minutes = false;
+    for (int i = 0; i < CharAt(Text(), caret).index; ++i)
+        minutes = minutes || std::toupper(static_cast<unsigned char>(mask_[static_cast<size_t>(i)])) == 'H';
+    bool whole = false;
+    bool refused = false;
+    const auto toEnd = [&](const Stamp& end, bool withTime) {
+        if (end.HasDate()) {
+            value.year = std::min(end.year, kLastYear);
+            value.month = end.month;
+            value.day = end.day;
+        }
+        if (end.HasTime() && withTime) {
+            value.hour = end.hour;
+            value.minute = end.minute;
+            value.second = end.second;
+            value.microsecond = end.microsecond;
+        }
+        whole = true;
+    };
+    const auto toMin = [&] { toEnd(min, true); };
+    const auto toMax = [&] { toEnd(max, min.HasTime()); };
+    const bool dateField = letter == 'Y' || letter == 'D' || letter == 'J' || (letter == 'M' && !minutes);
+    const auto known = [&](const Stamp& end) { return dateField ? end.HasDate() : end.HasTime(); };
+    const auto above = [&] { return known(max) && OutOfOrder(value, max); };
+    const auto below = [&] { return known(min) && OutOfOrder(min, value); };
+    // A control whose blank value is meant starts from an end of the range; today is not modelled.
+    if ((value.year == -1900 || value.year == kLastYear) && value.month == 0 && value.day == 1) {
+        if (up && min.HasDate())
+            toMin();
+        else if (!up && max.HasDate())
+            toMax();
+        else {
+            fromClock_ = true;
+            return;
+        }
+    } else {
+        bool wrapped = false;
+        const auto turn = [&](int current, int low, int high) {
+            int next = current + (up ? 1 : -1);
+            wrapped = next > high || next < low;
+            return next > high ? low : next < low ? high : next;
+        };
+        const int calendar = CalendarYear(value.year);
+        bool handled = true;
+        int length = DaysOfMonth(calendar, value.month);
+        switch (letter) {
+        case 'Y': {
+            const int next = value.year + (up ? 1 : -1) * static_cast<int>(increment_);
+            if ((up && !max.HasDate() && next > 1099) || (!up && !min.HasDate() && next < -100))
+                refused = true;
+            else
+                value.year = next;
+            break;
+        }
+        case 'M':
+            if (n == 1)
+                refused = true;
+            else if (minutes)
+                value.minute = turn(value.minute, 0, 59);
+            else
+                value.month = turn(value.month, 0, 11);
+            break;
+        case 'D': value.day = turn(value.day, 1, length); break;
+        case 'J': {
+            const int days = DaysOfMonth(calendar, 1) == 29 ? 366 : 365;
+            int day = value.day;
+            for (int month = 0; month < value.month; ++month)
+                day += DaysOfMonth(calendar, month);
+            DateFromDayOfYear(value, turn(day, 1, days));
+            break;
+        }
+        case 'H': value.hour = turn(value.hour, 0, 23); break;
+        case 'S': value.second = turn(value.second, 0, 59); break;
+        case 'F': {
+            const int unit = static_cast<int>(std::lround(std::pow(10.0, 6 - n)));
+            if (up) {
+                wrapped = value.microsecond + unit >= 1000000;
+                value.microsecond = wrapped ? 0 : value.microsecond + unit;
+            } else {
+                wrapped = value.microsecond < unit;
+                value.microsecond = wrapped ? 999999 : value.microsecond - unit;
+            }
+            break;
+        }
+        default: handled = false;
+        }
+        if (handled && !refused) {
+            const bool resets = letter == 'D' || letter == 'J' || (letter == 'M' && !minutes);
+            if (resets && (up ? above() : below())) {
+                if (letter == 'D')
+                    value.day = up ? 1 : length;
+                else if (letter == 'M')
+                    value.month = up ? 0 : 11;
+                else
+                    DateFromDayOfYear(value, up ? 1 : DaysOfMonth(calendar, 1) == 29 ? 366 : 365);
+                wrapped = true;
+            }
+            if (up && above())
+                toMin();
+            else if (!up && below())
+                toMax();
+            else if (wrapped && up && below())
+                toMin();
+            else if (wrapped && !up && above())
+                toMax();
+        }
+    }
+    if (!refused) {
+        if (up && OutOfOrder(min, value))
+            toMin();
+        else if (!up && OutOfOrder(value, max))
+            toMax();
+    }
+    const std::string shown = Format(Value::OfStamp(value)).text;
+    if (whole)
+        edit_.SetText(shown);
+    else {
+        edit_.Select(caret - before, caret + after + 1);
+        edit_.Replace(shown.substr(static_cast<size_t>(caret - before), static_cast<size_t>(n)));
+    }
+    edit_.Select(caret - before, caret + after + 1);
+}
+
+}  // namespace model
