@@ -80,7 +80,7 @@ LRESULT CreateControl(HWND hwnd, WPARAM wParam, LPARAM lParam)
 {
     const auto& creation = *reinterpret_cast<const CREATESTRUCTA*>(lParam);
     const auto* params = static_cast<const EditInitParams*>(creation.lpCreateParams);
-    if (!params)
+    if (!params || !params->heap)
         return CallBaseEdit(hwnd, WM_CREATE, wParam, lParam);
 
     EditInstance& edit = NewRecord(hwnd, *params);

@@ -95,7 +95,7 @@ using namespace zte;
 
 int32_t WINAPI ZTE_Init(HWND hwnd, const EditInitParams* params)
 {
-    if (!params || !IsWindow(hwnd))
+    if (!params || !params->heap || !IsWindow(hwnd))
         return 0;
     DiscardRecord(hwnd);
     EditInstance& edit = NewRecord(hwnd, *params);

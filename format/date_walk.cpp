@@ -183,7 +183,7 @@ bool WalkDateText(EditInstance& edit, const char* text, DateTimeValue& value)
             ++position;
             continue;
         }
-        const char* mask = edit.mask + MaskIndex(edit.mask, position);
+        const char* mask = MaskTextAt(edit.mask, position);
         const int32_t run = RunLength(mask);
         if (!ReadField(edit, value, {shown.c_str(), shown.c_str() + position}, seen, AsciiUpper(*mask), run))
             return false;

@@ -37,9 +37,11 @@ char NumericMaskChar(const char* mask, char shown, int32_t position)
     return shown == regionalSettings.thousandChar ? ',' : shown;
 }
 
+}  // namespace
+
 // The character of a display position, in the mask itself where it is not escaped. Past the end of a mask without escapes
 // it is the mask's first character: kept, readers of over-long texts rely on it.
-const char* PositionalMaskChar(const char* mask, int32_t position)
+const char* MaskTextAt(const char* mask, int32_t position)
 {
     if (position < 0)
         return kNothing;
@@ -56,12 +58,10 @@ const char* PositionalMaskChar(const char* mask, int32_t position)
     return kNothing;
 }
 
-}  // namespace
-
 MaskChar MaskCharAt(const char* mask, const char* text, int32_t dataType, int32_t position)
 {
     if (!FollowsDigits(mask, dataType))
-        return {*PositionalMaskChar(mask, position), false};
+        return {*MaskTextAt(mask, position), false};
     if (!text)
         return {'\0', true};
     const bool inside = position >= 0 && position < static_cast<int32_t>(std::strlen(text));
@@ -107,7 +107,7 @@ int32_t MaskRunAfter(const char* mask, int32_t position, int32_t dataType)
 {
     if (FollowsDigits(mask, dataType))
         return 0;
-    const int32_t run = RunLength(PositionalMaskChar(mask, position));
+    const int32_t run = RunLength(MaskTextAt(mask, position));
     return run > 0 ? run - 1 : 0;
 }
 
@@ -115,7 +115,7 @@ int32_t MaskRunBefore(const char* mask, int32_t position, int32_t dataType)
 {
     if (FollowsDigits(mask, dataType))
         return 0;
-    const char* at = PositionalMaskChar(mask, position);
+    const char* at = MaskTextAt(mask, position);
     if (at == kEscaped || at == kNothing)
         return 0;
     int32_t run = 0;

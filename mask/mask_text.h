@@ -46,6 +46,10 @@ int32_t MaskDisplayLength(const char* mask);
 int32_t MaskRunAfter(const char* mask, int32_t position, int32_t dataType);
 int32_t MaskRunBefore(const char* mask, int32_t position, int32_t dataType);
 
+// The mask text from the character of a display position on; the text "~" where that is escaped, the empty text past the end
+// of a mask with escapes, and the whole mask past the end of one without. For masks whose positions do not follow digits.
+const char* MaskTextAt(const char* mask, int32_t position);
+
 // Index in the mask text of the character shown at a display position; the mask's length when past the end.
 int32_t MaskIndex(const char* mask, int32_t position);
 
