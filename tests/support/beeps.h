@@ -1,23 +1,19 @@
-// Counts the library's beeps: its import of MessageBeep leads to a counter while one of these lives.
+// Counts the library's beeps instead of sounding them. One at a time.
 #pragma once
 
-#include <windows.h>
+#include "tests/support/import_patch.h"
 
 namespace zttest {
 
 class BeepCounter {
 public:
     BeepCounter();
-    BeepCounter(const BeepCounter&) = delete;
-    BeepCounter& operator=(const BeepCounter&) = delete;
-    ~BeepCounter();
 
     int Count() const;
     void Forget();
 
 private:
-    void** slot_ = nullptr;  // the entry in the import table
-    void* original_ = nullptr;
+    ImportPatch patch_;
 };
 
 }  // namespace zttest

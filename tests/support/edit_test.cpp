@@ -9,7 +9,10 @@ namespace {
 
 constexpr int kControlId = 7;
 
-bool IsNumber(int32_t type) { return type == DT_NUMBER || type == DT_DECIMAL; }
+bool IsNumber(int32_t type)
+{
+    return type == DT_NUMBER || type == DT_DECIMAL;
+}
 
 char ProfileDecimalChar()
 {
@@ -113,6 +116,26 @@ void EditTest::GivenText(const char* mask, int32_t type, const std::string& show
     if (marked.start >= 0)
         control_->Select(marked.start, marked.end);
     form_.Forget();
+}
+
+void PrintTo(const KeyCase& row, std::ostream* out)
+{
+    *out << row.name << " (mask " << row.mask << ", from " << row.given << ", keys " << row.keys << ")";
+}
+
+void KeyTable::Check(const KeyCase& row)
+{
+    const std::string given = row.given;
+    const std::string outside = "text:";
+    if (given.compare(0, outside.size(), outside) == 0)
+        GivenText(row.mask, row.type, given.substr(outside.size()));
+    else
+        Given(row.mask, row.type, given);
+    if (HasFatalFailure())
+        return;
+    Play(row.keys);
+    EXPECT_EQ(Shown(), row.shown);
+    EXPECT_EQ(Beeps(), row.beeps);
 }
 
 void EditTest::Backspace(int times)

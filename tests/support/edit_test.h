@@ -25,6 +25,8 @@ protected:
     // The same for any text at all: it is put into the window from outside.
     void GivenText(const char* mask, int32_t type, const std::string& shown, uint32_t options = 0);
 
+    // Types, with keys named in braces: "12{Left}{Del}".
+    void Play(const std::string& keys) { typist_.Play(keys); }
     void Type(const std::string& text) { typist_.Type(text); }
     void Press(int key, int modifiers = kPlain) { typist_.Press(key, modifiers); }
     void Backspace(int times = 1);
@@ -47,6 +49,30 @@ protected:
     Typist typist_;
     std::unique_ptr<Control> control_;
 };
+
+// One row of a keystroke table: under a mask, from a text with the caret in it, the keys lead to another text and caret.
+struct KeyCase {
+    const char* name;
+    const char* mask;
+    int32_t type;
+    const char* given;  // as for Given; with "text:" in front as for GivenText
+    const char* keys;   // as for Typist::Play
+    const char* shown;
+    int beeps = 0;
+};
+void PrintTo(const KeyCase& row, std::ostream* out);
+
+class KeyTable : public EditTest, public testing::WithParamInterface<KeyCase> {
+protected:
+    void Check(const KeyCase& row);
+};
+
+// The name of a row as gtest wants it for INSTANTIATE_TEST_SUITE_P.
+template <class Row>
+std::string RowName(const testing::TestParamInfo<Row>& info)
+{
+    return info.param.name;
+}
 
 // A text with its marks taken out: '|' for a caret, '[' and ']' around a selection.
 struct Marked {

@@ -8,7 +8,10 @@ namespace {
 
 constexpr const char* kFormClass = "test form";
 
-HINSTANCE Instance() { return GetModuleHandleA(nullptr); }
+HINSTANCE Instance()
+{
+    return GetModuleHandleA(nullptr);
+}
 
 void RegisterForm(WNDPROC proc)
 {
@@ -95,9 +98,15 @@ Control::~Control()
     SharedHeapDestroy(heap_);
 }
 
-void Control::AcceptHeap() { ownBlocks_ = SharedHeapBlockCount(heap_); }
+void Control::AcceptHeap()
+{
+    ownBlocks_ = SharedHeapBlockCount(heap_);
+}
 
-std::string Control::Text() const { return TextOf(hwnd_); }
+std::string Control::Text() const
+{
+    return TextOf(hwnd_);
+}
 
 int Control::CaretStart() const
 {
@@ -113,7 +122,10 @@ int Control::CaretEnd() const
     return static_cast<int>(end);
 }
 
-void Control::Select(int start, int end) const { SendMessageA(hwnd_, EM_SETSEL, static_cast<WPARAM>(start), end); }
+void Control::Select(int start, int end) const
+{
+    SendMessageA(hwnd_, EM_SETSEL, static_cast<WPARAM>(start), end);
+}
 
 std::string Control::Shown() const
 {

@@ -1,6 +1,8 @@
 // The typist's keys and clicks, by the layout of an American keyboard.
 #include "tests/support/typist.h"
 
+#include <gtest/gtest.h>
+
 #include <cstring>
 
 namespace zttest {
@@ -57,6 +59,55 @@ constexpr SignKey kSignKeys[] = {
     {'\x1b', VK_ESCAPE,     kPlain},
 };
 
+struct NamedKey {
+    const char* name;
+    int key;
+};
+
+constexpr NamedKey kNamedKeys[] = {
+    {"Left",  VK_LEFT  },
+    {"Right", VK_RIGHT },
+    {"Up",    VK_UP    },
+    {"Down",  VK_DOWN  },
+    {"Home",  VK_HOME  },
+    {"End",   VK_END   },
+    {"Del",   VK_DELETE},
+    {"Back",  VK_BACK  },
+    {"Ins",   VK_INSERT},
+    {"Tab",   VK_TAB   },
+    {"Esc",   VK_ESCAPE},
+    {"Enter", VK_RETURN},
+    {"PgUp",  VK_PRIOR },
+    {"PgDn",  VK_NEXT  },
+    {"V",     'V'      },
+    {"C",     'C'      },
+    {"X",     'X'      },
+    {"Z",     'Z'      },
+};
+
+bool TakePrefix(std::string& text, const std::string& prefix)
+{
+    if (text.compare(0, prefix.size(), prefix) != 0)
+        return false;
+    text.erase(0, prefix.size());
+    return true;
+}
+
+// What a name in braces stands for, such as "Shift+Left".
+KeyStroke StrokeOfName(std::string name)
+{
+    int modifiers = kPlain;
+    if (TakePrefix(name, "Ctrl+"))
+        modifiers |= kCtrl;
+    if (TakePrefix(name, "Shift+"))
+        modifiers |= kShift;
+    for (const NamedKey& named : kNamedKeys)
+        if (name == named.name)
+            return {named.key, modifiers};
+    ADD_FAILURE() << "no key has the name " << name;
+    return {0, kPlain};
+}
+
 KeyStroke StrokeOf(char character)
 {
     if (character >= '0' && character <= '9')
@@ -96,7 +147,10 @@ int CharacterOf(int key, int modifiers)
     return -1;
 }
 
-bool IsExtended(int key) { return (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_INSERT || key == VK_DELETE; }
+bool IsExtended(int key)
+{
+    return (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_INSERT || key == VK_DELETE;
+}
 
 LPARAM KeyData(int key, bool release)
 {
@@ -169,6 +223,20 @@ void Typist::Type(const std::string& text)
     for (const char character : text) {
         KeyDownOf(character);
         KeyUpOf(character);
+    }
+}
+
+void Typist::Play(const std::string& keys)
+{
+    for (size_t i = 0; i < keys.size(); ++i) {
+        if (keys[i] != '{') {
+            Type(std::string(1, keys[i]));
+            continue;
+        }
+        const size_t close = keys.find('}', i);
+        const KeyStroke stroke = StrokeOfName(keys.substr(i + 1, close - i - 1));
+        Press(stroke.key, stroke.modifiers);
+        i = close;
     }
 }
 

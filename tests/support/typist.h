@@ -23,6 +23,10 @@ public:
     // Types the characters one after another, each key pressed and released.
     void Type(const std::string& text);
 
+    // Types characters and keys named in braces: "12{Left}{Shift+End}{Del}". The names stand in the table in typist.cpp; an
+    // unknown one fails the test.
+    void Play(const std::string& keys);
+
     // Presses and releases a key with modifiers held. Keys that make a character send it too.
     void Press(int key, int modifiers = kPlain);
     void Backspace() { Press(VK_BACK); }
