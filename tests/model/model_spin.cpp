@@ -291,8 +291,9 @@ void Control::SpinDate(bool up)
     bool minutes = false;
     for (int i = 0; i < CharAt(Text(), caret).index; ++i)
         minutes = minutes || std::toupper(static_cast<unsigned char>(mask_[static_cast<size_t>(i)])) == 'H';
+    const Stamp original = value;
     bool whole = false;
-    bool refused = false;
+    bool refused = InsideAmPm(caret);
     const auto toEnd = [&](const Stamp& end, bool withTime) {
         if (end.HasDate()) {
             value.year = std::min(end.year, kLastYear);
@@ -332,8 +333,8 @@ void Control::SpinDate(bool up)
         };
         const int calendar = CalendarYear(value.year);
         bool handled = true;
-        int length = DaysOfMonth(calendar, value.month);
-        switch (letter) {
+        const int length = DaysOfMonth(calendar, value.month);
+        switch (refused ? '\0' : letter) {
         case 'Y': {
             const int next = value.year + (up ? 1 : -1) * static_cast<int>(increment_);
             if ((up && !max.HasDate() && next > 1099) || (!up && !min.HasDate() && next < -100))
@@ -375,20 +376,31 @@ void Control::SpinDate(bool up)
         default: handled = false;
         }
         if (handled && !refused) {
-            const bool resets = letter == 'D' || letter == 'J' || (letter == 'M' && !minutes);
-            if (resets && (up ? above() : below())) {
+            // An end that a rule names must have been given.
+            const auto go = [&](bool given, auto&& end) {
+                if (given)
+                    end();
+                else {
+                    value = original;
+                    refused = true;
+                }
+            };
+            const bool beyond = up ? above() : below();
+            if (beyond && (letter == 'D' || letter == 'J' || (letter == 'M' && !minutes))) {
                 if (letter == 'D')
                     value.day = up ? 1 : length;
                 else if (letter == 'M')
                     value.month = up ? 0 : 11;
                 else
                     DateFromDayOfYear(value, up ? 1 : DaysOfMonth(calendar, 1) == 29 ? 366 : 365);
-                wrapped = true;
-            }
-            if (up && above())
-                toMin();
-            else if (!up && below())
-                toMax();
+                if (up && below())
+                    toMin();
+                else if (!up && above())
+                    toMax();
+            } else if (beyond && up)
+                go(known(min), toMin);
+            else if (beyond)
+                go(known(max), toMax);
             else if (wrapped && up && below())
                 toMin();
             else if (wrapped && !up && above())
