@@ -21,5 +21,5 @@ set(zt_cxx_headers ${zt_gcc_folder}/include/c++)
 set(CMAKE_CXX_FLAGS_INIT
     "-isystem ${zt_cxx_headers} -isystem ${zt_cxx_headers}/${ZT_TOOL_PREFIX} -isystem ${zt_cxx_headers}/backward")
 foreach(kind EXE SHARED MODULE)
-    set(CMAKE_${kind}_LINKER_FLAGS_INIT "-L${zt_gcc_folder}")
+    set(CMAKE_${kind}_LINKER_FLAGS_INIT "-pthread -L${zt_gcc_folder}")
 endforeach()
