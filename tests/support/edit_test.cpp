@@ -33,6 +33,15 @@ std::string HundredthOf(const std::string& number)
     return number.substr(0, sign) + whole.substr(0, whole.size() - 2) + "." + whole.substr(whole.size() - 2) + fraction;
 }
 
+// The string that a display text stands for: without the literals.
+std::string StringDataOf(const Control& control, const std::string& display)
+{
+    void* data = ZTE_FmtUnformatData(control.hwnd(), display.c_str());
+    const std::string value = data ? static_cast<const char*>(data) : "";
+    SharedHeapFree(control.heap(), data);
+    return value;
+}
+
 }  // namespace
 
 Marked Unmark(const std::string& shown)
@@ -96,7 +105,7 @@ void EditTest::Given(const char* mask, int32_t type, const std::string& shown, u
     config.type = type;
     config.options = options;
     Make(config);
-    ZTE_FmtSetDataString(Window(), data.c_str());
+    ZTE_FmtSetDataString(Window(), type == DT_STRING ? StringDataOf(*control_, data).c_str() : data.c_str());
     ASSERT_EQ(Text(), marked.text) << "no value is shown so; data " << data;
     if (marked.start >= 0)
         control_->Select(marked.start, marked.end);

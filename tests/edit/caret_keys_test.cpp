@@ -1,0 +1,139 @@
+// Arrow keys, Home and End, and clicks: where the caret may stand.
+#include "tests/support/edit_test.h"
+
+namespace zttest {
+namespace {
+
+const KeyCase kMoves[] = {
+    {"LeftPassesALiteral",         "MM/DD/YY",          DT_DATE,                                         "07/|04/95",                                                              "{Left}",                                                                                                "0|7/04/95"},
+    {"RightPassesALiteral",        "MM/DD/YY",          DT_DATE,                                         "0|7/04/95",                                                              "{Right}",                                                                                               "07/|04/95"},
+    {"LeftGoesOneDigit",           "MM/DD/YY",          DT_DATE,                                         "07/0|4/95",                                                              "{Left}",                                                                                                "07/|04/95"},
+    {"RightGoesOneDigit",          "MM/DD/YY",          DT_DATE,                                         "|07/04/95",                                                              "{Right}",                                                                                               "0|7/04/95"},
+    {"LeftAtTheStartStays",        "MM/DD/YY",          DT_DATE,                                         "|07/04/95",                                                              "{Left}",                                                                                                "|07/04/95"},
+    {"RightOnTheLastGoesToTheEnd", "MM/DD/YY",          DT_DATE,                                         "07/04/9|5",                                                              "{Right}",                                                                                               "07/04/95|"},
+    {"RightAtTheEndStays",         "MM/DD/YY",          DT_DATE,                                         "07/04/95|",                                                              "{Right}",                                                                                               "07/04/95|"},
+    {"LeftFromTheEnd",             "MM/DD/YY",          DT_DATE,                                         "07/04/95|",                                                              "{Left}",                                                                                                "07/04/9|5"},
+    {"RightPassesSeveralLiterals", "(###) ###",         DT_STRING,                                       "(55|5) 123",                                                             "{Right}",                                                                                               "(555) |123",0},
+    {"LeftPassesSeveralLiterals",                            "(###) ###",                     DT_STRING,                              "(555) |123",                                                                         "{Left}",                                                                                                                                       "(55|5) 123",0},
+    {"RightFromALiteral",                           "(###) ###",                                              DT_STRING,                                                                           "(555|) 123",                                                                                                              "{Right}",                                                                                                                                                               "(555) |123",                   0},
+    {"LeftBeforeTheFirstFieldGoesToTheStart",                "(###) ###",                                  DT_STRING,                                                                                 "(|555) 123",                                                                                                                   "{Left}",                                  "|(555) 123",0},
+    {"RightPassesAnEscapedLiteral",                    "##~X##",                           DT_STRING,                                                                         "1|2X34",                               "{Right}",                                                                         "12X|34"                                                                        },
+    {"RightStopsAtTheAmPmField",                    "HH:MM AM/PM",                              DT_TIME,"02:3|0 PM",                                       "{Right}",                                             "02:30 |PM"},
+    {"LeftStopsAtTheAmPmField",                 "HH:MM AM/PM",                           DT_TIME,                                                                   "02:30 P|M",                                                                                                     "{Left}",                                                                                                                                        "02:30 |PM"                                                                                                                                                                      },
+    {"ShiftAndRightExtendTheSelection",                 "MM/DD/YY",                            DT_DATE,"0|7/04/95","{Shift+Right}{Shift+Right}","0[7/]04/95",
+     0},
+    {"ShiftAndLeftExtendTheSelection",                 "MM/DD/YY",        DT_DATE,                                              "07/|04/95",                                                                                                                                                                            "{Shift+Left}",                                                                                                                                                                                                                                                                                   "07[/]04/95",0},
+    {"HomeGoesToTheStart",                     "MM/DD/YY",                      DT_DATE,          "07/|04/95","{Home}","|07/04/95"},
+    {"HomeMayStandOnALiteral","(###) ###",DT_STRING,                "(555) |123",                                                                                                                                                                                      "{Home}",                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                    "|(555) 123",                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                                      0},
+    {"EndGoesToTheEnd",                    "MM/DD/YY",                                          DT_DATE,                                                              "07/|04/95","{End}","07/04/95|"},
+    {"ShiftAndEndSelectTheRest",            "MM/DD/YY",  DT_DATE, "07/|04/95", "{Shift+End}",                                                                                                                                                         "07/[04/95]",                                                                                                           0},
+    {"InsertDoesNothing",   "MM/DD/YY", DT_DATE,                                        "07/|04/95",                                                                                                     "{Ins}",                                                                                                                                                                                               "07/|04/95"},
+    {"NumbersAreWalkedFreelyRight",                            "#,##0.00",                             DT_NUMBER,                                                                "1|,234.50",                                                                                                                                 "{Right}",                                                                                                                                                                                      "1,|234.50"},
+    {"NumbersAreWalkedFreelyLeft",                            "#,##0.00",                   DT_NUMBER,                             "1,234.|50",                                                                "{Left}",                                                                                             "1,234|.50"},
+    {"NumbersOfZeroesAreWalkedByPosition",                            "000.00",                    DT_NUMBER,                              "12|3.45",                                                                           "{Right}",                                                                                                                                           "123.|45"},
+    {"RightOnTheLastOfANumber",                            "#,##0.00",            DT_NUMBER,                        "123.4|5",                                                                    "{Right}",                                                                                                                                     "123.45|"},
+};
+
+class CaretKeys : public KeyTable {};
+
+TEST_P(CaretKeys, LeadTo)
+{
+    Check(GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, CaretKeys, testing::ValuesIn(kMoves), RowName<KeyCase>);
+
+// Keys that the library leaves alone do what they do in a plain edit.
+class KeyLeftAlone : public EditTest, public testing::WithParamInterface<int> {};
+
+TEST_P(KeyLeftAlone, ActsAsInAPlainEdit)
+{
+    Given("MM/DD/YY", DT_DATE, "07/0|4/95");
+    const HWND plain = CreateWindowExA(0, "edit", "07/04/95", WS_CHILD | ES_AUTOHSCROLL, 0, 0, 200, 20, form_.hwnd(),
+                                       nullptr, nullptr, nullptr);
+    SendMessageA(plain, EM_SETSEL, 4, 4);
+    Typist plainTypist(plain);
+    plainTypist.Press(GetParam());
+    const LRESULT expected = SendMessageA(plain, EM_GETSEL, 0, 0);
+    Press(GetParam());
+    EXPECT_EQ(SendMessageA(Window(), EM_GETSEL, 0, 0), expected);
+    EXPECT_EQ(Text(), "07/04/95");
+    DestroyWindow(plain);
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, KeyLeftAlone,
+                         testing::Values(VK_UP, VK_DOWN, VK_HOME, VK_END, VK_PRIOR, VK_NEXT, VK_INSERT, VK_F4, VK_F10));
+
+TEST(KeyDownWithNineAbove, ReturnsZeroAndDoesNothing)
+{
+    Form form;
+    Config config;
+    config.mask = "MM/DD/YY";
+    config.type = DT_DATE;
+    config.data = "1995-07-04";
+    const Control control(form.hwnd(), 1, config);
+    control.Select(4, 4);
+    EXPECT_EQ(SendMessageA(control.hwnd(), WM_KEYDOWN, MAKELONG(VK_LEFT, 9), 1), 0);
+    EXPECT_EQ(control.Shown(), "07/0|4/95");
+}
+
+struct ClickCase {
+    const char* name;
+    const char* mask;
+    int32_t type;
+    const char* text;
+    int clicked;
+    const char* shown;
+};
+
+void PrintTo(const ClickCase& row, std::ostream* out)
+{
+    *out << row.name << " (click at " << row.clicked << " of " << row.text << ")";
+}
+
+const ClickCase kClicks[] = {
+    {"OnADigitStays",                 "MM/DD/YY",    DT_DATE,   "07/04/95",  3, "07/|04/95" },
+    {"OnASlashGoesRight",             "MM/DD/YY",    DT_DATE,   "07/04/95",  2, "07/|04/95" },
+    {"BehindTheEndStays",             "MM/DD/YY",    DT_DATE,   "07/04/95",  8, "07/04/95|" },
+    {"OnTheNearerLeftGoesLeft",       "##---##",     DT_STRING, "12---34",   2, "1|2---34"  },
+    {"InTheMiddleGoesRight",          "##---##",     DT_STRING, "12---34",   3, "12---|34"  },
+    {"OnTheNearerRightGoesRight",     "##---##",     DT_STRING, "12---34",   4, "12---|34"  },
+    {"LeftOfTheFirstFieldStays",      "(###) ###",   DT_STRING, "(555) 123", 0, "|(555) 123"},
+    {"RightOfTheLastFieldGoesLeft",   "## km",       DT_STRING, "12 km",     3, "1|2 km"    },
+    {"OnTheAmPmFieldStays",           "HH:MM AM/PM", DT_TIME,   "02:30 PM",  6, "02:30 |PM" },
+    {"OnAThousandsCharacterStays",    "#,##0.00",    DT_NUMBER, "1,234.50",  1, "1|,234.50" },
+    {"OnThePointOfANumberStays",      "#,##0.00",    DT_NUMBER, "1,234.50",  5, "1,234|.50" },
+    {"InTheFractionOfAZeroMaskStays", "000.00",      DT_NUMBER, "123.45",    5, "123.4|5"   },
+    {"OnAnEscapedLiteralGoesOn",      "##~X##",      DT_STRING, "12X34",     2, "12X|34"    },
+};
+
+class ClickAt : public EditTest, public testing::WithParamInterface<ClickCase> {};
+
+TEST_P(ClickAt, LeadsTo)
+{
+    const ClickCase& row = GetParam();
+    Given(row.mask, row.type, row.text);
+    Click(row.clicked);
+    EXPECT_EQ(Shown(), row.shown);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ClickAt, testing::ValuesIn(kClicks), RowName<ClickCase>);
+
+class Mouse : public EditTest {};
+
+TEST_F(Mouse, ASelectionMadeByDraggingStands)
+{
+    Given("MM/DD/YY", DT_DATE, "|07/04/95");
+    typist_.Drag(2, 5);
+    EXPECT_EQ(Shown(), "07[/04]/95");
+}
+
+TEST_F(Mouse, AClickInAnEmptyControlDoesNothing)
+{
+    GivenText("MM/DD/YY", DT_DATE, "|");
+    Click(0);
+    EXPECT_EQ(Shown(), "|");
+}
+
+}  // namespace
+}  // namespace zttest
