@@ -34,26 +34,28 @@ protected:
     }
 };
 
+// clang-format off: one row a line
 const PasteCase kRows[] = {
-    {"ANumberReplacesTheWholeValue", "#,##0.00",  DT_NUMBER,                   "1[23].45",                         "5.25",                                "5.25",                                                                             0},
-    {"ANumberIsLaidThroughTheMask",                              "#,##0.00",             DT_NUMBER, "|0.00",              "1234.5",                                            "1,234.50",                                                                                                         0},
-    {"ANumberAsShown",                             "#,##0.00",                                        DT_NUMBER,                                                    "|0.00",                                                "1,234.50",                                     "1,234.50",0},
-    {"ANegativeNumber",                    "#,##0.00",                              DT_NUMBER,                                                         "|0.00",                                                                           "-5.25",                                               "-5.25",                                                                                                                                       0},
-    {"LettersBeepAndChangeNothing",                       "#,##0.00",                           DT_NUMBER,                                                     "|12.00",             "abc","12.00",1},
-    {"NothingReadableBeeps",                      "#,##0.00",                            DT_NUMBER,"|12.00",                 "--",                                                                               "12.00",                                                                                                                                                                                                                                                         1},
-    {"ADecimal",                     "#,##0.00",DT_DECIMAL,                         "|0.00",                                    "1234.5","1,234.50",0},
-    {"LettersInADecimalBeep","#,##0.00",     DT_DECIMAL, "|12.00","abc",                          "12.00",                                                                                                                                                                                                                                                                                        1},
-    {"AnAmountAsShown",        "[currency(9)]",          DT_NUMBER,                       "|$.00",                                                 "$1,234.50",                                                                                          "$1,234.50"                                                                                                                                           },
-    {"APercentageAsShown",                              "#,##0.00%",                         DT_NUMBER,                              "|12.50%",                                              "12.5%",                                                      "12.50%",                                                                             0},
-    {"ACanonicalDate",                              "MM/DD/YY",                      DT_DATE,         "|01/01/00",          "1995-07-04",         "07/04/95"},
-    {"ADisplayedDateGivesTheEmptyDate",                             "MM/DD/YY",                                        DT_DATE,                                                    "|01/01/00",                                               "07/04/95",                                                        "00/00/00",                                           0},
-    {"AnImpossibleDateGivesTheEmptyDate",                    "MM/DD/YY",                               DT_DATE,                          "|01/01/00",                      "1995-02-30",     "00/00/00"                                                                                                                             },
-    {"ACanonicalTime",                    "HH:MM AM/PM",                              DT_TIME,                                                         "|01:00 AM",                                                         "14:30",          "02:30 PM",             0},
-    {"ATwelveHourTime",                  "HH:MM AM/PM",                   DT_TIME,                                              "|01:00 AM",                                            "02:30 PM",                                             "02:30 PM"},
-    {"ACanonicalDateTime",                       "MM/DD/YY HH:MM",                        DT_DATETIME,                                                  "|01/01/00 01:00",                            "1995-07-04 14:30",                                        "07/04/95 14:30",                                                                                0},
-    {"AStringAsShown",                   "(###) ###",                    DT_STRING,"|(555) 123","(777) 456","(777) 456"                                   },
-    {"AStringWithoutAMask",             "",      DT_STRING,"a|b","whole","whole"},
+    {"ANumberReplacesTheWholeValue",      "#,##0.00",       DT_NUMBER,   "1[23].45",        "5.25",             "5.25",           0},
+    {"ANumberIsLaidThroughTheMask",       "#,##0.00",       DT_NUMBER,   "|0.00",           "1234.5",           "1,234.50",       0},
+    {"ANumberAsShown",                    "#,##0.00",       DT_NUMBER,   "|0.00",           "1,234.50",         "1,234.50",       0},
+    {"ANegativeNumber",                   "#,##0.00",       DT_NUMBER,   "|0.00",           "-5.25",            "-5.25",          0},
+    {"LettersBeepAndChangeNothing",       "#,##0.00",       DT_NUMBER,   "|12.00",          "abc",              "12.00",          1},
+    {"NothingReadableBeeps",              "#,##0.00",       DT_NUMBER,   "|12.00",          "--",               "12.00",          1},
+    {"ADecimal",                          "#,##0.00",       DT_DECIMAL,  "|0.00",           "1234.5",           "1,234.50",       0},
+    {"LettersInADecimalBeep",             "#,##0.00",       DT_DECIMAL,  "|12.00",          "abc",              "12.00",          1},
+    {"AnAmountAsShown",                   "[currency(9)]",  DT_NUMBER,   "|$.00",           "$1,234.50",        "$1,234.50",      0},
+    {"APercentageAsShown",                "#,##0.00%",      DT_NUMBER,   "|12.50%",         "12.5%",            "12.50%",         0},
+    {"ACanonicalDate",                    "MM/DD/YY",       DT_DATE,     "|01/01/00",       "1995-07-04",       "07/04/95",       0},
+    {"ADisplayedDateGivesTheEmptyDate",   "MM/DD/YY",       DT_DATE,     "|01/01/00",       "07/04/95",         "00/00/00",       0},
+    {"AnImpossibleDateGivesTheEmptyDate", "MM/DD/YY",       DT_DATE,     "|01/01/00",       "1995-02-30",       "00/00/00",       0},
+    {"ACanonicalTime",                    "HH:MM AM/PM",    DT_TIME,     "|01:00 AM",       "14:30",            "02:30 PM",       0},
+    {"ATwelveHourTime",                   "HH:MM AM/PM",    DT_TIME,     "|01:00 AM",       "02:30 PM",         "02:30 PM",       0},
+    {"ACanonicalDateTime",                "MM/DD/YY HH:MM", DT_DATETIME, "|01/01/00 01:00", "1995-07-04 14:30", "07/04/95 14:30", 0},
+    {"AStringAsShown",                    "(###) ###",      DT_STRING,   "|(555) 123",      "(777) 456",        "(777) 456",      0},
+    {"AStringWithoutAMask",               "",               DT_STRING,   "a|b",             "whole",            "whole",          0},
 };
+// clang-format on
 
 class Paste : public PasteTable {};
 
@@ -64,12 +66,14 @@ TEST_P(Paste, Shows)
 
 INSTANTIATE_TEST_SUITE_P(Rows, Paste, testing::ValuesIn(kRows), RowName<PasteCase>);
 
+// clang-format off: one row a line
 const PasteCase kGermanRows[] = {
-    {"ANumberAsShown",           "",              DT_NUMBER,  "|,00",    "1.234,50",    "1.234,50"   },
-    {"AFractionIsKept",          "",              DT_NUMBER,  "|,00",    "12,75",       "12,75"      },
-    {"ADecimalKeepsItsFraction", "",              DT_DECIMAL, "|,00",    "12,75",       "12,75"      },
-    {"AnAmountAsShown",          "[currency(9)]", DT_NUMBER,  "|,00EUR", "1.234,50EUR", "1.234,50EUR"},
+    {"ANumberAsShown",           "",              DT_NUMBER,  "|,00",    "1.234,50",    "1.234,50",    0},
+    {"AFractionIsKept",          "",              DT_NUMBER,  "|,00",    "12,75",       "12,75",       0},
+    {"ADecimalKeepsItsFraction", "",              DT_DECIMAL, "|,00",    "12,75",       "12,75",       0},
+    {"AnAmountAsShown",          "[currency(9)]", DT_NUMBER,  "|,00EUR", "1.234,50EUR", "1.234,50EUR", 0},
 };
+// clang-format on
 
 class GermanPaste : public PasteTable {
     const Regional regional_{kGerman};
