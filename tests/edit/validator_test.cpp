@@ -37,14 +37,14 @@ const KeyCase kMonthRows[] = {
     {"ThreeIsRefusedAfterOne",                        "MM/DD/YY", DT_DATE, "1|0/04/95",      "3", "1|0/04/95", 1},
     {"TwoIsTakenAfterOne",                            "MM/DD/YY", DT_DATE, "1|0/04/95",      "2", "12/|04/95", 0},
     {"NineIsTakenAfterZero",                          "MM/DD/YY", DT_DATE, "0|1/04/95",      "9", "09/|04/95", 0},
-    {"ZeroBeforeFiveGivesDoubleZero",                 "MM/DD/YY", DT_DATE, "|05/04/95",      "0", "00/|04/95", 0},
-    {"OneBeforeFiveGivesTen",                         "MM/DD/YY", DT_DATE, "|05/04/95",      "1", "10/|04/95", 0},
+    {"ZeroBeforeFiveGivesDoubleZero",                 "MM/DD/YY", DT_DATE, "|05/04/95",      "0", "0|0/04/95", 0},
+    {"OneBeforeFiveGivesTen",                         "MM/DD/YY", DT_DATE, "|05/04/95",      "1", "1|0/04/95", 0},
     {"OneBeforeTwoIsTaken",                           "MM/DD/YY", DT_DATE, "|02/04/95",      "1", "1|2/04/95", 0},
     {"ALetterIsRefused",                              "MM/DD/YY", DT_DATE, "|07/04/95",      "J", "|07/04/95", 1},
     {"TheThirtyFirstSwallowsNovember",                "DD/MM/YY", DT_DATE, "31/1|2/95",      "1", "31/1|2/95", 0},
     {"TheThirtyFirstSwallowsAPaddedMonth",            "DD/MM/YY", DT_DATE, "31/|12/95",      "6", "31/|12/95", 0},
     {"TheThirtyFirstTakesALongMonth",                 "DD/MM/YY", DT_DATE, "31/|12/95",      "7", "31/07/|95", 0},
-    {"ZeroBeforeFourGivesDoubleZeroOnTheThirtyFirst", "DD/MM/YY", DT_DATE, "text:31/|04/95", "0", "31/00/|95", 0},
+    {"ZeroBeforeFourGivesDoubleZeroOnTheThirtyFirst", "DD/MM/YY", DT_DATE, "text:31/|04/95", "0", "31/0|0/95", 0},
 };
 // clang-format on
 
@@ -70,9 +70,9 @@ const KeyCase kMonthNameRows[] = {
 const KeyCase kDayRows[] = {
     {"FourIsPadded",                             "MM/DD/YY", DT_DATE, "07/|10/95",      "4",  "07/04/|95", 0},
     {"ThreeInAShortFebruaryIsPadded",            "MM/DD/YY", DT_DATE, "02/|10/95",      "3",  "02/03/|95", 0},
-    {"TwoBeforeNineGivesTwentyInAShortFebruary", "MM/DD/YY", DT_DATE, "02/|09/95",      "2",  "02/20/|95", 0},
+    {"TwoBeforeNineGivesTwentyInAShortFebruary", "MM/DD/YY", DT_DATE, "02/|09/95",      "2",  "02/2|0/95", 0},
     {"TwoBeforeNineIsTakenInALeapYear",          "MM/DD/YY", DT_DATE, "02/|09/96",      "2",  "02/2|9/96", 0},
-    {"ThreeBeforeOneGivesThirtyInApril",         "MM/DD/YY", DT_DATE, "04/|01/95",      "3",  "04/30/|95", 0},
+    {"ThreeBeforeOneGivesThirtyInApril",         "MM/DD/YY", DT_DATE, "04/|01/95",      "3",  "04/3|0/95", 0},
     {"ThreeBeforeOneIsTakenInMay",               "MM/DD/YY", DT_DATE, "05/|01/95",      "3",  "05/3|1/95", 0},
     {"NineIsRefusedAfterTwoInAShortFebruary",    "MM/DD/YY", DT_DATE, "02/2|0/95",      "9",  "02/2|0/95", 1},
     {"NineIsTakenAfterTwoInALeapYear",           "MM/DD/YY", DT_DATE, "02/2|0/96",      "9",  "02/29/|96", 0},
@@ -146,8 +146,17 @@ const KeyCase kSharedRows[] = {
     {"XInADateTakesAnything",           "X MM/DD/YY", DT_DATE, "text:|  07/04/95", "?", "? |07/04/95", 0},
     {"ExclamationInADateRaisesALetter", "! MM/DD/YY", DT_DATE, "text:|  07/04/95", "q", "Q |07/04/95", 0},
     {"CaretInATimeLowersALetter",       "^ HH:MM",    DT_TIME, "text:|  12:30",    "Q", "q |12:30",    0},
-    {"LetterAInADateIsALiteral",        "A MM/DD/YY", DT_DATE, "|A 07/04/95",      "1", "A 10/|04/95", 0},
+    {"LetterAInADateIsALiteral",        "A MM/DD/YY", DT_DATE, "|A 01/04/95",      "1", "A 1|1/04/95", 0},
     {"FractionLetterInADateIsALiteral", "MM/DD/YY F", DT_DATE, "07/04/9|5 F",      "6", "07/04/96| F", 0},
+};
+// clang-format on
+
+// A digit completed with a 0 behind it leaves the caret on that 0, so that the second digit can be typed.
+// clang-format off: one row a line
+const KeyCase kCompletedRows[] = {
+    {"AMonthOverAnotherOne",          "MM/DD/YY", DT_DATE, "|05/04/95", "12", "12/|04/95", 0},
+    {"AMonthWithAZeroOverAnotherOne", "MM/DD/YY", DT_DATE, "|05/04/95", "03", "03/|04/95", 0},
+    {"ADayOverAnotherOne",            "MM/DD/YY", DT_DATE, "02/|09/95", "28", "02/28/|95", 0},
 };
 // clang-format on
 
@@ -165,6 +174,7 @@ INSTANTIATE_TEST_SUITE_P(Day, MaskCharacter, testing::ValuesIn(kDayRows), RowNam
 INSTANTIATE_TEST_SUITE_P(DayOfYear, MaskCharacter, testing::ValuesIn(kDayOfYearRows), RowName<KeyCase>);
 INSTANTIATE_TEST_SUITE_P(Year, MaskCharacter, testing::ValuesIn(kYearRows), RowName<KeyCase>);
 INSTANTIATE_TEST_SUITE_P(Time, MaskCharacter, testing::ValuesIn(kTimeRows), RowName<KeyCase>);
+INSTANTIATE_TEST_SUITE_P(Completed, MaskCharacter, testing::ValuesIn(kCompletedRows), RowName<KeyCase>);
 INSTANTIATE_TEST_SUITE_P(Shared, MaskCharacter, testing::ValuesIn(kSharedRows), RowName<KeyCase>);
 
 }  // namespace

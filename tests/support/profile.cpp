@@ -43,10 +43,9 @@ RegionalSet Complete(const char* decimal, const char* thousand, const char* curr
 
 }  // namespace
 
-// The blank of the French set stands in quotes: the profile strips blanks around a value, and the quotes when it is read.
 const RegionalSet kUnitedStates = Complete(".", ",", "$", "0", "M/d/yyyy");
 const RegionalSet kGerman = Complete(",", ".", "EUR", "1", "dd.MM.yyyy");
-const RegionalSet kFrench = Complete(",", "\" \"", "F", "1", "dd/MM/yyyy");
+const RegionalSet kFrench = Complete(",", " ", "F", "1", "dd/MM/yyyy");
 const RegionalSet kSwiss = Complete(".", "'", "CHF", "0", "dd.MM.yyyy");
 const RegionalSet kIso = Complete(".", ",", "$", "0", "yyyy-MM-dd");
 
@@ -66,7 +65,7 @@ Regional::Regional(const RegionalSet& values)
 Regional::~Regional()
 {
     for (auto entry = previous_.rbegin(); entry != previous_.rend(); ++entry)
-        WriteKey(entry->first.c_str(), entry->second == " " ? "\" \"" : entry->second);
+        WriteKey(entry->first.c_str(), entry->second);
     TellRegionalChange();
 }
 
