@@ -62,4 +62,14 @@ Result WhileAlive(EditInstance& edit, Result gone, Work&& work)
     }
 }
 
+// The same for work without a result.
+template <typename Work>
+void WhileAlive(EditInstance& edit, Work&& work)
+{
+    WhileAlive(edit, 0, [&] {
+        work();
+        return 0;
+    });
+}
+
 }  // namespace zte

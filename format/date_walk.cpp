@@ -172,18 +172,18 @@ bool IsFieldAt(const EditInstance& edit, const std::string& text, int32_t positi
 
 }  // namespace
 
-bool WalkDateText(EditInstance& edit, const char* text, DateTimeValue& value)
+bool WalkDateText(EditInstance& edit, const char* text, DateTimeValue& value, int32_t escapeWidth)
 {
     value = kEmptyDateTime;
     SetFlag(edit, DOY_PENDING, false);
     FieldsSeen seen{};
     const std::string shown(text, strnlen(text, kMaxMaskLength + 1));
     for (int32_t position = 0; position < static_cast<int32_t>(shown.size());) {
+        const char* mask = MaskTextAt(edit.mask, position);
         if (!IsFieldAt(edit, shown, position)) {
-            ++position;
+            position += *mask == '~' && !IsInsideAmPmField(edit, position) ? escapeWidth : 1;
             continue;
         }
-        const char* mask = MaskTextAt(edit.mask, position);
         const int32_t run = RunLength(mask);
         if (!ReadField(edit, value, {shown.c_str(), shown.c_str() + position}, seen, AsciiUpper(*mask), run))
             return false;

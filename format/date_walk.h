@@ -8,8 +8,9 @@ namespace zte {
 constexpr DateTimeValue kEmptyDateTime = {0, DATETIME_NO_DATE, 0, 0, DATETIME_NO_TIME, 0, 0, 0};
 
 // Starts from the empty value and reads every field of the text; false at the first unreadable field, with what was read
-// up to there left in value.
-bool WalkDateText(EditInstance& edit, const char* text, DateTimeValue& value);
+// up to there left in value. escapeWidth: positions
+// passed at a literal written with "~".
+bool WalkDateText(EditInstance& edit, const char* text, DateTimeValue& value, int32_t escapeWidth = 1);
 
 // The canonical text of a value read from fields (a day of 0 counts as 1), checked and read back into the value. False for
 // impossible dates and times.

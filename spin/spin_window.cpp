@@ -1,0 +1,233 @@
+// The spin's child window: creation and destruction, and the mouse: press, tracking, repeat, release.
+#include "spin/spin_window.h"
+
+#include <string>
+#include <utility>
+
+#include "core/base_edit.h"
+#include "core/heap.h"
+#include "core/instance.h"
+#include "core/life_guard.h"
+#include "spin/code_table.h"
+#include "spin/spin_step.h"
+
+namespace zte {
+
+namespace {
+
+constexpr char kSpinClass[] = "spin";
+constexpr UINT_PTR kRepeatTimer = 1;
+constexpr UINT kRepeatMilliseconds = 150;  // from the first press on, without a longer first delay
+
+void Invalidate(HWND spin) { InvalidateRect(spin, nullptr, TRUE); }
+
+POINT PointOf(LPARAM lParam) { return {LOWORD(lParam), HIWORD(lParam)}; }
+
+void DropFace(HBITMAP& face)
+{
+    if (HBITMAP old = std::exchange(face, nullptr))
+        DeleteObject(old);
+}
+
+void MoveFlag(EditInstance& edit, uint32_t from, uint32_t to)
+{
+    SetFlag(edit, to, Has(edit, from));
+}
+
+// The spin takes the range and the code table with it; the increment and the bounds stay.
+void OnDestroy(HWND spin, EditInstance& edit)
+{
+    DropFace(edit.spinFaceNormal);
+    DropFace(edit.spinFacePressed);
+    if (char* range = std::exchange(edit.spinRange, nullptr))
+        SharedHeapFree(edit.heap, range);
+    DestroyCodeTable(edit);
+    if (edit.hwndSpin == spin)
+        edit.hwndSpin = nullptr;
+    DetachEditInstance(spin);
+}
+
+void OnPaint(HWND spin, const EditInstance& edit)
+{
+    PAINTSTRUCT paint;
+    HDC dc = BeginPaint(spin, &paint);
+    ZTE_PaintSpin(edit.hwnd, dc, nullptr);
+    EndPaint(spin, &paint);
+}
+
+void OnPress(HWND spin, EditInstance& edit, LPARAM lParam)
+{
+    if (IsInputRefused(edit.hwnd))
+        return;
+    RECT upper{};
+    GetClientRect(spin, &upper);
+    upper.bottom /= 2;
+    edit.flags |= PtInRect(&upper, PointOf(lParam)) ? SPIN_UP : SPIN_DOWN;
+    edit.flags |= SPIN_TRACKING;
+    const LifeCheck life(edit);
+    SetCapture(spin);
+    SetFocus(edit.hwnd);
+    life.Check();
+    SpinStep(edit, spin);
+    life.Check();
+    if (edit.hwndSpin != spin)
+        return;
+    SetTimer(spin, kRepeatTimer, kRepeatMilliseconds, nullptr);
+    Invalidate(spin);
+}
+
+// While the pointer is outside, the arrows are shown up; coming back presses the first one again. The timer runs on.
+void OnTrack(HWND spin, EditInstance& edit, LPARAM lParam)
+{
+    RECT client{};
+    GetClientRect(spin, &client);
+    const bool inside = PtInRect(&client, PointOf(lParam)) != FALSE;
+    const bool pressed = Has(edit, SPIN_UP | SPIN_DOWN);
+    if (pressed == inside)
+        return;
+    if (pressed) {
+        MoveFlag(edit, SPIN_UP, SPIN_UP_HELD);
+        MoveFlag(edit, SPIN_DOWN, SPIN_DOWN_HELD);
+        SetFlag(edit, SPIN_UP | SPIN_DOWN, false);
+    } else {
+        MoveFlag(edit, SPIN_UP_HELD, SPIN_UP);
+        MoveFlag(edit, SPIN_DOWN_HELD, SPIN_DOWN);
+    }
+    Invalidate(spin);
+}
+
+void OnRelease(HWND spin, EditInstance& edit)
+{
+    SetFlag(edit, SPIN_UP | SPIN_DOWN, false);
+    const LifeCheck life(edit);
+    ReleaseCapture();
+    life.Check();
+    SetFlag(edit, SPIN_TRACKING, false);
+    KillTimer(spin, kRepeatTimer);
+    Invalidate(spin);
+}
+
+// Turning redrawing on hides the spin, so that it does not flicker over a text being laid anew; the paint of the control
+// shows it again.
+void OnSetRedraw(HWND spin, WPARAM on)
+{
+    if (on)
+        ShowWindow(spin, SW_HIDE);
+}
+
+// True when the message is handled, with the result 0.
+bool Route(HWND spin, EditInstance& edit, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_DESTROY:
+        OnDestroy(spin, edit);
+        return true;
+    case WM_SETREDRAW:
+        OnSetRedraw(spin, wParam);
+        return true;
+    case WM_PAINT:
+        OnPaint(spin, edit);
+        return true;
+    case WM_TIMER:
+        SpinStep(edit, spin);
+        return true;
+    case WM_MOUSEMOVE:
+        if (Has(edit, SPIN_TRACKING))
+            OnTrack(spin, edit, lParam);
+        return true;
+    case WM_LBUTTONDOWN:
+        OnPress(spin, edit, lParam);
+        return true;
+    case WM_LBUTTONUP:
+        OnRelease(spin, edit);
+        return true;
+    default:
+        return false;
+    }
+}
+
+LRESULT OnCreate(HWND spin, LPARAM lParam)
+{
+    const auto& creation = *reinterpret_cast<const CREATESTRUCTA*>(lParam);
+    if (auto* edit = static_cast<EditInstance*>(creation.lpCreateParams))
+        AttachEditInstance(spin, edit);
+    return 0;
+}
+
+HWND CreateSpinWindow(EditInstance& edit, DWORD style, const RECT& place)
+{
+    return CreateWindowExA(0, kSpinClass, "", style, place.left, place.top, place.right - place.left,
+                           place.bottom - place.top, edit.hwnd, nullptr, libraryInstance, &edit);
+}
+
+// Setting the formatting rectangle loses the text in some edit controls; it is put back.
+void SetFormatRect(EditInstance& edit, RECT rect, const std::string& text)
+{
+    const LifeCheck life(edit);
+    CallBaseEdit(edit.hwnd, EM_SETRECT, 0, reinterpret_cast<LPARAM>(&rect));
+    life.Check();
+    if (!text.empty())
+        SetText(edit, text.c_str());
+}
+
+void CreateSpin(EditInstance& edit)
+{
+    const std::string text = ReadText(edit);
+    RECT window{};
+    GetWindowRect(edit.hwnd, &window);
+    if (window.right <= window.left || window.bottom <= window.top)
+        return;
+    RECT client{};
+    GetClientRect(edit.hwnd, &client);
+    RECT place = client;
+    place.left = client.right - SpinWidthForHeight(static_cast<int16_t>(client.bottom - client.top));
+    edit.hwndSpin = CreateSpinWindow(edit, WS_CHILD | WS_VISIBLE, place);
+    client.right = place.left;
+    SetFormatRect(edit, client, text);
+}
+
+void DestroySpin(EditInstance& edit)
+{
+    const std::string text = ReadText(edit);
+    const LifeCheck life(edit);
+    DestroyWindow(edit.hwndSpin);
+    life.Check();
+    edit.hwndSpin = nullptr;
+    RECT client{};
+    GetClientRect(edit.hwnd, &client);
+    SetFormatRect(edit, client, text);
+}
+
+}  // namespace
+
+void CreateHiddenSpin(EditInstance& edit) { edit.hwndSpin = CreateSpinWindow(edit, WS_CHILD, {}); }
+
+}  // namespace zte
+
+using namespace zte;
+
+void WINAPI ZTE_CreateSpin(HWND hwnd)
+{
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (!edit || edit->hwndSpin)
+        return;
+    WhileAlive(*edit, [&] { CreateSpin(*edit); });
+}
+
+void WINAPI ZTE_DestroySpin(HWND hwnd)
+{
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (!edit || !edit->hwndSpin)
+        return;
+    WhileAlive(*edit, [&] { DestroySpin(*edit); });
+}
+
+LRESULT CALLBACK ZTE_SpinWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_CREATE)
+        return OnCreate(hwnd, lParam);
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (edit && WhileAlive(*edit, true, [&] { return Route(hwnd, *edit, message, wParam, lParam); }))
+        return 0;
+    return DefWindowProcA(hwnd, message, wParam, lParam);
+}
