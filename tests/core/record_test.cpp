@@ -1,0 +1,346 @@
+// The life of a control's record: made, found by the property "MAIN", and given back.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "tests/support/edit_test.h"
+
+namespace zttest {
+namespace {
+
+constexpr const char* kProperty = "MAIN";
+
+Config DateConfig()
+{
+    Config config;
+    config.mask = "MM/DD/YY";
+    config.type = DT_DATE;
+    config.data = "1995-07-04";
+    return config;
+}
+
+class CreationWay : public EditTest, public testing::WithParamInterface<Creation> {};
+
+TEST_P(CreationWay, ShowsTheInitialData)
+{
+    Make(DateConfig(), GetParam());
+    EXPECT_EQ(Text(), "07/04/95");
+}
+
+TEST_P(CreationWay, TakesTyping)
+{
+    Make(DateConfig(), GetParam());
+    PutCaret(0);
+    Type("12");
+    EXPECT_EQ(Shown(), "12/|04/95");
+}
+
+TEST_P(CreationWay, ReadsTheValueBack)
+{
+    Make(DateConfig(), GetParam());
+    EXPECT_EQ(Value(), "1995-07-04");
+}
+
+TEST_P(CreationWay, NotifiesTheParent)
+{
+    Config config = DateConfig();
+    config.options = ZTEO_AUTOSKIP;
+    Make(config, GetParam());
+    PutCaret(7);
+    Type("6");
+    EXPECT_EQ(Skips(), 1);
+}
+
+TEST_P(CreationWay, AttachesTheProperty)
+{
+    Make(DateConfig(), GetParam());
+    EXPECT_NE(GetPropA(Window(), kProperty), nullptr);
+}
+
+TEST_P(CreationWay, KnowsItsDataType)
+{
+    Make(DateConfig(), GetParam());
+    EXPECT_EQ(ZTE_FmtGetDataType(Window()), DT_DATE);
+}
+
+TEST_P(CreationWay, WithoutInitialDataShowsTheEmptyValue)
+{
+    Config config = DateConfig();
+    config.data = nullptr;
+    Make(config, GetParam());
+    EXPECT_EQ(Text(), "00/00/00");
+}
+
+TEST_P(CreationWay, OptionBitsAboveTheLowestByteAreNotRead)
+{
+    Config config = DateConfig();
+    config.options = 0xFFFFFF00u;
+    Make(config, GetParam());
+    PutCaret(7);
+    Type("6");
+    EXPECT_EQ(Skips(), 0);
+    EXPECT_EQ(GetWindow(Window(), GW_CHILD), nullptr);
+}
+
+std::string CreationName(const testing::TestParamInfo<Creation>& info)
+{
+    constexpr const char* kNames[] = {"ByClass", "ByInit", "BySubclassing"};
+    return kNames[static_cast<int>(info.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(Ways, CreationWay,
+                         testing::Values(Creation::ByClass, Creation::ByInit, Creation::BySubclassing), CreationName);
+
+class Record : public EditTest {};
+
+TEST_F(Record, GoesWithTheWindow)
+{
+    const SharedHeap heap = SharedHeapCreate();
+    EditInitParams params = {};
+    params.heap = heap;
+    params.dataType = DT_STRING;
+    const HWND hwnd =
+        CreateWindowExA(0, ZTEDIT_CLASS, "", WS_CHILD, 0, 0, 100, 20, form_.hwnd(), nullptr, nullptr, &params);
+    const uint32_t alive = SharedHeapBlockCount(heap);
+    DestroyWindow(hwnd);
+    EXPECT_EQ(SharedHeapBlockCount(heap), alive - 1);
+    SharedHeapDestroy(heap);
+}
+
+TEST_F(Record, StringsStayInTheHeapOfTheHost)
+{
+    const SharedHeap heap = SharedHeapCreate();
+    EditInitParams params = {};
+    params.heap = heap;
+    params.dataType = DT_DATE;
+    params.maskText = "MM/DD/YY";
+    DestroyWindow(
+        CreateWindowExA(0, ZTEDIT_CLASS, "", WS_CHILD, 0, 0, 100, 20, form_.hwnd(), nullptr, nullptr, &params));
+    EXPECT_EQ(SharedHeapBlockCount(heap), 1u);  // the mask
+    SharedHeapDestroy(heap);
+}
+
+TEST_F(Record, ParametersAreOnlyRead)
+{
+    const SharedHeap heap = SharedHeapCreate();
+    EditInitParams params = {};
+    params.heap = heap;
+    params.dataType = DT_DATE;
+    params.maskText = "[nothing]";
+    params.initialData = "1995-07-04";
+    params.options = ZTEO_AUTOSKIP;
+    const EditInitParams before = params;
+    DestroyWindow(
+        CreateWindowExA(0, ZTEDIT_CLASS, "", WS_CHILD, 0, 0, 100, 20, form_.hwnd(), nullptr, nullptr, &params));
+    EXPECT_EQ(std::memcmp(&before, &params, sizeof params), 0);
+    SharedHeapDestroy(heap);
+}
+
+TEST_F(Record, MaskAndDataMayBeOverwrittenAfterCreation)
+{
+    char mask[] = "MM/DD/YY";
+    char data[] = "1995-07-04";
+    Config config;
+    config.mask = mask;
+    config.type = DT_DATE;
+    config.data = data;
+    Make(config);
+    std::memset(mask, 'x', sizeof mask - 1);
+    std::memset(data, 'x', sizeof data - 1);
+    PutCaret(0);
+    Type("12");
+    EXPECT_EQ(Shown(), "12/|04/95");
+}
+
+TEST_F(Record, ASecondInitConfiguresTheControlAnew)
+{
+    Make(DateConfig());
+    EditInitParams params = {};
+    params.heap = control_->heap();
+    params.dataType = DT_NUMBER;
+    params.maskText = "#,##0.00";
+    params.initialData = "12.5";
+    ZTE_Init(Window(), &params);
+    EXPECT_EQ(Text(), "12.50");
+    EXPECT_EQ(ZTE_FmtGetDataType(Window()), DT_NUMBER);
+    control_->AcceptHeap();
+}
+
+TEST_F(Record, ASecondInitInAnotherHeapOutlivesTheFirstHeap)
+{
+    const HWND hwnd =
+        CreateWindowExA(0, ZTEDIT_CLASS, "", WS_CHILD, 0, 0, 100, 20, form_.hwnd(), nullptr, nullptr, nullptr);
+    const SharedHeap first = SharedHeapCreate();
+    const SharedHeap second = SharedHeapCreate();
+    EditInitParams params = {};
+    params.dataType = DT_DATE;
+    params.maskText = "MM/DD/YY";
+    params.heap = first;
+    ZTE_Init(hwnd, &params);
+    params.heap = second;
+    ZTE_Init(hwnd, &params);
+    SharedHeapDestroy(first);
+    ZTE_FmtSetDataString(hwnd, "1995-07-04");
+    EXPECT_EQ(TextOf(hwnd), "07/04/95");
+    DestroyWindow(hwnd);
+    SharedHeapDestroy(second);
+}
+
+TEST_F(Record, ASecondInitDoesNotAddASecondSpin)
+{
+    Config config;
+    config.mask = "####";
+    config.type = DT_NUMBER;
+    config.options = ZTEO_SPIN;
+    Make(config);
+    EditInitParams params = {};
+    params.heap = control_->heap();
+    params.dataType = DT_NUMBER;
+    params.maskText = "####";
+    params.options = ZTEO_SPIN;
+    ZTE_Init(Window(), &params);
+    const HWND spin = GetWindow(Window(), GW_CHILD);
+    ASSERT_NE(spin, nullptr);
+    EXPECT_EQ(GetWindow(spin, GW_HWNDNEXT), nullptr);
+    control_->AcceptHeap();
+}
+
+TEST_F(Record, WithoutAPropertyTheExportsDoNothing)
+{
+    Make(DateConfig());
+    const HANDLE property = RemovePropA(Window(), kProperty);
+    ZTE_FmtSetDataString(Window(), "2001-12-31");
+    EXPECT_EQ(Text(), "07/04/95");
+    EXPECT_EQ(ZTE_FmtGetDataType(Window()), 0);
+    EXPECT_EQ(ZTE_FmtGetData(Window()), nullptr);
+    SetPropA(Window(), kProperty, property);
+}
+
+TEST_F(Record, WithoutAPropertyTheControlIsAPlainEdit)
+{
+    Make(DateConfig());
+    const HANDLE property = RemovePropA(Window(), kProperty);
+    PutCaret(0);
+    Type("x");
+    EXPECT_EQ(Shown(), "x|07/04/95");
+    SetPropA(Window(), kProperty, property);
+}
+
+TEST_F(Record, WithThePropertyPutBackItIsFoundAgain)
+{
+    Make(DateConfig());
+    const HANDLE property = RemovePropA(Window(), kProperty);
+    SetPropA(Window(), kProperty, property);
+    EXPECT_EQ(Value(), "1995-07-04");
+}
+
+// What each export does for a window that is no control: the result, and nothing else.
+struct ExportCase {
+    const char* name;
+    long long (*call)(HWND);
+    long long result;
+};
+
+void PrintTo(const ExportCase& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+long long Address(const void* pointer)
+{
+    return static_cast<long long>(reinterpret_cast<intptr_t>(pointer));
+}
+
+const double kOne = 1.0;
+const double kTwo = 2.0;
+
+// clang-format off: one row a line
+const ExportCase kExports[] = {
+    {"SetAutoskip",
+     [](HWND h) {
+         ZTE_SetAutoskip(h, 1);
+         return 0LL;
+     },                                                                                                         0},
+    {"SetFormatRect",
+     [](HWND h) {
+         ZTE_UtilSetFormatRect(h);
+         return 0LL;
+     },                                                                                                         0},
+    {"SetMask",          [](HWND h) { return static_cast<long long>(ZTE_FmtSetMask(h, "MM/DD/YY", DT_DATE)); }, 1},
+    {"SetData",          [](HWND h) { return static_cast<long long>(ZTE_FmtSetData(h, "abc")); },               0},
+    {"SetDataString",    [](HWND h) { return static_cast<long long>(ZTE_FmtSetDataString(h, "abc")); },         0},
+    {"GetData",          [](HWND h) { return Address(ZTE_FmtGetData(h)); },                                     0},
+    {"GetDataType",      [](HWND h) { return static_cast<long long>(ZTE_FmtGetDataType(h)); },                  0},
+    {"FormatData",       [](HWND h) { return Address(ZTE_FmtFormatData(h, "abc")); },                           0},
+    {"UnformatData",     [](HWND h) { return Address(ZTE_FmtUnformatData(h, "abc")); },                         0},
+    {"SetSpin",
+     [](HWND h) {
+         ZTE_SetSpin(h, 1, "1~2", "a\tb", 0);
+         return 0LL;
+     },                                                                                                         0},
+    {"CreateSpin",
+     [](HWND h) {
+         ZTE_CreateSpin(h);
+         return Address(GetWindow(h, GW_CHILD));
+     },                                                                                                         0},
+    {"DestroySpin",
+     [](HWND h) {
+         ZTE_DestroySpin(h);
+         return 0LL;
+     },                                                                                                         0},
+    {"PaintSpin",
+     [](HWND h) {
+         ZTE_PaintSpin(h, nullptr, nullptr);
+         return 0LL;
+     },                                                                                                         0},
+    {"GetSpinWidth",     [](HWND h) { return static_cast<long long>(ZTE_GetSpinWidth(h, nullptr)); },           0},
+    {"SetSpinBkColor",
+     [](HWND h) {
+         ZTE_SetSpinBkColor(h, 1);
+         return 0LL;
+     },                                                                                                         0},
+    {"SpinRangeCompare", [](HWND h) { return static_cast<long long>(ZTE_SpinRangeCompare(h, &kOne, &kTwo)); },  1},
+};
+// clang-format on
+
+class ExportWithoutAControl : public EditTest, public testing::WithParamInterface<ExportCase> {};
+
+TEST_P(ExportWithoutAControl, LeavesAPlainEditAlone)
+{
+    const HWND plain =
+        CreateWindowExA(0, "edit", "text", WS_CHILD, 0, 0, 100, 20, form_.hwnd(), nullptr, nullptr, nullptr);
+    EXPECT_EQ(GetParam().call(plain), GetParam().result);
+    EXPECT_EQ(TextOf(plain), "text");
+    DestroyWindow(plain);
+}
+
+TEST_P(ExportWithoutAControl, LeavesAnUnconfiguredControlAlone)
+{
+    const HWND plain =
+        CreateWindowExA(0, ZTEDIT_CLASS, "text", WS_CHILD, 0, 0, 100, 20, form_.hwnd(), nullptr, nullptr, nullptr);
+    EXPECT_EQ(GetParam().call(plain), GetParam().result);
+    EXPECT_EQ(TextOf(plain), "text");
+    DestroyWindow(plain);
+}
+
+TEST_P(ExportWithoutAControl, TakesANullWindow)
+{
+    if (std::string(GetParam().name) == "CreateSpin")
+        return ZTE_CreateSpin(nullptr);  // asking for a null window's child would list the desktop's
+    EXPECT_EQ(GetParam().call(nullptr), GetParam().result);
+}
+
+TEST_P(ExportWithoutAControl, TakesADestroyedWindow)
+{
+    Make(DateConfig());
+    const HWND hwnd = Window();
+    control_.reset();
+    EXPECT_EQ(GetParam().call(hwnd), GetParam().result);
+}
+
+INSTANTIATE_TEST_SUITE_P(Exports, ExportWithoutAControl, testing::ValuesIn(kExports), RowName<ExportCase>);
+
+}  // namespace
+}  // namespace zttest
