@@ -1,0 +1,554 @@
+// Input that no careful host or user would give: nothing crashes, overruns memory or loses blocks.
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "tests/support/clipboard.h"
+#include "tests/support/edit_test.h"
+#include "tests/support/profile.h"
+
+namespace zttest {
+namespace {
+
+constexpr int32_t kTypes[] = {DT_STRING, DT_NUMBER, DT_DATE, DT_TIME, DT_DATETIME, DT_DECIMAL};
+
+// True when no heap of the process has been written past a block.
+bool HeapsAreSound()
+{
+    HANDLE heaps[64];
+    const DWORD count = GetProcessHeaps(64, heaps);
+    for (DWORD i = 0; i < count && i < 64; ++i)
+        if (!HeapValidate(heaps[i], 0, nullptr))
+            return false;
+    return true;
+}
+
+class Hostile : public EditTest {
+protected:
+    void TearDown() override { EXPECT_TRUE(HeapsAreSound()); }
+
+    // Every kind of key once, with the caret wherever the last one left it.
+    void PressEverything()
+    {
+        for (const char* keys : {"5",           "a",
+                                 "-",           "+",
+                                 ".",           ",",
+                                 "/",           ":",
+                                 " ",           "P",
+                                 "%",           "{Back}",
+                                 "{Del}",       "{Left}",
+                                 "{Right}",     "{Home}",
+                                 "{End}",       "{Shift+Left}",
+                                 "7",           "{Shift+Home}",
+                                 "{Del}",       "{Shift+End}",
+                                 "{Back}",      "{Ins}",
+                                 "{Shift+Ins}", "{Up}",
+                                 "{Down}",      "{Ctrl+C}",
+                                 "{Ctrl+V}",    "{Ctrl+X}",
+                                 "{Tab}",       "{Esc}",
+                                 "{Enter}",     "1"})
+            Play(keys);
+    }
+    void UseEverything()
+    {
+        PressEverything();
+        SharedHeapFree(control_->heap(), ZTE_FmtGetData(Window()));
+        ZTE_FmtSetData(Window(), nullptr);
+    }
+};
+
+// ---- Masks ---------------------------------------------------------------------------------------------------------------
+
+struct BadMask {
+    const char* name;
+    std::string mask;
+};
+
+void PrintTo(const BadMask& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+std::string AllHighBytes()
+{
+    std::string bytes;
+    for (int byte = 0x80; byte <= 0xFF; ++byte)
+        bytes += static_cast<char>(byte);
+    return bytes;
+}
+
+std::string Repeated(const std::string& text, size_t times)
+{
+    std::string repeated;
+    repeated.reserve(text.size() * times);
+    for (size_t i = 0; i < times; ++i)
+        repeated += text;
+    return repeated;
+}
+
+class MaskOfAnyKind : public Hostile, public testing::WithParamInterface<std::tuple<int32_t, BadMask>> {
+protected:
+    int32_t Type() const { return std::get<0>(GetParam()); }
+    const std::string& Mask() const { return std::get<1>(GetParam()).mask; }
+};
+
+TEST_P(MaskOfAnyKind, IsSurvivedAtCreation)
+{
+    Config config;
+    config.mask = Mask().c_str();
+    config.type = Type();
+    Make(config);
+    PutCaret(0);
+    UseEverything();
+    EXPECT_EQ(ZTE_FmtGetDataType(Window()), Type());
+}
+
+TEST_P(MaskOfAnyKind, IsSurvivedWhenSet)
+{
+    Config config;
+    config.mask = "##";
+    config.type = DT_STRING;
+    Make(config);
+    ZTE_FmtSetMask(Window(), Mask().c_str(), Type());
+    UseEverything();
+    EXPECT_EQ(ZTE_FmtGetDataType(Window()), Type());
+}
+
+const BadMask kBadMasks[] = {
+    {"Empty",                        ""                               },
+    {"TwoHundredFiftyFive",          std::string(255,                   '#')},
+    {"TwoHundredFiftySix",                              std::string(256,                                            '#')},
+    {"SixtyThousand",                          std::string(60000,                '#')},
+    {"SixtyThousandAny",std::string(60000,  'X')},
+    {"LongLiterals",             std::string(254,                                          '-') + "#"},
+    {"Escapes",                              Repeated("~#",                                                  127)},
+    {"SixtyThousandEscapes",                    Repeated("~#",            30000)},
+    {"LoneEscape","~"},
+    {"DoubleEscape",         "~~"         },
+    {"EscapeAtTheEnd",                              "##~"                                                   },
+    {"HighBytes",                              AllHighBytes()                                                                                  },
+    {"HighBytesAroundADigit",                              "\x80\xFF#\xE4\x81"                                      },
+    {"LongDate",                              Repeated("MM/DD/YY ",  100)},
+    {"LongFraction",                              "HH:MM:SS:" + std::string(240,'F')},
+    {"LongAmPm",                              "HH" + Repeated(" AM/PM",                40)},
+    {"CurrencyWithoutParenthesis",                          "[currency"                                                         },
+    {"CurrencyWithLongNumber","[currency(" + std::string(60000,                                           '9') + ")]"},
+    {"CurrencyNegative",                     "[currency(-5)]"},
+    {"CurrencyBig",                              "[currency(65540)]"                                   },
+    {"CurrencyEmpty",                              "[currency()]"},
+    {"Percents",                   std::string(255,          '%')},
+    {"Points",std::string(255,                           '.')},
+    {"Commas","#" + std::string(250,',') + "#"},
+    {"Quotes","\"'\"'#"                                     },
+    {"Backslashes",std::string(255,                 '\\')},
+    {"FormatSigns",                       "%s%n%d%x%s%s%s#"                                               },
+    {"Zeroes",                              std::string(255,                                                        '0')},
+    {"General",                    "[GENERAL]"                                                                         },
+};
+
+std::string MaskName(const testing::TestParamInfo<std::tuple<int32_t, BadMask>>& info)
+{
+    constexpr const char* kNames[] = {"", "String", "Number", "Date", "Time", "DateTime", "Decimal"};
+    return std::string(kNames[std::get<0>(info.param)]) + std::get<1>(info.param).name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Masks, MaskOfAnyKind,
+                         testing::Combine(testing::ValuesIn(kTypes), testing::ValuesIn(kBadMasks)), MaskName);
+
+TEST_F(Hostile, ANullMaskIsTheDefault)
+{
+    Config config;
+    config.type = DT_NUMBER;
+    Make(config);
+    EXPECT_EQ(ZTE_FmtSetMask(Window(), nullptr, DT_NUMBER), 0);
+    EXPECT_EQ(Text(), ".00");
+}
+
+TEST_F(Hostile, AMaskOf256CharactersIsRejected)
+{
+    Config config;
+    config.mask = "##";
+    Make(config);
+    EXPECT_EQ(ZTE_FmtSetMask(Window(), std::string(256, '#').c_str(), DT_STRING), 0);
+}
+
+TEST_F(Hostile, AMaskOf255CharactersIsTaken)
+{
+    Config config;
+    config.mask = "##";
+    Make(config);
+    EXPECT_EQ(ZTE_FmtSetMask(Window(), std::string(255, '#').c_str(), DT_STRING), 1);
+    Type("5");
+    EXPECT_EQ(Text()[0], '5');
+}
+
+TEST_F(Hostile, AMaskOfHighBytesIsShown)
+{
+    Config config;
+    config.mask = "\xE4\xF6#";
+    config.data = "5";
+    Make(config);
+    EXPECT_EQ(Text(),
+              "\xE4\xF6"
+              "5");
+}
+
+class TypeOfNoKind : public Hostile, public testing::WithParamInterface<int32_t> {};
+
+TEST_P(TypeOfNoKind, IsSurvived)
+{
+    Config config;
+    config.mask = "##/AA";
+    config.type = GetParam();
+    config.data = "1234";
+    Make(config);
+    PutCaret(0);
+    PressEverything();
+    SharedHeapFree(control_->heap(), ZTE_FmtGetData(Window()));
+    SharedHeapFree(control_->heap(), ZTE_FmtUnformatData(Window(), "12/34"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Types, TypeOfNoKind, testing::Values(0, 7, 8, -1, 255, 0x7FFFFFFF, INT32_MIN));
+
+// ---- Data ----------------------------------------------------------------------------------------------------------------
+
+struct LongText {
+    const char* name;
+    std::string text;
+};
+
+void PrintTo(const LongText& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+const LongText kLongTexts[] = {
+    {"Nines",                    std::string(100000,             '9')},
+    {"Letters",                          std::string(100000,                                                'x')},
+    {"Blanks",                      std::string(100000,     ' ')},
+    {"Points",std::string(100000,         '.')},
+    {"Signs",                   std::string(100000,                                             '-')},
+    {"Fraction",                          "0." + std::string(100000,                                                  '7')},
+    {"Exponent",                      "1e" + std::string(100000,        '9')},
+    {"HighBytes",Repeated(AllHighBytes(),800)},
+    {"Dates",                 Repeated("1995-07-04 ", 9000)},
+    {"FormatSigns",                          Repeated("%s%n",                                              25000)},
+    {"BigExponent",                      "1e308"                                                                                                   },
+    {"TooBigExponent","-1e99999"            },
+    {"SmallExponent",              "1e-308"   },
+    {"Empty",                          ""                                           },
+};
+
+struct MaskOfType {
+    const char* name;
+    const char* mask;
+    int32_t type;
+};
+
+void PrintTo(const MaskOfType& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+constexpr MaskOfType kMasks[] = {
+    {"StringWithoutMask",     nullptr,                     DT_STRING  },
+    {"String",                "(###) XXX-!!!",             DT_STRING  },
+    {"StringWithoutLiterals", "XXXX",                      DT_STRING  },
+    {"Number",                "#,##0.00",                  DT_NUMBER  },
+    {"Percentage",            "#,##0.00%",                 DT_NUMBER  },
+    {"Amount",                "[currency(16)]",            DT_NUMBER  },
+    {"General",               "[GENERAL]",                 DT_NUMBER  },
+    {"Decimal",               "#,##0.00",                  DT_DECIMAL },
+    {"DecimalPercentage",     "#,##0.00%",                 DT_DECIMAL },
+    {"Date",                  "MM/DD/YY",                  DT_DATE    },
+    {"DateWithName",          "DD-MMM-YYYY",               DT_DATE    },
+    {"DayOfYear",             "JJJ/YYYY",                  DT_DATE    },
+    {"Time",                  "HH:MM:SS:FFFFFF",           DT_TIME    },
+    {"TwelveHours",           "HH:MM AM/PM",               DT_TIME    },
+    {"DateTime",              "MM/DD/YYYY HH:MM:SS AM/PM", DT_DATETIME},
+};
+
+class DataOfAnyLength : public Hostile, public testing::WithParamInterface<std::tuple<MaskOfType, LongText>> {
+protected:
+    void MakeField()
+    {
+        Config config;
+        config.mask = std::get<0>(GetParam()).mask;
+        config.type = std::get<0>(GetParam()).type;
+        Make(config);
+    }
+    const std::string& Text() const { return std::get<1>(GetParam()).text; }
+};
+
+TEST_P(DataOfAnyLength, IsSurvivedAsInitialData)
+{
+    Config config;
+    config.mask = std::get<0>(GetParam()).mask;
+    config.type = std::get<0>(GetParam()).type;
+    config.data = Text().c_str();
+    Make(config);
+    SharedHeapFree(control_->heap(), ZTE_FmtGetData(Window()));
+    PutCaret(0);
+    Play("5a{Del}{Back}");
+}
+
+TEST_P(DataOfAnyLength, IsSurvivedWhenSetAndRead)
+{
+    MakeField();
+    ZTE_FmtSetDataString(Window(), Text().c_str());
+    SharedHeapFree(control_->heap(), ZTE_FmtGetData(Window()));
+    SharedHeapFree(control_->heap(), ZTE_FmtUnformatData(Window(), Text().c_str()));
+}
+
+TEST_P(DataOfAnyLength, IsSurvivedOnTheClipboard)
+{
+    MakeField();
+    CopyToClipboard(Text());
+    SendMessageA(Window(), WM_PASTE, 0, 0);
+    SharedHeapFree(control_->heap(), ZTE_FmtGetData(Window()));
+}
+
+std::string DataName(const testing::TestParamInfo<std::tuple<MaskOfType, LongText>>& info)
+{
+    return std::string(std::get<0>(info.param).name) + std::get<1>(info.param).name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Data, DataOfAnyLength,
+                         testing::Combine(testing::ValuesIn(kMasks), testing::ValuesIn(kLongTexts)), DataName);
+
+class FieldOfEachKind : public Hostile, public testing::WithParamInterface<MaskOfType> {
+protected:
+    void MakeField(uint32_t options = 0)
+    {
+        Config config;
+        config.mask = GetParam().mask;
+        config.type = GetParam().type;
+        config.options = options;
+        config.increment = 1;
+        Make(config);
+        PutCaret(0);
+    }
+};
+
+TEST_P(FieldOfEachKind, SurvivesAMegabyteOnTheClipboard)
+{
+    MakeField();
+    CopyToClipboard(std::string(1 << 20, '7'));
+    Press('V', kCtrl);
+    SharedHeapFree(control_->heap(), ZTE_FmtGetData(Window()));
+    PutCaret(0);
+    Play("5{Del}{Back}");
+}
+
+TEST_P(FieldOfEachKind, SurvivesHighBytesTyped)
+{
+    MakeField();
+    for (int byte = 0x80; byte <= 0xFF; ++byte)
+        SendMessageA(Window(), WM_CHAR, static_cast<WPARAM>(byte), 1);
+    SharedHeapFree(control_->heap(), ZTE_FmtGetData(Window()));
+}
+
+TEST_P(FieldOfEachKind, SurvivesControlCharactersTyped)
+{
+    MakeField();
+    for (int byte = 0; byte < 0x20; ++byte)
+        SendMessageA(Window(), WM_CHAR, static_cast<WPARAM>(byte), 1);
+}
+
+TEST_P(FieldOfEachKind, SurvivesHighBytesPasted)
+{
+    MakeField();
+    CopyToClipboard(AllHighBytes());
+    Press('V', kCtrl);
+    SharedHeapFree(control_->heap(), ZTE_FmtGetData(Window()));
+}
+
+TEST_P(FieldOfEachKind, SurvivesNullTexts)
+{
+    MakeField();
+    ZTE_FmtSetDataString(Window(), nullptr);
+    ZTE_FmtSetData(Window(), nullptr);
+    EXPECT_EQ(ZTE_FmtUnformatData(Window(), nullptr), nullptr);
+    EXPECT_EQ(ZTE_FmtUnformatData(Window(), ""), nullptr);
+}
+
+TEST_P(FieldOfEachKind, SurvivesATextLimitBelowItsLength)
+{
+    MakeField(ZTEO_AUTOSKIP);
+    SendMessageA(Window(), EM_SETLIMITTEXT, 2, 0);
+    PressEverything();
+    ZTE_FmtSetDataString(Window(), "123");
+    PressEverything();
+}
+
+TEST_P(FieldOfEachKind, SurvivesTextsFromOutsideFollowedByEveryKey)
+{
+    MakeField(ZTEO_AUTOSKIP | ZTEO_SPIN);
+    const std::string shown = Text();
+    const std::vector<std::string> texts = {"",
+                                            "1",
+                                            shown.substr(0, shown.size() / 2),
+                                            shown + "9999",
+                                            "????????",
+                                            "\xFF\xFE\x80",
+                                            std::string(254, '9'),
+                                            std::string(300, '9'),
+                                            "-.,-.,-",
+                                            std::string(20000, 'x')};
+    for (const std::string& text : texts)
+        for (const int caret : {0, static_cast<int>(text.size() / 2), static_cast<int>(text.size())}) {
+            SetWindowTextA(Window(), text.c_str());
+            PutCaret(caret);
+            Play("5{Del}{Back}a./:{Left}{Right}{Up}{Down}-");
+        }
+    SetWindowTextA(Window(), "1");
+    PressEverything();
+    SharedHeapFree(control_->heap(), ZTE_FmtGetData(Window()));
+}
+
+TEST_P(FieldOfEachKind, SurvivesASettingsChangeInTheMiddle)
+{
+    MakeField();
+    ZTE_FmtSetDataString(Window(), "1234.5");
+    const Regional german(kGerman);
+    PutCaret(0);
+    PressEverything();
+    ZTE_FmtSetDataString(Window(), "1234.5");
+    PressEverything();
+}
+
+TEST_P(FieldOfEachKind, LosesNoBlocksOverManyKeys)
+{
+    MakeField(ZTEO_AUTOSKIP);
+    const uint32_t before = SharedHeapBlockCount(control_->heap());
+    for (int i = 0; i < 10; ++i)
+        PressEverything();
+    EXPECT_EQ(SharedHeapBlockCount(control_->heap()), before);
+}
+
+TEST_P(FieldOfEachKind, LosesNoBlocksOverManyMasks)
+{
+    MakeField();
+    const uint32_t before = SharedHeapBlockCount(control_->heap());
+    for (int i = 0; i < 10; ++i) {
+        ZTE_FmtSetMask(Window(), "#,##0.00", DT_NUMBER);
+        ZTE_FmtSetMask(Window(), "wrong ~", DT_DATE);
+        ZTE_FmtSetMask(Window(), "[currency(9)]", DT_DECIMAL);
+        ZTE_FmtSetMask(Window(), GetParam().mask, GetParam().type);
+    }
+    EXPECT_EQ(SharedHeapBlockCount(control_->heap()), before);
+}
+
+TEST_P(FieldOfEachKind, ShowsAFloodOfRandomMessagesNoWeakness)
+{
+    MakeField(ZTEO_AUTOSKIP | ZTEO_SPIN);
+    CopyToClipboard("1995-07-04");
+    uint32_t seed = 12345;
+    const auto next = [&seed](uint32_t below) {
+        seed = seed * 1664525u + 1013904223u;
+        return (seed >> 8) % below;
+    };
+    constexpr UINT kMessages[] = {WM_CHAR,  WM_KEYDOWN, WM_KEYUP,       WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK,
+                                  WM_PASTE, WM_CUT,     WM_COPY,        WM_CLEAR,       WM_UNDO,      EM_UNDO,
+                                  WM_MOVE,  WM_SIZE,    WM_SETFOCUS,    WM_KILLFOCUS,   EM_SETSEL,    EM_SETLIMITTEXT,
+                                  WM_CHAR,  WM_KEYDOWN, EM_SCROLLCARET, WM_CHAR,        WM_KEYDOWN,   EM_SETREADONLY};
+    constexpr UINT kCount = sizeof kMessages / sizeof *kMessages;
+    for (int i = 0; i < 4000; ++i) {
+        const UINT message = kMessages[next(kCount)];
+        const bool character = message == WM_CHAR;
+        const WPARAM wParam = next(character ? 256 : 60);
+        const LPARAM lParam =
+            message == EM_SETSEL ? static_cast<LPARAM>(next(300)) : static_cast<LPARAM>(next(0x10000));
+        SendMessageA(Window(), message, message == EM_SETREADONLY ? 0 : wParam, lParam);
+    }
+    EXPECT_TRUE(IsWindow(Window()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Fields, FieldOfEachKind, testing::ValuesIn(kMasks), RowName<MaskOfType>);
+
+TEST_F(Hostile, AnEmptyNumberReadsAsZero)
+{
+    GivenText("#,##0.00", DT_NUMBER, "");
+    EXPECT_EQ(Value(), "0");
+}
+
+TEST_F(Hostile, AnEmptyDateReadsAsNoDate)
+{
+    GivenText("MM/DD/YY", DT_DATE, "");
+    EXPECT_EQ(Value(), "");
+}
+
+TEST_F(Hostile, ANotANumberShowsAsZero)
+{
+    Given("#,##0.00", DT_NUMBER, "5.00");
+    const double value = std::numeric_limits<double>::quiet_NaN();
+    ZTE_FmtSetData(Window(), &value);
+    EXPECT_EQ(Text(), "0.00");
+}
+
+TEST_F(Hostile, InfinityShowsAsZero)
+{
+    Given("#,##0.00", DT_NUMBER, "5.00");
+    const double value = -std::numeric_limits<double>::infinity();
+    ZTE_FmtSetData(Window(), &value);
+    EXPECT_EQ(Text(), "0.00");
+}
+
+TEST_F(Hostile, TheLargestNumberIsSurvived)
+{
+    Given("#,##0.00", DT_NUMBER, "5.00");
+    const double value = std::numeric_limits<double>::max();
+    ZTE_FmtSetData(Window(), &value);
+    PutCaret(0);
+    PressEverything();
+    SharedHeapFree(control_->heap(), ZTE_FmtGetData(Window()));
+}
+
+struct WrongDate {
+    const char* name;
+    DateTimeValue value;
+};
+
+void PrintTo(const WrongDate& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class DateOutOfRange : public Hostile, public testing::WithParamInterface<WrongDate> {};
+
+TEST_P(DateOutOfRange, IsSurvived)
+{
+    for (const MaskOfType& mask : kMasks) {
+        if (mask.type != DT_DATE && mask.type != DT_TIME && mask.type != DT_DATETIME)
+            continue;
+        Config config;
+        config.mask = mask.mask;
+        config.type = mask.type;
+        Make(config);
+        ZTE_FmtSetData(Window(), &GetParam().value);
+        FormatResult* shown = ZTE_FmtFormatData(Window(), &GetParam().value);
+        ASSERT_NE(shown, nullptr);
+        SharedHeapFree(control_->heap(), shown->text);
+        SharedHeapFree(control_->heap(), shown);
+        PutCaret(0);
+        PressEverything();
+        SharedHeapFree(control_->heap(), ZTE_FmtGetData(Window()));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Values, DateOutOfRange,
+                         testing::Values(
+                             WrongDate{
+                                 "AllOnes", {0xFFFFFFFFu, -1, -1, -1, -1, -1, -1, -1}
+},
+                             WrongDate{"AllLargest", {0xFFFFFFFFu, 32767, 127, 127, 127, 127, 127, 127}},
+                             WrongDate{"AllSmallest", {0, -32768, -128, -128, -128, -128, -128, -128}},
+                             WrongDate{"MonthTwelve", {0, 95, 12, 1, 0, 0, 0, 0}},
+                             WrongDate{"DayZero", {0, 95, 6, 0, 0, 0, 0, 0}}),
+                         RowName<WrongDate>);
+
+}  // namespace
+}  // namespace zttest
