@@ -23,6 +23,14 @@ WNDCLASSA SpinClass()
     return spin;
 }
 
+// Another copy of the library may have registered the name first; its class is not this one's to take away.
+void UnregisterOwnClass(const char* name, WNDPROC procedure)
+{
+    WNDCLASSA registered{};
+    if (GetClassInfoA(libraryInstance, name, &registered) && registered.lpfnWndProc == procedure)
+        UnregisterClassA(name, libraryInstance);
+}
+
 }  // namespace
 
 bool RegisterClasses(HINSTANCE instance)
@@ -51,8 +59,8 @@ void UnregisterClasses(int flag)
 {
     if (flag != 0)
         return;
-    UnregisterClassA(ZTEDIT_CLASS, libraryInstance);
-    UnregisterClassA(kSpinClass, libraryInstance);
+    UnregisterOwnClass(ZTEDIT_CLASS, ZTE_SuperEditWndProc);
+    UnregisterOwnClass(kSpinClass, ZTE_SpinWndProc);
 }
 
 }  // namespace zte
