@@ -45,7 +45,7 @@ public:
 
     CodeTable* Parse(const char* text)
     {
-        if (*text == kSeparator)
+        if (text[0] == kSeparator && text[1] != kSeparator)
             ++text;
         while (*text && index_ < INT16_MAX - kGrowth)
             text = TakeItem(text);

@@ -186,7 +186,8 @@ StepResult KeepInRange(const DateStep& step, bool wrapped, DateTimeValue& value)
     return StepResult::Stepped;
 }
 
-// The year moves by the increment and never wraps: past an end that is not given it stops at the calendar's own.
+// The year moves by the increment and never wraps: past an end that is not given it stops at 1800 or 2999, and no step
+// leaves the years 0 to 3000 whatever the range.
 StepResult StepYear(const DateStep& step, DateTimeValue& value)
 {
     const int64_t by = IsUp(step) ? int64_t{step.increment} : -int64_t{step.increment};
@@ -195,7 +196,11 @@ StepResult StepYear(const DateStep& step, DateTimeValue& value)
         return StepResult::Refused;
     if (!IsUp(step) && !HasDate(step.minimum) && year < kYear1800)
         return StepResult::Refused;
-    value.year = static_cast<int16_t>(std::clamp<int64_t>(year, DATETIME_NO_DATE + 1, INT16_MAX));
+    if (IsUp(step) && year > kYear3000)
+        return GoToMinimum(step, value);
+    if (!IsUp(step) && year < kYear0)
+        return GoToMaximum(step, value);
+    value.year = static_cast<int16_t>(year);
     return KeepInRange(step, false, value);
 }
 

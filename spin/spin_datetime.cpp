@@ -131,9 +131,10 @@ bool IsRefused(const SpunField& spun)
     return spun.length == 1 && (spun.field == DateField::Month || spun.field == DateField::Minute);
 }
 
+// Literals, and characters that are no part of the value, stay.
 void ShowField(EditInstance& edit, const SpunField& spun, const std::string& display)
 {
-    if (spun.start >= static_cast<int32_t>(display.size()))
+    if (spun.field == DateField::None || spun.start >= static_cast<int32_t>(display.size()))
         return;
     const std::string part = display.substr(static_cast<size_t>(spun.start), static_cast<size_t>(spun.length));
     Select(edit, spun.start, spun.start + spun.length);

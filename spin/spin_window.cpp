@@ -34,9 +34,10 @@ void MoveFlag(EditInstance& edit, uint32_t from, uint32_t to)
     SetFlag(edit, to, Has(edit, from));
 }
 
-// The spin takes the range and the code table with it; the increment and the bounds stay.
+// The spin takes the range and the code table with it; the increment and the bounds stay. A press does not outlive it.
 void OnDestroy(HWND spin, EditInstance& edit)
 {
+    SetFlag(edit, SPIN_UP | SPIN_DOWN | SPIN_TRACKING | SPIN_UP_HELD | SPIN_DOWN_HELD, false);
     DropFace(edit.spinFaceNormal);
     DropFace(edit.spinFacePressed);
     if (char* range = std::exchange(edit.spinRange, nullptr))
@@ -55,6 +56,9 @@ void OnPaint(HWND spin, const EditInstance& edit)
     EndPaint(spin, &paint);
 }
 
+// False once the spin is gone, or the button was let go inside a message that the press has led to.
+bool IsPressed(HWND spin, const EditInstance& edit) { return edit.hwndSpin == spin && Has(edit, SPIN_TRACKING); }
+
 void OnPress(HWND spin, EditInstance& edit, LPARAM lParam)
 {
     if (IsInputRefused(edit.hwnd))
@@ -68,9 +72,10 @@ void OnPress(HWND spin, EditInstance& edit, LPARAM lParam)
     SetCapture(spin);
     SetFocus(edit.hwnd);
     life.Check();
-    SpinStep(edit, spin);
+    if (IsPressed(spin, edit))
+        SpinStep(edit, spin);
     life.Check();
-    if (edit.hwndSpin != spin)
+    if (!IsPressed(spin, edit))
         return;
     SetTimer(spin, kRepeatTimer, kRepeatMilliseconds, nullptr);
     Invalidate(spin);
@@ -146,18 +151,24 @@ bool Route(HWND spin, EditInstance& edit, UINT message, WPARAM wParam, LPARAM lP
     }
 }
 
-LRESULT OnCreate(HWND spin, LPARAM lParam)
+// The record knows its spin from here on: the control may be destroyed before its creation is over.
+LRESULT OnCreate(HWND spin, const CREATESTRUCTA* creation)
 {
-    const auto& creation = *reinterpret_cast<const CREATESTRUCTA*>(lParam);
-    if (auto* edit = static_cast<EditInstance*>(creation.lpCreateParams))
-        AttachEditInstance(spin, edit);
+    auto* edit = creation ? static_cast<EditInstance*>(creation->lpCreateParams) : nullptr;
+    if (!edit)
+        return 0;
+    AttachEditInstance(spin, edit);
+    edit->hwndSpin = spin;
     return 0;
 }
 
-HWND CreateSpinWindow(EditInstance& edit, DWORD style, const RECT& place)
+// Creates the spin, which stores itself in the record.
+void CreateSpinWindow(EditInstance& edit, DWORD style, const RECT& place)
 {
-    return CreateWindowExA(0, kSpinClass, "", style, place.left, place.top, place.right - place.left,
-                           place.bottom - place.top, edit.hwnd, nullptr, libraryInstance, &edit);
+    const LifeCheck life(edit);
+    CreateWindowExA(0, kSpinClass, "", style, place.left, place.top, place.right - place.left,
+                    place.bottom - place.top, edit.hwnd, nullptr, libraryInstance, &edit);
+    life.Check();
 }
 
 // Setting the formatting rectangle loses the text in some edit controls; it is put back.
@@ -181,7 +192,7 @@ void CreateSpin(EditInstance& edit)
     GetClientRect(edit.hwnd, &client);
     RECT place = client;
     place.left = client.right - SpinWidthForHeight(static_cast<int16_t>(client.bottom - client.top));
-    edit.hwndSpin = CreateSpinWindow(edit, WS_CHILD | WS_VISIBLE, place);
+    CreateSpinWindow(edit, WS_CHILD | WS_VISIBLE, place);
     client.right = place.left;
     SetFormatRect(edit, client, text);
 }
@@ -200,7 +211,12 @@ void DestroySpin(EditInstance& edit)
 
 }  // namespace
 
-void CreateHiddenSpin(EditInstance& edit) { edit.hwndSpin = CreateSpinWindow(edit, WS_CHILD, {}); }
+// A host may have created it already, in a notification of the control's first text.
+void CreateHiddenSpin(EditInstance& edit)
+{
+    if (!edit.hwndSpin)
+        CreateSpinWindow(edit, WS_CHILD, {});
+}
 
 }  // namespace zte
 
@@ -225,7 +241,7 @@ void WINAPI ZTE_DestroySpin(HWND hwnd)
 LRESULT CALLBACK ZTE_SpinWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_CREATE)
-        return OnCreate(hwnd, lParam);
+        return OnCreate(hwnd, reinterpret_cast<const CREATESTRUCTA*>(lParam));
     EditInstance* edit = GetEditInstance(hwnd);
     if (edit && WhileAlive(*edit, true, [&] { return Route(hwnd, *edit, message, wParam, lParam); }))
         return 0;
