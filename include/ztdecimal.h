@@ -4,7 +4,8 @@
  * record, so that a host may hand one to OLE Automation and back. It holds at least 28 significant digits; addition,
  * subtraction and comparison inside that range are exact.
  *
- * Every function is re-entrant and keeps no state. Pointers are borrowed for the call only.
+ * Every function is re-entrant and keeps no state. Pointers are borrowed for the call only. A null operand, or a record
+ * whose scale is above 28, counts as zero; a null destination is left alone. Zero never has a sign.
  *
  *     DecimalValue price, tax, sum;
  *     DecFromString(&price, "19.90", 2);

@@ -63,7 +63,7 @@ typedef struct SharedListData* SharedList;
 
 SharedList WINAPI SharedListCreate(SharedHeap heap, uint32_t flags); /* lives in heap */
 void WINAPI SharedListDestroy(SharedList list);                      /* null is ignored; elements are not freed */
-void WINAPI SharedListAppend(SharedList list, void* element);        /* at the end; the cursor stays */
+void WINAPI SharedListAppend(SharedList list, void* element);        /* at the end; the cursor stays where it is */
 
 /* Each moves the cursor and returns the element it then stands on, or null (empty list, past the end, before the start).
  * A cursor past the end stays there under Next and goes to the last element under Prev; before the start likewise. */
@@ -119,24 +119,27 @@ void WINAPI SharedDateTimeNow(DateTimeValue* value);
  *   0        a digit that is always shown, before the point and after it
  *   #        a significant digit
  *   .        the point, always shown when the format has one, as the regional decimal character
- *   ,        between integer placeholders: grouping by three with the regional thousands character
+ *   ,        between integer placeholders: grouping by three with the regional thousands character; elsewhere before
+ *            the point it means and shows nothing
  *   %        behind the placeholders: the value times 100, with a percent sign
  *   \x       the character x as it stands
  *   others   literal text
- *   [GENERAL] the plain form: up to 15 significant digits, no grouping, no trailing zeros
+ *   [GENERAL] the plain form: up to 15 significant digits, no grouping, no trailing zeros; an exponent ("1.5E+20") only
+ *            for more than 15 digits before the point or more than 15 zeros after it
  *
  * Rounding is half away from zero in decimal. Integer digits beyond the placeholders are all shown. A '-' stands
  * directly before the first digit or point, behind the literals ("$-5.00"); a value that rounds to zero has no sign. NaN
- * and the infinities show as 0. A format with no digit placeholder, with a second point, with a ',' after the point,
- * with a placeholder after '%', or with a lone '\' at its end is invalid.
+ * and the infinities show as 0. Literal text between placeholders keeps its place, counted from the point ("00-00" shows
+ * 1234 as 12-34). A format with no digit placeholder, with a second point, with a ',' after the point, with a placeholder
+ * after '%', or with a lone '\' at its end is invalid.
  */
 #define SHARED_FORMAT_SIZE 256
 
 /* Compiles a format text.
  *
  * compiled  receives the compiled format, an opaque record of at most size bytes that may be copied and needs no release.
- * size      bytes at compiled; a format that does not fit is refused. 256 holds every format of up to 200 characters.
- * Returns 0 on success, non-zero when the text is not a valid format.
+ * size      bytes at compiled; a format that does not fit is refused. 256 holds every format of up to 255 characters.
+ * Returns 0 on success, non-zero when the text is not a valid format; compiled then renders every value as an empty text.
  */
 int32_t WINAPI SharedCompileFormat(void* compiled, const char* format, int32_t size);
 
@@ -144,10 +147,11 @@ int32_t WINAPI SharedCompileFormat(void* compiled, const char* format, int32_t s
  *
  * output    receives the text, cut to size - 1 characters, always terminated when size is above 0.
  * flags     0
- * Returns the length of the text.
+ * Returns the length of the text in output. Without a compiled format or a decimal the text is empty.
  */
 int32_t WINAPI SharedFormatDouble(char* output, int32_t size, const void* compiled, double value, uint32_t flags);
-int32_t WINAPI SharedFormatDecimal(char* output, int32_t size, const void* compiled, const DecimalValue* value, uint32_t flags);
+int32_t WINAPI SharedFormatDecimal(char* output, int32_t size, const void* compiled, const DecimalValue* value,
+                                   uint32_t flags);
 
 /* Reads the regional decimal and thousands characters and the AM and PM strings again from the profile section "intl".
  * They are read once when the library is loaded; the masked edit control calls this when it is told of a change. */
