@@ -160,12 +160,14 @@ void EnterChar(EditInstance& edit, WPARAM typedChar)
     if (static_cast<uint32_t>(position) > static_cast<uint32_t>(edit.displayLength - 1))
         return;
     std::string text = ReadText(edit);
+    if (IsCarriedLiteral(edit, text, carried, position, typed))
+        return;
     const MaskItem* item = ItemAt(edit, text, position);
     if (!item)
         EnterOnLiteral(edit, text, position, typed);
     else if (IsAccepted(edit, *item, typed, position))
         PlaceAndGoOn(edit, text, position, typed);
-    else if (!IsCarriedLiteral(edit, text, carried, position, typed))
+    else
         SkipAhead(edit, text, position, typed);
 }
 

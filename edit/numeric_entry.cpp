@@ -35,9 +35,11 @@ struct NumericEntry {
     bool IsDigitTyped() const { return IsDigit(typed); }
 };
 
-// The caret among the same digits as before the text was laid anew.
-int32_t SamePlace(const std::string& before, int32_t position, const std::string& after)
+// The caret among the same digits as before the text was laid anew; into a number that was emptied, at its start.
+int32_t SamePlace(const EditInstance& edit, const std::string& before, int32_t position, const std::string& after)
 {
+    if (before.empty())
+        return edit.firstFieldPos;
     const int32_t offset = DigitOffset(before, position);
     return DigitOffset(after, position) == offset ? position : PositionBehindDigit(after, offset);
 }
@@ -45,7 +47,7 @@ int32_t SamePlace(const std::string& before, int32_t position, const std::string
 void Refuse(EditInstance& edit, const NumericEntry& entry)
 {
     ReformatNumber(edit, nullptr);
-    PlaceCaret(edit, SamePlace(entry.text, entry.position, ReadText(edit)));
+    PlaceCaret(edit, SamePlace(edit, entry.text, entry.position, ReadText(edit)));
     Beep();
 }
 
@@ -70,17 +72,17 @@ void EnterPoint(EditInstance& edit, const NumericEntry& entry)
     const int32_t point = entry.Point();
     if (entry.position < point)
         return CutToPoint(edit, entry);
-    if (entry.position > point) {
-        if (!IsCarriedLiteral(edit, entry.text, entry.carried, entry.position, entry.typed))
-            Refuse(edit, entry);
-        return;
-    }
+    if (entry.position > point)
+        return Refuse(edit, entry);
     PlaceCaret(edit, point + 1);
     ChooseCharwiseByPoint(edit, entry.text);
 }
 
+// A separator over which the caret has just been carried is taken as typed: 123.45 may be typed as it is read.
 void EnterRefused(EditInstance& edit, const NumericEntry& entry)
 {
+    if (IsCarriedLiteral(edit, entry.text, entry.carried, entry.position, entry.typed))
+        return;
     if (entry.typed == DecimalChar() && edit.decimalPlaces != 0)
         EnterPoint(edit, entry);
     else
@@ -179,6 +181,26 @@ int32_t Overwrite(EditInstance& edit, const NumericEntry& entry)
     return tookSign ? BehindSign(edit, entry, placed, behind) : caret;
 }
 
+// The escaped literals at the start of the mask, which laying a number anew expects in the text.
+std::string LeadingLiterals(const EditInstance& edit)
+{
+    std::string literals;
+    for (const char* mask = edit.mask; mask[0] == '~' && mask[1]; mask += 2)
+        literals += mask[1];
+    return literals;
+}
+
+// Where the caret goes after the number was laid anew around an inserted character: by as much as the text has grown, and
+// behind the digit just placed where that would be another place. A leading 0 that was dropped again is no digit placed.
+int32_t BehindInserted(const NumericEntry& entry, const std::string& inserted, int32_t behind, const std::string& text,
+                       int32_t growth)
+{
+    const int32_t offset = DigitOffset(inserted, behind);
+    const bool dropped = DigitOffset(text, 0) > DigitOffset(inserted, 0);
+    const bool moved = entry.IsDigitTyped() && !dropped && DigitOffset(text, behind + growth) != offset;
+    return entry.Length() == 0 || moved ? PositionBehindDigit(text, offset) : behind + growth;
+}
+
 // Inserts before the point and lays the number anew; the caret stays behind the digit just placed.
 int32_t Insert(EditInstance& edit, const NumericEntry& entry)
 {
@@ -187,11 +209,9 @@ int32_t Insert(EditInstance& edit, const NumericEntry& entry)
         SendCharToBase(edit, *c, entry.keyData);
     const int32_t behind = Caret(edit);
     const std::string inserted = ReadText(edit);
-    int32_t caret = behind + ReformatNumber(edit, nullptr);
-    const std::string text = ReadText(edit);
-    const int32_t offset = DigitOffset(inserted, behind);
-    if (entry.Length() == 0 || DigitOffset(text, caret) != offset)
-        caret = PositionBehindDigit(text, offset);
+    const std::string whole = entry.Length() == 0 ? LeadingLiterals(edit) + inserted : inserted;
+    const int32_t growth = ReformatNumber(edit, whole.c_str());
+    const int32_t caret = BehindInserted(entry, inserted, behind, ReadText(edit), growth);
     PlaceCaret(edit, caret);
     return caret;
 }

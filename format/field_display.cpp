@@ -182,7 +182,7 @@ private:
         case 'F':
             return Digits("%.6u", noTime ? 0 : value_.microsecond);
         default:
-            return {};  // free text: blank until it is typed
+            return std::string(static_cast<size_t>(run), ' ');  // free text: blank until it is typed
         }
     }
 
