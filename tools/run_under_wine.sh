@@ -7,11 +7,19 @@ root=$(cd "$(dirname "$0")/.." && pwd)
 export WINEPREFIX="${WINEPREFIX:-$root/build/wineprefix}"
 export WINEARCH=win64
 export WINEDEBUG="${WINEDEBUG:--all}"
-export WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml=}"
+export WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml=;winemenubuilder.exe=d}"
 export LC_ALL=C.UTF-8
 
-mkdir -p "$(dirname "$WINEPREFIX")"
-if [ -n "${DISPLAY:-}" ]; then
-    exec wine "$@" </dev/null
+if [ -z "${DISPLAY:-}" ]; then
+    exec xvfb-run --auto-servernum "$0" "$@"
 fi
-exec xvfb-run --auto-servernum wine "$@" </dev/null
+
+# Wine's services inherit the standard error of the program that happens to start them, and outlive it: a caller that reads
+# a pipe to its end would wait for them. So that stream goes through a file.
+mkdir -p "$(dirname "$WINEPREFIX")"
+errors=$(mktemp)
+trap 'rm -f "$errors"' EXIT
+wine "$@" </dev/null 2>"$errors"
+result=$?
+cat "$errors"
+exit $result
