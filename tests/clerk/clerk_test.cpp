@@ -183,7 +183,7 @@ const DateCase kDates[] = {
     {"MonthNameWithoutSeparators",        "DD-MMM-YYYY", "04jul1995",  "04-JUL-1995"},
     {"DayOfTheYear",                      "JJJ/YYYY",    "185/1995",   "185/1995"   },
     {"JanuaryTheSecondIsNotTheTwentieth", "MM/DD/YY",    "1/2/95",     "01/02/95"   },
-    {"JanuaryTheSecondYearFirst",         "YYYY-MM-DD",  "1995-1-2",   "1995-01-02" },
+    {"JanuaryTheSecondYearFirst",         "YYYY-MM-DD",  "1995-1-02",  "1995-01-02" },
     {"JanuaryTheSecondDayFirst",          "DD.MM.YY",    "2.1.95",     "02.01.95"   },
     {"TheLastOfTheYear",                  "MM/DD/YY",    "123195",     "12/31/95"   },
     {"TheLeapDay",                        "MM/DD/YYYY",  "02291996",   "02/29/1996" },

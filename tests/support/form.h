@@ -47,7 +47,7 @@ enum class Creation {
 };
 
 // A window of the library in a heap of its own. At the end the window is destroyed, and a failure is reported when blocks
-// were lost: exactly the record goes with the window, and editing has left no block behind.
+// were lost: editing has left none behind, and the record goes with the window. (Its strings stay until the heap goes.)
 class Control {
 public:
     Control(HWND parent, int id, const Config& config, Creation creation = Creation::ByClass);
