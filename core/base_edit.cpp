@@ -148,6 +148,9 @@ void NotifyAutoskip(const EditInstance& edit)
     life.Check();
 }
 
-void Beep() { MessageBeep(0); }
+void Beep()
+{
+    MessageBeep(0);
+}
 
 }  // namespace zte

@@ -21,11 +21,17 @@ struct Selection {
 };
 
 Selection GetSelection(const EditInstance& edit);
-inline int32_t Caret(const EditInstance& edit) { return GetSelection(edit).start; }
+inline int32_t Caret(const EditInstance& edit)
+{
+    return GetSelection(edit).start;
+}
 
 // EM_SCROLLCARET and EM_SETSEL, sent to the control so that a host's subclass sees them.
 void Select(const EditInstance& edit, int32_t start, int32_t end);
-inline void PlaceCaret(const EditInstance& edit, int32_t position) { Select(edit, position, position); }
+inline void PlaceCaret(const EditInstance& edit, int32_t position)
+{
+    Select(edit, position, position);
+}
 
 // EM_REPLACESEL to the base, without an undo step.
 void ReplaceSelection(const EditInstance& edit, const char* text);

@@ -14,17 +14,17 @@ class LifeGuard;
 
 // Bits of EditInstance::flags.
 enum : uint32_t {
-    CHARWISE = 0x1,          // position-by-position editing
-    AUTOSKIP = 0x2,          // the focus moves on when the last position is filled
-    HAS_SPIN = 0x4,          // created with a spin
-    ZERO_PADDED = 0x8,       // typedChar holds a padded digit or the rest of a month name
-    SPIN_UP = 0x10,          // an upward step is in progress
-    SPIN_DOWN = 0x20,        // a downward step is in progress
-    SPIN_TRACKING = 0x40,    // the spin holds the mouse capture
-    SPIN_UP_HELD = 0x80,     // SPIN_UP parked while the pointer is outside
-    SPIN_DOWN_HELD = 0x100,  // SPIN_DOWN parked likewise
-    CODE_PICKLIST = 0x400,   // keystrokes choose code-table entries
-    CODE_SPIN = 0x800,       // data is shown through the code table
+    CHARWISE = 0x1,            // position-by-position editing
+    AUTOSKIP = 0x2,            // the focus moves on when the last position is filled
+    HAS_SPIN = 0x4,            // created with a spin
+    ZERO_PADDED = 0x8,         // typedChar holds a padded digit or the rest of a month name
+    SPIN_UP = 0x10,            // an upward step is in progress
+    SPIN_DOWN = 0x20,          // a downward step is in progress
+    SPIN_TRACKING = 0x40,      // the spin holds the mouse capture
+    SPIN_UP_HELD = 0x80,       // SPIN_UP parked while the pointer is outside
+    SPIN_DOWN_HELD = 0x100,    // SPIN_DOWN parked likewise
+    CODE_PICKLIST = 0x400,     // keystrokes choose code-table entries
+    CODE_SPIN = 0x800,         // data is shown through the code table
     CODE_POSITIONED = 0x1000,  // the code-table cursor stands on the entry shown
     BACKSPACE_DONE = 0x2000,   // the character of a Backspace already carried out is to be swallowed
     TYPING = 0x4000,           // a typed character is being processed
@@ -72,24 +72,33 @@ struct EditInstance {
     int16_t fractionPos;
     int16_t fractionLen;
     // Everything above is laid out for callers that look into the record; state of our own goes below.
-    LifeGuard* guard;          // innermost entry into the library that works on this record
-    int32_t carriedFrom;       // typing has just carried the caret over the literals from here ...
-    int32_t carriedTo;         // ... to here; 0: it has not
-    bool redrawOff;            // redrawing was turned off by the library
-    bool swallowBackspace;     // the character of a Backspace already carried out in a number is to come
+    LifeGuard* guard;       // innermost entry into the library that works on this record
+    int32_t carriedFrom;    // typing has just carried the caret over the literals from here ...
+    int32_t carriedTo;      // ... to here; 0: it has not
+    bool redrawOff;         // redrawing was turned off by the library
+    bool swallowBackspace;  // the character of a Backspace already carried out in a number is to come
 };
 
 static_assert(std::is_trivially_copyable_v<EditInstance>, "the record is allocated zeroed and freed as one block");
 
-inline bool Has(const EditInstance& edit, uint32_t bits) { return (edit.flags & bits) != 0; }
+inline bool Has(const EditInstance& edit, uint32_t bits)
+{
+    return (edit.flags & bits) != 0;
+}
 
 inline void SetFlag(EditInstance& edit, uint32_t bits, bool on)
 {
     edit.flags = on ? edit.flags | bits : edit.flags & ~bits;
 }
 
-inline bool IsNumeric(int32_t dataType) { return dataType == DT_NUMBER || dataType == DT_DECIMAL; }
-inline bool IsDateOrTime(int32_t dataType) { return dataType >= DT_DATE && dataType <= DT_DATETIME; }
+inline bool IsNumeric(int32_t dataType)
+{
+    return dataType == DT_NUMBER || dataType == DT_DECIMAL;
+}
+inline bool IsDateOrTime(int32_t dataType)
+{
+    return dataType >= DT_DATE && dataType <= DT_DATETIME;
+}
 inline bool HasAmPmField(const EditInstance& edit)
 {
     return Has(edit, AMPM) && (edit.dataType == DT_TIME || edit.dataType == DT_DATETIME);

@@ -23,10 +23,16 @@ constexpr WPARAM kLineFeed = 10;
 constexpr WPARAM kCtrlV = 22;
 constexpr WPARAM kEscape = 27;
 
-bool IsCopy(WPARAM typed) { return typed == kCtrlC || typed == kCtrlD; }
+bool IsCopy(WPARAM typed)
+{
+    return typed == kCtrlC || typed == kCtrlD;
+}
 
 // Never beeped at: dialogs give them other meanings.
-bool IsLeftToTheForm(WPARAM typed) { return typed == kTab || typed == kLineFeed || typed == kEscape; }
+bool IsLeftToTheForm(WPARAM typed)
+{
+    return typed == kTab || typed == kLineFeed || typed == kEscape;
+}
 
 void ReleaseShift()
 {

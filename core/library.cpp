@@ -65,7 +65,10 @@ void UnregisterClasses(int flag)
 
 }  // namespace zte
 
-int32_t WINAPI WEP(int32_t /*argument*/) { return 1; }
+int32_t WINAPI WEP(int32_t /*argument*/)
+{
+    return 1;
+}
 
 // The language runtime has been started by its own entry point before this one is called. A failed registration is not
 // reported: the library stays loaded without its classes.

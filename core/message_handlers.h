@@ -11,7 +11,10 @@ struct Reply {
     LRESULT result;
 };
 constexpr Reply kPassOn{false, 0};
-constexpr Reply Keep(LRESULT result = 1) { return {true, result}; }
+constexpr Reply Keep(LRESULT result = 1)
+{
+    return {true, result};
+}
 
 // Placement and painting of the spin.
 Reply OnMove(EditInstance& edit);

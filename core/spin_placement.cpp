@@ -8,7 +8,10 @@ namespace zte {
 
 namespace {
 
-void Invalidate(HWND hwnd) { InvalidateRect(hwnd, nullptr, TRUE); }
+void Invalidate(HWND hwnd)
+{
+    InvalidateRect(hwnd, nullptr, TRUE);
+}
 
 bool IsEmptyWindow(HWND hwnd)
 {

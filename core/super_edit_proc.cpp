@@ -26,42 +26,28 @@ bool NeedsRecord(UINT message)
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:
     case WM_LBUTTONDBLCLK:
-    case WM_PASTE:
-        return true;
-    default:
-        return false;
+    case WM_PASTE: return true;
+    default: return false;
     }
 }
 
 Reply Route(EditInstance& edit, UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
-    case WM_MOVE:
-        return OnMove(edit);
-    case WM_SIZE:
-        return OnSize(edit, wParam, lParam);
+    case WM_MOVE: return OnMove(edit);
+    case WM_SIZE: return OnSize(edit, wParam, lParam);
     case WM_SETFOCUS:
-    case WM_KILLFOCUS:
-        return OnFocus(edit);
-    case WM_PAINT:
-        return OnPaint(edit);
-    case WM_SETFONT:
-        return OnSetFont(edit, wParam, lParam);
-    case WM_KEYDOWN:
-        return OnKeyDown(edit, wParam, lParam);
-    case WM_KEYUP:
-        return OnKeyUp(edit, wParam);
-    case WM_CHAR:
-        return OnChar(edit, wParam, lParam);
+    case WM_KILLFOCUS: return OnFocus(edit);
+    case WM_PAINT: return OnPaint(edit);
+    case WM_SETFONT: return OnSetFont(edit, wParam, lParam);
+    case WM_KEYDOWN: return OnKeyDown(edit, wParam, lParam);
+    case WM_KEYUP: return OnKeyUp(edit, wParam);
+    case WM_CHAR: return OnChar(edit, wParam, lParam);
     case WM_LBUTTONDOWN:
-    case WM_LBUTTONDBLCLK:
-        return OnButtonDown(edit);
-    case WM_LBUTTONUP:
-        return OnButtonUp(edit, wParam, lParam);
-    case WM_PASTE:
-        return OnPaste(edit);
-    default:
-        return kPassOn;
+    case WM_LBUTTONDBLCLK: return OnButtonDown(edit);
+    case WM_LBUTTONUP: return OnButtonUp(edit, wParam, lParam);
+    case WM_PASTE: return OnPaste(edit);
+    default: return kPassOn;
     }
 }
 

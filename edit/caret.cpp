@@ -10,7 +10,10 @@ namespace {
 
 constexpr int kPressed = 0x8000;
 
-bool IsPressed(int key) { return (GetKeyState(key) & kPressed) != 0; }
+bool IsPressed(int key)
+{
+    return (GetKeyState(key) & kPressed) != 0;
+}
 
 bool MayTypeAt(const EditInstance& edit, const std::string& text, int32_t position)
 {

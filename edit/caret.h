@@ -28,7 +28,8 @@ LiteralRun LiteralsAt(const EditInstance& edit, const std::string& text, int32_t
 // position that may be typed at was reached.
 bool SkipLiterals(EditInstance& edit, const std::string& text, int32_t position);
 
-// The literals that typing has just carried the caret over; forgotten by the call.
+// The literals that typing has just carried the caret over (from equals to: none, the caret stands behind a digit just
+// inserted); forgotten by the call.
 struct CarriedOver {
     int32_t from;
     int32_t to;  // where the caret was carried; 0: nowhere

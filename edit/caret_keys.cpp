@@ -14,9 +14,15 @@ namespace zte {
 
 namespace {
 
-bool IsShiftPressed() { return (GetKeyState(VK_SHIFT) & 0x8000) != 0; }
+bool IsShiftPressed()
+{
+    return (GetKeyState(VK_SHIFT) & 0x8000) != 0;
+}
 
-bool IsNumericMode(const EditInstance& edit) { return IsNumeric(edit.dataType) && edit.maskJustSet != 0; }
+bool IsNumericMode(const EditInstance& edit)
+{
+    return IsNumeric(edit.dataType) && edit.maskJustSet != 0;
+}
 
 // The key-down did all that its Backspace does in a number; the character that follows has nothing left to do.
 bool FinishNumberKey(EditInstance& edit, WPARAM key)
@@ -55,8 +61,8 @@ bool DeleteInNumber(EditInstance& edit, WPARAM key, LPARAM keyData)
     }
     const int32_t caret = Caret(edit);
     const std::string text = ReadText(edit);
-    const bool deletable = key == VK_BACK ? caret > 0 && ReachDigitLeft(edit, text, caret, keyData)
-                                          : CanDeleteAt(edit, text, caret);
+    const bool deletable =
+        key == VK_BACK ? caret > 0 && ReachDigitLeft(edit, text, caret, keyData) : CanDeleteAt(edit, text, caret);
     if (!deletable)
         return FinishNumberKey(edit, key);
     edit.deletePending = 1;
@@ -136,7 +142,10 @@ bool HandleInsert(EditInstance& edit)
     return true;
 }
 
-bool MovesOrDeletes(WPARAM key) { return key == VK_BACK || (key >= VK_PRIOR && key <= VK_DELETE); }
+bool MovesOrDeletes(WPARAM key)
+{
+    return key == VK_BACK || (key >= VK_PRIOR && key <= VK_DELETE);
+}
 
 }  // namespace
 
@@ -146,18 +155,13 @@ bool HandleKeyDown(EditInstance& edit, WPARAM key, LPARAM keyData)
         edit.carriedTo = 0;
     switch (key) {
     case VK_BACK:
-    case VK_DELETE:
-        return HandleDeletion(edit, key, keyData);
+    case VK_DELETE: return HandleDeletion(edit, key, keyData);
     case VK_LEFT:
-    case VK_RIGHT:
-        return HandleArrow(edit, key, keyData);
+    case VK_RIGHT: return HandleArrow(edit, key, keyData);
     case VK_UP:
-    case VK_DOWN:
-        return HandleSpinKey(edit, key);
-    case VK_INSERT:
-        return HandleInsert(edit);
-    default:
-        return false;
+    case VK_DOWN: return HandleSpinKey(edit, key);
+    case VK_INSERT: return HandleInsert(edit);
+    default: return false;
     }
 }
 

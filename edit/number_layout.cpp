@@ -11,18 +11,30 @@ namespace zte {
 
 namespace {
 
-int32_t Length(const std::string& text) { return static_cast<int32_t>(text.size()); }
+int32_t Length(const std::string& text)
+{
+    return static_cast<int32_t>(text.size());
+}
 
-bool IsDigitAt(const std::string& text, int32_t position) { return IsDigit(text[static_cast<size_t>(position)]); }
+bool IsDigitAt(const std::string& text, int32_t position)
+{
+    return IsDigit(text[static_cast<size_t>(position)]);
+}
 
-// The decimal point, or the place behind the last digit where there is none.
+bool IsSignAt(const std::string& text, int32_t position)
+{
+    const char c = text[static_cast<size_t>(position)];
+    return c == '-' || c == '+';
+}
+
+// The decimal point, or the place behind the last digit or sign where there is none.
 int32_t PointOrEnd(const std::string& text)
 {
     const size_t point = text.find(DecimalChar());
     if (point != std::string::npos)
         return static_cast<int32_t>(point);
     int32_t end = Length(text);
-    while (end > 0 && !IsDigitAt(text, end - 1))
+    while (end > 0 && !IsDigitAt(text, end - 1) && !IsSignAt(text, end - 1))
         --end;
     return end;
 }
@@ -57,22 +69,24 @@ bool IsInFraction(const EditInstance& edit, const std::string& text, int32_t pos
     return point < position && position < point + edit.decimalPlaces + 1;
 }
 
-int32_t DigitOffset(const std::string& text, int32_t position)
+DigitPlace DigitPlaceOf(const std::string& text, int32_t position)
 {
     const int32_t point = PointOrEnd(text);
-    return position <= point ? -CountDigits(text, position, point) : CountDigits(text, point, position);
+    const bool behind = position > point;
+    return {behind, behind ? CountDigits(text, point, position) : CountDigits(text, position, point)};
 }
 
-int32_t PositionBehindDigit(const std::string& text, int32_t digitOffset)
+int32_t PositionOf(const std::string& text, DigitPlace place)
 {
     const int32_t point = PointOrEnd(text);
-    int32_t position = point;
-    if (digitOffset > 0) {
-        while (position < Length(text) && CountDigits(text, point, position) < digitOffset)
+    if (place.behindPoint) {
+        int32_t position = point + 1;
+        while (position < Length(text) && CountDigits(text, point, position) < place.digits)
             ++position;
         return position;
     }
-    while (position > 0 && CountDigits(text, position, point) < -digitOffset)
+    int32_t position = point;
+    while (position > 0 && CountDigits(text, position, point) < place.digits)
         --position;
     // Left over separators up to the digit before; a sign or a literal is no digit to stand behind.
     int32_t behind = position;

@@ -17,10 +17,19 @@ int32_t MaskPointPos(const EditInstance& edit);
 // Whether a position lies among the fraction digits, the first of them included, the place behind the last not.
 bool IsInFraction(const EditInstance& edit, const std::string& text, int32_t position);
 
-// A caret position as the digits see it: how many of them lie between it and the decimal point, negative in the integer part.
-int32_t DigitOffset(const std::string& text, int32_t position);
+// A caret position as the digits see it: before or behind the point (or the end of the digits where there is none), and how
+// many digits lie between.
+struct DigitPlace {
+    bool behindPoint;
+    int32_t digits;
+    bool operator==(const DigitPlace& other) const
+    {
+        return behindPoint == other.behindPoint && digits == other.digits;
+    }
+};
+DigitPlace DigitPlaceOf(const std::string& text, int32_t position);
 
-// The position directly behind the digit that has an offset; before the first digit where no digit lies that far left.
-int32_t PositionBehindDigit(const std::string& text, int32_t digitOffset);
+// The position of a place, directly behind the digit left of it where there is one.
+int32_t PositionOf(const std::string& text, DigitPlace place);
 
 }  // namespace zte

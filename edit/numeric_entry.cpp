@@ -35,19 +35,19 @@ struct NumericEntry {
     bool IsDigitTyped() const { return IsDigit(typed); }
 };
 
-// The caret among the same digits as before the text was laid anew; into a number that was emptied, at its start.
-int32_t SamePlace(const EditInstance& edit, const std::string& before, int32_t position, const std::string& after)
+// The caret among the same digits as before the text was laid anew: it goes along with the text's growth, unless that would
+// be another place.
+int32_t SamePlace(const std::string& before, int32_t position, const std::string& after, int32_t growth)
 {
-    if (before.empty())
-        return edit.firstFieldPos;
-    const int32_t offset = DigitOffset(before, position);
-    return DigitOffset(after, position) == offset ? position : PositionBehindDigit(after, offset);
+    const DigitPlace place = DigitPlaceOf(before, position);
+    const int32_t moved = position + growth;
+    return !before.empty() && DigitPlaceOf(after, moved) == place ? moved : PositionOf(after, place);
 }
 
 void Refuse(EditInstance& edit, const NumericEntry& entry)
 {
-    ReformatNumber(edit, nullptr);
-    PlaceCaret(edit, SamePlace(edit, entry.text, entry.position, ReadText(edit)));
+    const int32_t growth = ReformatNumber(edit, nullptr);
+    PlaceCaret(edit, SamePlace(entry.text, entry.position, ReadText(edit), growth));
     Beep();
 }
 
@@ -89,11 +89,11 @@ void EnterRefused(EditInstance& edit, const NumericEntry& entry)
         Refuse(edit, entry);
 }
 
-// Directly behind the last digit of a percentage without a fraction the next digit belongs to the number.
-bool IsBehindDigits(const EditInstance& edit, const NumericEntry& entry)
+// Directly behind a digit just typed before a percent sign the next digit belongs to the number.
+bool IsBehindInserted(const EditInstance& edit, const NumericEntry& entry)
 {
-    return edit.typedFractionChar[0] != '\0' && entry.position > 0 && entry.Under() == '%' &&
-           IsDigit(entry.text[static_cast<size_t>(entry.position) - 1]);
+    const CarriedOver& last = entry.carried;
+    return edit.typedFractionChar[0] != '\0' && last.to != 0 && last.to == entry.position && last.from == last.to;
 }
 
 // On a literal: before the number the character goes to its start, on a separator it goes to the digits there, anywhere
@@ -108,7 +108,7 @@ bool LeaveLiteral(EditInstance& edit, NumericEntry& entry)
         PlaceCaret(edit, entry.position);
         return true;
     }
-    return mask == '.' || mask == ',' || IsBehindDigits(edit, entry);
+    return mask == '.' || mask == ',' || IsBehindInserted(edit, entry);
 }
 
 // The decimal character is never overwritten: a digit goes to the first fraction digit, a sign is inserted before it.
@@ -123,7 +123,7 @@ bool SparePoint(EditInstance& edit, NumericEntry& entry)
         return true;
     }
     ++entry.position;
-    return edit.decimalPlaces != 0;
+    return edit.decimalPlaces != 0 || IsDigit(entry.Under());
 }
 
 void EnterMinus(EditInstance& edit, const NumericEntry& entry)
@@ -157,14 +157,15 @@ int32_t LayOverwritten(EditInstance& edit, const NumericEntry& entry, int32_t ca
 }
 
 // Behind the digit that has taken the sign's place, or else behind where the sign was.
-int32_t BehindSign(EditInstance& edit, const NumericEntry& entry, const std::string& placed, int32_t behind)
+void PlaceBehindSign(const EditInstance& edit, const NumericEntry& entry, const std::string& placed, int32_t behind)
 {
     const std::string text = ReadText(edit);
-    const int32_t caret = entry.IsDigitTyped() ? PositionBehindDigit(text, DigitOffset(placed, behind)) : 1;
-    PlaceCaret(edit, caret);
-    return caret;
+    const DigitPlace place = DigitPlaceOf(placed, behind);
+    const int32_t caret = PositionOf(text, place);
+    PlaceCaret(edit, entry.IsDigitTyped() && caret > 0 ? caret : 1);
 }
 
+// Returns the position from which the caret passes separators.
 int32_t Overwrite(EditInstance& edit, const NumericEntry& entry)
 {
     const bool layAnew = edit.decimalPlaces != 0 && !Has(edit, CHARWISE);
@@ -178,7 +179,9 @@ int32_t Overwrite(EditInstance& edit, const NumericEntry& entry)
     const bool tookSign = entry.Under() == '-';
     const std::string placed = tookSign ? ReadText(edit) : std::string();
     const int32_t caret = layAnew ? LayOverwritten(edit, entry, behind) : behind;
-    return tookSign ? BehindSign(edit, entry, placed, behind) : caret;
+    if (tookSign)
+        PlaceBehindSign(edit, entry, placed, behind);
+    return caret;
 }
 
 // The escaped literals at the start of the mask, which laying a number anew expects in the text.
@@ -192,13 +195,15 @@ std::string LeadingLiterals(const EditInstance& edit)
 
 // Where the caret goes after the number was laid anew around an inserted character: by as much as the text has grown, and
 // behind the digit just placed where that would be another place. A leading 0 that was dropped again is no digit placed.
-int32_t BehindInserted(const NumericEntry& entry, const std::string& inserted, int32_t behind, const std::string& text,
-                       int32_t growth)
+int32_t BehindInserted(const EditInstance& edit, const NumericEntry& entry, const std::string& inserted, int32_t behind,
+                       const std::string& text, int32_t growth)
 {
-    const int32_t offset = DigitOffset(inserted, behind);
-    const bool dropped = DigitOffset(text, 0) > DigitOffset(inserted, 0);
-    const bool moved = entry.IsDigitTyped() && !dropped && DigitOffset(text, behind + growth) != offset;
-    return entry.Length() == 0 || moved ? PositionBehindDigit(text, offset) : behind + growth;
+    if (entry.Length() == 0 && !entry.IsDigitTyped() && edit.decimalPlaces != 0)
+        return edit.firstFieldPos;
+    const DigitPlace place = DigitPlaceOf(inserted, behind);
+    const bool dropped = DigitPlaceOf(text, 0).digits < DigitPlaceOf(inserted, 0).digits;
+    const bool moved = entry.IsDigitTyped() && !dropped && !(DigitPlaceOf(text, behind + growth) == place);
+    return entry.Length() == 0 || moved ? PositionOf(text, place) : behind + growth;
 }
 
 // Inserts before the point and lays the number anew; the caret stays behind the digit just placed.
@@ -211,8 +216,9 @@ int32_t Insert(EditInstance& edit, const NumericEntry& entry)
     const std::string inserted = ReadText(edit);
     const std::string whole = entry.Length() == 0 ? LeadingLiterals(edit) + inserted : inserted;
     const int32_t growth = ReformatNumber(edit, whole.c_str());
-    const int32_t caret = BehindInserted(entry, inserted, behind, ReadText(edit), growth);
+    const int32_t caret = BehindInserted(edit, entry, inserted, behind, ReadText(edit), growth);
     PlaceCaret(edit, caret);
+    edit.carriedFrom = edit.carriedTo = caret;
     return caret;
 }
 
@@ -263,7 +269,8 @@ void EnterNumericChar(EditInstance& edit, WPARAM typedChar, LPARAM keyData)
     UpdateFormatRect(edit);
     edit.typedFractionChar[0] = '\0';
     edit.typedChar[0] = '\0';
-    NumericEntry entry{static_cast<char>(typedChar & 0xFF), keyData, Caret(edit), ReadText(edit), TakeCarriedOver(edit)};
+    NumericEntry entry{static_cast<char>(typedChar & 0xFF), keyData, Caret(edit), ReadText(edit),
+                       TakeCarriedOver(edit)};
     if (IsFull(edit, entry))
         return;
     if (ValidateNumberDigit(static_cast<unsigned char>(entry.typed), edit, entry.position))

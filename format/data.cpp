@@ -24,7 +24,10 @@ const char* LookupText(const EditInstance& edit, const void* data)
     return edit.dataType == DT_STRING ? static_cast<const char*>(data) : nullptr;
 }
 
-bool CanLookUp(const EditInstance& edit, const void* data) { return !data || edit.dataType == DT_STRING; }
+bool CanLookUp(const EditInstance& edit, const void* data)
+{
+    return !data || edit.dataType == DT_STRING;
+}
 
 // Shows the data through the code table; false when it is to be formatted.
 bool ShowCode(EditInstance& edit, const void* data)
@@ -60,7 +63,8 @@ void ShowDisplay(EditInstance& edit, const Display& display)
 DateTimeValue DateTimeFromText(EditInstance& edit, const char* text)
 {
     DateTimeValue value;
-    if (LooksLikeDisplayText(edit, text) && WalkDateText(edit, text, value) && CheckByCanonicalText(edit.dataType, value))
+    if (LooksLikeDisplayText(edit, text) && WalkDateText(edit, text, value) &&
+        CheckByCanonicalText(edit.dataType, value))
         return value;
     ParseCanonical(edit.dataType, text, value);
     return value;

@@ -32,7 +32,10 @@ bool ShowsAt(const char* text, int32_t position, const char* marker)
 }
 
 // The first characters of a field, as text of its own.
-std::string Cut(const char* text, int32_t length) { return {text, strnlen(text, static_cast<size_t>(length))}; }
+std::string Cut(const char* text, int32_t length)
+{
+    return {text, strnlen(text, static_cast<size_t>(length))};
+}
 
 // Reads a number of a fixed count of characters; false when they are none.
 bool ReadNumber(const char* text, int32_t length, int32_t& number)
@@ -143,24 +146,17 @@ bool ReadHour(const EditInstance& edit, WalkedText text, FieldsSeen& seen, DateT
 bool ReadField(EditInstance& edit, DateTimeValue& value, WalkedText text, FieldsSeen& seen, char letter, int32_t run)
 {
     switch (letter) {
-    case 'D':
-        return StoreNumber(text.field, 2, value.day);
-    case 'H':
-        return ReadHour(edit, text, seen, value);
+    case 'D': return StoreNumber(text.field, 2, value.day);
+    case 'H': return ReadHour(edit, text, seen, value);
     case 'M':
         if (seen.hour)
             return StoreNumber(text.field, 2, value.minute);
         return run == 2 ? ReadMonthNumber(text.field, value) : ReadMonthName(text.field, value);
-    case 'S':
-        return StoreNumber(text.field, 2, value.second);
-    case 'F':
-        return ReadFraction(text.field, run, value);
-    case 'Y':
-        return ReadYear(edit, text.field, run, seen, value);
-    case 'J':
-        return ReadDayOfYear(edit, text.field, seen, value);
-    default:
-        return true;
+    case 'S': return StoreNumber(text.field, 2, value.second);
+    case 'F': return ReadFraction(text.field, run, value);
+    case 'Y': return ReadYear(edit, text.field, run, seen, value);
+    case 'J': return ReadDayOfYear(edit, text.field, seen, value);
+    default: return true;
     }
 }
 

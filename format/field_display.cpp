@@ -65,7 +65,10 @@ std::string Digits(const char* format, uint32_t number)
     return text;
 }
 
-std::string TwoDigitText(int32_t number) { return Digits("%.2u", static_cast<uint32_t>(number)); }
+std::string TwoDigitText(int32_t number)
+{
+    return Digits("%.2u", static_cast<uint32_t>(number));
+}
 
 std::string YearText(const DateTimeValue& value, int32_t run)
 {
@@ -102,7 +105,9 @@ std::string HourText(const EditInstance& edit, int32_t hour)
 class FieldFormatter {
 public:
     FieldFormatter(const EditInstance& edit, const void* data, Display& display)
-        : edit_(edit), display_(display), text_(static_cast<const char*>(data)),
+        : edit_(edit),
+          display_(display),
+          text_(static_cast<const char*>(data)),
           value_(data && IsDateOrTime(edit.dataType) ? *static_cast<const DateTimeValue*>(data) : kEmptyDateTime)
     {
     }
@@ -164,25 +169,17 @@ private:
         const bool noDate = value_.year == DATETIME_NO_DATE;
         const bool noTime = value_.hour == DATETIME_NO_TIME;
         switch (letter) {
-        case 'Y':
-            return YearText(value_, run);
+        case 'Y': return YearText(value_, run);
         case 'M':
             if (hourSeen_)
                 return TwoDigitText(noTime ? 0 : value_.minute);
             return MonthText(value_, run);
-        case 'D':
-            return TwoDigitText(noDate ? 0 : value_.day);
-        case 'J':
-            return DayOfYearText(edit_, value_);
-        case 'H':
-            hourSeen_ = true;
-            return noTime ? "00" : HourText(edit_, value_.hour);
-        case 'S':
-            return TwoDigitText(noTime ? 0 : value_.second);
-        case 'F':
-            return Digits("%.6u", noTime ? 0 : value_.microsecond);
-        default:
-            return std::string(static_cast<size_t>(run), ' ');  // free text: blank until it is typed
+        case 'D': return TwoDigitText(noDate ? 0 : value_.day);
+        case 'J': return DayOfYearText(edit_, value_);
+        case 'H': hourSeen_ = true; return noTime ? "00" : HourText(edit_, value_.hour);
+        case 'S': return TwoDigitText(noTime ? 0 : value_.second);
+        case 'F': return Digits("%.6u", noTime ? 0 : value_.microsecond);
+        default: return std::string(static_cast<size_t>(run), ' ');  // free text: blank until it is typed
         }
     }
 

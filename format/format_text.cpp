@@ -11,9 +11,15 @@ namespace zte {
 
 namespace {
 
-bool IsSeparator(char c) { return c == '.' || c == ',' || c == '%'; }
+bool IsSeparator(char c)
+{
+    return c == '.' || c == ',' || c == '%';
+}
 
-bool IsPlaceholder(char c, int32_t dataType) { return FindMaskItem(c, dataType) != nullptr; }
+bool IsPlaceholder(char c, int32_t dataType)
+{
+    return FindMaskItem(c, dataType) != nullptr;
+}
 
 const char* EndOfLiterals(const char* mask, int32_t dataType)
 {
@@ -22,7 +28,10 @@ const char* EndOfLiterals(const char* mask, int32_t dataType)
     return mask;
 }
 
-const char* BehindEscape(const char* mask) { return mask[1] ? mask + 2 : mask + 1; }
+const char* BehindEscape(const char* mask)
+{
+    return mask[1] ? mask + 2 : mask + 1;
+}
 
 }  // namespace
 

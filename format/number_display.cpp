@@ -12,7 +12,8 @@ namespace zte {
 namespace {
 
 constexpr char kDefaultFormat[] = "#,#.00";
-constexpr int32_t kRenderedSize = 1024;  // the largest double has 309 digits, 102 separators and a mask's worth of literals
+constexpr int32_t kRenderedSize =
+    1024;  // the largest double has 309 digits, 102 separators and a mask's worth of literals
 
 // A mask that is no format (it came from a keyword) is shown by the default one.
 void Compile(const EditInstance& edit, char (&compiled)[SHARED_FORMAT_SIZE])
@@ -22,17 +23,20 @@ void Compile(const EditInstance& edit, char (&compiled)[SHARED_FORMAT_SIZE])
         SharedCompileFormat(compiled, kDefaultFormat, sizeof compiled);
 }
 
-bool BeginsNumber(char c) { return IsDigit(c) || c == '+' || c == '-'; }
+bool BeginsNumber(char c)
+{
+    return IsDigit(c) || c == '+' || c == '-';
+}
 
 // The first digit or sign; a point directly before it comes first, so that a fraction is entered on its point. Where no
-// digit is shown, the place of the first one.
-int32_t FirstNumberPos(const EditInstance& edit, const std::string& text)
+// digit is shown, the place of the first one behind the literals.
+int32_t FirstNumberPos(const EditInstance& edit, const std::string& text, bool hasLiterals)
 {
     size_t position = 0;
     while (position < text.size() && !BeginsNumber(text[position]))
         ++position;
     if (position == text.size())
-        return FirstPlaceholderPos(edit.mask, edit.dataType);
+        return hasLiterals ? FirstPlaceholderPos(edit.mask, edit.dataType) : 0;
     const auto first = static_cast<int32_t>(position);
     // Without a point in the text its position counts as 0, so that 1 becomes 0 as well; kept.
     return edit.decimalPlaces != 0 && first == DecimalCharPos(text) + 1 ? first - 1 : first;
@@ -41,9 +45,10 @@ int32_t FirstNumberPos(const EditInstance& edit, const std::string& text)
 void Finish(const EditInstance& edit, const char* rendered, Display& display)
 {
     display.text = rendered;
-    if (HasLiterals(edit.mask, edit.dataType))
+    const bool hasLiterals = HasLiterals(edit.mask, edit.dataType);
+    if (hasLiterals)
         display.formatFlags |= FORMAT_HAS_LITERALS;
-    display.firstFieldPos = FirstNumberPos(edit, display.text);
+    display.firstFieldPos = FirstNumberPos(edit, display.text, hasLiterals);
 }
 
 }  // namespace

@@ -12,7 +12,10 @@ namespace zte {
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+bool IsBlank(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
 
 const char* SkipDigits(const char* text)
 {
@@ -66,7 +69,10 @@ double NumberFromPlainText(const char* text)
     return negative ? -value : value;
 }
 
-double NumberFromText(const char* text) { return NumberFromPlainText(WithPlainPoint(text).c_str()); }
+double NumberFromText(const char* text)
+{
+    return NumberFromPlainText(WithPlainPoint(text).c_str());
+}
 
 DecimalValue DecimalFromText(const char* text, int32_t decimalPlaces)
 {

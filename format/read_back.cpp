@@ -109,7 +109,10 @@ DateTimeValue WindowDateTime(EditInstance& edit, const std::string& text, bool l
     return value;
 }
 
-int32_t Length(const std::string& text) { return static_cast<int32_t>(text.size()); }
+int32_t Length(const std::string& text)
+{
+    return static_cast<int32_t>(text.size());
+}
 
 constexpr int16_t kYear2000 = 100;
 constexpr int16_t kYearZero = -1900;

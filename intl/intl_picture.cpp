@@ -51,7 +51,10 @@ struct RunRule {
 };
 
 // Three day letters stay three; every other count is the two-digit day. Kept: pictures with "ddd" exist.
-void WriteDay(MaskWriter& out, int32_t count) { out.Repeat('d', count == 3 ? 3 : 2); }
+void WriteDay(MaskWriter& out, int32_t count)
+{
+    out.Repeat('d', count == 3 ? 3 : 2);
+}
 
 void WriteYear(MaskWriter& out, int32_t count)
 {
@@ -65,12 +68,12 @@ constexpr RunRule kMonthRule = {'M', 4, PICTURE_LONG_MONTH, [](MaskWriter& out, 
 constexpr RunRule kMinuteRule = {'M', 2, PICTURE_LONG_MINUTE, [](MaskWriter& out, int32_t) { out.Put("mm"); }};
 
 constexpr RunRule kRunRules[] = {
-    {'D', 4, PICTURE_LONG_DAY,    WriteDay                                                },
-    {'Y', 4, PICTURE_BAD_YEAR,    WriteYear                                               },
-    {'H', 2, PICTURE_LONG_HOUR,   [](MaskWriter& out, int32_t) { out.Put("hh"); }         },
-    {'S', 2, PICTURE_LONG_SECOND, [](MaskWriter& out, int32_t) { out.Put("ss"); }         },
-    // One letter more than was read: kept, masks in use were built this way.
-    {'F', 6, PICTURE_LONG_FRACTION, [](MaskWriter& out, int32_t count) { out.Repeat('f', count + 1); }},
+    {'D',                    4,                  PICTURE_LONG_DAY,                               WriteDay},
+    {   'Y',                     4,   PICTURE_BAD_YEAR,                                      WriteYear        },
+    { 'H',     2,     PICTURE_LONG_HOUR,                    [](MaskWriter& out,         int32_t) { out.Put("hh"); }},
+    { 'S',   2,   PICTURE_LONG_SECOND,                    [](MaskWriter& out,         int32_t) { out.Put("ss"); }},
+ // One letter more than was read: kept, masks in use were built this way.
+    { 'F', 6, PICTURE_LONG_FRACTION, [](MaskWriter& out,         int32_t count) { out.Repeat('f', count + 1); }},
 };
 
 const RunRule* FindRunRule(char letter, bool hourSeen)
@@ -142,16 +145,11 @@ const char* TakeItem(const char* picture, bool& hourSeen, MaskWriter& out)
         return TakeRun(*rule, picture, out);
     }
     switch (letter) {
-    case 'A':
-        return TakeAmPm(picture, out);
-    case '\\':
-        return TakeEscaped(picture + 1, out);
+    case 'A': return TakeAmPm(picture, out);
+    case '\\': return TakeEscaped(picture + 1, out);
     case '\'':
-    case '"':
-        return TakeQuoted(picture + 1, letter, out);
-    default:
-        out.Put(*picture);
-        return picture + 1;
+    case '"': return TakeQuoted(picture + 1, letter, out);
+    default: out.Put(*picture); return picture + 1;
     }
 }
 

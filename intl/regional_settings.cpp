@@ -54,6 +54,9 @@ void ReadIntlSettings()
     SharedReadRegionalSettings();
 }
 
-char DecimalChar() { return regionalSettings.decimalChar ? regionalSettings.decimalChar : '.'; }
+char DecimalChar()
+{
+    return regionalSettings.decimalChar ? regionalSettings.decimalChar : '.';
+}
 
 }  // namespace zte

@@ -14,14 +14,32 @@ constexpr int32_t kMonths = 12;
 // Common years, then leap years.
 constexpr MonthRow kMonthTable[2][kMonths] = {
     {
-     {2000, 0, 0, 31},   {2001, 1, 31, 28},  {2002, 2, 59, 31},  {2003, 3, 90, 30},
-     {2004, 4, 120, 31}, {2005, 5, 151, 30}, {2006, 6, 181, 31}, {2007, 7, 212, 31},
-     {2008, 8, 243, 30}, {2009, 9, 273, 31}, {2010, 10, 304, 30}, {2011, 11, 334, 31},
+     {2000, 0, 0, 31},
+     {2001, 1, 31, 28},
+     {2002, 2, 59, 31},
+     {2003, 3, 90, 30},
+     {2004, 4, 120, 31},
+     {2005, 5, 151, 30},
+     {2006, 6, 181, 31},
+     {2007, 7, 212, 31},
+     {2008, 8, 243, 30},
+     {2009, 9, 273, 31},
+     {2010, 10, 304, 30},
+     {2011, 11, 334, 31},
      },
     {
-     {2000, 0, 0, 31},   {2001, 1, 31, 29},  {2002, 2, 60, 31},  {2003, 3, 91, 30},
-     {2004, 4, 121, 31}, {2005, 5, 152, 30}, {2006, 6, 182, 31}, {2007, 7, 213, 31},
-     {2008, 8, 244, 30}, {2009, 9, 274, 31}, {2010, 10, 305, 30}, {2011, 11, 335, 31},
+     {2000, 0, 0, 31},
+     {2001, 1, 31, 29},
+     {2002, 2, 60, 31},
+     {2003, 3, 91, 30},
+     {2004, 4, 121, 31},
+     {2005, 5, 152, 30},
+     {2006, 6, 182, 31},
+     {2007, 7, 213, 31},
+     {2008, 8, 244, 30},
+     {2009, 9, 274, 31},
+     {2010, 10, 305, 30},
+     {2011, 11, 335, 31},
      },
 };
 static_assert(kMonthTable[0][0].nameId == kFirstMonthNameId);
@@ -55,7 +73,10 @@ int32_t DaysInMonth(int32_t yearDigits, const DateTimeValue& value)
     return MonthRowOf(yearDigits, value.year, value.month).days;
 }
 
-int32_t DaysInYear(int32_t yearDigits, int32_t yearValue) { return IsLeapYear(yearDigits, yearValue) ? 366 : 365; }
+int32_t DaysInYear(int32_t yearDigits, int32_t yearValue)
+{
+    return IsLeapYear(yearDigits, yearValue) ? 366 : 365;
+}
 
 int32_t DayOfYear(int32_t yearDigits, const DateTimeValue& value)
 {
@@ -66,8 +87,8 @@ int32_t DayOfYear(int32_t yearDigits, const DateTimeValue& value)
 void DateFromDayOfYear(int32_t yearDigits, int32_t dayOfYear, DateTimeValue& value)
 {
     const MonthRow* table = TableFor(yearDigits, value.year);
-    const MonthRow* behind = std::find_if(table, table + kMonths,
-                                          [dayOfYear](const MonthRow& row) { return row.daysBefore >= dayOfYear; });
+    const MonthRow* behind =
+        std::find_if(table, table + kMonths, [dayOfYear](const MonthRow& row) { return row.daysBefore >= dayOfYear; });
     const MonthRow& row = behind == table ? table[0] : behind[-1];
     value.month = static_cast<int8_t>(row.index);
     value.day = static_cast<int8_t>(std::clamp(dayOfYear - row.daysBefore, -1, 127));

@@ -30,7 +30,10 @@ std::string FractionPart(int32_t digits)
     return "." + std::string(digits > 0 ? static_cast<size_t>(digits) : 0, '0');
 }
 
-bool IsSymbolBehind(int32_t position) { return position == 1 || position == 3; }
+bool IsSymbolBehind(int32_t position)
+{
+    return position == 1 || position == 3;
+}
 
 }  // namespace
 

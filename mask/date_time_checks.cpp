@@ -25,7 +25,10 @@ constexpr uint32_t kDateFields = FIELD_DAY | FIELD_MONTH | FIELD_YEAR | FIELD_JU
 constexpr uint32_t kTimeFields = FIELD_HOUR | FIELD_MINUTE | FIELD_SECOND | FIELD_FRACTION | FIELD_AMPM;
 
 // Bit n: a run of n letters is accepted.
-constexpr uint32_t Runs(int32_t shortest, int32_t longest) { return (2u << longest) - (1u << shortest); }
+constexpr uint32_t Runs(int32_t shortest, int32_t longest)
+{
+    return (2u << longest) - (1u << shortest);
+}
 
 struct FieldRule {
     char letter;
@@ -36,14 +39,14 @@ struct FieldRule {
 };
 
 constexpr FieldRule kFieldRules[] = {
-    {'D', FIELD_DAY,      Runs(2, 2),              FIELD_JULIAN,            &EditInstance::dayPos     },
-    {'M', FIELD_MONTH,    Runs(2, 3),              FIELD_JULIAN,            &EditInstance::monthPos   },
-    {'Y', FIELD_YEAR,     Runs(2, 2) | Runs(4, 4), 0,                       nullptr                   },
-    {'J', FIELD_JULIAN,   Runs(3, 3),              FIELD_DAY | FIELD_MONTH, nullptr                   },
-    {'H', FIELD_HOUR,     Runs(2, 2),              0,                       &EditInstance::hourPos    },
-    {'M', FIELD_MINUTE,   Runs(2, 2),              0,                       &EditInstance::minutePos  },
-    {'S', FIELD_SECOND,   Runs(2, 2),              0,                       &EditInstance::secondPos  },
-    {'F', FIELD_FRACTION, Runs(1, 6),              0,                       &EditInstance::fractionPos},
+    {'D', FIELD_DAY,   Runs(2, 2),               FIELD_JULIAN, &EditInstance::dayPos  },
+    {'M', FIELD_MONTH, Runs(2, 3),               FIELD_JULIAN, &EditInstance::monthPos},
+    {'Y', FIELD_YEAR,  Runs(2, 2) | Runs(4,      4),           0,                       nullptr},
+    {'J',   FIELD_JULIAN,            Runs(3,    3),   FIELD_DAY | FIELD_MONTH,          nullptr       },
+    {'H',   FIELD_HOUR,            Runs(2,      2),     0,          &EditInstance::hourPos                    },
+    {'M',   FIELD_MINUTE,            Runs(2,    2),   0,          &EditInstance::minutePos         },
+    {'S',   FIELD_SECOND,            Runs(2,    2),   0,          &EditInstance::secondPos                    },
+    {'F',   FIELD_FRACTION,            Runs(1,  6), 0,          &EditInstance::fractionPos           },
 };
 
 // How one type of mask is walked.
@@ -145,10 +148,16 @@ private:
     uint32_t seen_ = 0;
 };
 
-bool IsTooLong(const char* mask) { return strnlen(mask, kMaxMaskLength + 1) > kMaxMaskLength; }
+bool IsTooLong(const char* mask)
+{
+    return strnlen(mask, kMaxMaskLength + 1) > kMaxMaskLength;
+}
 
 // If the first field is there, the second must be.
-bool Requires(const FieldWalk& walk, FieldBit field, uint32_t required) { return !walk.Saw(field) || walk.Saw(required); }
+bool Requires(const FieldWalk& walk, FieldBit field, uint32_t required)
+{
+    return !walk.Saw(field) || walk.Saw(required);
+}
 
 bool HasWholeTime(const FieldWalk& walk)
 {
@@ -179,9 +188,9 @@ bool CheckTimeMask(EditInstance& edit, const char* mask)
 bool CheckDateTimeMask(EditInstance& edit, const char* mask)
 {
     FieldWalk walk(edit, mask, kDateTimeWalk);
-    return KeepAmPm(edit, walk,
-                    !IsTooLong(mask) && walk.Run() && HasWholeTime(walk) &&
-                        Requires(walk, FIELD_DAY, FIELD_MONTH | FIELD_YEAR));
+    return KeepAmPm(
+        edit, walk,
+        !IsTooLong(mask) && walk.Run() && HasWholeTime(walk) && Requires(walk, FIELD_DAY, FIELD_MONTH | FIELD_YEAR));
 }
 
 }  // namespace zte

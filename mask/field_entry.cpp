@@ -9,8 +9,11 @@
 namespace zte {
 
 FieldEntry::FieldEntry(const EditInstance& edit, int32_t typedChar, int32_t at)
-    : text(ReadText(edit)), position(at), typed(static_cast<char>(typedChar)),
-      index(MaskRunBefore(edit.mask, at, edit.dataType)), length(index + 1 + MaskRunAfter(edit.mask, at, edit.dataType))
+    : text(ReadText(edit)),
+      position(at),
+      typed(static_cast<char>(typedChar)),
+      index(MaskRunBefore(edit.mask, at, edit.dataType)),
+      length(index + 1 + MaskRunAfter(edit.mask, at, edit.dataType))
 {
 }
 

@@ -12,10 +12,16 @@ namespace zte {
 
 namespace {
 
-bool IsTooLong(const char* mask) { return strnlen(mask, kMaxMaskLength + 1) > kMaxMaskLength; }
+bool IsTooLong(const char* mask)
+{
+    return strnlen(mask, kMaxMaskLength + 1) > kMaxMaskLength;
+}
 
 // "~" must be followed by a character to escape, which is not "~" itself.
-bool IsBadEscape(const char* at) { return at[1] == '\0' || at[1] == '~'; }
+bool IsBadEscape(const char* at)
+{
+    return at[1] == '\0' || at[1] == '~';
+}
 
 // The walk over a number mask: what has been seen so far decides what may come.
 class NumberMaskWalk {
@@ -126,19 +132,13 @@ bool CheckNumberMask(const char* mask)
 bool CheckMask(EditInstance& edit, const char* mask, int32_t dataType)
 {
     switch (dataType) {
-    case DT_STRING:
-        return CheckStringMask(mask);
+    case DT_STRING: return CheckStringMask(mask);
     case DT_NUMBER:
-    case DT_DECIMAL:
-        return CheckNumberMask(mask);
-    case DT_DATE:
-        return CheckDateMask(edit, mask);
-    case DT_TIME:
-        return CheckTimeMask(edit, mask);
-    case DT_DATETIME:
-        return CheckDateTimeMask(edit, mask);
-    default:
-        return true;
+    case DT_DECIMAL: return CheckNumberMask(mask);
+    case DT_DATE: return CheckDateMask(edit, mask);
+    case DT_TIME: return CheckTimeMask(edit, mask);
+    case DT_DATETIME: return CheckDateTimeMask(edit, mask);
+    default: return true;
     }
 }
 

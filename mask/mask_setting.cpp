@@ -31,8 +31,14 @@ Expansion ExpandPicture(int32_t kind, int32_t size)
     return mask;
 }
 
-Expansion ExpandDate() { return ExpandPicture(PICTURE_DATE, kMaxMaskLength); }
-Expansion ExpandTime() { return ExpandPicture(PICTURE_TIME, kMaxMaskLength); }
+Expansion ExpandDate()
+{
+    return ExpandPicture(PICTURE_DATE, kMaxMaskLength);
+}
+Expansion ExpandTime()
+{
+    return ExpandPicture(PICTURE_TIME, kMaxMaskLength);
+}
 
 Expansion ExpandDateTime()
 {

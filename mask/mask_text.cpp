@@ -12,7 +12,8 @@ namespace zte {
 namespace {
 
 constexpr int32_t kAmPmLength = 5;
-constexpr char kEscaped[] = "~";  // stands for a literal written with the escape, so that it never looks like a mask character
+constexpr char kEscaped[] =
+    "~";  // stands for a literal written with the escape, so that it never looks like a mask character
 constexpr char kNothing[] = "";
 
 // The digits of a number do not stand under their placeholders; its positions are told by the text.
@@ -58,14 +59,14 @@ const char* MaskTextAt(const char* mask, int32_t position)
     return kNothing;
 }
 
-MaskChar MaskCharAt(const char* mask, const char* text, int32_t dataType, int32_t position)
+MaskChar MaskCharAt(const char* mask, const std::string* text, int32_t dataType, int32_t position)
 {
     if (!FollowsDigits(mask, dataType))
         return {*MaskTextAt(mask, position), false};
     if (!text)
         return {'\0', true};
-    const bool inside = position >= 0 && position < static_cast<int32_t>(std::strlen(text));
-    return {NumericMaskChar(mask, inside ? text[position] : '\0', position), false};
+    const bool inside = position >= 0 && position < static_cast<int32_t>(text->size());
+    return {NumericMaskChar(mask, inside ? (*text)[static_cast<size_t>(position)] : '\0', position), false};
 }
 
 bool IsInsideAmPmField(const EditInstance& edit, int32_t position)
@@ -78,7 +79,7 @@ MaskChar MaskCharAt(const EditInstance& edit, const std::string& text, int32_t p
 {
     if (IsInsideAmPmField(edit, position))
         return {kEscaped[0], false};
-    return MaskCharAt(edit.mask, text.c_str(), edit.dataType, position);
+    return MaskCharAt(edit.mask, &text, edit.dataType, position);
 }
 
 bool IsEditable(const EditInstance& edit, const std::string& text, int32_t position)

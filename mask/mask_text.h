@@ -20,12 +20,15 @@ struct MaskChar {
 
 // The mask character at a display position. text null: none; it matters for number masks only, where the positions follow
 // the digits of the text.
-MaskChar MaskCharAt(const char* mask, const char* text, int32_t dataType, int32_t position);
+MaskChar MaskCharAt(const char* mask, const std::string* text, int32_t dataType, int32_t position);
 
 // The same for a control and its text; the letters of an AM/PM field count as escaped literals.
 MaskChar MaskCharAt(const EditInstance& edit, const std::string& text, int32_t position);
 
-inline bool HasMask(const EditInstance& edit) { return edit.mask && edit.mask[0] != '\0'; }
+inline bool HasMask(const EditInstance& edit)
+{
+    return edit.mask && edit.mask[0] != '\0';
+}
 
 // True when the position may be typed at: the AM/PM position is not counted here.
 bool IsEditable(const EditInstance& edit, const std::string& text, int32_t position);

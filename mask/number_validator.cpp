@@ -26,6 +26,12 @@ bool AcceptInFraction(EditInstance& edit, char typed)
     return Accept(edit, typed);
 }
 
+// A sign typed into a number that was emptied: what follows it are integer digits, although there is no point yet.
+bool IsLoneSign(const std::string& text)
+{
+    return text == "-" || text == "+";
+}
+
 // Whether the integer part has grown into the whole room that the mask has for it.
 bool IsIntegerFull(const EditInstance& edit, int32_t textLen, int32_t point)
 {
@@ -50,7 +56,7 @@ bool ValidateNumberDigit(int32_t typedChar, EditInstance& edit, int32_t position
     const std::string text = ReadText(edit);
     const auto textLen = static_cast<int32_t>(text.size());
     const int32_t point = DecimalCharPos(text);
-    if (edit.decimalPlaces != 0 && position >= point + 1)
+    if (edit.decimalPlaces != 0 && position >= point + 1 && !IsLoneSign(text))
         return AcceptInFraction(edit, typed);
     if (position < textLen && text[static_cast<size_t>(position)] == '-')
         return Accept(edit, typed);
