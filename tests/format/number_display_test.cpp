@@ -34,95 +34,95 @@ TEST_P(NumberDisplay, ShowsADecimal)
 }
 
 const NumberCase kPlaceholderRows[] = {
-    {"ZeroUnderHashesIsEmpty", "####", "0", ""},
-    {"HashesShowSignificantDigits", "####", "12", "12"},
-    {"DigitsBeyondThePlaceholdersAreShown", "##", "123456", "123456"},
-    {"DigitsBeyondOneZeroAreShown", "0", "12345", "12345"},
-    {"ZerosForceDigits", "0000", "12", "0012"},
-    {"ZerosShowZero", "000", "0", "000"},
-    {"AHashBeforeAZeroShowsOneDigit", "##0", "0", "0"},
-    {"ZeroUnderTheDefaultMaskStartsAtThePoint", "#,#.00", "0", ".00"},
-    {"AHalfUnderTheDefaultMaskStartsAtThePoint", "#,#.00", "0.5", ".50"},
-    {"OneUnderTheDefaultMask", "#,#.00", "1", "1.00"},
-    {"ForcedUnitBeforeThePoint", "#,##0.00", "0.5", "0.50"},
-    {"HashFractionDropsTrailingZeros", "#.##", "1.5", "1.5"},
-    {"ThePointStaysBehindAWholeNumber", "#.##", "2", "2."},
-    {"ThePointAloneIsZero", "#.##", "0", "."},
-    {"HashFractionKeepsInnerZeros", "#.##", "0.05", ".05"},
-    {"MixedFractionForcesItsZero", "0.0#", "1", "1.0"},
-    {"MixedFractionShowsBothDigits", "0.0#", "1.25", "1.25"},
-    {"OnlyAFraction", ".00", "0.25", ".25"},
-    {"IntegerDigitsBeforeAMaskWithoutThem", ".00", "12.25", "12.25"},
+    {"ZeroUnderHashesIsEmpty",                   "####",     "0",      ""      },
+    {"HashesShowSignificantDigits",              "####",     "12",     "12"    },
+    {"DigitsBeyondThePlaceholdersAreShown",      "##",       "123456", "123456"},
+    {"DigitsBeyondOneZeroAreShown",              "0",        "12345",  "12345" },
+    {"ZerosForceDigits",                         "0000",     "12",     "0012"  },
+    {"ZerosShowZero",                            "000",      "0",      "000"   },
+    {"AHashBeforeAZeroShowsOneDigit",            "##0",      "0",      "0"     },
+    {"ZeroUnderTheDefaultMaskStartsAtThePoint",  "#,#.00",   "0",      ".00"   },
+    {"AHalfUnderTheDefaultMaskStartsAtThePoint", "#,#.00",   "0.5",    ".50"   },
+    {"OneUnderTheDefaultMask",                   "#,#.00",   "1",      "1.00"  },
+    {"ForcedUnitBeforeThePoint",                 "#,##0.00", "0.5",    "0.50"  },
+    {"HashFractionDropsTrailingZeros",           "#.##",     "1.5",    "1.5"   },
+    {"ThePointStaysBehindAWholeNumber",          "#.##",     "2",      "2."    },
+    {"ThePointAloneIsZero",                      "#.##",     "0",      "."     },
+    {"HashFractionKeepsInnerZeros",              "#.##",     "0.05",   ".05"   },
+    {"MixedFractionForcesItsZero",               "0.0#",     "1",      "1.0"   },
+    {"MixedFractionShowsBothDigits",             "0.0#",     "1.25",   "1.25"  },
+    {"OnlyAFraction",                            ".00",      "0.25",   ".25"   },
+    {"IntegerDigitsBeforeAMaskWithoutThem",      ".00",      "12.25",  "12.25" },
 };
 
 const NumberCase kGroupingRows[] = {
-    {"OneCommaGroupsByThree", "#,#", "1234567", "1,234,567"},
-    {"NoCommaDoesNotGroup", "#", "1234567", "1234567"},
-    {"ThreeDigitsNeedNoSeparator", "#,##0", "999", "999"},
-    {"FourDigitsNeedOne", "#,##0", "1000", "1,000"},
-    {"TheFractionIsNotGrouped", "#,##0.0000", "1234.5678", "1,234.5678"},
-    {"ForcedZerosAreGroupedToo", "0,000", "5", "0,005"},
-    {"ALargeNumber", "#,##0", "1000000000000000", "1,000,000,000,000,000"},
+    {"OneCommaGroupsByThree",      "#,#",        "1234567",          "1,234,567"            },
+    {"NoCommaDoesNotGroup",        "#",          "1234567",          "1234567"              },
+    {"ThreeDigitsNeedNoSeparator", "#,##0",      "999",              "999"                  },
+    {"FourDigitsNeedOne",          "#,##0",      "1000",             "1,000"                },
+    {"TheFractionIsNotGrouped",    "#,##0.0000", "1234.5678",        "1,234.5678"           },
+    {"ForcedZerosAreGroupedToo",   "0,000",      "5",                "0,005"                },
+    {"ALargeNumber",               "#,##0",      "1000000000000000", "1,000,000,000,000,000"},
 };
 
 const NumberCase kRoundingRows[] = {
-    {"AHalfGoesUp", "#,##0", "2.5", "3"},
-    {"AHalfOfANegativeGoesDown", "#,##0", "-2.5", "-3"},
-    {"BelowAHalfGoesToZero", "#,##0", "0.4999", "0"},
-    {"AHalfGoesToOne", "#,##0", "0.5", "1"},
-    {"TheDecimalDigitsCountNotTheBinaryOnes", "0.00", "2.675", "2.68"},
-    {"AnotherBinaryTrap", "0.00", "1.005", "1.01"},
-    {"ANegativeBinaryTrap", "0.00", "-2.675", "-2.68"},
-    {"AnExactBinaryHalfGoesUp", "0.00", "0.125", "0.13"},
-    {"CarriesRunThroughNines", "#,##0.00", "999.995", "1,000.00"},
-    {"CarriesMakeADigit", "0", "9.5", "10"},
-    {"BelowTheLastDigit", "0.00", "0.004", "0.00"},
-    {"HashFractionRounds", "#.##", "0.005", ".01"},
+    {"AHalfGoesUp",                           "#,##0",    "2.5",     "3"       },
+    {"AHalfOfANegativeGoesDown",              "#,##0",    "-2.5",    "-3"      },
+    {"BelowAHalfGoesToZero",                  "#,##0",    "0.4999",  "0"       },
+    {"AHalfGoesToOne",                        "#,##0",    "0.5",     "1"       },
+    {"TheDecimalDigitsCountNotTheBinaryOnes", "0.00",     "2.675",   "2.68"    },
+    {"AnotherBinaryTrap",                     "0.00",     "1.005",   "1.01"    },
+    {"ANegativeBinaryTrap",                   "0.00",     "-2.675",  "-2.68"   },
+    {"AnExactBinaryHalfGoesUp",               "0.00",     "0.125",   "0.13"    },
+    {"CarriesRunThroughNines",                "#,##0.00", "999.995", "1,000.00"},
+    {"CarriesMakeADigit",                     "0",        "9.5",     "10"      },
+    {"BelowTheLastDigit",                     "0.00",     "0.004",   "0.00"    },
+    {"HashFractionRounds",                    "#.##",     "0.005",   ".01"     },
 };
 
 const NumberCase kSignRows[] = {
-    {"BeforeTheFirstDigit", "#,##0.00", "-5", "-5.00"},
-    {"BeforeThePoint", "#,#.00", "-0.5", "-.50"},
-    {"BehindTheCurrencySymbol", "$#,##0.00", "-5", "$-5.00"},
-    {"BehindTheLiterals", "Total #,##0", "-5", "Total -5"},
-    {"BeforeForcedZeros", "000", "-5", "-005"},
-    {"BeforeGroups", "#,##0", "-1234567", "-1,234,567"},
-    {"NoneWhenRoundedToZero", "#,##0.00", "-0.001", "0.00"},
-    {"NoneForAnEmptyZero", "####", "-0.2", ""},
-    {"BeforeAPercentage", "##0%", "-0.5", "-50%"},
+    {"BeforeTheFirstDigit",     "#,##0.00",    "-5",       "-5.00"     },
+    {"BeforeThePoint",          "#,#.00",      "-0.5",     "-.50"      },
+    {"BehindTheCurrencySymbol", "$#,##0.00",   "-5",       "$-5.00"    },
+    {"BehindTheLiterals",       "Total #,##0", "-5",       "Total -5"  },
+    {"BeforeForcedZeros",       "000",         "-5",       "-005"      },
+    {"BeforeGroups",            "#,##0",       "-1234567", "-1,234,567"},
+    {"NoneWhenRoundedToZero",   "#,##0.00",    "-0.001",   "0.00"      },
+    {"NoneForAnEmptyZero",      "####",        "-0.2",     ""          },
+    {"BeforeAPercentage",       "##0%",        "-0.5",     "-50%"      },
 };
 
 const NumberCase kPercentRows[] = {
-    {"TimesAHundred", "#,##0.00%", "0.125", "12.50%"},
-    {"OneIsAHundred", "##0%", "1", "100%"},
-    {"Zero", "##0%", "0", "0%"},
-    {"IsExact", "#,##0.##%", "0.07", "7.%"},
-    {"IsExactForTwentyNine", "0.00%", "0.29", "29.00%"},
-    {"Rounds", "##0%", "0.125", "13%"},
-    {"RoundsInDecimal", "0.0%", "0.01005", "1.0%"},
-    {"Groups", "#,##0%", "12.34", "1,234%"},
+    {"TimesAHundred",        "#,##0.00%", "0.125",   "12.50%"},
+    {"OneIsAHundred",        "##0%",      "1",       "100%"  },
+    {"Zero",                 "##0%",      "0",       "0%"    },
+    {"IsExact",              "#,##0.##%", "0.07",    "7.%"   },
+    {"IsExactForTwentyNine", "0.00%",     "0.29",    "29.00%"},
+    {"Rounds",               "##0%",      "0.125",   "13%"   },
+    {"RoundsInDecimal",      "0.0%",      "0.01005", "1.0%"  },
+    {"Groups",               "#,##0%",    "12.34",   "1,234%"},
 };
 
 const NumberCase kLiteralRows[] = {
-    {"CurrencySymbol", "$#,##0.00", "1234.5", "$1,234.50"},
-    {"APrefix", "Total #,##0", "1234", "Total 1,234"},
-    {"APrefixBeforeTheCurrencySymbol", "Due: $#,##0", "1234", "Due: $1,234"},
-    {"AnEscapedPlaceholder", "~##0", "5", "#5"},
-    {"AnEscapedZero", "~0##0", "5", "05"},
-    {"AnEscapedBackslash", "~\\##0", "5", "\\5"},
-    {"AnEscapedPercentSignDoesNotMultiply", "~%##0", "5", "%5"},
-    {"AnEscapedPoint", "~.##0", "5", ".5"},
+    {"CurrencySymbol",                      "$#,##0.00",   "1234.5", "$1,234.50"  },
+    {"APrefix",                             "Total #,##0", "1234",   "Total 1,234"},
+    {"APrefixBeforeTheCurrencySymbol",      "Due: $#,##0", "1234",   "Due: $1,234"},
+    {"AnEscapedPlaceholder",                "~##0",        "5",      "#5"         },
+    {"AnEscapedZero",                       "~0##0",       "5",      "05"         },
+    {"AnEscapedBackslash",                  "~\\##0",      "5",      "\\5"        },
+    {"AnEscapedPercentSignDoesNotMultiply", "~%##0",       "5",      "%5"         },
+    {"AnEscapedPoint",                      "~.##0",       "5",      ".5"         },
 };
 
 const NumberCase kGeneralRows[] = {
-    {"AFraction", "[GENERAL]", "1234.5", "1234.5"},
-    {"AWholeNumber", "[GENERAL]", "1234567", "1234567"},
-    {"Zero", "[GENERAL]", "0", "0"},
-    {"ANegativeNumber", "[GENERAL]", "-0.25", "-0.25"},
-    {"NoTrailingZeros", "[GENERAL]", "2.500", "2.5"},
-    {"FifteenDigits", "[GENERAL]", "123456789012345", "123456789012345"},
+    {"AFraction",                           "[GENERAL]", "1234.5",               "1234.5"           },
+    {"AWholeNumber",                        "[GENERAL]", "1234567",              "1234567"          },
+    {"Zero",                                "[GENERAL]", "0",                    "0"                },
+    {"ANegativeNumber",                     "[GENERAL]", "-0.25",                "-0.25"            },
+    {"NoTrailingZeros",                     "[GENERAL]", "2.500",                "2.5"              },
+    {"FifteenDigits",                       "[GENERAL]", "123456789012345",      "123456789012345"  },
     {"FifteenSignificantDigitsOfAFraction", "[GENERAL]", "0.123456789012345678", "0.123456789012346"},
-    {"ASmallNumber", "[GENERAL]", "0.000001", "0.000001"},
+    {"ASmallNumber",                        "[GENERAL]", "0.000001",             "0.000001"         },
 };
 
 INSTANTIATE_TEST_SUITE_P(Placeholders, NumberDisplay, testing::ValuesIn(kPlaceholderRows), RowName<NumberCase>);
@@ -162,24 +162,24 @@ TEST_P(RegionalNumberDisplay, ShowsADecimal)
 }
 
 const RegionalNumberCase kRegionalNumberRows[] = {
-    {"UnitedStatesDefault", &kUnitedStates, nullptr, "1234567.891", "1,234,567.89"},
-    {"UnitedStatesCurrency", &kUnitedStates, "[currency(8)]", "1234.5", "$1,234.50"},
-    {"UnitedStatesNegativeCurrency", &kUnitedStates, "[currency(8)]", "-1234.5", "$-1,234.50"},
-    {"GermanDefault", &kGerman, nullptr, "1234567.891", "1.234.567,89"},
-    {"GermanDefaultBelowOne", &kGerman, nullptr, "0.5", ",50"},
-    {"GermanWholeNumbers", &kGerman, "#,##0", "1234567", "1.234.567"},
-    {"GermanFraction", &kGerman, "##0.00", "1234.5", "1234,50"},
-    {"GermanPercent", &kGerman, "##0.00%", "0.125", "12,50%"},
-    {"GermanCurrencyBehind", &kGerman, "[currency(8)]", "1234.5", "1.234,50EUR"},
-    {"GermanNegativeCurrency", &kGerman, "[currency(8)]", "-5", "-5,00EUR"},
-    {"GermanGeneral", &kGerman, "[GENERAL]", "1234.5", "1234,5"},
-    {"FrenchDefault", &kFrench, nullptr, "1234567.891", "1 234 567,89"},
-    {"FrenchWholeNumbers", &kFrench, "#,##0", "1234567", "1 234 567"},
-    {"FrenchCurrencyBehind", &kFrench, "[currency(8)]", "1234.5", "1 234,50F"},
-    {"SwissDefault", &kSwiss, nullptr, "1234567.891", "1'234'567.89"},
-    {"SwissCurrencyBefore", &kSwiss, "[currency(8)]", "1234.5", "CHF1'234.50"},
-    {"SwissNegativeCurrency", &kSwiss, "[currency(8)]", "-1234.5", "CHF-1'234.50"},
-    {"SwissMaskWithTheSymbol", &kSwiss, "CHF##0.00", "12", "CHF12.00"},
+    {"UnitedStatesDefault",          &kUnitedStates, nullptr,         "1234567.891", "1,234,567.89"},
+    {"UnitedStatesCurrency",         &kUnitedStates, "[currency(8)]", "1234.5",      "$1,234.50"   },
+    {"UnitedStatesNegativeCurrency", &kUnitedStates, "[currency(8)]", "-1234.5",     "$-1,234.50"  },
+    {"GermanDefault",                &kGerman,       nullptr,         "1234567.891", "1.234.567,89"},
+    {"GermanDefaultBelowOne",        &kGerman,       nullptr,         "0.5",         ",50"         },
+    {"GermanWholeNumbers",           &kGerman,       "#,##0",         "1234567",     "1.234.567"   },
+    {"GermanFraction",               &kGerman,       "##0.00",        "1234.5",      "1234,50"     },
+    {"GermanPercent",                &kGerman,       "##0.00%",       "0.125",       "12,50%"      },
+    {"GermanCurrencyBehind",         &kGerman,       "[currency(8)]", "1234.5",      "1.234,50EUR" },
+    {"GermanNegativeCurrency",       &kGerman,       "[currency(8)]", "-5",          "-5,00EUR"    },
+    {"GermanGeneral",                &kGerman,       "[GENERAL]",     "1234.5",      "1234,5"      },
+    {"FrenchDefault",                &kFrench,       nullptr,         "1234567.891", "1 234 567,89"},
+    {"FrenchWholeNumbers",           &kFrench,       "#,##0",         "1234567",     "1 234 567"   },
+    {"FrenchCurrencyBehind",         &kFrench,       "[currency(8)]", "1234.5",      "1 234,50F"   },
+    {"SwissDefault",                 &kSwiss,        nullptr,         "1234567.891", "1'234'567.89"},
+    {"SwissCurrencyBefore",          &kSwiss,        "[currency(8)]", "1234.5",      "CHF1'234.50" },
+    {"SwissNegativeCurrency",        &kSwiss,        "[currency(8)]", "-1234.5",     "CHF-1'234.50"},
+    {"SwissMaskWithTheSymbol",       &kSwiss,        "CHF##0.00",     "12",          "CHF12.00"    },
 };
 INSTANTIATE_TEST_SUITE_P(, RegionalNumberDisplay, testing::ValuesIn(kRegionalNumberRows), RowName<RegionalNumberCase>);
 
@@ -216,16 +216,16 @@ TEST_P(FirstPosition, LiteralsAreTold)
 }
 
 const FirstPosCase kFirstPosRows[] = {
-    {"AtTheStart", "#,##0.00", 5.0, "5.00", 0, FORMAT_DONE},
-    {"BehindTheCurrencySymbol", "$#,##0.00", 5.0, "$5.00", 1, FORMAT_DONE},
-    {"ASignBehindTheCurrencySymbol", "$#,##0.00", -5.0, "$-5.00", 1, FORMAT_DONE},
-    {"OnThePointWhenItComesFirst", "#,#.00", 0.5, ".50", 0, FORMAT_DONE},
-    {"OnThePointBehindTheCurrencySymbol", "$#,#.00", 0.5, "$.50", 1, FORMAT_DONE},
-    {"OnTheSignBeforeThePoint", "#,#.00", -0.5, "-.50", 0, FORMAT_DONE},
-    {"BehindALiteral", "Total #,##0", 5.0, "Total 5", 6, FORMAT_DONE | FORMAT_HAS_LITERALS},
-    {"BehindAnEscape", "~*##0", 5.0, "*5", 1, FORMAT_DONE | FORMAT_HAS_LITERALS},
-    {"PercentIsNoLiteral", "##0%", 0.5, "50%", 0, FORMAT_DONE},
-    {"ALiteralBeforeTheCurrencySymbol", "Due $#,##0", 5.0, "Due $5", 5, FORMAT_DONE | FORMAT_HAS_LITERALS},
+    {"AtTheStart",                        "#,##0.00",    5.0,  "5.00",    0, FORMAT_DONE                      },
+    {"BehindTheCurrencySymbol",           "$#,##0.00",   5.0,  "$5.00",   1, FORMAT_DONE                      },
+    {"ASignBehindTheCurrencySymbol",      "$#,##0.00",   -5.0, "$-5.00",  1, FORMAT_DONE                      },
+    {"OnThePointWhenItComesFirst",        "#,#.00",      0.5,  ".50",     0, FORMAT_DONE                      },
+    {"OnThePointBehindTheCurrencySymbol", "$#,#.00",     0.5,  "$.50",    1, FORMAT_DONE                      },
+    {"OnTheSignBeforeThePoint",           "#,#.00",      -0.5, "-.50",    0, FORMAT_DONE                      },
+    {"BehindALiteral",                    "Total #,##0", 5.0,  "Total 5", 6, FORMAT_DONE | FORMAT_HAS_LITERALS},
+    {"BehindAnEscape",                    "~*##0",       5.0,  "*5",      1, FORMAT_DONE | FORMAT_HAS_LITERALS},
+    {"PercentIsNoLiteral",                "##0%",        0.5,  "50%",     0, FORMAT_DONE                      },
+    {"ALiteralBeforeTheCurrencySymbol",   "Due $#,##0",  5.0,  "Due $5",  5, FORMAT_DONE | FORMAT_HAS_LITERALS},
 };
 INSTANTIATE_TEST_SUITE_P(, FirstPosition, testing::ValuesIn(kFirstPosRows), RowName<FirstPosCase>);
 
@@ -295,7 +295,9 @@ TEST_F(NumberFormatResult, FormattingLeavesTheWindowAlone)
 
 TEST_F(NumberFormatResult, AnEmptyDecimalCharacterIsWrittenAsAPoint)
 {
-    const Regional settings(With(kUnitedStates, {{"sDecimal", ""}}));
+    const Regional settings(With(kUnitedStates, {
+                                                    {"sDecimal", ""}
+    }));
     Install("#,##0.00", DT_NUMBER);
     EXPECT_EQ(ShownFor("1234.5"), "1,234.50");
 }
@@ -344,21 +346,21 @@ TEST_P(NumberDataText, KnowsNoRegionalSeparators)
 }
 
 const NumberTextCase kNumberTextRows[] = {
-    {"AWholeNumber", "12", "12.00"},
-    {"AFraction", "12.5", "12.50"},
-    {"LeadingBlanks", "  12", "12.00"},
-    {"APlusSign", "+12", "12.00"},
-    {"AMinusSign", "-12", "-12.00"},
-    {"APointFirst", ".25", "0.25"},
-    {"AnExponent", "1.5e3", "1,500.00"},
-    {"ANegativeExponent", "25e-2", "0.25"},
-    {"TrailingText", "12abc", "12.00"},
-    {"AThousandsCommaEndsIt", "1,234", "1.00"},
-    {"ADecimalCommaEndsIt", "3,5", "3.00"},
-    {"ASecondPointEndsIt", "1.2.3", "1.20"},
-    {"NoNumber", "abc", "0.00"},
-    {"Empty", "", "0.00"},
-    {"ASignAlone", "-", "0.00"},
+    {"AWholeNumber",          "12",    "12.00"   },
+    {"AFraction",             "12.5",  "12.50"   },
+    {"LeadingBlanks",         "  12",  "12.00"   },
+    {"APlusSign",             "+12",   "12.00"   },
+    {"AMinusSign",            "-12",   "-12.00"  },
+    {"APointFirst",           ".25",   "0.25"    },
+    {"AnExponent",            "1.5e3", "1,500.00"},
+    {"ANegativeExponent",     "25e-2", "0.25"    },
+    {"TrailingText",          "12abc", "12.00"   },
+    {"AThousandsCommaEndsIt", "1,234", "1.00"    },
+    {"ADecimalCommaEndsIt",   "3,5",   "3.00"    },
+    {"ASecondPointEndsIt",    "1.2.3", "1.20"    },
+    {"NoNumber",              "abc",   "0.00"    },
+    {"Empty",                 "",      "0.00"    },
+    {"ASignAlone",            "-",     "0.00"    },
 };
 INSTANTIATE_TEST_SUITE_P(, NumberDataText, testing::ValuesIn(kNumberTextRows), RowName<NumberTextCase>);
 

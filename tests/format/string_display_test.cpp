@@ -24,27 +24,27 @@ TEST_P(StringDisplay, LaysTheStringIntoTheFields)
 }
 
 const StringCase kStringRows[] = {
-    {"Digits", "######", "123456", "123456"},
-    {"ShorterThanAMaskWithoutLiterals", "######", "123", "123"},
-    {"EmptyUnderAMaskWithoutLiterals", "######", "", ""},
-    {"LongerThanTheMaskIsCut", "###", "123456", "123"},
-    {"LiteralsStandBetween", "(###) ###-####", "5551234567", "(555) 123-4567"},
-    {"ShortIsPaddedBetweenLiterals", "(###) ###-####", "555", "(555)    -    "},
-    {"EndingInsideAFieldIsPadded", "(###) ###-####", "55512", "(555) 12 -    "},
-    {"EmptyShowsBlanksBetweenLiterals", "(###) ###-####", "", "(   )    -    "},
-    {"NoPaddingWithoutALiteralBehind", "-AAAA", "ab", "-ab"},
-    {"EmptyShowsBlanksBehindALiteral", "-AAAA", "", "-    "},
-    {"AdjacentFieldsOfTwoKinds", "AAA###", "abc12", "abc12"},
-    {"AnEscapedMaskCharacterIsALiteral", "~A##", "12", "A12"},
-    {"AnEscapeInside", "##~A##", "1234", "12A34"},
-    {"AnEscapeBesideItsOwnKind", "##~###", "1234", "12#34"},
-    {"TwoEscapesInARow", "#~A~X#", "12", "1AX2"},
-    {"SmallMaskLettersAreFieldsToo", "aaxx", "1b?!", "1b?!"},
-    {"DateLettersAreLiterals", "MM-##", "12", "MM-12"},
-    {"CaseMasksDoNotChangeGivenData", "!!^^", "aBcD", "aBcD"},
-    {"BlanksInTheDataAreKept", "XXXXX", "a b c", "a b c"},
-    {"NoMaskShowsTheStringAsItStands", "", "any (text) ~at all", "any (text) ~at all"},
-    {"HighBytesAreShown", "XXXX", "\xe4\xf6\xfc\xdf", "\xe4\xf6\xfc\xdf"},
+    {"Digits",                           "######",         "123456",             "123456"            },
+    {"ShorterThanAMaskWithoutLiterals",  "######",         "123",                "123"               },
+    {"EmptyUnderAMaskWithoutLiterals",   "######",         "",                   ""                  },
+    {"LongerThanTheMaskIsCut",           "###",            "123456",             "123"               },
+    {"LiteralsStandBetween",             "(###) ###-####", "5551234567",         "(555) 123-4567"    },
+    {"ShortIsPaddedBetweenLiterals",     "(###) ###-####", "555",                "(555)    -    "    },
+    {"EndingInsideAFieldIsPadded",       "(###) ###-####", "55512",              "(555) 12 -    "    },
+    {"EmptyShowsBlanksBetweenLiterals",  "(###) ###-####", "",                   "(   )    -    "    },
+    {"NoPaddingWithoutALiteralBehind",   "-AAAA",          "ab",                 "-ab"               },
+    {"EmptyShowsBlanksBehindALiteral",   "-AAAA",          "",                   "-    "             },
+    {"AdjacentFieldsOfTwoKinds",         "AAA###",         "abc12",              "abc12"             },
+    {"AnEscapedMaskCharacterIsALiteral", "~A##",           "12",                 "A12"               },
+    {"AnEscapeInside",                   "##~A##",         "1234",               "12A34"             },
+    {"AnEscapeBesideItsOwnKind",         "##~###",         "1234",               "12#34"             },
+    {"TwoEscapesInARow",                 "#~A~X#",         "12",                 "1AX2"              },
+    {"SmallMaskLettersAreFieldsToo",     "aaxx",           "1b?!",               "1b?!"              },
+    {"DateLettersAreLiterals",           "MM-##",          "12",                 "MM-12"             },
+    {"CaseMasksDoNotChangeGivenData",    "!!^^",           "aBcD",               "aBcD"              },
+    {"BlanksInTheDataAreKept",           "XXXXX",          "a b c",              "a b c"             },
+    {"NoMaskShowsTheStringAsItStands",   "",               "any (text) ~at all", "any (text) ~at all"},
+    {"HighBytesAreShown",                "XXXX",           "\xe4\xf6\xfc\xdf",   "\xe4\xf6\xfc\xdf"  },
 };
 INSTANTIATE_TEST_SUITE_P(, StringDisplay, testing::ValuesIn(kStringRows), RowName<StringCase>);
 
@@ -75,13 +75,13 @@ TEST_P(StringReading, TakesTheFieldCharactersOfATextGiven)
 }
 
 const StringReadCase kStringReadRows[] = {
-    {"WithoutLiterals", "######", "123456", "123456"},
-    {"LiteralsAreDropped", "(###) ###-####", "(555) 123-4567", "5551234567"},
-    {"BlanksAreKept", "(###) ###-####", "(555)    -    ", "555       "},
-    {"AnEscapedCharacterIsDropped", "~A##", "A12", "12"},
-    {"AnEscapeInsideIsDropped", "##~A##", "12A34", "1234"},
-    {"ShorterThanTheMask", "(###) ###-####", "(555", "555"},
-    {"TheEmptyMaskGivesTheWholeText", "", "any (text)", "any (text)"},
+    {"WithoutLiterals",               "######",         "123456",         "123456"    },
+    {"LiteralsAreDropped",            "(###) ###-####", "(555) 123-4567", "5551234567"},
+    {"BlanksAreKept",                 "(###) ###-####", "(555)    -    ", "555       "},
+    {"AnEscapedCharacterIsDropped",   "~A##",           "A12",            "12"        },
+    {"AnEscapeInsideIsDropped",       "##~A##",         "12A34",          "1234"      },
+    {"ShorterThanTheMask",            "(###) ###-####", "(555",           "555"       },
+    {"TheEmptyMaskGivesTheWholeText", "",               "any (text)",     "any (text)"},
 };
 INSTANTIATE_TEST_SUITE_P(, StringReading, testing::ValuesIn(kStringReadRows), RowName<StringReadCase>);
 
@@ -177,18 +177,18 @@ constexpr uint32_t kLiterals = FORMAT_DONE | FORMAT_HAS_LITERALS;
 constexpr uint32_t kLiteralsBehind = kLiterals | FORMAT_LITERAL_AFTER;
 
 const FlagsCase kFlagsRows[] = {
-    {"NoLiteral", "####", DT_STRING, kNoLiterals, 0},
-    {"ALiteralBefore", "(###", DT_STRING, kLiterals, 1},
-    {"ALiteralBehind", "###)", DT_STRING, kLiteralsBehind, 0},
-    {"LiteralsAround", "(###)", DT_STRING, kLiteralsBehind, 1},
-    {"AnEscapeBefore", "~####", DT_STRING, kLiterals, 1},
-    {"AnEscapeBehindIsNotToldAsBehind", "###~#", DT_STRING, kLiterals, 0},
-    {"ADateWithoutLiterals", "MMDDYY", DT_DATE, kLiterals, 0},
-    {"ADate", "MM/DD/YY", DT_DATE, kLiteralsBehind, 0},
-    {"ADateBehindAWord", "on DD.MM.YY", DT_DATE, kLiteralsBehind, 3},
-    {"ATime", "HH:MM", DT_TIME, kLiteralsBehind, 0},
-    {"ATimeBehindAWord", "at: HH", DT_TIME, kLiterals, 4},
-    {"ADateTime", "MM/DD/YY HH:MM", DT_DATETIME, kLiteralsBehind, 0},
+    {"NoLiteral",                       "####",           DT_STRING,   kNoLiterals,     0},
+    {"ALiteralBefore",                  "(###",           DT_STRING,   kLiterals,       1},
+    {"ALiteralBehind",                  "###)",           DT_STRING,   kLiteralsBehind, 0},
+    {"LiteralsAround",                  "(###)",          DT_STRING,   kLiteralsBehind, 1},
+    {"AnEscapeBefore",                  "~####",          DT_STRING,   kLiterals,       1},
+    {"AnEscapeBehindIsNotToldAsBehind", "###~#",          DT_STRING,   kLiterals,       0},
+    {"ADateWithoutLiterals",            "MMDDYY",         DT_DATE,     kLiterals,       0},
+    {"ADate",                           "MM/DD/YY",       DT_DATE,     kLiteralsBehind, 0},
+    {"ADateBehindAWord",                "on DD.MM.YY",    DT_DATE,     kLiteralsBehind, 3},
+    {"ATime",                           "HH:MM",          DT_TIME,     kLiteralsBehind, 0},
+    {"ATimeBehindAWord",                "at: HH",         DT_TIME,     kLiterals,       4},
+    {"ADateTime",                       "MM/DD/YY HH:MM", DT_DATETIME, kLiteralsBehind, 0},
 };
 INSTANTIATE_TEST_SUITE_P(, FormatFlags, testing::ValuesIn(kFlagsRows), RowName<FlagsCase>);
 

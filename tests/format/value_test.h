@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <cstring>
 #include <memory>
 #include <ostream>
@@ -107,33 +108,27 @@ private:
     }
 };
 
-// A date and time from its parts; month and day count from 1.
-inline DateTimeValue DateTimeOf(int year, int month, int day, int hour = DATETIME_NO_TIME, int minute = 0, int second = 0,
-                                uint32_t microsecond = 0)
-{
-    DateTimeValue value = {};
-    value.year = static_cast<int16_t>(year - 1900);
-    value.month = static_cast<int8_t>(month - 1);
-    value.day = static_cast<int8_t>(day);
-    value.hour = static_cast<int8_t>(hour);
-    value.minute = static_cast<int8_t>(minute);
-    value.second = static_cast<int8_t>(second);
-    value.microsecond = microsecond;
-    return value;
-}
-
-inline DateTimeValue TimeOf(int hour, int minute, int second = 0, uint32_t microsecond = 0)
-{
-    DateTimeValue value = DateTimeOf(1900, 1, 0, hour, minute, second, microsecond);
-    value.year = DATETIME_NO_DATE;
-    return value;
-}
-
-inline DateTimeValue NoDateTime()
+// The value of a canonical text: "2024-03-05", "14:07:09", "14:07:09:000250", a date and a time, or "" for the empty value.
+inline DateTimeValue ValueOf(const std::string& canonical)
 {
     DateTimeValue value = {};
     value.year = DATETIME_NO_DATE;
     value.hour = DATETIME_NO_TIME;
+    int year, month, day, hour, minute, second;
+    unsigned long microsecond = 0;
+    const char* time = canonical.c_str();
+    if (std::sscanf(time, "%4d-%2d-%2d", &year, &month, &day) == 3) {
+        value.year = static_cast<int16_t>(year - 1900);
+        value.month = static_cast<int8_t>(month - 1);
+        value.day = static_cast<int8_t>(day);
+        time += canonical.size() > 10 ? 11 : 10;
+    }
+    if (std::sscanf(time, "%2d:%2d:%2d:%6lu", &hour, &minute, &second, &microsecond) >= 3) {
+        value.hour = static_cast<int8_t>(hour);
+        value.minute = static_cast<int8_t>(minute);
+        value.second = static_cast<int8_t>(second);
+        value.microsecond = static_cast<uint32_t>(microsecond);
+    }
     return value;
 }
 
