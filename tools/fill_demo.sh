@@ -1,0 +1,128 @@
+#!/bin/bash
+# Fills the demo form in with real key and mouse presses and prints what came of it; on a display and in a Wine session that
+# are there already. Fails when a field does not show, or read back as, what it must.
+# Usage: tools/fill_demo.sh DEMO.EXE [PICTURE.PNG]
+set -uo pipefail
+demo=$1
+picture=${2:-}
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+fail()
+{
+    echo "FAILED: $*" >&2
+    exit 1
+}
+
+# field | what is done | shown | value read back
+# Done: plain text is typed from the field's start; "over:" types over the whole selected text; "keys:" presses named keys;
+# "up:" and "down:" press a spin arrow that many times with the mouse; "hold:" holds the upper arrow for a second. A "*"
+# stands for any text.
+steps='date|070495|07/04/95|1995-07-04
+date|7/4/95|07/04/95|1995-07-04
+dated|04jul1995|04-JUL-1995|1995-07-04
+dayofyear|1851995|185/1995|1995-07-04
+time|14:07:09:250|14:07:09:250|14:07:09:250000
+time12|1230P|12:30 PM|12:30:00:000000
+datetime|199507041407|1995-07-04 14:07|1995-07-04 14:07:00:000000
+regdate|07041995|07/04/1995|1995-07-04
+regtime|140709|14:07:09|14:07:09:000000
+phone|2125551234567|(212) 555-1234 X567|2125551234567
+code|ab-12cd|AB-12CD|AB12CD
+number|over:123.45|123.45|123.45
+percent|over:12.5|12.50%|0.125
+currency|over:12345.67|$12,345.67|12345.67
+decimal|over:1234567.8901|1,234,567.8901|1234567.8901
+pick|G|Grey|Y
+spinnumber|keys:Up Up Down|15|15
+spindec|up:2|21.90|21.90
+spindate|keys:Home Right Right Right Up Up|12/01/2026|2026-12-01
+spintime|down:1|10:30 AM|10:30:00:000000
+spincode|hold:1|*|*'
+
+# wait_for SECONDS COMMAND...: until the command succeeds.
+wait_for()
+{
+    local tries=$(($1 * 10))
+    shift
+    until "$@" >/dev/null 2>&1; do
+        tries=$((tries - 1))
+        [ $tries -gt 0 ] || return 1
+        sleep 0.1
+    done
+}
+
+place_of() # field: LEFT TOP RIGHT BOTTOM
+{
+    tr -d '\r' <"$work/places" | awk -v name="$1" '$1 == name { print $2, $3, $4, $5 }'
+}
+
+click() # X Y
+{
+    xdotool mousemove "$1" "$2" sleep 0.05 click 1 sleep 0.05
+}
+
+spin_arrow() # field row(1 up, 3 down): moves the pointer there
+{
+    local left top right bottom
+    read -r left top right bottom <<<"$(place_of "$1")"
+    xdotool mousemove $((right - 9)) $((top + (bottom - top) * $2 / 4)) sleep 0.05
+}
+
+press_arrow() # field row times
+{
+    local i
+    spin_arrow "$1" "$2"
+    for ((i = 0; i < $3; ++i)); do
+        xdotool mousedown 1 sleep 0.03 mouseup 1 sleep 0.05
+    done
+}
+
+do_step() # field action
+{
+    local left top right bottom
+    read -r left top right bottom <<<"$(place_of "$1")"
+    [ -n "${bottom:-}" ] || fail "there is no field $1"
+    click $((left + 6)) $(((top + bottom) / 2))
+    case $2 in
+    over:*) xdotool key --delay 20 Home shift+End type --delay 25 -- "${2#over:}" ;;
+    keys:*) xdotool key --delay 40 ${2#keys:} ;;
+    up:*) press_arrow "$1" 1 "${2#up:}" ;;
+    down:*) press_arrow "$1" 3 "${2#down:}" ;;
+    hold:*)
+        spin_arrow "$1" 1
+        xdotool mousedown 1 sleep "${2#hold:}" mouseup 1
+        ;;
+    *) xdotool key --delay 20 Home type --delay 25 -- "$2" ;;
+    esac
+    sleep 0.1
+}
+
+wine "$demo" --places "$(winepath -w "$work/places")" --table "$(winepath -w "$work/table")" </dev/null >/dev/null 2>&1 &
+wait_for 60 test -s "$work/places" || fail "the form did not open"
+window=$(xdotool search --sync --onlyvisible --name '^Masked edit fields$' | head -n 1)
+[ -n "$window" ] || fail "the form has no window"
+xdotool windowfocus "$window" 2>/dev/null
+sleep 0.5
+
+while IFS='|' read -r field action _ _; do
+    do_step "$field" "$action" </dev/null
+done <<<"$steps"
+[ -z "$picture" ] || import -window root -crop "$(xdotool getwindowgeometry --shell "$window" |
+    awk -F= '{ v[$1] = $2 } END { print v["WIDTH"] "x" v["HEIGHT"] "+" v["X"] "+" v["Y"] }')" +repage "$picture"
+xdotool key --window "$window" alt+F4
+wait_for 20 test -s "$work/table" || fail "the form did not close"
+
+printf '%-18s %-36s %-22s %s\n' Field 'Keys typed, or presses' 'Text shown' 'Value read back'
+failures=0
+while IFS='|' read -r field action shown value; do
+    IFS='|' read -r _ label real_shown real_value <<<"$(grep "^$field|" "$work/table" | tr -d '\r')"
+    verdict=
+    # shellcheck disable=SC2053
+    if [[ $real_shown != $shown || $real_value != $value ]]; then
+        verdict="   <- expected $shown, $value"
+        failures=$((failures + 1))
+    fi
+    printf '%-18s %-36s %-22s %s%s\n' "$label" "$action" "$real_shown" "$real_value" "$verdict"
+done <<<"$steps"
+[ $failures -eq 0 ] || fail "$failures fields differ"
