@@ -120,6 +120,8 @@ public:
     const std::string& Mask() const { return mask_; }
     bool Charwise() const { return charwise_; }
     int FirstField() const { return firstField_; }
+    // Literals between the digit placeholders: their place in a number is not modelled.
+    bool Interleaved() const;
     bool TookClock() const { return fromClock_; }
 
 private:
@@ -190,7 +192,9 @@ private:
     void EnterNumericChar(char c);
     void OverwriteNumber(int position, const std::string& before, char under);
     void RefuseNumeric();
-    void FinishNumeric(int position, int oldPoint, bool lastFraction);
+    std::string LeadingEscapes() const;
+    int CaretAfterGrowth(const std::string& before, int position, int grown) const;
+    void FinishNumeric(int position, bool lastFraction);
     bool SkipLiterals(int position, bool remember);
     int FindLiteralAhead(const std::string& text, int position, char c) const;
     void PadFieldDigit(int position);

@@ -145,6 +145,7 @@ std::optional<Format> Format::Compile(const std::string& text)
         case '#':
             if (format.percent)
                 return std::nullopt;
+            format.interleaved = format.interleaved || !format.suffix.empty();
             (format.point ? format.fraction : format.integer) += c;
             started = true;
             break;

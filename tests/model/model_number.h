@@ -29,6 +29,7 @@ struct Format {
     bool grouped = false;
     bool percent = false;
     bool general = false;
+    bool interleaved = false;  // literals between the digits, whose place the model does not know
 
     static std::optional<Format> Compile(const std::string& text);
 };

@@ -11,11 +11,6 @@ namespace {
 
 constexpr int kLastYear = 1100;  // the year 3000, the highest that a step writes
 
-double AsDouble(const Number& number)
-{
-    return std::atof(((number.negative ? "-0" : "0") + number.digits + "e" + std::to_string(-number.scale)).c_str());
-}
-
 // Exact comparison and sum of decimals of few digits, as integers of a common scale.
 struct Exact {
     long long value = 0;

@@ -79,7 +79,7 @@ Control::Verdict Control::ValidateNumber(char c, int position)
     const std::string& text = Text();
     const int point = PointPos(text);
     const int length = edit_.Length();
-    if (decimalPlaces_ != 0 && position >= point + 1) {
+    if (decimalPlaces_ != 0 && position >= point + 1 && (text.empty() || text.find(Point()) != std::string::npos)) {
         (typing_ ? typedFraction_ : typed_) = c;
         return Verdict::Accepted;
     }
@@ -381,38 +381,73 @@ void Control::RefuseNumeric()
     const std::string before = Text();
     const int caret = edit_.Start();
     Reformat(nullptr);
-    const int point = PointPos(before);
+    if (before == Text())
+        return PlaceCaret(caret);
+    const size_t oldPoint = decimalPlaces_ != 0 ? before.find(Point()) : std::string::npos;
+    if (oldPoint != std::string::npos && caret > static_cast<int>(oldPoint))
+        return PlaceCaret(PointPos(Text()) + caret - static_cast<int>(oldPoint));
     int behind = 0;  // digits between the caret and the point or the end
-    if (decimalPlaces_ != 0 && caret > point) {
-        PlaceCaret(PointPos(Text()) + caret - point);
-        return;
-    }
-    const int end = decimalPlaces_ != 0 ? point : static_cast<int>(before.size());
-    for (int i = caret; i < end; ++i)
-        behind += IsDigit(before[static_cast<size_t>(i)]) ? 1 : 0;
-    if (before == Text()) {
-        PlaceCaret(caret);
-        return;
-    }
-    int at = decimalPlaces_ != 0 ? PointPos(Text()) : edit_.Length();
+    for (size_t i = static_cast<size_t>(caret); i < before.size() && i < oldPoint; ++i)
+        behind += IsDigit(before[i]) ? 1 : 0;
+    int at = decimalPlaces_ != 0 ? PointPos(Text()) : static_cast<int>(Text().find_last_of("0123456789") + 1);
     while (at > 0 && behind > 0)
         behind -= IsDigit(Text()[static_cast<size_t>(--at)]) ? 1 : 0;
+    while (at > firstField_ && Text()[static_cast<size_t>(at) - 1] == regional_->thousand)
+        --at;
     PlaceCaret(at);
+}
+
+std::string Control::LeadingEscapes() const
+{
+    std::string literals;
+    for (size_t i = 0; (formatFlags_ & 0x4000) != 0 && i + 1 < mask_.size() && mask_[i] == '~'; i += 2)
+        literals += mask_[i + 1];
+    return literals;
+}
+
+// The caret for a text that has grown: as far as it grew, unless that carries it over digits that stood behind it.
+int Control::CaretAfterGrowth(const std::string& before, int position, int grown) const
+{
+    const std::string& text = Text();
+    const size_t oldPoint = decimalPlaces_ != 0 ? before.find(Point()) : std::string::npos;
+    const size_t end = decimalPlaces_ != 0 ? text.find(Point()) : text.find_last_of("0123456789") + 1;
+    int behind = static_cast<int>(end) + position - static_cast<int>(oldPoint);
+    if (oldPoint == std::string::npos || static_cast<size_t>(position) <= oldPoint) {
+        int digits = 0;
+        for (size_t i = static_cast<size_t>(position); i < before.size() && i < oldPoint; ++i)
+            digits += IsDigit(before[i]) ? 1 : 0;
+        behind = static_cast<int>(end);
+        while (behind > 0 && digits > 0)
+            digits -= IsDigit(text[static_cast<size_t>(--behind)]) ? 1 : 0;
+        while (behind > 0 && !IsDigit(text[static_cast<size_t>(behind) - 1]))
+            --behind;
+    }
+    for (int i = behind; i < position + grown; ++i)
+        if (IsDigit(CharOf(text, i)))
+            return behind;
+    return std::max(behind, position + grown);
 }
 
 void Control::EnterNumericChar(char c)
 {
     typed_.clear();
     typedFraction_.clear();
-    const bool carriedPoint = !carried_.empty();
+    const std::string carried = carried_;
     carried_.clear();
     int position = edit_.Start();
     if (static_cast<unsigned>(position) > static_cast<unsigned>(displayLength_ - 1))
         return;
+    const size_t over = carried.find(c);
+    if (over != std::string::npos) {
+        carried_ = carried.substr(over + 1);
+        return;
+    }
     const std::string text = Text();
     const char under = CharOf(text, position);
     const int point = PointPos(text);
-    if (decimalPlaces_ != 0 && position >= point + decimalPlaces_ + 1)
+    // A number whose point was deleted with it has an integer part only.
+    const bool pointless = decimalPlaces_ != 0 && text.find(Point()) == std::string::npos;
+    if (decimalPlaces_ != 0 && !pointless && position >= point + decimalPlaces_ + 1)
         return;
     const bool onField = Editable(text, position);
     if (Validate(c, position) == Verdict::Refused) {
@@ -429,8 +464,7 @@ void Control::EnterNumericChar(char c)
             return;
         }
         if (position > point) {
-            if (!(carriedPoint && position == point + 1))
-                RefuseNumeric();
+            RefuseNumeric();
             return;
         }
         position = point + 1;
@@ -445,7 +479,8 @@ void Control::EnterNumericChar(char c)
     }
     if (c == '-') {
         if (!typed_.empty()) {
-            edit_.Select(position, position + 1);
+            const bool onPoint = CharOf(text, position) == Point();
+            edit_.Select(position, position + (onPoint ? 0 : 1));
             edit_.Replace(typed_);
             return;
         }
@@ -476,31 +511,38 @@ void Control::EnterNumericChar(char c)
                 PlaceCaret(position);
             }
             if (under == '-')
-                PlaceCaret(firstField_ + 1);
+                PlaceCaret(c >= '1' && c <= '9' ? firstField_ + 1 : 1);
         }
     } else if (!typedFraction_.empty()) {
         lastFraction = decimalPlaces_ != 0 && CharOf(text, point) == Point() && position == point + decimalPlaces_;
         edit_.Char(typedFraction_[0]);
         position = edit_.Start();
-        const int grown = Reformat(nullptr);
-        position += grown;
+        const std::string inserted = Text();
         if (text.empty()) {
-            // Behind the digit just placed, which is the only one shown apart from forced zeros.
-            const size_t digits = Text().find(c);
-            position = digits == std::string::npos ? firstField_ : static_cast<int>(digits) + 1;
-        }
+            // The digit stands alone: the literals in front of a number are not part of it.
+            const std::string whole = LeadingEscapes() + inserted;
+            Reformat(&whole);
+        } else if (const int grown = Reformat(nullptr); grown != 0)
+            position = CaretAfterGrowth(inserted, position, grown);
+        if (text.empty() && IsDigit(c)) {
+            // The only digit stands last before the point, behind the zeros that the mask forces.
+            const size_t pointAt = decimalPlaces_ != 0 ? Text().find(Point()) : std::string::npos;
+            const size_t digit = Text().find_last_of("0123456789", pointAt);
+            position = digit == std::string::npos ? firstField_ : static_cast<int>(digit) + 1;
+        } else if (text.empty())
+            position = decimalPlaces_ != 0 ? firstField_ : edit_.Length();
         PlaceCaret(position);
     }
-    FinishNumeric(position, point, lastFraction);
+    FinishNumeric(position, lastFraction);
 }
 
-void Control::FinishNumeric(int position, int oldPoint, bool lastFraction)
+void Control::FinishNumeric(int position, bool lastFraction)
 {
     const int point = PointPos(Text());
     if (decimalPlaces_ != 0) {
         if (static_cast<int>(mask_.find('.')) == point)
             charwise_ = true;
-        if (lastFraction || position > oldPoint + decimalPlaces_ + 1) {
+        if (lastFraction) {
             if (autoskip_)
                 MoveCaret(kRight, shift_, false);
             return;
@@ -634,6 +676,7 @@ bool Control::NumericDeletion(int key, bool shift)
         PlaceCaret(position);
         return true;
     }
+    numericBackspaceDone_ = true;
     if (position == 0)
         return true;
     if (position < edit_.Length() && !Editable(Text(), position - 1)) {
@@ -643,6 +686,7 @@ bool Control::NumericDeletion(int key, bool shift)
         for (int i = 0; i < steps; ++i)
             edit_.Key(kLeft, shift);
     }
+    numericBackspaceDone_ = false;
     deletePending_ = true;
     charwise_ = false;
     return true;
@@ -779,7 +823,8 @@ void Control::DeleteNumericSelection(bool typing)
 
 void Control::SetSelection(int start, int end)
 {
-    carried_.clear();
+    if (start != end || start != edit_.Start() || start != edit_.End())
+        carried_.clear();
     edit_.Select(start, end);
 }
 
@@ -804,6 +849,7 @@ void Control::Paste(const std::string& clipboard)
 
 void Control::Click(int position)
 {
+    shift_ = false;
     carried_.clear();
     PlaceCaret(position);
     if (mask_.empty() || (IsNumeric() && !charwise_) || Text().empty())

@@ -122,6 +122,20 @@ std::string CanonicalTime(const Stamp& stamp)
     return text;
 }
 
+// The text being laid out; `used` is where the next part goes, what lies behind it may be written over.
+struct Buffer {
+    std::string bytes;
+    size_t used = 0;
+
+    void Write(const std::string& text)
+    {
+        bytes.resize(std::max(bytes.size(), used + text.size()), ' ');
+        bytes.replace(used, text.size(), text);
+        used += text.size();
+    }
+    std::string Text() const { return bytes.substr(0, used) + std::string(used - std::min(used, bytes.size()), ' '); }
+};
+
 int MonthFromName(const std::string& name)
 {
     for (int i = 0; i < 12; ++i)
@@ -236,6 +250,7 @@ void Control::FormatNumber(const Number& number, Shown& shown) const
 // Strings, dates and times: the mask is walked and every field laid into the text.
 void Control::FormatFields(const Value& value, Shown& shown) const
 {
+    Buffer out;
     const Stamp stamp = value.none ? Stamp() : value.stamp;
     const bool noText = value.none || value.text.empty();
     bool hourSeen = false;
@@ -244,23 +259,23 @@ void Control::FormatFields(const Value& value, Shown& shown) const
     for (size_t i = 0; i < mask_.size();) {
         const char c = mask_[i];
         if (c == '~' && i + 1 < mask_.size()) {
-            shown.text += mask_[i + 1];
+            out.Write(std::string(1, mask_[i + 1]));
             shown.flags |= 0x4000;
             i += 2;
             continue;
         }
         const bool marker = ampm_ && (mask_.compare(i, 5, "AM/PM") == 0 || mask_.compare(i, 5, "am/pm") == 0);
         if (!marker && !InTable(c, type_)) {
-            shown.text += c;
+            out.Write(std::string(1, c));
             shown.flags |= fieldSeen ? 0xC000u : 0x4000u;
             ++i;
             continue;
         }
         if (!fieldSeen)
-            shown.first = static_cast<int>(shown.text.size());
+            shown.first = static_cast<int>(out.used);
         fieldSeen = true;
         if (marker && hourSeen) {
-            shown.text += stamp.hour < 12 ? regional_->am : regional_->pm;
+            out.Write(stamp.hour < 12 ? regional_->am : regional_->pm);
             i += 5;
             continue;
         }
@@ -273,11 +288,11 @@ void Control::FormatFields(const Value& value, Shown& shown) const
             int count = std::min(remaining, static_cast<int>(run));
             if (noText) {
                 count = (formatFlags_ & 0x4000) != 0 || type_ != kString ? static_cast<int>(run) : 0;
-                shown.text.append(static_cast<size_t>(count), ' ');
+                out.Write(std::string(static_cast<size_t>(count), ' '));
             } else if (count > 0)
-                shown.text += value.text.substr(static_cast<size_t>(cursor), static_cast<size_t>(count));
+                out.Write(value.text.substr(static_cast<size_t>(cursor), static_cast<size_t>(count)));
             if (count < static_cast<int>(run) && (formatFlags_ & 0x8000) != 0) {
-                shown.text.append(run - static_cast<size_t>(std::max(count, 0)), ' ');
+                out.Write(std::string(run - static_cast<size_t>(std::max(count, 0)), ' '));
                 count = static_cast<int>(run);
             }
             cursor += std::max(count, 0);
@@ -316,11 +331,21 @@ void Control::FormatFields(const Value& value, Shown& shown) const
         }
         case 'S': text = stamp.HasTime() ? Padded(stamp.second, 2) : "00"; break;
         case 'F': text = stamp.HasTime() ? Padded(stamp.microsecond, 6) : "000000"; break;
-        default: break;
+        default: text.assign(marker ? 0 : run, ' '); break;
         }
-        text.resize(run, ' ');
-        shown.text += text;
+        // What a field writes beyond its run stays until something is written over it.
+        const size_t at = out.used;
+        out.Write(text);
+        out.used = at + run;
     }
+    shown.text = out.Text();
+}
+
+bool Control::Interleaved() const
+{
+    int unused = 0;
+    const auto format = model::Format::Compile(FormatTextOf(mask_, type_, false, unused));
+    return IsNumeric() && format && format->interleaved;
 }
 
 const CodeEntry* Control::FindValue(const Value& value, const std::string& formatted) const
