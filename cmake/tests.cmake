@@ -73,6 +73,7 @@ add_executable(abi_customer ${CMAKE_SOURCE_DIR}/tests/abi/abi_customer.c)
 target_link_libraries(abi_customer PRIVATE ztedit050 ztshared ztdecimal zt_build_flags)
 target_link_options(abi_customer PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wl,--fatal-warnings>)
 add_dependencies(test_abi abi_customer)
+
 # The mask tests run the examples of docs/masks.md.
 if(TARGET test_mask)
     target_compile_definitions(test_mask PRIVATE ZTE_SOURCE_DIR="${CMAKE_SOURCE_DIR}")

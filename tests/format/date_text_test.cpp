@@ -77,7 +77,6 @@ const DateTextCase kRefusedDateRows[] = {
     {"UnknownMonthName",                 "DD-MMM-YYYY", DT_DATE, "04-XXX-1995",      "00-   -0000"},
     {"LetterInADigitField",              "MM/DD/YY",    DT_DATE, "07/x4/95",         "00/00/00"   },
     {"DayThreeSixtySixOfACommonYear",    "JJJ/YYYY",    DT_DATE, "366/1995",         "001/0000"   },
-    {"DayZeroOfTheYear",                 "JJJ/YYYY",    DT_DATE, "000/1995",         "001/0000"   },
     {"DayNineHundredOfTheYear",          "JJJ/YYYY",    DT_DATE, "999/1995",         "001/0000"   },
 };
 
