@@ -32,6 +32,8 @@ struct NumericEntry {
     int32_t Length() const { return static_cast<int32_t>(text.size()); }
     char Under() const { return position < Length() ? text[static_cast<size_t>(position)] : '\0'; }
     int32_t Point() const { return DecimalCharPos(text); }
+    // Emptied, but for a sign that was typed since.
+    bool IsEmptied() const { return text.empty() || text == "-" || text == "+"; }
     bool IsDigitTyped() const { return IsDigit(typed); }
 };
 
@@ -203,7 +205,7 @@ int32_t BehindInserted(const EditInstance& edit, const NumericEntry& entry, cons
     const DigitPlace place = DigitPlaceOf(inserted, behind);
     const bool dropped = DigitPlaceOf(text, 0).digits < DigitPlaceOf(inserted, 0).digits;
     const bool moved = entry.IsDigitTyped() && !dropped && !(DigitPlaceOf(text, behind + growth) == place);
-    return entry.Length() == 0 || moved ? PositionOf(text, place) : behind + growth;
+    return entry.IsEmptied() || moved ? PositionOf(text, place) : behind + growth;
 }
 
 // Inserts before the point and lays the number anew; the caret stays behind the digit just placed.
