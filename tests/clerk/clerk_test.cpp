@@ -1,4 +1,5 @@
-// What the clerks of our customers do all day, told as they would tell it. Each of these has to work, whatever else changes.
+// What the clerks of our customers do all day, told as they would tell it. Each of these has to work, whatever else
+// changes.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -28,7 +29,7 @@ protected:
     void ClickAtTheFront() { PutCaret(0); }
 };
 
-// ---- Numbers -----------------------------------------------------------------------------------------------------------
+// ---- Numbers --------------------------------------------------------------------------------------------------------
 
 TEST_F(Clerk, TabsIntoANumberAndTypes53)
 {
@@ -151,7 +152,7 @@ TEST_F(Clerk, TypesANegativeNumber)
     EXPECT_EQ(Value(), "-53.00");
 }
 
-// ---- Dates -------------------------------------------------------------------------------------------------------------
+// ---- Dates ----------------------------------------------------------------------------------------------------------
 
 struct DateCase {
     const char* name;
@@ -165,28 +166,28 @@ void PrintTo(const DateCase& row, std::ostream* out)
     *out << row.name << " (" << row.keys << " into " << row.mask << ")";
 }
 
-// clang-format off: one row a line
+// clang-format off
 const DateCase kDates[] = {
-    {"WithSeparators",                    "MM/DD/YY",    "7/4/95",     "07/04/95"   },
-    {"WithSeparatorsAndZeroes",           "MM/DD/YY",    "07/04/95",   "07/04/95"   },
-    {"DigitsAlone",                       "MM/DD/YY",    "070495",     "07/04/95"   },
-    {"DigitsAloneWithoutZeroes",          "MM/DD/YY",    "7495",       "07/04/95"   },
-    {"FourDigitYear",                     "MM/DD/YYYY",  "07041995",   "07/04/1995" },
-    {"FourDigitYearWithSeparators",       "MM/DD/YYYY",  "7/4/1995",   "07/04/1995" },
-    {"DayFirst",                          "DD.MM.YYYY",  "4.7.1995",   "04.07.1995" },
-    {"DayFirstDigitsAlone",               "DD.MM.YYYY",  "04071995",   "04.07.1995" },
-    {"YearFirst",                         "YYYY-MM-DD",  "1995-7-4",   "1995-07-04" },
-    {"YearFirstDigitsAlone",              "YYYY-MM-DD",  "19950704",   "1995-07-04" },
-    {"YearFirstWithSlashes",              "YYYY/MM/DD",  "1995/7/4",   "1995/07/04" },
-    {"TwoDigitYearFirst",                 "YY/MM/DD",    "95/7/4",     "95/07/04"   },
+    {"WithSeparators",                    "MM/DD/YY",    "7/4/95",     "07/04/95"},
+    {"WithSeparatorsAndZeroes",           "MM/DD/YY",    "07/04/95",   "07/04/95"},
+    {"DigitsAlone",                       "MM/DD/YY",    "070495",     "07/04/95"},
+    {"DigitsAloneWithoutZeroes",          "MM/DD/YY",    "7495",       "07/04/95"},
+    {"FourDigitYear",                     "MM/DD/YYYY",  "07041995",   "07/04/1995"},
+    {"FourDigitYearWithSeparators",       "MM/DD/YYYY",  "7/4/1995",   "07/04/1995"},
+    {"DayFirst",                          "DD.MM.YYYY",  "4.7.1995",   "04.07.1995"},
+    {"DayFirstDigitsAlone",               "DD.MM.YYYY",  "04071995",   "04.07.1995"},
+    {"YearFirst",                         "YYYY-MM-DD",  "1995-7-4",   "1995-07-04"},
+    {"YearFirstDigitsAlone",              "YYYY-MM-DD",  "19950704",   "1995-07-04"},
+    {"YearFirstWithSlashes",              "YYYY/MM/DD",  "1995/7/4",   "1995/07/04"},
+    {"TwoDigitYearFirst",                 "YY/MM/DD",    "95/7/4",     "95/07/04"},
     {"MonthName",                         "DD-MMM-YYYY", "4-jul-1995", "04-JUL-1995"},
     {"MonthNameWithoutSeparators",        "DD-MMM-YYYY", "04jul1995",  "04-JUL-1995"},
-    {"DayOfTheYear",                      "JJJ/YYYY",    "185/1995",   "185/1995"   },
-    {"JanuaryTheSecondIsNotTheTwentieth", "MM/DD/YY",    "1/2/95",     "01/02/95"   },
-    {"JanuaryTheSecondYearFirst",         "YYYY-MM-DD",  "1995-1-02",  "1995-01-02" },
-    {"JanuaryTheSecondDayFirst",          "DD.MM.YY",    "2.1.95",     "02.01.95"   },
-    {"TheLastOfTheYear",                  "MM/DD/YY",    "123195",     "12/31/95"   },
-    {"TheLeapDay",                        "MM/DD/YYYY",  "02291996",   "02/29/1996" },
+    {"DayOfTheYear",                      "JJJ/YYYY",    "185/1995",   "185/1995"},
+    {"JanuaryTheSecondIsNotTheTwentieth", "MM/DD/YY",    "1/2/95",     "01/02/95"},
+    {"JanuaryTheSecondYearFirst",         "YYYY-MM-DD",  "1995-1-02",  "1995-01-02"},
+    {"JanuaryTheSecondDayFirst",          "DD.MM.YY",    "2.1.95",     "02.01.95"},
+    {"TheLastOfTheYear",                  "MM/DD/YY",    "123195",     "12/31/95"},
+    {"TheLeapDay",                        "MM/DD/YYYY",  "02291996",   "02/29/1996"},
 };
 // clang-format on
 
@@ -223,7 +224,7 @@ void PrintTo(const KeywordCase& row, std::ostream* out)
     *out << row.name;
 }
 
-// clang-format off: one row a line
+// clang-format off
 const KeywordCase kKeywordDates[] = {
     {"AmericanDigits",     &kUnitedStates, "07041995", "07/04/1995"},
     {"AmericanSeparators", &kUnitedStates, "7/4/1995", "07/04/1995"},
@@ -271,7 +272,7 @@ TEST_F(Clerk, TypesADateOverAnotherFromTheFront)
     EXPECT_EQ(Text(), "12/31/96");
 }
 
-// ---- Times -------------------------------------------------------------------------------------------------------------
+// ---- Times ----------------------------------------------------------------------------------------------------------
 
 TEST_F(Clerk, SeesHalfPastTwelveInTheAfternoonAsItWasSet)
 {
@@ -330,7 +331,7 @@ TEST_F(Clerk, TypesADateAndATime)
     EXPECT_EQ(Beeps(), 0);
 }
 
-// ---- Strings -----------------------------------------------------------------------------------------------------------
+// ---- Strings --------------------------------------------------------------------------------------------------------
 
 TEST_F(Clerk, TypesAPhoneNumberAsDigits)
 {
@@ -363,7 +364,7 @@ TEST_F(Clerk, TypesACodeThatIsRaised)
     EXPECT_EQ(Text(), "AB-12");
 }
 
-// ---- Copying and pasting -------------------------------------------------------------------------------------------------
+// ---- Copying and pasting --------------------------------------------------------------------------------------------
 
 struct CopyCase {
     const char* name;
@@ -378,22 +379,22 @@ void PrintTo(const CopyCase& row, std::ostream* out)
     *out << row.name;
 }
 
-// clang-format off: one row a line
+// clang-format off
 const CopyCase kCopies[] = {
-    {"ANumber",            &kUnitedStates, "#,##0.00",       DT_NUMBER,  "1234.5"    },
-    {"ANegativeNumber",    &kUnitedStates, "#,##0.00",       DT_NUMBER,  "-1234.5"   },
-    {"AFraction",          &kUnitedStates, "#,#.00",         DT_NUMBER,  "0.25"      },
-    {"ADecimal",           &kUnitedStates, "#,##0.0000",     DT_DECIMAL, "1234.5678" },
-    {"AnAmount",           &kUnitedStates, "[currency(9)]",  DT_NUMBER,  "1234.5"    },
-    {"ANegativeAmount",    &kUnitedStates, "[currency(9)]",  DT_NUMBER,  "-1234.5"   },
-    {"APercentage",        &kUnitedStates, "#,##0.00%",      DT_NUMBER,  "0.125"     },
-    {"ADecimalPercentage", &kUnitedStates, "#,##0.00%",      DT_DECIMAL, "0.125"     },
-    {"AGermanNumber",      &kGerman,       nullptr,          DT_NUMBER,  "1234.5"    },
-    {"AGermanDecimal",     &kGerman,       nullptr,          DT_DECIMAL, "1234.5"    },
-    {"AGermanAmount",      &kGerman,       "[currency(9)]",  DT_NUMBER,  "1234.5"    },
-    {"AFrenchAmount",      &kFrench,       "[currency(9)]",  DT_NUMBER,  "1234.5"    },
-    {"AFrenchDecimal",     &kFrench,       "[currency(9)]",  DT_DECIMAL, "1234.5"    },
-    {"ASwissAmount",       &kSwiss,        "[currency(9)]",  DT_NUMBER,  "1234.5"    },
+    {"ANumber",            &kUnitedStates, "#,##0.00",       DT_NUMBER,  "1234.5"},
+    {"ANegativeNumber",    &kUnitedStates, "#,##0.00",       DT_NUMBER,  "-1234.5"},
+    {"AFraction",          &kUnitedStates, "#,#.00",         DT_NUMBER,  "0.25"},
+    {"ADecimal",           &kUnitedStates, "#,##0.0000",     DT_DECIMAL, "1234.5678"},
+    {"AnAmount",           &kUnitedStates, "[currency(9)]",  DT_NUMBER,  "1234.5"},
+    {"ANegativeAmount",    &kUnitedStates, "[currency(9)]",  DT_NUMBER,  "-1234.5"},
+    {"APercentage",        &kUnitedStates, "#,##0.00%",      DT_NUMBER,  "0.125"},
+    {"ADecimalPercentage", &kUnitedStates, "#,##0.00%",      DT_DECIMAL, "0.125"},
+    {"AGermanNumber",      &kGerman,       nullptr,          DT_NUMBER,  "1234.5"},
+    {"AGermanDecimal",     &kGerman,       nullptr,          DT_DECIMAL, "1234.5"},
+    {"AGermanAmount",      &kGerman,       "[currency(9)]",  DT_NUMBER,  "1234.5"},
+    {"AFrenchAmount",      &kFrench,       "[currency(9)]",  DT_NUMBER,  "1234.5"},
+    {"AFrenchDecimal",     &kFrench,       "[currency(9)]",  DT_DECIMAL, "1234.5"},
+    {"ASwissAmount",       &kSwiss,        "[currency(9)]",  DT_NUMBER,  "1234.5"},
     {"APhoneNumber",       &kUnitedStates, "(###) ###-####", DT_STRING,  "5551234567"},
 };
 // clang-format on
@@ -445,7 +446,7 @@ TEST_F(Clerk, PastesADateAndATimeFromALetter)
     EXPECT_EQ(Text(), "07/04/95 02:30 PM");
 }
 
-// ---- Slips ---------------------------------------------------------------------------------------------------------------
+// ---- Slips ----------------------------------------------------------------------------------------------------------
 
 struct FieldCase {
     const char* name;
@@ -460,7 +461,7 @@ void PrintTo(const FieldCase& row, std::ostream* out)
     *out << row.name;
 }
 
-// clang-format off: one row a line
+// clang-format off
 const FieldCase kFields[] = {
     {"Date",            "MM/DD/YY",       DT_DATE,     "1995-07-04",       "?"},
     {"DateWithName",    "DD-MMM-YYYY",    DT_DATE,     "1995-07-04",       "?"},
@@ -562,7 +563,7 @@ TEST_P(ClerkSlips, DeletedFieldsKeepTheirLength)
 
 INSTANTIATE_TEST_SUITE_P(Fields, ClerkSlips, testing::ValuesIn(kFields), RowName<FieldCase>);
 
-// ---- Fast typing ---------------------------------------------------------------------------------------------------------
+// ---- Fast typing ----------------------------------------------------------------------------------------------------
 
 struct FastCase {
     const char* name;
@@ -577,18 +578,18 @@ void PrintTo(const FastCase& row, std::ostream* out)
     *out << row.name;
 }
 
-// clang-format off: one row a line
+// clang-format off
 const FastCase kFast[] = {
-    {"ADate",            "MM/DD/YY",       DT_DATE,    "070495",      "07/04/95"      },
-    {"ADateWithSlashes", "MM/DD/YY",       DT_DATE,    "7/4/95",      "07/04/95"      },
-    {"ATime",            "HH:MM:SS",       DT_TIME,    "143009",      "14:30:09"      },
-    {"AnAmount",         "#,#.00",         DT_NUMBER,  "123.45",      "123.45"        },
-    {"ALongAmount",      "#,###,###.00",   DT_NUMBER,  "12345.67",    "12,345.67"     },
-    {"ADecimal",         "#,###,###.00",   DT_DECIMAL, "12345.67",    "12,345.67"     },
+    {"ADate",            "MM/DD/YY",       DT_DATE,    "070495",      "07/04/95"},
+    {"ADateWithSlashes", "MM/DD/YY",       DT_DATE,    "7/4/95",      "07/04/95"},
+    {"ATime",            "HH:MM:SS",       DT_TIME,    "143009",      "14:30:09"},
+    {"AnAmount",         "#,#.00",         DT_NUMBER,  "123.45",      "123.45"},
+    {"ALongAmount",      "#,###,###.00",   DT_NUMBER,  "12345.67",    "12,345.67"},
+    {"ADecimal",         "#,###,###.00",   DT_DECIMAL, "12345.67",    "12,345.67"},
     {"APhoneNumber",     "(###) ###-####", DT_STRING,  "5551234567",  "(555) 123-4567"},
-    {"ACorrectedDate",   "MM/DD/YY",       DT_DATE,    "0705\b\b495", "07/04/95"      },
-    {"ACorrectedNumber", "#,###,###.00",   DT_NUMBER,  "124\b3",      "123.00"        },
-    {"ACorrectedString", "AAAA",           DT_STRING,  "abx\bcd",     "abcd"          },
+    {"ACorrectedDate",   "MM/DD/YY",       DT_DATE,    "0705\b\b495", "07/04/95"},
+    {"ACorrectedNumber", "#,###,###.00",   DT_NUMBER,  "124\b3",      "123.00"},
+    {"ACorrectedString", "AAAA",           DT_STRING,  "abx\bcd",     "abcd"},
 };
 // clang-format on
 
@@ -610,7 +611,7 @@ TEST_P(ClerkTypesFast, EachKeyGoesDownBeforeTheLastIsUp)
 
 INSTANTIATE_TEST_SUITE_P(Texts, ClerkTypesFast, testing::ValuesIn(kFast), RowName<FastCase>);
 
-// ---- Fields that take no input ---------------------------------------------------------------------------------------------
+// ---- Fields that take no input --------------------------------------------------------------------------------------
 
 enum class Lock { ReadOnly, ReadOnlyFromTheStart, Disabled };
 
@@ -688,23 +689,23 @@ TEST_P(ClerkAtALockedField, SeesValuesSetByTheProgram)
     EXPECT_EQ(Text(), "12/31/01");
 }
 
-// clang-format off: one row a line
+// clang-format off
 const LockCase kLocks[] = {
-    {"ReadOnlyTyping",             Lock::ReadOnly,             "12"         },
-    {"ReadOnlySeparator",          Lock::ReadOnly,             "/."         },
-    {"ReadOnlyBackspace",          Lock::ReadOnly,             "{Back}"     },
-    {"ReadOnlyDelete",             Lock::ReadOnly,             "{Del}"      },
-    {"ReadOnlyCtrlV",              Lock::ReadOnly,             "{Ctrl+V}"   },
+    {"ReadOnlyTyping",             Lock::ReadOnly,             "12"},
+    {"ReadOnlySeparator",          Lock::ReadOnly,             "/."},
+    {"ReadOnlyBackspace",          Lock::ReadOnly,             "{Back}"},
+    {"ReadOnlyDelete",             Lock::ReadOnly,             "{Del}"},
+    {"ReadOnlyCtrlV",              Lock::ReadOnly,             "{Ctrl+V}"},
     {"ReadOnlyShiftInsert",        Lock::ReadOnly,             "{Shift+Ins}"},
-    {"ReadOnlyUp",                 Lock::ReadOnly,             "{Up}"       },
-    {"ReadOnlyDown",               Lock::ReadOnly,             "{Down}"     },
-    {"ReadOnlyFromTheStartTyping", Lock::ReadOnlyFromTheStart, "12"         },
-    {"ReadOnlyFromTheStartDelete", Lock::ReadOnlyFromTheStart, "{Del}"      },
-    {"DisabledTyping",             Lock::Disabled,             "12"         },
-    {"DisabledBackspace",          Lock::Disabled,             "{Back}"     },
-    {"DisabledDelete",             Lock::Disabled,             "{Del}"      },
-    {"DisabledCtrlV",              Lock::Disabled,             "{Ctrl+V}"   },
-    {"DisabledUp",                 Lock::Disabled,             "{Up}"       },
+    {"ReadOnlyUp",                 Lock::ReadOnly,             "{Up}"},
+    {"ReadOnlyDown",               Lock::ReadOnly,             "{Down}"},
+    {"ReadOnlyFromTheStartTyping", Lock::ReadOnlyFromTheStart, "12"},
+    {"ReadOnlyFromTheStartDelete", Lock::ReadOnlyFromTheStart, "{Del}"},
+    {"DisabledTyping",             Lock::Disabled,             "12"},
+    {"DisabledBackspace",          Lock::Disabled,             "{Back}"},
+    {"DisabledDelete",             Lock::Disabled,             "{Del}"},
+    {"DisabledCtrlV",              Lock::Disabled,             "{Ctrl+V}"},
+    {"DisabledUp",                 Lock::Disabled,             "{Up}"},
 };
 // clang-format on
 

@@ -200,8 +200,8 @@ TEST(WindowClasses, TheSpinHasFourExtraBytesAndIsNotGlobal)
     EXPECT_FALSE(GetClassInfoA(GetModuleHandleA(nullptr), "spin", &elsewhere));
 }
 
-// A second copy of the library under another name, which can be unloaded although this program is linked to the first. A
-// class name for all modules can be registered once only, so the first gives its own up for the time.
+// A second copy of the library under another name, which can be unloaded although this program is linked to the first.
+// A class name for all modules can be registered once only, so the first gives its own up for the time.
 class SecondLibrary : public testing::Test {
 protected:
     void SetUp() override

@@ -4,7 +4,7 @@
 namespace zttest {
 namespace {
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kMoves[] = {
     {"LeftPassesALiteral",                    "MM/DD/YY",    DT_DATE,   "07/|04/95",  "{Left}",                     "0|7/04/95",  0},
     {"RightPassesALiteral",                   "MM/DD/YY",    DT_DATE,   "0|7/04/95",  "{Right}",                    "07/|04/95",  0},
@@ -21,8 +21,7 @@ const KeyCase kMoves[] = {
     {"RightPassesAnEscapedLiteral",           "##~X##",      DT_STRING, "1|2X34",     "{Right}",                    "12X|34",     0},
     {"RightStopsAtTheAmPmField",              "HH:MM AM/PM", DT_TIME,   "02:3|0 PM",  "{Right}",                    "02:30 |PM",  0},
     {"LeftStopsAtTheAmPmField",               "HH:MM AM/PM", DT_TIME,   "02:30 P|M",  "{Left}",                     "02:30 |PM",  0},
-    {"ShiftAndRightExtendTheSelection",       "MM/DD/YY",    DT_DATE,   "0|7/04/95",  "{Shift+Right}{Shift+Right}", "0[7/]04/95",
-     0                                                                                                                             },
+    {"ShiftAndRightExtendTheSelection",       "MM/DD/YY",    DT_DATE,   "0|7/04/95",  "{Shift+Right}{Shift+Right}", "0[7/]04/95", 0},
     {"ShiftAndLeftExtendTheSelection",        "MM/DD/YY",    DT_DATE,   "07/|04/95",  "{Shift+Left}",               "07[/]04/95", 0},
     {"HomeGoesToTheStart",                    "MM/DD/YY",    DT_DATE,   "07/|04/95",  "{Home}",                     "|07/04/95",  0},
     {"HomeMayStandOnALiteral",                "(###) ###",   DT_STRING, "(555) |123", "{Home}",                     "|(555) 123", 0},
@@ -93,21 +92,21 @@ void PrintTo(const ClickCase& row, std::ostream* out)
     *out << row.name << " (click at " << row.clicked << " of " << row.text << ")";
 }
 
-// clang-format off: one row a line
+// clang-format off
 const ClickCase kClicks[] = {
-    {"OnADigitStays",                 "MM/DD/YY",    DT_DATE,   "07/04/95",  3, "07/|04/95" },
-    {"OnASlashGoesRight",             "MM/DD/YY",    DT_DATE,   "07/04/95",  2, "07/|04/95" },
-    {"BehindTheEndStays",             "MM/DD/YY",    DT_DATE,   "07/04/95",  8, "07/04/95|" },
-    {"OnTheNearerLeftGoesLeft",       "##---##",     DT_STRING, "12---34",   2, "1|2---34"  },
-    {"InTheMiddleGoesRight",          "##---##",     DT_STRING, "12---34",   3, "12---|34"  },
-    {"OnTheNearerRightGoesRight",     "##---##",     DT_STRING, "12---34",   4, "12---|34"  },
+    {"OnADigitStays",                 "MM/DD/YY",    DT_DATE,   "07/04/95",  3, "07/|04/95"},
+    {"OnASlashGoesRight",             "MM/DD/YY",    DT_DATE,   "07/04/95",  2, "07/|04/95"},
+    {"BehindTheEndStays",             "MM/DD/YY",    DT_DATE,   "07/04/95",  8, "07/04/95|"},
+    {"OnTheNearerLeftGoesLeft",       "##---##",     DT_STRING, "12---34",   2, "1|2---34"},
+    {"InTheMiddleGoesRight",          "##---##",     DT_STRING, "12---34",   3, "12---|34"},
+    {"OnTheNearerRightGoesRight",     "##---##",     DT_STRING, "12---34",   4, "12---|34"},
     {"LeftOfTheFirstFieldStays",      "(###) ###",   DT_STRING, "(555) 123", 0, "|(555) 123"},
-    {"RightOfTheLastFieldGoesLeft",   "## km",       DT_STRING, "12 km",     3, "1|2 km"    },
-    {"OnTheAmPmFieldStays",           "HH:MM AM/PM", DT_TIME,   "02:30 PM",  6, "02:30 |PM" },
-    {"OnAThousandsCharacterStays",    "#,##0.00",    DT_NUMBER, "1,234.50",  1, "1|,234.50" },
-    {"OnThePointOfANumberStays",      "#,##0.00",    DT_NUMBER, "1,234.50",  5, "1,234|.50" },
-    {"InTheFractionOfAZeroMaskStays", "000.00",      DT_NUMBER, "123.45",    5, "123.4|5"   },
-    {"OnAnEscapedLiteralGoesOn",      "##~X##",      DT_STRING, "12X34",     2, "12X|34"    },
+    {"RightOfTheLastFieldGoesLeft",   "## km",       DT_STRING, "12 km",     3, "1|2 km"},
+    {"OnTheAmPmFieldStays",           "HH:MM AM/PM", DT_TIME,   "02:30 PM",  6, "02:30 |PM"},
+    {"OnAThousandsCharacterStays",    "#,##0.00",    DT_NUMBER, "1,234.50",  1, "1|,234.50"},
+    {"OnThePointOfANumberStays",      "#,##0.00",    DT_NUMBER, "1,234.50",  5, "1,234|.50"},
+    {"InTheFractionOfAZeroMaskStays", "000.00",      DT_NUMBER, "123.45",    5, "123.4|5"},
+    {"OnAnEscapedLiteralGoesOn",      "##~X##",      DT_STRING, "12X34",     2, "12X|34"},
 };
 // clang-format on
 

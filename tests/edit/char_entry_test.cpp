@@ -1,66 +1,70 @@
 // Typing into fields that are no numbers: what a character does to the text, the caret and the host.
+#include <utility>
+#include <vector>
+
+#include "tests/support/base_recorder.h"
 #include "tests/support/edit_test.h"
 
 namespace zttest {
 namespace {
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kSteps[] = {
-    {"ADigitOverwritesItsPosition", "MM/DD/YY", DT_DATE, "text:|00/00/00", "1", "1|0/00/00", 0},
-    {"TheCaretPassesALiteral", "MM/DD/YY", DT_DATE, "text:|00/00/00", "07", "07/|00/00", 0},
-    {"APaddedDigitFillsItsField", "MM/DD/YY", DT_DATE, "text:|00/00/00", "7", "07/|00/00", 0},
-    {"TheLastPositionLeavesTheCaretAtTheEnd", "MM/DD/YY", DT_DATE, "07/04/9|0", "5", "07/04/95|", 0},
-    {"AWholeDateFillsTheField", "MM/DD/YY", DT_DATE, "text:|00/00/00", "070495", "07/04/95|", 0},
-    {"BehindTheEndACharacterIsDroppedSilently", "MM/DD/YY", DT_DATE, "07/04/95|", "1", "07/04/95|", 0},
-    {"ARefusedLetterBeeps", "MM/DD/YY", DT_DATE, "|07/04/95", "x", "|07/04/95", 1},
-    {"OnALiteralADigitBeeps", "MM/DD/YY", DT_DATE, "07|/04/95", "1", "07|/04/95", 1},
-    {"OnALiteralTheLiteralBeeps", "MM/DD/YY", DT_DATE, "07|/04/95", "/", "07|/04/95", 1},
+    {"ADigitOverwritesItsPosition",                  "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "1",       "1|0/00/00",    0},
+    {"TheCaretPassesALiteral",                       "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "07",      "07/|00/00",    0},
+    {"APaddedDigitFillsItsField",                    "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "7",       "07/|00/00",    0},
+    {"TheLastPositionLeavesTheCaretAtTheEnd",        "MM/DD/YY",    DT_DATE,   "07/04/9|0",         "5",       "07/04/95|",    0},
+    {"AWholeDateFillsTheField",                      "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "070495",  "07/04/95|",    0},
+    {"BehindTheEndACharacterIsDroppedSilently",      "MM/DD/YY",    DT_DATE,   "07/04/95|",         "1",       "07/04/95|",    0},
+    {"ARefusedLetterBeeps",                          "MM/DD/YY",    DT_DATE,   "|07/04/95",         "x",       "|07/04/95",    1},
+    {"OnALiteralADigitBeeps",                        "MM/DD/YY",    DT_DATE,   "07|/04/95",         "1",       "07|/04/95",    1},
+    {"OnALiteralTheLiteralBeeps",                    "MM/DD/YY",    DT_DATE,   "07|/04/95",         "/",       "07|/04/95",    1},
 
-    {"ASeparatorPadsASingleDigit", "MM/DD/YY", DT_DATE, "text:|00/00/00", "1/", "01/|00/00", 0},
-    {"ASeparatorPadsASingleDayDigit", "MM/DD/YY", DT_DATE, "text:01/|00/00", "2/", "01/02/|00", 0},
-    {"ASeparatorPadsInAYearFirstMask", "YYYY-MM-DD", DT_DATE, "text:1995-|00-00", "1-", "1995-01-|00", 0},
-    {"ASeparatorPadsUnderAnotherSeparator", "DD.MM.YY", DT_DATE, "text:|00.00.00", "2.", "02.|00.00", 0},
-    {"ASeparatorPadsUnderAKeyword", "[date]", DT_DATE, "text:|00/00/0000", "2/", "02/|00/0000", 0},
-    {"ASeparatorPadsBehindALiteral", "on MM/DD/YY", DT_DATE, "text:on |00/00/00", "1/", "on 01/|00/00", 0},
-    {"ASeparatorPadsAnHour", "HH:MM", DT_TIME, "|00:00", "1:", "01:|00", 0},
-    {"ASeparatorPadsAMinute", "HH:MM:SS", DT_TIME, "00:|00:00", "5:", "00:05:|00", 0},
-    {"ASeparatorAtTheStartOfAFieldGoesToTheNextOne", "MM/DD/YY", DT_DATE, "|07/04/95", "/", "07/|04/95", 0},
-    {"ASeparatorAfterItWasPassedIsTakenAsTyped", "MM/DD/YY", DT_DATE, "text:|00/00/00", "7/4/95", "07/04/95|", 0},
-    {"ASeparatorTypedTwiceGoesOnToTheNextOne", "MM/DD/YY", DT_DATE, "07/|04/95", "/", "07/04/|95", 0},
-    {"ASeparatorAfterAPaddedFieldTypedTwiceGoesOn", "MM/DD/YY", DT_DATE, "text:|00/00/00", "7//", "07/00/|00", 0},
-    {"ADigitThatRecursInALaterFieldIsNoSeparator", "MM/DD/YY", DT_DATE, "1|0/03/95", "3", "1|0/03/95", 1},
-    {"ASeparatorOfAnotherKindBeeps", "MM/DD/YY", DT_DATE, "|07/04/95", "-", "|07/04/95", 1},
-    {"AnEscapedLiteralIsNotSkippedTo", "##~-##", DT_STRING, "text:|  -  ", "1-", "1| -  ", 1},
-    {"AnUnescapedLiteralIsSkippedTo", "##-##", DT_STRING, "text:|  -  ", "1-", "1 -|  ", 0},
-    {"ALiteralOfSeveralIsSkippedWithTheRest", "(###) ###", DT_STRING, "text:(|   )    ", "5)", "(5  ) |   ", 0},
+    {"ASeparatorPadsASingleDigit",                   "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "1/",      "01/|00/00",    0},
+    {"ASeparatorPadsASingleDayDigit",                "MM/DD/YY",    DT_DATE,   "text:01/|00/00",    "2/",      "01/02/|00",    0},
+    {"ASeparatorPadsInAYearFirstMask",               "YYYY-MM-DD",  DT_DATE,   "text:1995-|00-00",  "1-",      "1995-01-|00",  0},
+    {"ASeparatorPadsUnderAnotherSeparator",          "DD.MM.YY",    DT_DATE,   "text:|00.00.00",    "2.",      "02.|00.00",    0},
+    {"ASeparatorPadsUnderAKeyword",                  "[date]",      DT_DATE,   "text:|00/00/0000",  "2/",      "02/|00/0000",  0},
+    {"ASeparatorPadsBehindALiteral",                 "on MM/DD/YY", DT_DATE,   "text:on |00/00/00", "1/",      "on 01/|00/00", 0},
+    {"ASeparatorPadsAnHour",                         "HH:MM",       DT_TIME,   "|00:00",            "1:",      "01:|00",       0},
+    {"ASeparatorPadsAMinute",                        "HH:MM:SS",    DT_TIME,   "00:|00:00",         "5:",      "00:05:|00",    0},
+    {"ASeparatorAtTheStartOfAFieldGoesToTheNextOne", "MM/DD/YY",    DT_DATE,   "|07/04/95",         "/",       "07/|04/95",    0},
+    {"ASeparatorAfterItWasPassedIsTakenAsTyped",     "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "7/4/95",  "07/04/95|",    0},
+    {"ASeparatorTypedTwiceGoesOnToTheNextOne",       "MM/DD/YY",    DT_DATE,   "07/|04/95",         "/",       "07/04/|95",    0},
+    {"ASeparatorAfterAPaddedFieldTypedTwiceGoesOn",  "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "7//",     "07/00/|00",    0},
+    {"ADigitThatRecursInALaterFieldIsNoSeparator",   "MM/DD/YY",    DT_DATE,   "1|0/03/95",         "3",       "1|0/03/95",    1},
+    {"ASeparatorOfAnotherKindBeeps",                 "MM/DD/YY",    DT_DATE,   "|07/04/95",         "-",       "|07/04/95",    1},
+    {"AnEscapedLiteralIsNotSkippedTo",               "##~-##",      DT_STRING, "text:|  -  ",       "1-",      "1| -  ",       1},
+    {"AnUnescapedLiteralIsSkippedTo",                "##-##",       DT_STRING, "text:|  -  ",       "1-",      "1 -|  ",       0},
+    {"ALiteralOfSeveralIsSkippedWithTheRest",        "(###) ###",   DT_STRING, "text:(|   )    ",   "5)",      "(5  ) |   ",   0},
 
-    {"BeforeTheFirstFieldTheCharacterGoesThere", "(###) ###", DT_STRING, "|(555) 123", "7", "(7|55) 123", 0},
-    {"BeforeTheFirstFieldARefusedCharacterBeeps", "(###) ###", DT_STRING, "|(555) 123", "x", "(|555) 123", 1},
+    {"BeforeTheFirstFieldTheCharacterGoesThere",     "(###) ###",   DT_STRING, "|(555) 123",        "7",       "(7|55) 123",   0},
+    {"BeforeTheFirstFieldARefusedCharacterBeeps",    "(###) ###",   DT_STRING, "|(555) 123",        "x",       "(|555) 123",   1},
 
-    {"ASelectionIsClearedFirst", "MM/DD/YY", DT_DATE, "[07]/04/95", "1", "1|0/04/95", 0},
-    {"AWholeSelectionIsClearedToTheBlank", "MM/DD/YY", DT_DATE, "[07/04/95]", "1", "1|0/00/00", 0},
-    {"ASelectedLiteralStands", "MM/DD/YY", DT_DATE, "07[/0]4/95", "1", "07|/04/95", 1},
-    {"ASelectionInAStringIsBlanked", "##-##", DT_STRING, "[12-3]4", "5", "5| - 4", 0},
+    {"ASelectionIsClearedFirst",                     "MM/DD/YY",    DT_DATE,   "[07]/04/95",        "1",       "1|0/04/95",    0},
+    {"AWholeSelectionIsClearedToTheBlank",           "MM/DD/YY",    DT_DATE,   "[07/04/95]",        "1",       "1|0/00/00",    0},
+    {"ASelectedLiteralStands",                       "MM/DD/YY",    DT_DATE,   "07[/0]4/95",        "1",       "07|/04/95",    1},
+    {"ASelectionInAStringIsBlanked",                 "##-##",       DT_STRING, "[12-3]4",           "5",       "5| - 4",       0},
 
-    {"PmLetterFromTheHour", "HH:MM AM/PM", DT_TIME, "|02:30 AM", "P", "02:30 P|M", 0},
-    {"AmLetterFromTheHour", "HH:MM AM/PM", DT_TIME, "|02:30 PM", "A", "02:30 A|M", 0},
-    {"PmLetterFromTheMinute", "HH:MM AM/PM", DT_TIME, "02:3|0 AM", "P", "02:30 P|M", 0},
-    {"PmLetterInADateTime", "MM/DD/YY HH:MM AM/PM", DT_DATETIME, "|07/04/95 02:30 AM", "P", "07/04/95 02:30 P|M", 0},
-    {"PmLetterInLowerCaseIsRefused", "HH:MM AM/PM", DT_TIME, "|02:30 AM", "p", "|02:30 AM", 1},
-    {"ADigitOnTheAmPmFieldBeeps", "HH:MM AM/PM", DT_TIME, "02:30 |AM", "1", "02:30 |AM", 1},
-    {"ADigitInsideTheAmPmFieldBeeps", "HH:MM AM/PM", DT_TIME, "02:30 A|M", "1", "02:30 A|M", 1},
-    {"TheCaretStopsAtTheAmPmField", "HH:MM AM/PM", DT_TIME, "01:3|1 AM", "0", "01:30 |AM", 0},
-    {"ATwelveHourTime", "HH:MM AM/PM", DT_TIME, "|02:00 AM", "1230P", "12:30 P|M", 0},
+    {"PmLetterFromTheHour",                          "HH:MM AM/PM", DT_TIME,   "|02:30 AM",         "P",       "02:30 P|M",    0},
+    {"AmLetterFromTheHour",                          "HH:MM AM/PM", DT_TIME,   "|02:30 PM",         "A",       "02:30 A|M",    0},
+    {"PmLetterFromTheMinute",                        "HH:MM AM/PM", DT_TIME,   "02:3|0 AM",         "P",       "02:30 P|M",    0},
+    {"PmLetterInADateTime",                          "MM/DD/YY HH:MM AM/PM", DT_DATETIME, "|07/04/95 02:30 AM", "P",       "07/04/95 02:30 P|M", 0},
+    {"PmLetterInLowerCaseIsRefused",                 "HH:MM AM/PM", DT_TIME,   "|02:30 AM",         "p",       "|02:30 AM",    1},
+    {"ADigitOnTheAmPmFieldBeeps",                    "HH:MM AM/PM", DT_TIME,   "02:30 |AM",         "1",       "02:30 |AM",    1},
+    {"ADigitInsideTheAmPmFieldBeeps",                "HH:MM AM/PM", DT_TIME,   "02:30 A|M",         "1",       "02:30 A|M",    1},
+    {"TheCaretStopsAtTheAmPmField",                  "HH:MM AM/PM", DT_TIME,   "01:3|1 AM",         "0",       "01:30 |AM",    0},
+    {"ATwelveHourTime",                              "HH:MM AM/PM", DT_TIME,   "|02:00 AM",         "1230P",   "12:30 P|M",    0},
 
-    {"AStringWithoutLiteralsFillsUp", "####", DT_STRING, "|", "12", "12|", 0},
-    {"AStringWithoutLiteralsOverwrites", "####", DT_STRING, "1|234", "9", "19|34", 0},
-    {"AStringWithoutAMaskInserts", "", DT_STRING, "ab|c", "xy", "abxy|c", 0},
+    {"AStringWithoutLiteralsFillsUp",                "####",        DT_STRING, "|",                 "12",      "12|",          0},
+    {"AStringWithoutLiteralsOverwrites",             "####",        DT_STRING, "1|234",             "9",       "19|34",        0},
+    {"AStringWithoutAMaskInserts",                   "",            DT_STRING, "ab|c",              "xy",      "abxy|c",       0},
 
-    {"ANewlineIsRefusedAnywhere", "XX", DT_STRING, "|ab", "{Enter}", "|ab", 1},
-    {"AControlCharacterIsRefusedAnywhere", "XX", DT_STRING, "|ab", "\x01", "|ab", 1},
-    {"TabIsSwallowed", "XX", DT_STRING, "|ab", "{Tab}", "|ab", 0},
-    {"EscapeIsSwallowed", "XX", DT_STRING, "|ab", "{Esc}", "|ab", 0},
-    {"ABlankIsACharacter", "XX", DT_STRING, "|ab", " ", " |b", 0},
+    {"ANewlineIsRefusedAnywhere",                    "XX",          DT_STRING, "|ab",               "{Enter}", "|ab",          1},
+    {"AControlCharacterIsRefusedAnywhere",           "XX",          DT_STRING, "|ab",               "\x01",    "|ab",          1},
+    {"TabIsSwallowed",                               "XX",          DT_STRING, "|ab",               "{Tab}",   "|ab",          0},
+    {"EscapeIsSwallowed",                            "XX",          DT_STRING, "|ab",               "{Esc}",   "|ab",          0},
+    {"ABlankIsACharacter",                           "XX",          DT_STRING, "|ab",               " ",       " |b",          0},
 };
 // clang-format on
 
@@ -194,8 +198,8 @@ TEST_F(Autoskip, ShiftAndRightSendNothing)
     EXPECT_EQ(Skips(), 0);
 }
 
-// One row for each way through character entry; redrawing must be on again after each.
-// clang-format off: one row a line
+// One row for each way through character entry.
+// clang-format off
 const KeyCase kRedrawRows[] = {
     {"ADateDigit",                 "MM/DD/YY", DT_DATE,   "07/04/9|0", "5",      "", 0},
     {"ARefusedCharacter",          "MM/DD/YY", DT_DATE,   "07/04/9|0", "x",      "", 0},
@@ -208,15 +212,46 @@ const KeyCase kRedrawRows[] = {
 };
 // clang-format on
 
-class RedrawIsOn : public KeyTable {};
+// The standard edit ignores WM_SETREDRAW on some systems, so what it is told is looked at.
+class RedrawIsOn : public KeyTable {
+protected:
+    BaseRecorder recorder_;
+};
 
 TEST_P(RedrawIsOn, AfterTheKeys)
 {
     const KeyCase& row = GetParam();
     Given(row.mask, row.type, row.given);
+    recorder_.Forget();
     Play(row.keys);
-    // WM_SETREDRAW takes the visible style away while redrawing is off.
-    EXPECT_TRUE(GetWindowLongPtrA(Window(), GWL_STYLE) & WS_VISIBLE);
+    bool on = true;
+    for (const BaseMessage& set : recorder_.Of(WM_SETREDRAW))
+        on = set.wParam != 0;
+    EXPECT_TRUE(on);
+}
+
+class Redraw : public EditTest {
+protected:
+    BaseRecorder recorder_;
+};
+
+TEST_F(Redraw, IsOffWhileTheCharacterIsSelectedAndOnBeforeItIsReplaced)
+{
+    Given("MM/DD/YY", DT_DATE, "07/04/9|0");
+    recorder_.Forget();
+    Type("5");
+    std::vector<std::pair<UINT, WPARAM>> order;
+    for (const BaseMessage& entry : recorder_.All())
+        if (entry.message == WM_SETREDRAW)
+            order.emplace_back(entry.message, entry.wParam);
+        else if (entry.message == EM_REPLACESEL)
+            order.emplace_back(entry.message, 0);
+    const std::vector<std::pair<UINT, WPARAM>> expected = {
+        {WM_SETREDRAW,  0},
+        {WM_SETREDRAW,  1},
+        {EM_REPLACESEL, 0}
+    };
+    EXPECT_EQ(order, expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, RedrawIsOn, testing::ValuesIn(kRedrawRows), RowName<KeyCase>);

@@ -4,14 +4,13 @@
 namespace zttest {
 namespace {
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kDeletions[] = {
     {"BackspaceOnALiteralStepsOntoIt",            "MM/DD/YY",    DT_DATE,   "07/|04/95",    "{Back}",       "07|/04/95",    0},
     {"BackspaceRestoresTheBlank",                 "MM/DD/YY",    DT_DATE,   "07|/04/95",    "{Back}",       "0|0/04/95",    0},
     {"BackspaceAtTheEnd",                         "MM/DD/YY",    DT_DATE,   "07/04/95|",    "{Back}",       "07/04/9|0",    0},
     {"BackspaceAtTheStartDoesNothing",            "MM/DD/YY",    DT_DATE,   "|07/04/95",    "{Back}",       "|07/04/95",    0},
-    {"BackspaceThroughTheWholeDate",              "MM/DD/YY",    DT_DATE,   "07/04/95|",
-     "{Back}{Back}{Back}{Back}{Back}{Back}{Back}{Back}",                                                    "|00/00/00",    0},
+    {"BackspaceThroughTheWholeDate",              "MM/DD/YY",    DT_DATE,   "07/04/95|",    "{Back}{Back}{Back}{Back}{Back}{Back}{Back}{Back}", "|00/00/00",    0},
     {"BackspaceOnASelectionBlanksIt",             "MM/DD/YY",    DT_DATE,   "[07/0]4/95",   "{Back}",       "|00/04/95",    0},
     {"BackspaceOnTheWholeText",                   "MM/DD/YY",    DT_DATE,   "[07/04/95]",   "{Back}",       "|00/00/00",    0},
     {"BackspaceOnAStringDigit",                   "##-##",       DT_STRING, "12-3|4",       "{Back}",       "12-| 4",       0},
@@ -48,7 +47,7 @@ TEST_P(Deletion, LeadsTo)
 
 INSTANTIATE_TEST_SUITE_P(Rows, Deletion, testing::ValuesIn(kDeletions), RowName<KeyCase>);
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kNumberDeletions[] = {
     {"BackspaceRemovesADigit",                         "#,##0.00",      DT_NUMBER,  "123|.00",   "{Back}",       "12|.00",    0},
     {"BackspaceUnderAZeroWritesAZero",                 "#,##0.00",      DT_NUMBER,  "1,234|.00", "{Back}",       "1,23|0.00", 0},
@@ -141,12 +140,12 @@ void PrintTo(const UndoCase& row, std::ostream* out)
     *out << row.name;
 }
 
-// clang-format off: one row a line
+// clang-format off
 const UndoCase kUndoRows[] = {
-    {"Typing",                "MM/DD/YY",  DT_DATE,   "|07/04/95",   "12",           "../../.." },
-    {"Backspace",             "MM/DD/YY",  DT_DATE,   "07/|04/95",   "{Back}{Back}", "../../.." },
-    {"Delete",                "MM/DD/YY",  DT_DATE,   "|07/04/95",   "{Del}",        "../../.." },
-    {"SelectionAndTyping",    "MM/DD/YY",  DT_DATE,   "[07/04/95]",  "1",            "../../.." },
+    {"Typing",                "MM/DD/YY",  DT_DATE,   "|07/04/95",   "12",           "../../.."},
+    {"Backspace",             "MM/DD/YY",  DT_DATE,   "07/|04/95",   "{Back}{Back}", "../../.."},
+    {"Delete",                "MM/DD/YY",  DT_DATE,   "|07/04/95",   "{Del}",        "../../.."},
+    {"SelectionAndTyping",    "MM/DD/YY",  DT_DATE,   "[07/04/95]",  "1",            "../../.."},
     {"SelectionAndBackspace", "(###) ###", DT_STRING, "[(555) 123]", "{Back}",       "(...) ..."},
     {"SelectionAndDelete",    "(###) ###", DT_STRING, "[(555) 123]", "{Del}",        "(...) ..."},
 };

@@ -5,7 +5,7 @@
 namespace zttest {
 namespace {
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kNumberRows[] = {
     {"OneDigitIntoAnEmptyNumber",                      "#,#.00",        DT_NUMBER,  "|.00",      "1",          "1|.00",         0},
     {"TwoDigitsIntoAnEmptyNumber",                     "#,#.00",        DT_NUMBER,  "|.00",      "12",         "12|.00",        0},
@@ -76,7 +76,7 @@ TEST_P(NumberEntry, LeadsTo)
 INSTANTIATE_TEST_SUITE_P(UnitedStates, NumberEntry, testing::ValuesIn(kNumberRows), RowName<KeyCase>);
 
 // The same under other settings. The mask "" stands for the default "#,#.00".
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kGermanRows[] = {
     {"AnAmountAsItIsRead",            "",              DT_NUMBER,  "|,00",          "123,45",    "123,45|",        0},
     {"APointBeeps",                   "",              DT_NUMBER,  "|,00",          "1.",        "1|,00",          1},
@@ -95,7 +95,7 @@ const KeyCase kGermanRows[] = {
 };
 // clang-format on
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kFrenchRows[] = {
     {"AnAmountAsItIsRead",          "",              DT_NUMBER,  "|,00",        "123,45",    "123,45|",      0},
     {"TypingOverTheWhole",          "",              DT_NUMBER,  "[123,45]",    "53",        "53|,00",       0},
@@ -107,7 +107,7 @@ const KeyCase kFrenchRows[] = {
 };
 // clang-format on
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kSwissRows[] = {
     {"CurrencyWithThreeLettersBefore", "[currency(9)]", DT_NUMBER,  "CHF|.00",     "1234.5",    "CHF1'234.5|0",   0},
     {"CurrencyFromTheFront",           "[currency(9)]", DT_NUMBER,  "|CHF.00",     "5",         "CHF5|.00",       0},

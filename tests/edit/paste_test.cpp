@@ -34,7 +34,7 @@ protected:
     }
 };
 
-// clang-format off: one row a line
+// clang-format off
 const PasteCase kRows[] = {
     {"ANumberReplacesTheWholeValue",      "#,##0.00",       DT_NUMBER,   "1[23].45",        "5.25",             "5.25",           0},
     {"ANumberIsLaidThroughTheMask",       "#,##0.00",       DT_NUMBER,   "|0.00",           "1234.5",           "1,234.50",       0},
@@ -66,7 +66,7 @@ TEST_P(Paste, Shows)
 
 INSTANTIATE_TEST_SUITE_P(Rows, Paste, testing::ValuesIn(kRows), RowName<PasteCase>);
 
-// clang-format off: one row a line
+// clang-format off
 const PasteCase kGermanRows[] = {
     {"ANumberAsShown",           "",              DT_NUMBER,  "|,00",    "1.234,50",    "1.234,50",    0},
     {"AFractionIsKept",          "",              DT_NUMBER,  "|,00",    "12,75",       "12,75",       0},

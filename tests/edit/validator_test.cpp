@@ -4,7 +4,7 @@
 namespace zttest {
 namespace {
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kStringRows[] = {
     {"HashTakesADigit",                "##", DT_STRING, "|12", "7", "7|2", 0},
     {"HashRefusesALetter",             "##", DT_STRING, "|12", "a", "|12", 1},
@@ -30,7 +30,7 @@ const KeyCase kStringRows[] = {
 };
 // clang-format on
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kMonthRows[] = {
     {"SevenIsPadded",                                 "MM/DD/YY", DT_DATE, "|01/04/95",      "7", "07/|04/95", 0},
     {"TwoIsPadded",                                   "MM/DD/YY", DT_DATE, "|01/04/95",      "2", "02/|04/95", 0},
@@ -48,7 +48,7 @@ const KeyCase kMonthRows[] = {
 };
 // clang-format on
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kMonthNameRows[] = {
     {"OneLetterCompletesTheName",                 "DD-MMM-YYYY", DT_DATE, "01-|MAR-1995",      "J",   "01-J|AN-1995", 0},
     {"ASmallLetterCompletesTheName",              "DD-MMM-YYYY", DT_DATE, "01-|MAR-1995",      "j",   "01-J|AN-1995", 0},
@@ -66,7 +66,7 @@ const KeyCase kMonthNameRows[] = {
 };
 // clang-format on
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kDayRows[] = {
     {"FourIsPadded",                             "MM/DD/YY", DT_DATE, "07/|10/95",      "4",  "07/04/|95", 0},
     {"ThreeInAShortFebruaryIsPadded",            "MM/DD/YY", DT_DATE, "02/|10/95",      "3",  "02/03/|95", 0},
@@ -84,7 +84,7 @@ const KeyCase kDayRows[] = {
 };
 // clang-format on
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kDayOfYearRows[] = {
     {"ThreeAboveTheLimitIsPadded",             "JJJ/YY", DT_DATE, "|185/95", "3", "03|5/95", 0},
     {"ThreeBelowTheLimitIsTaken",              "JJJ/YY", DT_DATE, "|165/95", "3", "3|65/95", 0},
@@ -96,7 +96,7 @@ const KeyCase kDayOfYearRows[] = {
 };
 // clang-format on
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kYearRows[] = {
     {"TwoDigitsAreTaken",                      "MM/DD/YY",   DT_DATE, "07/04/|00",   "95", "07/04/95|",   0},
     {"ThreeIsRefusedAsTheFirstOfFour",         "MM/DD/YYYY", DT_DATE, "07/04/|1995", "3",  "07/04/|1995", 1},
@@ -111,7 +111,7 @@ const KeyCase kYearRows[] = {
 };
 // clang-format on
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kTimeRows[] = {
     {"FourIsPaddedInTwentyFourHours",         "HH:MM",          DT_TIME,     "|12:30",          "4",   "04:|30",          0},
     {"TwoIsTakenInTwentyFourHours",           "HH:MM",          DT_TIME,     "|12:30",          "2",   "2|2:30",          0},
@@ -135,13 +135,12 @@ const KeyCase kTimeRows[] = {
     {"FractionTakesEveryDigit",               "HH:MM:SS:FFF",   DT_TIME,     "12:30:00:|000",   "987", "12:30:00:987|",   0},
     {"FractionRefusesALetter",                "HH:MM:SS:FFF",   DT_TIME,     "12:30:00:|000",   "f",   "12:30:00:|000",   1},
     {"AnHourRefusesALetter",                  "HH:MM",          DT_TIME,     "|12:30",          "h",   "|12:30",          1},
-    {"MonthAndMinuteOfADateTimeAreToldApart", "MM/DD/YY HH:MM", DT_DATETIME, "07/04/95 12:|30", "6",   "07/04/95 12:06|",
-     0                                                                                                                     },
+    {"MonthAndMinuteOfADateTimeAreToldApart", "MM/DD/YY HH:MM", DT_DATETIME, "07/04/95 12:|30", "6",   "07/04/95 12:06|", 0},
     {"TheMonthOfADateTimeIsPadded",           "MM/DD/YY HH:MM", DT_DATETIME, "|07/04/95 12:30", "6",   "06/|04/95 12:30", 0},
 };
 // clang-format on
 
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kSharedRows[] = {
     {"XInADateTakesAnything",           "X MM/DD/YY", DT_DATE, "text:|  07/04/95", "?", "? |07/04/95", 0},
     {"ExclamationInADateRaisesALetter", "! MM/DD/YY", DT_DATE, "text:|  07/04/95", "q", "Q |07/04/95", 0},
@@ -152,7 +151,7 @@ const KeyCase kSharedRows[] = {
 // clang-format on
 
 // A digit completed with a 0 behind it leaves the caret on that 0, so that the second digit can be typed.
-// clang-format off: one row a line
+// clang-format off
 const KeyCase kCompletedRows[] = {
     {"AMonthOverAnotherOne",          "MM/DD/YY", DT_DATE, "|05/04/95", "12", "12/|04/95", 0},
     {"AMonthWithAZeroOverAnotherOne", "MM/DD/YY", DT_DATE, "|05/04/95", "03", "03/|04/95", 0},

@@ -60,7 +60,7 @@ protected:
     }
 };
 
-// ---- Masks ---------------------------------------------------------------------------------------------------------------
+// ---- Masks ----------------------------------------------------------------------------------------------------------
 
 struct BadMask {
     const char* name;
@@ -117,37 +117,39 @@ TEST_P(MaskOfAnyKind, IsSurvivedWhenSet)
     EXPECT_EQ(ZTE_FmtGetDataType(Window()), Type());
 }
 
+// clang-format off
 const BadMask kBadMasks[] = {
-    {"Empty",                        ""                               },
-    {"TwoHundredFiftyFive",          std::string(255,                   '#')},
-    {"TwoHundredFiftySix",                              std::string(256,                                            '#')},
-    {"SixtyThousand",                          std::string(60000,                '#')},
-    {"SixtyThousandAny",std::string(60000,  'X')},
-    {"LongLiterals",             std::string(254,                                          '-') + "#"},
-    {"Escapes",                              Repeated("~#",                                                  127)},
-    {"SixtyThousandEscapes",                    Repeated("~#",            30000)},
-    {"LoneEscape","~"},
-    {"DoubleEscape",         "~~"         },
-    {"EscapeAtTheEnd",                              "##~"                                                   },
-    {"HighBytes",                              AllHighBytes()                                                                                  },
-    {"HighBytesAroundADigit",                              "\x80\xFF#\xE4\x81"                                      },
-    {"LongDate",                              Repeated("MM/DD/YY ",  100)},
-    {"LongFraction",                              "HH:MM:SS:" + std::string(240,'F')},
-    {"LongAmPm",                              "HH" + Repeated(" AM/PM",                40)},
-    {"CurrencyWithoutParenthesis",                          "[currency"                                                         },
-    {"CurrencyWithLongNumber","[currency(" + std::string(60000,                                           '9') + ")]"},
-    {"CurrencyNegative",                     "[currency(-5)]"},
-    {"CurrencyBig",                              "[currency(65540)]"                                   },
-    {"CurrencyEmpty",                              "[currency()]"},
-    {"Percents",                   std::string(255,          '%')},
-    {"Points",std::string(255,                           '.')},
-    {"Commas","#" + std::string(250,',') + "#"},
-    {"Quotes","\"'\"'#"                                     },
-    {"Backslashes",std::string(255,                 '\\')},
-    {"FormatSigns",                       "%s%n%d%x%s%s%s#"                                               },
-    {"Zeroes",                              std::string(255,                                                        '0')},
-    {"General",                    "[GENERAL]"                                                                         },
+    {"Empty",                      ""},
+    {"TwoHundredFiftyFive",        std::string(255, '#')},
+    {"TwoHundredFiftySix",         std::string(256, '#')},
+    {"SixtyThousand",              std::string(60000, '#')},
+    {"SixtyThousandAny",           std::string(60000, 'X')},
+    {"LongLiterals",               std::string(254, '-') + "#"},
+    {"Escapes",                    Repeated("~#", 127)},
+    {"SixtyThousandEscapes",       Repeated("~#", 30000)},
+    {"LoneEscape",                 "~"},
+    {"DoubleEscape",               "~~"},
+    {"EscapeAtTheEnd",             "##~"},
+    {"HighBytes",                  AllHighBytes()},
+    {"HighBytesAroundADigit",      "\x80\xFF#\xE4\x81"},
+    {"LongDate",                   Repeated("MM/DD/YY ", 100)},
+    {"LongFraction",               "HH:MM:SS:" + std::string(240, 'F')},
+    {"LongAmPm",                   "HH" + Repeated(" AM/PM", 40)},
+    {"CurrencyWithoutParenthesis", "[currency"},
+    {"CurrencyWithLongNumber",     "[currency(" + std::string(60000, '9') + ")]"},
+    {"CurrencyNegative",           "[currency(-5)]"},
+    {"CurrencyBig",                "[currency(65540)]"},
+    {"CurrencyEmpty",              "[currency()]"},
+    {"Percents",                   std::string(255, '%')},
+    {"Points",                     std::string(255, '.')},
+    {"Commas",                     "#" + std::string(250, ',') + "#"},
+    {"Quotes",                     "\"'\"'#"},
+    {"Backslashes",                std::string(255, '\\')},
+    {"FormatSigns",                "%s%n%d%x%s%s%s#"},
+    {"Zeroes",                     std::string(255, '0')},
+    {"General",                    "[GENERAL]"},
 };
+// clang-format on
 
 std::string MaskName(const testing::TestParamInfo<std::tuple<int32_t, BadMask>>& info)
 {
@@ -213,7 +215,7 @@ TEST_P(TypeOfNoKind, IsSurvived)
 
 INSTANTIATE_TEST_SUITE_P(Types, TypeOfNoKind, testing::Values(0, 7, 8, -1, 255, 0x7FFFFFFF, INT32_MIN));
 
-// ---- Data ----------------------------------------------------------------------------------------------------------------
+// ---- Data -----------------------------------------------------------------------------------------------------------
 
 struct LongText {
     const char* name;
@@ -225,22 +227,24 @@ void PrintTo(const LongText& row, std::ostream* out)
     *out << row.name;
 }
 
+// clang-format off
 const LongText kLongTexts[] = {
-    {"Nines",                    std::string(100000,             '9')},
-    {"Letters",                          std::string(100000,                                                'x')},
-    {"Blanks",                      std::string(100000,     ' ')},
-    {"Points",std::string(100000,         '.')},
-    {"Signs",                   std::string(100000,                                             '-')},
-    {"Fraction",                          "0." + std::string(100000,                                                  '7')},
-    {"Exponent",                      "1e" + std::string(100000,        '9')},
-    {"HighBytes",Repeated(AllHighBytes(),800)},
-    {"Dates",                 Repeated("1995-07-04 ", 9000)},
-    {"FormatSigns",                          Repeated("%s%n",                                              25000)},
-    {"BigExponent",                      "1e308"                                                                                                   },
-    {"TooBigExponent","-1e99999"            },
-    {"SmallExponent",              "1e-308"   },
-    {"Empty",                          ""                                           },
+    {"Nines",          std::string(100000, '9')},
+    {"Letters",        std::string(100000, 'x')},
+    {"Blanks",         std::string(100000, ' ')},
+    {"Points",         std::string(100000, '.')},
+    {"Signs",          std::string(100000, '-')},
+    {"Fraction",       "0." + std::string(100000, '7')},
+    {"Exponent",       "1e" + std::string(100000, '9')},
+    {"HighBytes",      Repeated(AllHighBytes(), 800)},
+    {"Dates",          Repeated("1995-07-04 ", 9000)},
+    {"FormatSigns",    Repeated("%s%n", 25000)},
+    {"BigExponent",    "1e308"},
+    {"TooBigExponent", "-1e99999"},
+    {"SmallExponent",  "1e-308"},
+    {"Empty",          ""},
 };
+// clang-format on
 
 struct MaskOfType {
     const char* name;
@@ -255,23 +259,25 @@ void PrintTo(const MaskOfType& row, std::ostream* out)
 
 // The one without a mask stands first. It shows a text of any length, which takes the standard edit control a time that
 // grows with the square of the length, so it has tests of its own for long texts.
-constexpr MaskOfType kMasks[] = {
-    {"StringWithoutMask",     nullptr,                     DT_STRING  },
-    {"String",                "(###) XXX-!!!",             DT_STRING  },
-    {"StringWithoutLiterals", "XXXX",                      DT_STRING  },
-    {"Number",                "#,##0.00",                  DT_NUMBER  },
-    {"Percentage",            "#,##0.00%",                 DT_NUMBER  },
-    {"Amount",                "[currency(16)]",            DT_NUMBER  },
-    {"General",               "[GENERAL]",                 DT_NUMBER  },
-    {"Decimal",               "#,##0.00",                  DT_DECIMAL },
-    {"DecimalPercentage",     "#,##0.00%",                 DT_DECIMAL },
-    {"Date",                  "MM/DD/YY",                  DT_DATE    },
-    {"DateWithName",          "DD-MMM-YYYY",               DT_DATE    },
-    {"DayOfYear",             "JJJ/YYYY",                  DT_DATE    },
-    {"Time",                  "HH:MM:SS:FFFFFF",           DT_TIME    },
-    {"TwelveHours",           "HH:MM AM/PM",               DT_TIME    },
+// clang-format off
+const MaskOfType kMasks[] = {
+    {"StringWithoutMask",     nullptr,                     DT_STRING},
+    {"String",                "(###) XXX-!!!",             DT_STRING},
+    {"StringWithoutLiterals", "XXXX",                      DT_STRING},
+    {"Number",                "#,##0.00",                  DT_NUMBER},
+    {"Percentage",            "#,##0.00%",                 DT_NUMBER},
+    {"Amount",                "[currency(16)]",            DT_NUMBER},
+    {"General",               "[GENERAL]",                 DT_NUMBER},
+    {"Decimal",               "#,##0.00",                  DT_DECIMAL},
+    {"DecimalPercentage",     "#,##0.00%",                 DT_DECIMAL},
+    {"Date",                  "MM/DD/YY",                  DT_DATE},
+    {"DateWithName",          "DD-MMM-YYYY",               DT_DATE},
+    {"DayOfYear",             "JJJ/YYYY",                  DT_DATE},
+    {"Time",                  "HH:MM:SS:FFFFFF",           DT_TIME},
+    {"TwelveHours",           "HH:MM AM/PM",               DT_TIME},
     {"DateTime",              "MM/DD/YYYY HH:MM:SS AM/PM", DT_DATETIME},
 };
+// clang-format on
 
 testing::internal::ParamGenerator<MaskOfType> Masked()
 {

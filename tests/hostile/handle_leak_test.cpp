@@ -56,15 +56,17 @@ BOOL CALLBACK CountWindow(HWND, LPARAM count)
     return TRUE;
 }
 
+BOOL CALLBACK CountTree(HWND hwnd, LPARAM count)
+{
+    EnumChildWindows(hwnd, CountWindow, count);
+    return CountWindow(hwnd, count);
+}
+
 // The windows of this thread, and all that is on them.
 int Windows()
 {
     int count = 0;
-    const auto countTree = [](HWND hwnd, LPARAM total) -> BOOL {
-        EnumChildWindows(hwnd, CountWindow, total);
-        return CountWindow(hwnd, total);
-    };
-    EnumThreadWindows(GetCurrentThreadId(), countTree, reinterpret_cast<LPARAM>(&count));
+    EnumThreadWindows(GetCurrentThreadId(), CountTree, reinterpret_cast<LPARAM>(&count));
     return count;
 }
 

@@ -18,8 +18,8 @@ protected:
     // Makes the control anew.
     void Make(const Config& config, Creation creation = Creation::ByClass);
 
-    // Makes a control that shows a value, with the caret where '|' stands or what is between '[' and ']' selected. shown is
-    // display text under the regional settings of the moment and must be one that a value has.
+    // Makes a control that shows a value, with the caret where '|' stands or what is between '[' and ']' selected.
+    // shown is display text under the regional settings of the moment and must be one that a value has.
     void Given(const char* mask, int32_t type, const std::string& shown, uint32_t options = 0);
 
     // The same for any text at all: it is put into the window from outside.
@@ -50,7 +50,8 @@ protected:
     std::unique_ptr<Control> control_;
 };
 
-// One row of a keystroke table: under a mask, from a text with the caret in it, the keys lead to another text and caret.
+// One row of a keystroke table: under a mask, from a text with the caret in it, the keys lead to another text and
+// caret.
 struct KeyCase {
     const char* name;
     const char* mask;

@@ -46,8 +46,9 @@ enum class Creation {
     BySubclassing,  // a standard edit control, subclassed with ZTE_SuperEditWndProc, then ZTE_Init
 };
 
-// A window of the library in a heap of its own. At the end the window is destroyed, and a failure is reported when blocks
-// were lost: editing has left none behind, and the record goes with the window. (Its strings stay until the heap goes.)
+// A window of the library in a heap of its own. At the end the window is destroyed, and a failure is reported when
+// blocks were lost: editing has left none behind, and the record goes with the window. (Its strings stay until the heap
+// goes.)
 class Control {
 public:
     Control(HWND parent, int id, const Config& config, Creation creation = Creation::ByClass);

@@ -62,8 +62,8 @@ bool IsCrash(DWORD code)
            code == EXCEPTION_ILLEGAL_INSTRUCTION || code == EXCEPTION_INT_DIVIDE_BY_ZERO || code == kHeapCorruption;
 }
 
-// Ends the program at a crash. Without it an exception inside a window procedure could be swallowed by the system on its
-// way out, and the test would pass.
+// Ends the program at a crash. Without it an exception inside a window procedure could be swallowed by the system on
+// its way out, and the test would pass.
 LONG CALLBACK EndAtCrash(EXCEPTION_POINTERS* exception)
 {
     const EXCEPTION_RECORD& record = *exception->ExceptionRecord;

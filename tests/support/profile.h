@@ -1,4 +1,4 @@
-// The regional settings of a test: written into the profile section "intl", told to the library, and put back afterwards.
+// Regional settings for tests: written into the profile section "intl", told to the library, and put back afterwards.
 #pragma once
 
 #include <string>
