@@ -422,6 +422,8 @@ int Control::CaretAfterGrowth(const std::string& before, int position, int grown
         while (behind > 0 && !IsDigit(text[static_cast<size_t>(behind) - 1]))
             --behind;
     }
+    if (decimalPlaces_ != 0 && oldPoint == std::string::npos)
+        return behind;
     for (int i = behind; i < position + grown; ++i)
         if (IsDigit(CharOf(text, i)))
             return behind;
