@@ -1,0 +1,274 @@
+// The calendar of the control and the names of its months.
+#include "mask/calendar.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+
+#include "mask/month_names.h"
+#include "tests/support/edit_test.h"
+
+namespace zttest {
+namespace {
+
+using namespace zte;
+
+DateTimeValue Day(int yearValue, int month, int day)
+{
+    DateTimeValue value = {};
+    value.year = static_cast<int16_t>(yearValue);
+    value.month = static_cast<int8_t>(month);
+    value.day = static_cast<int8_t>(day);
+    return value;
+}
+
+struct YearCase {
+    const char* name;
+    int32_t yearDigits;
+    int32_t yearValue;
+    int32_t calendarYear;
+    bool leap;
+};
+void PrintTo(const YearCase& row, std::ostream* out)
+{
+    *out << row.yearValue << " of " << row.yearDigits << " digits";
+}
+
+class Years : public testing::TestWithParam<YearCase> {};
+
+TEST_P(Years, HaveACalendarYear)
+{
+    EXPECT_EQ(CalendarYear(GetParam().yearDigits, GetParam().yearValue), GetParam().calendarYear);
+}
+
+TEST_P(Years, AreLeapYearsByTheGregorianRule)
+{
+    EXPECT_EQ(IsLeapYear(GetParam().yearDigits, GetParam().yearValue), GetParam().leap);
+}
+
+TEST_P(Years, HaveTheirFebruary)
+{
+    const DateTimeValue february = Day(GetParam().yearValue, 1, 1);
+    EXPECT_EQ(DaysInMonth(GetParam().yearDigits, february), GetParam().leap ? 29 : 28);
+}
+
+TEST_P(Years, HaveTheirLength)
+{
+    EXPECT_EQ(DaysInYear(GetParam().yearDigits, GetParam().yearValue), GetParam().leap ? 366 : 365);
+}
+
+const YearCase kYearRows[] = {
+    {"NineteenNinetyFive",             4, 95,    1995, false},
+    {"NineteenNinetySix",              4, 96,    1996, true },
+    {"TwoThousand",                    4, 100,   2000, true },
+    {"NineteenHundred",                4, 0,     1900, false},
+    {"TwentyOneHundred",               4, 200,   2100, false},
+    {"TwentyFourHundred",              4, 500,   2400, true },
+    {"YearOne",                        4, -1899, 1,    false},
+    {"YearFour",                       4, -1896, 4,    true },
+    {"LastYear",                       4, 8099,  9999, false},
+    {"TwoDigitsOfNineteenHundred",     2, 0,     2000, true },
+    {"TwoDigitsOfNineteenFour",        2, 4,     2004, true },
+    {"TwoDigitsOfNineteenFortyNine",   2, 49,    2049, false},
+    {"TwoDigitsOfNineteenFifty",       2, 50,    1950, false},
+    {"TwoDigitsOfNineteenNinetySix",   2, 96,    1996, true },
+    {"TwoDigitsOfTwoThousand",         2, 100,   2000, true },
+    {"TwoDigitsOfTwentyTwentyFour",    2, 124,   2024, true },
+    {"FourDigitsOfNineteenFortyEight", 4, 48,    1948, true },
+};
+INSTANTIATE_TEST_SUITE_P(, Years, testing::ValuesIn(kYearRows), RowName<YearCase>);
+
+constexpr int32_t kCommonDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+
+// Both kinds of years, counted day by day.
+class DayByDay : public testing::TestWithParam<int> {
+protected:
+    bool Leap() const { return GetParam() == 96 || GetParam() == 100; }
+    int32_t DaysOf(int month) const { return kCommonDays[month] + (month == 1 && Leap() ? 1 : 0); }
+};
+
+TEST_P(DayByDay, TheDayOfTheYearIsCounted)
+{
+    int32_t dayOfYear = 0;
+    for (int month = 0; month < 12; ++month) {
+        for (int day = 1; day <= DaysOf(month); ++day)
+            EXPECT_EQ(DayOfYear(4, Day(GetParam(), month, day)), ++dayOfYear) << month + 1 << '/' << day;
+    }
+    EXPECT_EQ(dayOfYear, Leap() ? 366 : 365);
+}
+
+TEST_P(DayByDay, TheDateOfADayOfTheYearIsFound)
+{
+    int32_t dayOfYear = 0;
+    for (int month = 0; month < 12; ++month) {
+        for (int day = 1; day <= DaysOf(month); ++day) {
+            DateTimeValue value = Day(GetParam(), 0, 0);
+            DateFromDayOfYear(4, ++dayOfYear, value);
+            EXPECT_EQ(value.month, month) << dayOfYear;
+            EXPECT_EQ(value.day, day) << dayOfYear;
+        }
+    }
+}
+
+TEST_P(DayByDay, TheMonthTableIsRight)
+{
+    int32_t before = 0;
+    for (int month = 0; month < 12; ++month) {
+        const MonthRow& row = MonthRowOf(4, GetParam(), month);
+        EXPECT_EQ(row.nameId, 2000 + month);
+        EXPECT_EQ(row.index, month);
+        EXPECT_EQ(row.daysBefore, before);
+        EXPECT_EQ(row.days, DaysOf(month));
+        before += DaysOf(month);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, DayByDay, testing::Values(0, 95, 96, 100, 200));
+
+TEST(Calendar, TheFirstOfMarchOfACommonYearIsTheSixtiethDay)
+{
+    EXPECT_EQ(DayOfYear(4, Day(95, 2, 1)), 60);
+}
+
+TEST(Calendar, TheFirstOfMarchOfALeapYearIsTheSixtyFirstDay)
+{
+    EXPECT_EQ(DayOfYear(4, Day(96, 2, 1)), 61);
+}
+
+TEST(Calendar, ADayBeyondTheYearStaysInDecember)
+{
+    DateTimeValue value = Day(95, 0, 0);
+    DateFromDayOfYear(4, 366, value);
+    EXPECT_EQ(value.month, 11);
+    EXPECT_EQ(value.day, 32);
+}
+
+TEST(Calendar, DayZeroIsInTheTable)
+{
+    DateTimeValue value = Day(95, 5, 5);
+    DateFromDayOfYear(4, 0, value);
+    EXPECT_GE(value.month, 0);
+    EXPECT_LE(value.month, 11);
+}
+
+TEST(Calendar, AMonthOutOfRangeIsBroughtIntoIt)
+{
+    EXPECT_GE(MonthRowOf(4, 95, -1).days, 28);
+    EXPECT_GE(MonthRowOf(4, 95, 12).days, 28);
+    EXPECT_GE(DaysInMonth(4, Day(95, 99, 1)), 28);
+}
+
+TEST(MonthNames, AreTheTwelveAbbreviations)
+{
+    static const char* const names[] = {"JAN", "FEB", "MAR", "APR", "MAY", "JUN",
+                                        "JUL", "AUG", "SEP", "OCT", "NOV", "DEC"};
+    for (int32_t month = 0; month < 12; ++month)
+        EXPECT_EQ(MonthName(month), names[month]);
+}
+
+TEST(MonthNames, OfNoMonthAreEmpty)
+{
+    EXPECT_EQ(MonthName(-1), "");
+    EXPECT_EQ(MonthName(12), "");
+}
+
+struct NameCase {
+    const char* name;
+    const char* text;
+    int32_t month;
+};
+void PrintTo(const NameCase& row, std::ostream* out)
+{
+    *out << '"' << row.text << '"';
+}
+
+class MonthOfName : public testing::TestWithParam<NameCase> {};
+
+TEST_P(MonthOfName, IsFound)
+{
+    EXPECT_EQ(MonthFromName(GetParam().text), GetParam().month);
+}
+
+const NameCase kNameRows[] = {
+    {"Capitals",     "JAN",  0 },
+    {"SmallLetters", "sep",  8 },
+    {"MixedCase",    "dEc",  11},
+    {"FourLetters",  "Sept", -1},
+    {"TwoLetters",   "JA",   -1},
+    {"Unknown",      "XXX",  -1},
+    {"Blanks",       "   ",  -1},
+    {"Empty",        "",     -1},
+};
+INSTANTIATE_TEST_SUITE_P(, MonthOfName, testing::ValuesIn(kNameRows), RowName<NameCase>);
+
+struct PrefixCase {
+    const char* name;
+    const char* prefix;
+    const char* month;
+};
+void PrintTo(const PrefixCase& row, std::ostream* out)
+{
+    *out << '"' << row.prefix << '"';
+}
+
+class MonthOfPrefix : public testing::TestWithParam<PrefixCase> {};
+
+TEST_P(MonthOfPrefix, IsTheFirstOfTheYear)
+{
+    EXPECT_EQ(MonthNameByPrefix(GetParam().prefix), GetParam().month);
+}
+
+const PrefixCase kPrefixRows[] = {
+    {"J",         "J",    "JAN"},
+    {"Ju",        "ju",   "JUN"},
+    {"Jul",       "Jul",  "JUL"},
+    {"A",         "a",    "APR"},
+    {"Au",        "Au",   "AUG"},
+    {"M",         "M",    "MAR"},
+    {"May",       "may",  "MAY"},
+    {"D",         "d",    "DEC"},
+    {"Unknown",   "X",    ""   },
+    {"ADigit",    "1",    ""   },
+    {"ABlank",    " ",    ""   },
+    {"TooLong",   "JUNE", ""   },
+    {"OtherTail", "JUX",  ""   },
+};
+INSTANTIATE_TEST_SUITE_P(, MonthOfPrefix, testing::ValuesIn(kPrefixRows), RowName<PrefixCase>);
+
+struct NextCase {
+    const char* name;
+    const char* month;
+    int32_t n;
+    const char* next;
+};
+void PrintTo(const NextCase& row, std::ostream* out)
+{
+    *out << row.month << ", " << row.n;
+}
+
+class NextMonth : public testing::TestWithParam<NextCase> {};
+
+TEST_P(NextMonth, OfTheSameStartIsFound)
+{
+    EXPECT_EQ(NextMonthNameMatch(GetParam().month, GetParam().n), GetParam().next);
+}
+
+const NextCase kNextRows[] = {
+    {"JuneToJuly",              "JUN", 1, "JUL"},
+    {"JulyIsTheLastWithJu",     "JUL", 1, ""   },
+    {"JanuaryToJune",           "JAN", 0, "JUN"},
+    {"JuneToJulyByOneLetter",   "JUN", 0, "JUL"},
+    {"JulyIsTheLastWithJ",      "JUL", 0, ""   },
+    {"MarchToMay",              "MAR", 1, "MAY"},
+    {"MayIsTheLast",            "MAY", 1, ""   },
+    {"AprilToAugust",           "APR", 0, "AUG"},
+    {"NoOtherWithAu",           "AUG", 1, ""   },
+    {"NoWrapToTheNextYear",     "DEC", 0, ""   },
+    {"AWholeNameHasNoOther",    "JUN", 2, ""   },
+    {"SmallLettersAreCompared", "jun", 1, ""   },
+};
+INSTANTIATE_TEST_SUITE_P(, NextMonth, testing::ValuesIn(kNextRows), RowName<NextCase>);
+
+}  // namespace
+}  // namespace zttest
