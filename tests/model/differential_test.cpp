@@ -296,7 +296,7 @@ TEST_F(Differential, TypingIntoDecimals)
 
 TEST_F(Differential, TypingIntoDatesAndTimes)
 {
-    PlayRandomly(kDate, kDateTime, 3);
+    PlayRandomly(kDate, kDateTime, 2);
 }
 
 }  // namespace

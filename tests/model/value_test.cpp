@@ -129,7 +129,7 @@ TEST_F(Values, RandomMasksAreTakenAndShown)
     for (const Setting& setting : Settings()) {
         const zttest::Regional regional(setting.profile);
         for (int type = kString; type <= kDecimal; ++type)
-            for (int i = 0; i < 60 * times_ && !TooMany(); ++i) {
+            for (int i = 0; i < 40 * times_ && !TooMany(); ++i) {
                 const auto kind = static_cast<Type>(type);
                 zttest::Config config;
                 config.type = type;
@@ -206,7 +206,7 @@ TEST_F(Values, RangeEndsAreReadAndOrdered)
         zttest::Control real(form_.hwnd(), kControlId, config);
         Control model(setting.regional);
         model.SetMask(row.mask, row.type);
-        for (int i = 0; i < 60 * times_ && !TooMany(); ++i) {
+        for (int i = 0; i < 40 * times_ && !TooMany(); ++i) {
             const std::string texts[] = {RandomText(row.type, setting.regional),
                                          RandomText(row.type, setting.regional)};
             Stamp ends[2];
