@@ -258,43 +258,22 @@ const double kTwo = 2.0;
 
 // clang-format off
 const ExportCase kExports[] = {
-    {"SetAutoskip",      [](HWND h) {
-         ZTE_SetAutoskip(h, 1);
-         return 0LL;
-     },                         0},
-    {"SetFormatRect",    [](HWND h) {
-         ZTE_UtilSetFormatRect(h);
-         return 0LL;
-     },                      0},
-    {"SetMask",          [](HWND h) { return static_cast<long long>(ZTE_FmtSetMask(h, "MM/DD/YY", DT_DATE)); },            1},
-    {"SetData",          [](HWND h) { return static_cast<long long>(ZTE_FmtSetData(h, "abc")); },                          0},
-    {"SetDataString",    [](HWND h) { return static_cast<long long>(ZTE_FmtSetDataString(h, "abc")); },                    0},
-    {"GetData",          [](HWND h) { return Address(ZTE_FmtGetData(h)); },                                                0},
-    {"GetDataType",      [](HWND h) { return static_cast<long long>(ZTE_FmtGetDataType(h)); },                             0},
-    {"FormatData",       [](HWND h) { return Address(ZTE_FmtFormatData(h, "abc")); },                                      0},
-    {"UnformatData",     [](HWND h) { return Address(ZTE_FmtUnformatData(h, "abc")); },                                    0},
-    {"SetSpin",          [](HWND h) {
-         ZTE_SetSpin(h, 1, "1~2", "a\tb", 0);
-         return 0LL;
-     },           0},
-    {"CreateSpin",       [](HWND h) {
-         ZTE_CreateSpin(h);
-         return Address(GetWindow(h, GW_CHILD));
-     }, 0},
-    {"DestroySpin",      [](HWND h) {
-         ZTE_DestroySpin(h);
-         return 0LL;
-     },                            0},
-    {"PaintSpin",        [](HWND h) {
-         ZTE_PaintSpin(h, nullptr, nullptr);
-         return 0LL;
-     },            0},
-    {"GetSpinWidth",     [](HWND h) { return static_cast<long long>(ZTE_GetSpinWidth(h, nullptr)); },                      0},
-    {"SetSpinBkColor",   [](HWND h) {
-         ZTE_SetSpinBkColor(h, 1);
-         return 0LL;
-     },                      0},
-    {"SpinRangeCompare", [](HWND h) { return static_cast<long long>(ZTE_SpinRangeCompare(h, &kOne, &kTwo)); },             1},
+    {"SetAutoskip",      [](HWND h) { return ZTE_SetAutoskip(h, 1), 0LL; },                                     0},
+    {"SetFormatRect",    [](HWND h) { return ZTE_UtilSetFormatRect(h), 0LL; },                                  0},
+    {"SetMask",          [](HWND h) { return static_cast<long long>(ZTE_FmtSetMask(h, "MM/DD/YY", DT_DATE)); }, 1},
+    {"SetData",          [](HWND h) { return static_cast<long long>(ZTE_FmtSetData(h, "abc")); },               0},
+    {"SetDataString",    [](HWND h) { return static_cast<long long>(ZTE_FmtSetDataString(h, "abc")); },         0},
+    {"GetData",          [](HWND h) { return Address(ZTE_FmtGetData(h)); },                                     0},
+    {"GetDataType",      [](HWND h) { return static_cast<long long>(ZTE_FmtGetDataType(h)); },                  0},
+    {"FormatData",       [](HWND h) { return Address(ZTE_FmtFormatData(h, "abc")); },                           0},
+    {"UnformatData",     [](HWND h) { return Address(ZTE_FmtUnformatData(h, "abc")); },                         0},
+    {"SetSpin",          [](HWND h) { return ZTE_SetSpin(h, 1, "1~2", "a\tb", 0), 0LL; },                       0},
+    {"CreateSpin",       [](HWND h) { return ZTE_CreateSpin(h), Address(GetWindow(h, GW_CHILD)); },             0},
+    {"DestroySpin",      [](HWND h) { return ZTE_DestroySpin(h), 0LL; },                                        0},
+    {"PaintSpin",        [](HWND h) { return ZTE_PaintSpin(h, nullptr, nullptr), 0LL; },                        0},
+    {"GetSpinWidth",     [](HWND h) { return static_cast<long long>(ZTE_GetSpinWidth(h, nullptr)); },           0},
+    {"SetSpinBkColor",   [](HWND h) { return ZTE_SetSpinBkColor(h, 1), 0LL; },                                  0},
+    {"SpinRangeCompare", [](HWND h) { return static_cast<long long>(ZTE_SpinRangeCompare(h, &kOne, &kTwo)); },  1},
 };
 // clang-format on
 

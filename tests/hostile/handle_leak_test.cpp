@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <cstring>
 #include <memory>
 
 #include "tests/support/edit_test.h"
@@ -20,30 +21,56 @@ struct GdiEntry {
     ULONGLONG user;
 };
 
-struct ProcessBasics {
-    void* reserved;
+struct ThreadBasics {
+    LONG exitStatus;
     const char* environmentBlock;
-    void* others[4];
+    void* others[3];
+    LONG priorities[2];
 };
 
-// The process's environment block, in which the address of the table stands at a place that all versions share.
-const char* EnvironmentBlock()
+// The environment block of this thread.
+const char* ThreadBlock()
 {
     using Query = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
     const auto query = reinterpret_cast<Query>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("ntdll.dll"), "NtQueryInformationProcess")));
-    ProcessBasics basics = {};
-    query(GetCurrentProcess(), 0, &basics, sizeof basics, nullptr);
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("ntdll.dll"), "NtQueryInformationThread")));
+    ThreadBasics basics = {};
+    query(GetCurrentThread(), 0, &basics, sizeof(ThreadBasics), nullptr);
     return basics.environmentBlock;
+}
+
+template <class Value>
+Value At(const char* block, size_t offset)
+{
+    Value value;
+    std::memcpy(&value, block + offset, sizeof value);
+    return value;
+}
+
+const GdiEntry* TableOf64BitThread(const char* thread)
+{
+    const auto* process = reinterpret_cast<const char*>(static_cast<UINT_PTR>(At<ULONGLONG>(thread, 0x60)));
+    return reinterpret_cast<const GdiEntry*>(static_cast<UINT_PTR>(At<ULONGLONG>(process, 0xF8)));
+}
+
+// The address of the table stands in the environment block of the process, at a place that has been the same in all
+// versions. A 32-bit program on a 64-bit system has a 64-bit block beside its own, and the table stands in that one.
+const GdiEntry* GdiTable()
+{
+    const char* const thread = ThreadBlock();
+    if (sizeof(void*) == 8)
+        return TableOf64BitThread(thread);
+    if (const ULONG thread64 = At<ULONG>(thread, 0xF70))
+        return TableOf64BitThread(reinterpret_cast<const char*>(static_cast<UINT_PTR>(thread64)));
+    const auto* process = reinterpret_cast<const char*>(static_cast<UINT_PTR>(At<ULONG>(thread, 0x30)));
+    return reinterpret_cast<const GdiEntry*>(static_cast<UINT_PTR>(At<ULONG>(process, 0x94)));
 }
 
 // GetGuiResources counts nothing on some systems, so the objects are counted in the table itself.
 int GdiObjects()
 {
     constexpr int kEntries = 0x4000;
-    constexpr size_t kTableOffset = sizeof(void*) == 8 ? 0xF8 : 0x94;
-    const char* const block = EnvironmentBlock();
-    const GdiEntry* table = *reinterpret_cast<const GdiEntry* const*>(block + kTableOffset);
+    const GdiEntry* table = GdiTable();
     int count = 0;
     for (int i = 0; table && i < kEntries; ++i)
         count += table[i].type != 0;
