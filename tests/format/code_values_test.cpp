@@ -82,6 +82,22 @@ TEST_F(CodeValues, AnUnknownValueUnderAPickListCountsAsNotTyped)
     EXPECT_NE(Record().flags & zte::SPUN, 0u);
 }
 
+TEST_F(CodeValues, AValueThatCountsAsNotTypedLeavesTheFormatOfTheTextBefore)
+{
+    Install("(XX)", DT_STRING, kThroughCodes | ZTEO_CODE_PICK, kColours);
+    const uint32_t before = Record().formatFlags;
+    ShownFor("ab");
+    EXPECT_EQ(Record().formatFlags, before);
+}
+
+TEST_F(CodeValues, AnUnknownValueBringsItsFormatAlong)
+{
+    Install("(XX)", DT_STRING, kThroughCodes, kColours);
+    ShownFor("ab");
+    EXPECT_EQ(Record().formatFlags, static_cast<uint32_t>(FORMAT_DONE | FORMAT_HAS_LITERALS | FORMAT_LITERAL_AFTER));
+    EXPECT_EQ(Record().firstFieldPos, 1);
+}
+
 TEST_F(CodeValues, AnUnknownTextIsReadThroughTheMask)
 {
     Install("(XX)", DT_STRING, kThroughCodes, kColours);

@@ -1,0 +1,149 @@
+// What the library reads back for itself while the user edits, and numbers laid through their mask again.
+#include "format/read_back.h"
+
+#include "core/instance.h"
+#include "tests/format/value_test.h"
+
+namespace zttest {
+namespace {
+
+using zte::EditInstance;
+
+class LiveRecord : public ValueTest {
+protected:
+    EditInstance& Live() const { return *zte::GetEditInstance(Window()); }
+
+    std::string ReadCurrent() const
+    {
+        void* block = zte::ReadCurrentData(Live());
+        if (!block)
+            return kNullResult;
+        std::string value;
+        if (zte::IsDateOrTime(Live().dataType)) {
+            DateTimeValue read;
+            std::memcpy(&read, block, sizeof read);
+            value = Canonical(read);
+        } else {
+            value = static_cast<const char*>(block);
+        }
+        SharedHeapFree(control_->heap(), block);
+        return value;
+    }
+};
+
+struct CurrentCase {
+    const char* name;
+    const char* mask;
+    int32_t type;
+    const char* text;
+    const char* value;
+};
+void PrintTo(const CurrentCase& row, std::ostream* out)
+{
+    *out << '"' << row.text << "\" under " << row.mask;
+}
+
+class CurrentData : public LiveRecord, public testing::WithParamInterface<CurrentCase> {};
+
+TEST_P(CurrentData, IsReadWithoutTheRulesOfNull)
+{
+    Install(GetParam().mask, GetParam().type);
+    SetText(GetParam().text);
+    EXPECT_EQ(ReadCurrent(), GetParam().value);
+}
+
+const CurrentCase kCurrentRows[] = {
+    {"Date",                  "MM/DD/YY",       DT_DATE,     "07/04/95",       "1995-07-04"                },
+    {"BlankDate",             "MM/DD/YY",       DT_DATE,     "00/00/00",       "2000-01-01"                },
+    {"YearZero",              "MM/DD/YYYY",     DT_DATE,     "07/04/0000",     "0000-07-04"                },
+    {"DayZero",               "MM/DD/YY",       DT_DATE,     "07/00/95",       "1995-07-01"                },
+    {"LongerThanTheDisplay",  "MM/DD/YYYY",     DT_DATE,     "07/04/1995xx",   "1995-07-04"                },
+    {"ShorterThanTheDisplay", "MM/DD/YYYY",     DT_DATE,     "07/04/95",       ""                          },
+    {"Midnight",              "HH:MM:SS",       DT_TIME,     "00:00:00",       "00:00:00:000000"           },
+    {"Time",                  "HH:MM:SS",       DT_TIME,     "14:07:09",       "14:07:09:000000"           },
+    {"TwelveHours",           "HH:MM AM/PM",    DT_TIME,     "01:30 PM",       "13:30:00:000000"           },
+    {"DateTime",              "MM/DD/YY HH:MM", DT_DATETIME, "07/04/95 14:07", "1995-07-04 14:07:00:000000"},
+    {"DateTimeWithoutAYear",  "HH:MM",          DT_DATETIME, "14:07",          "14:07:00:000000"           },
+    {"Number",                "#,##0.00",       DT_NUMBER,   "1,234.50",       "1234.50"                   },
+    {"Percent",               "#,##0.00%",      DT_NUMBER,   "12.50%",         "0.125"                     },
+    {"String",                "(##) ##",        DT_STRING,   "(12) 34",        "1234"                      },
+    {"EmptyNumber",           "#,##0",          DT_NUMBER,   "",               kNullResult                 },
+    {"EmptyString",           "###",            DT_STRING,   "",               kNullResult                 },
+    {"EmptyDate",             "MM/DD/YY",       DT_DATE,     "",               kNullResult                 },
+};
+INSTANTIATE_TEST_SUITE_P(, CurrentData, testing::ValuesIn(kCurrentRows), RowName<CurrentCase>);
+
+TEST_F(LiveRecord, AnEmptyWindowIsTheEmptyDate)
+{
+    Install("MM/DD/YY", DT_DATE);
+    SetText("");
+    EXPECT_EQ(Canonical(zte::ReadCurrentDateTime(Live())), "");
+}
+
+struct ReformatCase {
+    const char* name;
+    const RegionalSet* settings;
+    const char* mask;
+    int32_t type;
+    const char* text;
+    const char* shown;
+    int32_t grown;
+};
+void PrintTo(const ReformatCase& row, std::ostream* out)
+{
+    *out << '"' << row.text << "\" under " << row.mask;
+}
+
+class Reformat : public LiveRecord, public testing::WithParamInterface<ReformatCase> {};
+
+TEST_P(Reformat, LaysATextGivenThroughTheMask)
+{
+    const Regional settings(*GetParam().settings);
+    Install(GetParam().mask, GetParam().type);
+    EXPECT_EQ(zte::ReformatNumber(Live(), GetParam().text), GetParam().grown);
+    EXPECT_EQ(Text(), GetParam().shown);
+}
+
+TEST_P(Reformat, LaysTheWindowTextThroughTheMask)
+{
+    const Regional settings(*GetParam().settings);
+    Install(GetParam().mask, GetParam().type);
+    SetText(GetParam().text);
+    EXPECT_EQ(zte::ReformatNumber(Live(), nullptr), GetParam().grown);
+    EXPECT_EQ(Text(), GetParam().shown);
+}
+
+const ReformatCase kReformatRows[] = {
+    {"GroupsAndFills",           &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1234.5",                  "1,234.50",                      2},
+    {"LeavesWhatIsRight",        &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1,234.50",                "1,234.50",                      0},
+    {"DropsOtherCharacters",     &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1a2b3",                   "123.00",                        1},
+    {"KeepsTheSign",             &kUnitedStates, "$#,##0.00",   DT_NUMBER,  "$-5.00",                  "$-5.00",                        0},
+    {"ShrinkingCountsAsNothing", &kUnitedStates, "#,##0",       DT_NUMBER,  "0000012",                 "12",                            0},
+    {"EmptyIsZero",              &kUnitedStates, "#,##0.00",    DT_NUMBER,  "",                        "0.00",                          4},
+    {"EmptyDecimalIsZero",       &kUnitedStates, "#,##0.00",    DT_DECIMAL, "",                        "0.00",                          4},
+    {"PercentIsAPercentage",     &kUnitedStates, "##0.0%",      DT_NUMBER,  "12.5%",                   "12.5%",                         0},
+    {"PercentOfADecimal",        &kUnitedStates, "##0.0%",      DT_DECIMAL, "12.5%",                   "12.5%",                         0},
+    {"PercentWithoutItsSign",    &kUnitedStates, "##0%",        DT_NUMBER,  "50",                      "50%",                           1},
+    {"ALeadingEscapeIsNoDigit",  &kUnitedStates, "~1##0",       DT_NUMBER,  "15",                      "15",                            0},
+    {"TwoLeadingEscapes",        &kUnitedStates, "~1~2##0",     DT_NUMBER,  "125",                     "125",                           0},
+    {"ALiteralPrefix",           &kUnitedStates, "Total #,##0", DT_NUMBER,  "Total 1234",              "Total 1,234",                   1},
+    {"ALongDecimal",             &kUnitedStates, "#,##0.00",    DT_DECIMAL, "12345678901234567890.12", "12,345,678,901,234,567,890.12",
+     6                                                                                                                                   },
+    {"German",                   &kGerman,       nullptr,       DT_NUMBER,  "1.234,5",                 "1.234,50",                      1},
+    {"GermanDecimal",            &kGerman,       nullptr,       DT_DECIMAL, "1234,5",                  "1.234,50",                      2},
+    {"GermanPercent",            &kGerman,       "##0.0%",      DT_NUMBER,  "12,5%",                   "12,5%",                         0},
+    {"GermanDecimalPercent",     &kGerman,       "##0.0%",      DT_DECIMAL, "12,5%",                   "12,5%",                         0},
+    {"French",                   &kFrench,       nullptr,       DT_NUMBER,  "1234,5",                  "1 234,50",                      2},
+};
+INSTANTIATE_TEST_SUITE_P(, Reformat, testing::ValuesIn(kReformatRows), RowName<ReformatCase>);
+
+TEST_F(LiveRecord, ATextOf255CharactersIsNotReformatted)
+{
+    Install("#,##0", DT_NUMBER);
+    ShownFor("7");
+    EXPECT_EQ(zte::ReformatNumber(Live(), std::string(255, '1').c_str()), 0);
+    EXPECT_EQ(Text(), "7");
+}
+
+}  // namespace
+}  // namespace zttest
