@@ -16,8 +16,9 @@ fail()
 
 # field | what is done | shown | value read back
 # Done: plain text is typed from the field's start; "over:" types over the whole selected text; "keys:" presses named keys;
-# "up:" and "down:" press a spin arrow that many times with the mouse; "hold:" holds the upper arrow for a second. A "*"
-# stands for any text.
+# "up:" and "down:" press a spin arrow that many times with the mouse; "hold:" holds the upper arrow for so many
+# seconds. Shown and value are shell patterns: how often a held arrow repeats depends on the machine.
+# shellcheck disable=SC2016  # the dollar sign is a currency symbol
 steps='date|070495|07/04/95|1995-07-04
 date|7/4/95|07/04/95|1995-07-04
 dated|04jul1995|04-JUL-1995|1995-07-04
@@ -34,11 +35,11 @@ percent|over:12.5|12.50%|0.125
 currency|over:12345.67|$12,345.67|12345.67
 decimal|over:1234567.8901|1,234,567.8901|1234567.8901
 pick|G|Grey|Y
-spinnumber|keys:Up Up Down|15|15
-spindec|up:2|21.90|21.90
+spinnumber|hold:1|[345][05]|[345][05]
+spindec|keys:Up Up Down|20.90|20.90
 spindate|keys:Home Right Right Right Up Up|12/01/2026|2026-12-01
 spintime|down:1|10:30 AM|10:30:00:000000
-spincode|hold:1|*|*'
+spincode|up:3|Wednesday|3'
 
 # wait_for SECONDS COMMAND...: until the command succeeds.
 wait_for()
@@ -86,7 +87,10 @@ do_step() # field action
     click $((left + 6)) $(((top + bottom) / 2))
     case $2 in
     over:*) xdotool key --delay 20 Home shift+End type --delay 25 -- "${2#over:}" ;;
-    keys:*) xdotool key --delay 40 ${2#keys:} ;;
+    keys:*)
+        # shellcheck disable=SC2086  # one word a key
+        xdotool key --delay 40 ${2#keys:}
+        ;;
     up:*) press_arrow "$1" 1 "${2#up:}" ;;
     down:*) press_arrow "$1" 3 "${2#down:}" ;;
     hold:*)

@@ -1,6 +1,7 @@
 #!/bin/sh
-# Runs a Windows program under Wine: in the prefix and on the display of the test run, or, for a call by hand, in the
-# project's own prefix and on a display that lives as long as the program. Usage: run_under_wine.sh PROGRAM [ARGUMENT...]
+# Runs a Windows program under Wine, or a script (*.sh) that does: in the prefix and on the display of the test run, or, for a
+# call by hand, in the project's own prefix and on a display that lives as long as the program.
+# Usage: run_under_wine.sh PROGRAM [ARGUMENT...]
 set -u
 
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -19,7 +20,10 @@ fi
 mkdir -p "$(dirname "$WINEPREFIX")"
 errors=$(mktemp)
 trap 'rm -f "$errors"' EXIT
-wine "$@" </dev/null 2>"$errors"
+case $1 in
+*.sh) "$@" </dev/null 2>"$errors" ;;
+*) wine "$@" </dev/null 2>"$errors" ;;
+esac
 result=$?
 cat "$errors"
 exit $result
