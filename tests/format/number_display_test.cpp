@@ -216,6 +216,7 @@ TEST_P(FirstPosition, LiteralsAreTold)
 }
 
 const FirstPosCase kFirstPosRows[] = {
+    {"AtTheStartWhereThereIsNone",        "#.##",        0.0,  ".",       0, FORMAT_DONE                      },
     {"AtTheStart",                        "#,##0.00",    5.0,  "5.00",    0, FORMAT_DONE                      },
     {"BehindTheCurrencySymbol",           "$#,##0.00",   5.0,  "$5.00",   1, FORMAT_DONE                      },
     {"ASignBehindTheCurrencySymbol",      "$#,##0.00",   -5.0, "$-5.00",  1, FORMAT_DONE                      },
