@@ -12,8 +12,8 @@ namespace zte {
 
 namespace {
 
-constexpr int32_t kGrowth = 51;        // slots
-constexpr size_t kLongestText = 255;   // of an entry
+constexpr int32_t kGrowth = 51;       // slots
+constexpr size_t kLongestText = 255;  // of an entry
 constexpr char kSeparator = '/';
 constexpr char kValueFollows = '\t';
 
@@ -143,21 +143,21 @@ void DestroyCodeTable(EditInstance& edit)
     SharedHeapFree(edit.heap, table);
 }
 
-// From behind the entry shown to the end, then from the first one; the same letter typed again so goes on to the next.
+// From behind the entry that the cursor stands on to the end, then from the first one: the same letter typed again goes on
+// to the next entry, whether or not the cursor counts as standing on the entry shown.
 void CodeTableTypeAhead(EditInstance& edit, char typed)
 {
     if (!edit.codeTable || typed == '\0')
         return;
     SharedList cycle = edit.codeTable->cycle;
-    const bool positioned = Has(edit, CODE_POSITIONED);
-    const int32_t shown = SharedListTell(cycle);
-    const CodeTableEntry* entry = positioned ? FindFrom(cycle, SharedListNext(cycle), typed) : nullptr;
+    const int32_t former = SharedListTell(cycle);
+    const CodeTableEntry* entry = FindFrom(cycle, SharedListNext(cycle), typed);
     if (!entry)
         entry = FindFrom(cycle, SharedListFirst(cycle), typed);
     if (entry)
         ShowText(edit, std::string(entry->display).c_str());
-    else if (positioned)
-        SharedListSeek(cycle, shown);
+    else
+        SharedListSeek(cycle, former);
 }
 
 }  // namespace zte

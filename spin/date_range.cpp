@@ -14,7 +14,10 @@ namespace {
 
 constexpr int32_t kEscapeWidth = 2;  // a literal written with "~" is passed with its neighbour; kept
 
-auto DatePart(const DateTimeValue& value) { return std::make_tuple(value.year, value.month, value.day); }
+auto DatePart(const DateTimeValue& value)
+{
+    return std::make_tuple(value.year, value.month, value.day);
+}
 
 auto TimePart(const DateTimeValue& value)
 {

@@ -5,8 +5,14 @@
 
 namespace zte {
 
-inline bool HasDate(const DateTimeValue& value) { return value.year != DATETIME_NO_DATE; }
-inline bool HasTime(const DateTimeValue& value) { return value.hour != DATETIME_NO_TIME; }
+inline bool HasDate(const DateTimeValue& value)
+{
+    return value.year != DATETIME_NO_DATE;
+}
+inline bool HasTime(const DateTimeValue& value)
+{
+    return value.hour != DATETIME_NO_TIME;
+}
 
 // Reads an end in the mask's layout or in canonical form; 0 on success, otherwise the empty value.
 int32_t ReadRangeEnd(EditInstance& edit, DateTimeValue& value, const char* text);

@@ -16,7 +16,10 @@ constexpr int32_t kYear2999 = 2999 - 1900;
 constexpr int32_t kYear3000 = 3000 - 1900;
 constexpr int32_t kMicroseconds = 1000000;
 
-bool IsUp(const DateStep& step) { return step.direction != StepDirection::Down; }
+bool IsUp(const DateStep& step)
+{
+    return step.direction != StepDirection::Down;
+}
 
 // Fields of the date part that have a first and a last value within the year or month.
 bool IsDayOrMonth(DateField field)
@@ -24,7 +27,10 @@ bool IsDayOrMonth(DateField field)
     return field == DateField::Day || field == DateField::Month || field == DateField::DayOfYear;
 }
 
-bool IsDatePart(DateField field) { return field == DateField::Year || IsDayOrMonth(field); }
+bool IsDatePart(DateField field)
+{
+    return field == DateField::Year || IsDayOrMonth(field);
+}
 
 // A field is checked against ends that have its part only.
 bool Counts(const DateStep& step, const DateTimeValue& end)
@@ -107,51 +113,30 @@ int32_t FractionUnit(int32_t digits)
 FieldRange RangeOf(const DateStep& step, const DateTimeValue& value)
 {
     switch (step.field) {
-    case DateField::Month:
-        return {value.month, 0, 11, 1};
-    case DateField::Day:
-        return {value.day, 1, DaysInMonth(step.yearDigits, value), 1};
+    case DateField::Month: return {value.month, 0, 11, 1};
+    case DateField::Day: return {value.day, 1, DaysInMonth(step.yearDigits, value), 1};
     case DateField::DayOfYear:
         return {DayOfYear(step.yearDigits, value), 1, DaysInYear(step.yearDigits, value.year), 1};
-    case DateField::Hour:
-        return {value.hour, 0, 23, 1};
-    case DateField::Minute:
-        return {value.minute, 0, 59, 1};
-    case DateField::Second:
-        return {value.second, 0, 59, 1};
+    case DateField::Hour: return {value.hour, 0, 23, 1};
+    case DateField::Minute: return {value.minute, 0, 59, 1};
+    case DateField::Second: return {value.second, 0, 59, 1};
     case DateField::Fraction:
         return {static_cast<int32_t>(value.microsecond), 0, kMicroseconds - 1, FractionUnit(step.fractionDigits)};
-    default:
-        return {};
+    default: return {};
     }
 }
 
 void SetField(const DateStep& step, DateTimeValue& value, int32_t number)
 {
     switch (step.field) {
-    case DateField::Month:
-        value.month = static_cast<int8_t>(number);
-        break;
-    case DateField::Day:
-        value.day = static_cast<int8_t>(number);
-        break;
-    case DateField::DayOfYear:
-        DateFromDayOfYear(step.yearDigits, number, value);
-        break;
-    case DateField::Hour:
-        value.hour = static_cast<int8_t>(number);
-        break;
-    case DateField::Minute:
-        value.minute = static_cast<int8_t>(number);
-        break;
-    case DateField::Second:
-        value.second = static_cast<int8_t>(number);
-        break;
-    case DateField::Fraction:
-        value.microsecond = static_cast<uint32_t>(number);
-        break;
-    default:
-        break;
+    case DateField::Month: value.month = static_cast<int8_t>(number); break;
+    case DateField::Day: value.day = static_cast<int8_t>(number); break;
+    case DateField::DayOfYear: DateFromDayOfYear(step.yearDigits, number, value); break;
+    case DateField::Hour: value.hour = static_cast<int8_t>(number); break;
+    case DateField::Minute: value.minute = static_cast<int8_t>(number); break;
+    case DateField::Second: value.second = static_cast<int8_t>(number); break;
+    case DateField::Fraction: value.microsecond = static_cast<uint32_t>(number); break;
+    default: break;
     }
 }
 

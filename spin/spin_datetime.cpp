@@ -32,9 +32,13 @@ struct FieldLetter {
 };
 
 constexpr FieldLetter kFieldLetters[] = {
-    {'Y', DateField::Year},      {'M', DateField::Month},  {'D', DateField::Day},
-    {'J', DateField::DayOfYear}, {'H', DateField::Hour},   {'S', DateField::Second},
-    {'F', DateField::Fraction},
+    {'Y', DateField::Year     },
+    {'M', DateField::Month    },
+    {'D', DateField::Day      },
+    {'J', DateField::DayOfYear},
+    {'H', DateField::Hour     },
+    {'S', DateField::Second   },
+    {'F', DateField::Fraction },
 };
 
 bool HasHourBefore(const char* mask, int32_t position)
@@ -152,8 +156,7 @@ void StepFieldAt(EditInstance& edit, const std::string& text, int32_t caret)
 {
     const SpunField spun = FieldAt(edit, text, caret);
     DateTimeValue value = CurrentValue(edit);
-    const StepResult result =
-        IsRefused(spun) ? StepResult::Refused : StepDateTime(StepFor(edit, spun), value);
+    const StepResult result = IsRefused(spun) ? StepResult::Refused : StepDateTime(StepFor(edit, spun), value);
     if (result != StepResult::Refused) {
         const std::string display = FormatValue(edit, &value).text;
         if (result == StepResult::SetToEnd)

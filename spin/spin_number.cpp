@@ -18,7 +18,10 @@ constexpr int32_t kWholeText = 32767;
 struct Exact {
     DecimalValue value;
 };
-bool operator<(const Exact& first, const Exact& second) { return DecCompare(&first.value, &second.value) < 0; }
+bool operator<(const Exact& first, const Exact& second)
+{
+    return DecCompare(&first.value, &second.value) < 0;
+}
 Exact operator+(const Exact& first, const Exact& second)
 {
     Exact sum;

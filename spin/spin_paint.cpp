@@ -59,17 +59,33 @@ void DrawRaisedEdges(HDC dc, int32_t width, int32_t height)
     const GdiObject highlight(CreatePen(PS_SOLID, 1, GetSysColor(COLOR_BTNHIGHLIGHT)));
     const GdiObject shadow(CreatePen(PS_SOLID, 1, GetSysColor(COLOR_BTNSHADOW)));
     const DcSelection lit(dc, highlight.get());
-    DrawPolyline(dc, {{1, height - 2}, {1, 1}, {width - 2, 1}});
+    DrawPolyline(dc, {
+                         {1,         height - 2},
+                         {1,         1         },
+                         {width - 2, 1         }
+    });
     const DcSelection dark(dc, shadow.get());
-    DrawPolyline(dc, {{width - 2, 1}, {width - 2, height - 2}, {0, height - 2}});
-    DrawPolyline(dc, {{width - 3, 2}, {width - 3, height - 3}, {1, height - 3}});
+    DrawPolyline(dc, {
+                         {width - 2, 1         },
+                         {width - 2, height - 2},
+                         {0,         height - 2}
+    });
+    DrawPolyline(dc, {
+                         {width - 3, 2         },
+                         {width - 3, height - 3},
+                         {1,         height - 3}
+    });
 }
 
 void DrawSunkenEdge(HDC dc, int32_t width, int32_t height)
 {
     const GdiObject shadow(CreatePen(PS_SOLID, 1, GetSysColor(COLOR_BTNSHADOW)));
     const DcSelection dark(dc, shadow.get());
-    DrawPolyline(dc, {{1, height - 1}, {1, 1}, {width - 1, 1}});
+    DrawPolyline(dc, {
+                         {1,         height - 1},
+                         {1,         1         },
+                         {width - 1, 1         }
+    });
 }
 
 using EdgeDrawer = void (*)(HDC dc, int32_t width, int32_t height);
@@ -117,7 +133,11 @@ void DrawArrow(HDC dc, const ArrowMeasures& arrow, int32_t apexRow, int32_t dire
     const int32_t x = arrow.centre + moved;
     const int32_t apex = apexRow + moved;
     const int32_t base = apex + direction * arrow.size;
-    const std::array<POINT, 3> corners = {POINT{x, apex}, POINT{x - arrow.size, base}, POINT{x + arrow.size, base}};
+    const std::array<POINT, 3> corners = {
+        POINT{x,              apex},
+        POINT{x - arrow.size, base},
+        POINT{x + arrow.size, base}
+    };
     Polygon(dc, corners.data(), static_cast<int>(corners.size()));
 }
 
@@ -142,8 +162,14 @@ void DrawBorder(HDC dc, const SpinMeasures& spin)
 {
     const DcSelection pen(dc, GetStockObject(BLACK_PEN));
     const LONG right = spin.ButtonLeft();
-    DrawPolyline(dc, {{0, spin.rect.bottom - 1}, {right, spin.rect.bottom - 1}});
-    DrawPolyline(dc, {{0, 0}, {right, 0}});
+    DrawPolyline(dc, {
+                         {0,     spin.rect.bottom - 1},
+                         {right, spin.rect.bottom - 1}
+    });
+    DrawPolyline(dc, {
+                         {0,     0},
+                         {right, 0}
+    });
 }
 
 void DropFace(HBITMAP& face)

@@ -38,22 +38,13 @@ void StepValue(EditInstance& edit)
 {
     SetRedraw(edit, false);
     switch (edit.dataType) {
-    case DT_STRING:
-        SetRedraw(edit, true);
-        break;
-    case DT_NUMBER:
-        SpinStepNumber(edit);
-        break;
+    case DT_STRING: SetRedraw(edit, true); break;
+    case DT_NUMBER: SpinStepNumber(edit); break;
     case DT_DATE:
     case DT_TIME:
-    case DT_DATETIME:
-        SpinStepDateTime(edit);
-        break;
-    case DT_DECIMAL:
-        SpinStepDecimal(edit);
-        break;
-    default:
-        break;
+    case DT_DATETIME: SpinStepDateTime(edit); break;
+    case DT_DECIMAL: SpinStepDecimal(edit); break;
+    default: break;
     }
 }
 

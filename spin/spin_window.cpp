@@ -19,9 +19,15 @@ constexpr char kSpinClass[] = "spin";
 constexpr UINT_PTR kRepeatTimer = 1;
 constexpr UINT kRepeatMilliseconds = 150;  // from the first press on, without a longer first delay
 
-void Invalidate(HWND spin) { InvalidateRect(spin, nullptr, TRUE); }
+void Invalidate(HWND spin)
+{
+    InvalidateRect(spin, nullptr, TRUE);
+}
 
-POINT PointOf(LPARAM lParam) { return {LOWORD(lParam), HIWORD(lParam)}; }
+POINT PointOf(LPARAM lParam)
+{
+    return {LOWORD(lParam), HIWORD(lParam)};
+}
 
 void DropFace(HBITMAP& face)
 {
@@ -57,7 +63,10 @@ void OnPaint(HWND spin, const EditInstance& edit)
 }
 
 // False once the spin is gone, or the button was let go inside a message that the press has led to.
-bool IsPressed(HWND spin, const EditInstance& edit) { return edit.hwndSpin == spin && Has(edit, SPIN_TRACKING); }
+bool IsPressed(HWND spin, const EditInstance& edit)
+{
+    return edit.hwndSpin == spin && Has(edit, SPIN_TRACKING);
+}
 
 void OnPress(HWND spin, EditInstance& edit, LPARAM lParam)
 {
@@ -124,30 +133,17 @@ void OnSetRedraw(HWND spin, WPARAM on)
 bool Route(HWND spin, EditInstance& edit, UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
-    case WM_DESTROY:
-        OnDestroy(spin, edit);
-        return true;
-    case WM_SETREDRAW:
-        OnSetRedraw(spin, wParam);
-        return true;
-    case WM_PAINT:
-        OnPaint(spin, edit);
-        return true;
-    case WM_TIMER:
-        SpinStep(edit, spin);
-        return true;
+    case WM_DESTROY: OnDestroy(spin, edit); return true;
+    case WM_SETREDRAW: OnSetRedraw(spin, wParam); return true;
+    case WM_PAINT: OnPaint(spin, edit); return true;
+    case WM_TIMER: SpinStep(edit, spin); return true;
     case WM_MOUSEMOVE:
         if (Has(edit, SPIN_TRACKING))
             OnTrack(spin, edit, lParam);
         return true;
-    case WM_LBUTTONDOWN:
-        OnPress(spin, edit, lParam);
-        return true;
-    case WM_LBUTTONUP:
-        OnRelease(spin, edit);
-        return true;
-    default:
-        return false;
+    case WM_LBUTTONDOWN: OnPress(spin, edit, lParam); return true;
+    case WM_LBUTTONUP: OnRelease(spin, edit); return true;
+    default: return false;
     }
 }
 
@@ -166,8 +162,8 @@ LRESULT OnCreate(HWND spin, const CREATESTRUCTA* creation)
 void CreateSpinWindow(EditInstance& edit, DWORD style, const RECT& place)
 {
     const LifeCheck life(edit);
-    CreateWindowExA(0, kSpinClass, "", style, place.left, place.top, place.right - place.left,
-                    place.bottom - place.top, edit.hwnd, nullptr, libraryInstance, &edit);
+    CreateWindowExA(0, kSpinClass, "", style, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                    edit.hwnd, nullptr, libraryInstance, &edit);
     life.Check();
 }
 
