@@ -41,10 +41,14 @@ constexpr FieldLetter kFieldLetters[] = {
     {'F', DateField::Fraction },
 };
 
-bool HasHourBefore(const char* mask, int32_t position)
+// An hour in front of it makes an "M" a minute. Letters of a date's words, and escaped ones, are no hours.
+bool HasHourBefore(const EditInstance& edit, int32_t position)
 {
+    const char* mask = edit.mask;
+    if (edit.dataType == DT_DATE)
+        return false;
     for (int32_t i = MaskIndex(mask, position); i-- > 0;)
-        if (AsciiUpper(mask[i]) == 'H')
+        if (AsciiUpper(mask[i]) == 'H' && !(i > 0 && mask[i - 1] == '~'))
             return true;
     return false;
 }
@@ -55,7 +59,7 @@ DateField FieldOf(const EditInstance& edit, const std::string& text, int32_t pos
     if (!FindMaskItem(mask.value, edit.dataType))
         return DateField::None;
     const char letter = AsciiUpper(mask.value);
-    if (letter == 'M' && HasHourBefore(edit.mask, position))
+    if (letter == 'M' && HasHourBefore(edit, position))
         return DateField::Minute;
     for (const FieldLetter& row : kFieldLetters)
         if (row.letter == letter)

@@ -23,10 +23,11 @@ void PrintTo(const DateStep& row, std::ostream* out)
          << ", " << row.steps << ")";
 }
 
+// By the fields that only one type has.
 int32_t TypeOf(const std::string& mask)
 {
-    const bool date = mask.find_first_of("YDJ") != std::string::npos;
-    const bool time = mask.find('H') != std::string::npos;
+    const bool date = mask.find("YY") != std::string::npos || mask.find("yy") != std::string::npos;
+    const bool time = mask.find("HH") != std::string::npos;
     return date && time ? DT_DATETIME : date ? DT_DATE : DT_TIME;
 }
 
@@ -160,8 +161,9 @@ INSTANTIATE_TEST_SUITE_P(
     Caret, DateSteps,
     testing::Values(DateStep{"OnALiteralChangesNothing", "MM/DD/YY", nullptr, "07|/04/95", "+", "07[/]04/95"},
                     DateStep{"OnALiteralOfTwo", "MM--DD--YY", nullptr, "07-|-04--95", "-", "07[--]04--95"},
-                    DateStep{"OnAnEscapedLiteral", "~MMM/DD/YY", nullptr, "|M07/04/95", "+", "[M]07/04/95"},
-                    DateStep{"BehindAnEscapedLiteral", "~DMM/DD/YY", nullptr, "D|07/04/95", "+", "D[08]/04/95"},
+                    DateStep{"OnAnEscapedLiteral", "MM/DD/YY~D", nullptr, "07/04/95|D", "+", "07/04/95[D]"},
+                    DateStep{"AMonthBehindALiteralWithAnH", "the MM/DD/YY", nullptr, "the |07/04/95", "+",
+                             "the [08]/04/95"},
                     DateStep{"OnALiteralOutOfTheRange", "MM/DD/YYYY", "2000-01-01~2000-12-31", "07|/04/1995", "+",
                              "01[/]01/2000"},
                     DateStep{"PastTheEnd", "MM/DD/YY", nullptr, "07/04/95|", "+", "07/04/95|"},

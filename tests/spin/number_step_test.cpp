@@ -250,7 +250,7 @@ INSTANTIATE_TEST_SUITE_P(
                     RegionalStep{"DecimalPoint", &kUnitedStates, "#,##0.00", "1234.75", "1,234.75", "1,235.75"},
                     RegionalStep{"PercentWithComma", &kGerman, "##0.0%", "0.125", "12,5%", "112,5%"},
                     RegionalStep{"PercentWithPoint", &kUnitedStates, "##0.0%", "0.125", "12.5%", "112.5%"},
-                    RegionalStep{"Literals", &kGerman, "~x##0.0", "99.5", "x99,5", "x100,5"}),
+                    RegionalStep{"Literals", &kGerman, "~k##0.0", "99.5", "k99,5", "k100,5"}),
     RowName<RegionalStep>);
 
 // What every step does beside its value.
