@@ -96,7 +96,10 @@ private:
         throw std::runtime_error("an address outside the image's sections");
     }
 
-    size_t Directory(size_t index) const { return Offset(Headers().OptionalHeader.DataDirectory[index].VirtualAddress); }
+    size_t Directory(size_t index) const
+    {
+        return Offset(Headers().OptionalHeader.DataDirectory[index].VirtualAddress);
+    }
 
     std::vector<char> bytes_;
     size_t headers_ = 0;

@@ -29,6 +29,7 @@ TEST_P(RecordField, StandsAtItsFixedOffset)
     EXPECT_EQ(GetParam().offset, kIs32Bit ? GetParam().on32Bit : GetParam().on64Bit);
 }
 
+// clang-format off: its alignment of tables does not survive this one
 const FieldCase kFields[] = {
     {"InitHeap",             offsetof(EditInitParams, heap),          0,  0 },
     {"InitHeapFlags",        offsetof(EditInitParams, heapFlags),     4,  8 },
@@ -65,6 +66,7 @@ const FieldCase kFields[] = {
     {"DecimalPlatformHigh",  offsetof(DECIMAL, Hi32),                 4,  4 },
     {"DecimalPlatformLow",   offsetof(DECIMAL, Lo64),                 8,  8 },
 };
+// clang-format on
 
 INSTANTIATE_TEST_SUITE_P(Offsets, RecordField, testing::ValuesIn(kFields),
                          [](const auto& row) { return std::string(row.param.name); });
