@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <string>
 #include <type_traits>
 
 #include "ztedit.h"
@@ -12,7 +13,7 @@ constexpr bool kIs32Bit = sizeof(void*) == 4;
 
 struct FieldCase {
     const char* name;
-    size_t offset;
+    size_t actual;
     size_t on32Bit;
     size_t on64Bit;
 };
@@ -22,14 +23,13 @@ void PrintTo(const FieldCase& row, std::ostream* out)
     *out << row.name;
 }
 
-class RecordField : public testing::TestWithParam<FieldCase> {};
+class RecordLayout : public testing::TestWithParam<FieldCase> {};
 
-TEST_P(RecordField, StandsAtItsFixedOffset)
+TEST_P(RecordLayout, IsFixed)
 {
-    EXPECT_EQ(GetParam().offset, kIs32Bit ? GetParam().on32Bit : GetParam().on64Bit);
+    EXPECT_EQ(GetParam().actual, kIs32Bit ? GetParam().on32Bit : GetParam().on64Bit);
 }
 
-// clang-format off: its alignment of tables does not survive this one
 const FieldCase kFields[] = {
     {"InitHeap",             offsetof(EditInitParams, heap),          0,  0 },
     {"InitHeapFlags",        offsetof(EditInitParams, heapFlags),     4,  8 },
@@ -41,35 +41,42 @@ const FieldCase kFields[] = {
     {"InitSpinIncrement",    offsetof(EditInitParams, spinIncrement), 28, 48},
     {"InitCodeTableText",    offsetof(EditInitParams, codeTableText), 32, 56},
     {"InitOptions",          offsetof(EditInitParams, options),       36, 64},
-    {"InitSize",             sizeof(EditInitParams),                  40, 72},
-    {"ResultText",           offsetof(FormatResult, text),            0,  0 },
-    {"ResultFormatFlags",    offsetof(FormatResult, formatFlags),     4,  8 },
-    {"ResultFirstFieldPos",  offsetof(FormatResult, firstFieldPos),   8,  12},
-    {"ResultSize",           sizeof(FormatResult),                    12, 16},
-    {"DateTimeMicrosecond",  offsetof(DateTimeValue, microsecond),    0,  0 },
-    {"DateTimeYear",         offsetof(DateTimeValue, year),           4,  4 },
-    {"DateTimeMonth",        offsetof(DateTimeValue, month),          6,  6 },
-    {"DateTimeDay",          offsetof(DateTimeValue, day),            7,  7 },
-    {"DateTimeHour",         offsetof(DateTimeValue, hour),           8,  8 },
-    {"DateTimeMinute",       offsetof(DateTimeValue, minute),         9,  9 },
-    {"DateTimeSecond",       offsetof(DateTimeValue, second),         10, 10},
-    {"DateTimeSpare",        offsetof(DateTimeValue, spare),          11, 11},
-    {"DateTimeSize",         sizeof(DateTimeValue),                   12, 12},
-    {"DecimalReserved",      offsetof(DecimalValue, reserved),        0,  0 },
-    {"DecimalScale",         offsetof(DecimalValue, scale),           2,  2 },
-    {"DecimalSign",          offsetof(DecimalValue, sign),            3,  3 },
-    {"DecimalHigh",          offsetof(DecimalValue, hi32),            4,  4 },
-    {"DecimalLow",           offsetof(DecimalValue, lo64),            8,  8 },
-    {"DecimalSize",          sizeof(DecimalValue),                    16, 16},
-    {"DecimalPlatformSize",  sizeof(DECIMAL),                         16, 16},
-    {"DecimalPlatformScale", offsetof(DECIMAL, scale),                2,  2 },
-    {"DecimalPlatformHigh",  offsetof(DECIMAL, Hi32),                 4,  4 },
-    {"DecimalPlatformLow",   offsetof(DECIMAL, Lo64),                 8,  8 },
+    {"ResultText",           offsetof(FormatResult,   text),          0,  0 },
+    {"ResultFormatFlags",    offsetof(FormatResult,   formatFlags),   4,  8 },
+    {"ResultFirstFieldPos",  offsetof(FormatResult,   firstFieldPos), 8,  12},
+    {"DateTimeMicrosecond",  offsetof(DateTimeValue,  microsecond),   0,  0 },
+    {"DateTimeYear",         offsetof(DateTimeValue,  year),          4,  4 },
+    {"DateTimeMonth",        offsetof(DateTimeValue,  month),         6,  6 },
+    {"DateTimeDay",          offsetof(DateTimeValue,  day),           7,  7 },
+    {"DateTimeHour",         offsetof(DateTimeValue,  hour),          8,  8 },
+    {"DateTimeMinute",       offsetof(DateTimeValue,  minute),        9,  9 },
+    {"DateTimeSecond",       offsetof(DateTimeValue,  second),        10, 10},
+    {"DateTimeSpare",        offsetof(DateTimeValue,  spare),         11, 11},
+    {"DecimalReserved",      offsetof(DecimalValue,   reserved),      0,  0 },
+    {"DecimalScale",         offsetof(DecimalValue,   scale),         2,  2 },
+    {"DecimalSign",          offsetof(DecimalValue,   sign),          3,  3 },
+    {"DecimalHigh",          offsetof(DecimalValue,   hi32),          4,  4 },
+    {"DecimalLow",           offsetof(DecimalValue,   lo64),          8,  8 },
+    {"DecimalPlatformScale", offsetof(DECIMAL,        scale),         2,  2 },
+    {"DecimalPlatformHigh",  offsetof(DECIMAL,        Hi32),          4,  4 },
+    {"DecimalPlatformLow",   offsetof(DECIMAL,        Lo64),          8,  8 },
 };
-// clang-format on
 
-INSTANTIATE_TEST_SUITE_P(Offsets, RecordField, testing::ValuesIn(kFields),
-                         [](const auto& row) { return std::string(row.param.name); });
+const FieldCase kSizes[] = {
+    {"InitSize",            sizeof(EditInitParams), 40, 72},
+    {"ResultSize",          sizeof(FormatResult),   12, 16},
+    {"DateTimeSize",        sizeof(DateTimeValue),  12, 12},
+    {"DecimalSize",         sizeof(DecimalValue),   16, 16},
+    {"DecimalPlatformSize", sizeof(DECIMAL),        16, 16},
+};
+
+std::string NameOf(const testing::TestParamInfo<FieldCase>& row)
+{
+    return row.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Offsets, RecordLayout, testing::ValuesIn(kFields), NameOf);
+INSTANTIATE_TEST_SUITE_P(Sizes, RecordLayout, testing::ValuesIn(kSizes), NameOf);
 
 TEST(Records, ArePlainDataThatMayBeCopiedByteByByte)
 {
