@@ -1,32 +1,29 @@
-// The spin as pixels: painted into memory device contexts, of all heights, pressed and unpressed, with and without background.
+// The spin as pixels: whole pictures on memory device contexts, of all heights, pressed and unpressed, on any background.
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <initializer_list>
 
 #include "tests/spin/spin_test.h"
+#include "tests/support/import_patch.h"
 
 namespace zttest {
 namespace {
 
-constexpr COLORREF kCanvas = RGB(10, 200, 30);  // of no part of a spin
+constexpr COLORREF kPaper = RGB(10, 200, 30);  // of no part of a spin
 constexpr COLORREF kGrey = RGB(192, 192, 192);
 constexpr COLORREF kBlack = RGB(0, 0, 0);
-constexpr int kSide = 80;
 
-// A bitmap of one colour to paint on.
+// A picture in memory, all paper at first.
 class Canvas {
 public:
-    Canvas() : dc_(CreateCompatibleDC(nullptr))
+    Canvas(int width, int height) : width_(width), height_(height), dc_(CreateCompatibleDC(nullptr))
     {
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = kSide;
-        info.bmiHeader.biHeight = -kSide;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
+        BITMAPINFO info{};
+        info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
         void* bits = nullptr;
         bitmap_ = CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
         former_ = SelectObject(dc_, bitmap_);
+        pixels_ = static_cast<const uint32_t*>(bits);
         Clear();
     }
     Canvas(const Canvas&) = delete;
@@ -40,189 +37,443 @@ public:
 
     void Clear()
     {
-        const RECT all = {0, 0, kSide, kSide};
-        const HBRUSH brush = CreateSolidBrush(kCanvas);
-        FillRect(dc_, &all, brush);
-        DeleteObject(brush);
+        const HBRUSH paper = CreateSolidBrush(kPaper);
+        const RECT all = {0, 0, width_, height_};
+        FillRect(dc_, &all, paper);
+        DeleteObject(paper);
     }
-    HDC Dc() const { return dc_; }
-    COLORREF At(int x, int y) const { return GetPixel(dc_, x, y); }
-    bool IsUntouchedOutside(const RECT& rect) const
+    HDC dc() const { return dc_; }
+    int width() const { return width_; }
+    int height() const { return height_; }
+    COLORREF At(int x, int y) const
     {
-        for (int y = 0; y < kSide; ++y)
-            for (int x = 0; x < kSide; ++x)
-                if ((x < rect.left || x >= rect.right || y < rect.top || y >= rect.bottom) && At(x, y) != kCanvas)
-                    return false;
-        return true;
+        GdiFlush();
+        const uint32_t pixel = pixels_[y * width_ + x];
+        return RGB((pixel >> 16) & 0xFF, (pixel >> 8) & 0xFF, pixel & 0xFF);
     }
 
 private:
+    int width_;
+    int height_;
     HDC dc_;
-    HBITMAP bitmap_ = nullptr;
-    HGDIOBJ former_ = nullptr;
+    HBITMAP bitmap_;
+    HGDIOBJ former_;
+    const uint32_t* pixels_;
 };
+
+struct Point {
+    int x;
+    int y;
+};
+
+// The same picture drawn by hand into a plain array: straight lines and filled triangles only.
+class Expected {
+public:
+    Expected(int width, int height)
+        : width_(width), height_(height), pixels_(static_cast<size_t>(width * height), kPaper)
+    {
+    }
+
+    COLORREF At(int x, int y) const { return pixels_[static_cast<size_t>(y * width_ + x)]; }
+    void Put(int x, int y, COLORREF colour)
+    {
+        if (x >= 0 && x < width_ && y >= 0 && y < height_)
+            pixels_[static_cast<size_t>(y * width_ + x)] = colour;
+    }
+
+    // Up to the last point, which a line does not draw.
+    void Line(Point from, Point to, COLORREF colour)
+    {
+        const int stepX = (to.x > from.x) - (to.x < from.x);
+        const int stepY = (to.y > from.y) - (to.y < from.y);
+        for (; from.x != to.x || from.y != to.y; from.x += stepX, from.y += stepY)
+            Put(from.x, from.y, colour);
+    }
+    void Lines(std::initializer_list<Point> points, COLORREF colour)
+    {
+        for (const Point* point = points.begin(); point + 1 < points.end(); ++point)
+            Line(point[0], point[1], colour);
+    }
+    void Fill(int left, int top, int right, int bottom, COLORREF colour)
+    {
+        for (int y = top; y < bottom; ++y)
+            for (int x = left; x < right; ++x)
+                Put(x, y, colour);
+    }
+    void Fill(const RECT& rect, COLORREF colour)
+    {
+        Fill(static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
+             static_cast<int>(rect.bottom), colour);
+    }
+    void CopyFrom(const Expected& face, int left, int top)
+    {
+        for (int y = 0; y < face.height_; ++y)
+            for (int x = 0; x < face.width_; ++x)
+                Put(left + x, top + y, face.At(x, y));
+    }
+    // Rows from the apex down (up with direction -1), each two pixels wider than the one before.
+    void Arrow(Point apex, int size, int direction)
+    {
+        for (int row = 0; row <= size; ++row)
+            Fill(apex.x - row, apex.y + direction * row, apex.x + row + 1, apex.y + direction * row + 1, kBlack);
+    }
+
+private:
+    int width_;
+    int height_;
+    std::vector<COLORREF> pixels_;
+};
+
+Expected Face(int width, int height, bool pressed)
+{
+    const COLORREF highlight = GetSysColor(COLOR_BTNHIGHLIGHT);
+    const COLORREF shadow = GetSysColor(COLOR_BTNSHADOW);
+    Expected face(width, height);
+    face.Fill(0, 0, width, height, kBlack);
+    face.Fill(1, 1, width - 1, height - 1, kGrey);
+    if (pressed) {
+        face.Lines({{1, height - 1}, {1, 1}, {width - 1, 1}}, shadow);
+        return face;
+    }
+    face.Lines({{1, height - 2}, {1, 1}, {width - 2, 1}}, highlight);
+    face.Lines({{width - 2, 1}, {width - 2, height - 2}, {0, height - 2}}, shadow);
+    face.Lines({{width - 3, 2}, {width - 3, height - 3}, {1, height - 3}}, shadow);
+    return face;
+}
 
 int ButtonWidth(int height)
 {
-    const int scrollBar = GetSystemMetrics(SM_CXVSCROLL);
-    const int width = std::clamp(2 * height / 3, 5, std::max(5, scrollBar));
+    int width = 2 * height / 3;
+    if (width < 5)
+        width = 5;
+    else if (width > GetSystemMetrics(SM_CXVSCROLL))
+        width = GetSystemMetrics(SM_CXVSCROLL);
     return width + width % 2;
+}
+
+enum class Pressed { None, Up, Down };
+
+// A spin in a rectangle of the picture, its arrows moved to the left by some pixels.
+void DrawSpin(Expected& picture, const RECT& rect, Pressed pressed, int arrowsLeft = 0)
+{
+    const int height = static_cast<int>(rect.bottom - rect.top);
+    const int right = static_cast<int>(rect.right);
+    const int top = static_cast<int>(rect.top);
+    const int width = ButtonWidth(height);
+    const int half = height / 2;
+    picture.CopyFrom(Face(width, half, pressed == Pressed::Up), right - width, top);
+    picture.CopyFrom(Face(width, half, pressed == Pressed::Down), right - width, top + half + height % 2);
+    const int size = width / 2 / 2;
+    const int margin = (half - size) / 2;
+    const int centre = right - arrowsLeft - width / 2;
+    const int up = pressed == Pressed::Up ? 1 : 0;
+    const int down = pressed == Pressed::Down ? 1 : 0;
+    picture.Arrow({centre + up, top + margin + up}, size, 1);
+    picture.Arrow({centre + down, top + height - margin - 1 + down}, size, -1);
+}
+
+// The first pixel that differs, or "".
+std::string Difference(const Canvas& canvas, const Expected& picture)
+{
+    for (int y = 0; y < canvas.height(); ++y)
+        for (int x = 0; x < canvas.width(); ++x)
+            if (canvas.At(x, y) != picture.At(x, y)) {
+                char text[80];
+                std::snprintf(text, sizeof text, "at (%d, %d): %06lx instead of %06lx", x, y,
+                              static_cast<unsigned long>(canvas.At(x, y)),
+                              static_cast<unsigned long>(picture.At(x, y)));
+                return text;
+            }
+    return "";
 }
 
 class SpinPaint : public SpinTest {
 protected:
-    void SetUp() override
-    {
-        SpinTest::SetUp();
-        MakeSpin("###0", DT_NUMBER, nullptr, 1, "5");
-    }
-    void Paint(const RECT& rect) { ZTE_PaintSpin(Window(), canvas_.Dc(), &rect); }
-    void Set(uint32_t bits) { RecordOf(Window())->flags |= bits; }
+    static constexpr int kSide = 80;
+    static constexpr RECT RectOfHeight(int height) { return {7, 9, 53, 9 + height}; }
 
-    Canvas canvas_;
+    void SetUp() override { MakeSpin("##0", DT_NUMBER, nullptr, 1, "7"); }
+    void SetFlags(uint32_t bits, bool on) { zte::SetFlag(*RecordOf(Window()), bits, on); }
+    void Paint(const RECT& rect) { ZTE_PaintSpin(Window(), canvas_.dc(), &rect); }
+    Canvas canvas_{kSide, kSide};
 };
 
-class SpinPaintOfHeight : public SpinPaint, public testing::WithParamInterface<int> {};
+class SpinOfHeight : public SpinPaint, public testing::WithParamInterface<int> {};
 
-TEST_P(SpinPaintOfHeight, HasTwoFramedButtonsFlushRight)
+TEST_P(SpinOfHeight, IsPaintedUnpressed)
 {
-    const int height = GetParam();
-    const RECT rect = {10, 5, 50, 5 + height};
+    const RECT rect = RectOfHeight(GetParam());
     Paint(rect);
-    const int half = height / 2;
-    const int left = static_cast<int>(rect.right) - ButtonWidth(height);
-    const int right = static_cast<int>(rect.right) - 1;
-    const int lower = static_cast<int>(rect.top) + half + height % 2;
-    if (half < 6)
-        return;  // too low to tell the frame from the arrow; that nothing is harmed has been seen
-    for (const int top : {static_cast<int>(rect.top), lower}) {
-        EXPECT_EQ(canvas_.At(left, top), kBlack);
-        EXPECT_EQ(canvas_.At(right, top), kBlack);
-        EXPECT_EQ(canvas_.At(left, top + half - 1), kBlack);
-        EXPECT_EQ(canvas_.At(right, top + half - 1), kBlack);
-        EXPECT_EQ(canvas_.At(left + 1, top + 1), GetSysColor(COLOR_BTNHIGHLIGHT));
-        EXPECT_EQ(canvas_.At(right - 1, top + half - 3), GetSysColor(COLOR_BTNSHADOW));
-        EXPECT_EQ(canvas_.At(left + 2, top + 2), kGrey);
+    Expected picture(kSide, kSide);
+    DrawSpin(picture, rect, Pressed::None);
+    EXPECT_EQ(Difference(canvas_, picture), "");
+}
+
+TEST_P(SpinOfHeight, IsPaintedWithThePressedArrowSunken)
+{
+    const RECT rect = RectOfHeight(GetParam());
+    for (const Pressed pressed : {Pressed::Up, Pressed::Down}) {
+        canvas_.Clear();
+        const uint32_t bit = pressed == Pressed::Up ? zte::SPIN_UP : zte::SPIN_DOWN;
+        SetFlags(bit, true);
+        Paint(rect);
+        SetFlags(bit, false);
+        Expected picture(kSide, kSide);
+        DrawSpin(picture, rect, pressed);
+        EXPECT_EQ(Difference(canvas_, picture), "") << (pressed == Pressed::Up ? "up" : "down");
     }
-    if (height % 2 == 1) {
-        EXPECT_EQ(canvas_.At(left, lower - 1), kCanvas);
-    }
-    EXPECT_TRUE(canvas_.IsUntouchedOutside({left, rect.top, rect.right, rect.bottom}));
 }
 
-TEST_P(SpinPaintOfHeight, HasAnArrowOnEachButton)
+TEST_P(SpinOfHeight, IsPaintedOnceWithItsArrowsOnePixelFurtherLeft)
 {
-    const int height = GetParam();
-    const RECT rect = {10, 5, 50, 5 + height};
+    const RECT rect = RectOfHeight(GetParam());
+    EXPECT_EQ(ZTE_PaintSpinOnce(&rect, canvas_.dc()), ButtonWidth(GetParam()));
+    Expected picture(kSide, kSide);
+    DrawSpin(picture, rect, Pressed::None, 1);
+    EXPECT_EQ(Difference(canvas_, picture), "");
+}
+
+TEST_P(SpinOfHeight, IsPaintedOnItsBackground)
+{
+    const COLORREF colour = RGB(0, 128, 200);
+    const RECT rect = RectOfHeight(GetParam());
+    ZTE_SetSpinBkColor(Window(), colour);
     Paint(rect);
-    const int half = height / 2;
-    const int size = ButtonWidth(height) / 2 / 2;
-    const int centre = static_cast<int>(rect.right) - ButtonWidth(height) / 2;
-    const int margin = (half - size) / 2;
-    EXPECT_EQ(canvas_.At(centre, static_cast<int>(rect.top) + margin), kBlack);
-    EXPECT_EQ(canvas_.At(centre, static_cast<int>(rect.top) + margin + size), kBlack);
-    EXPECT_EQ(canvas_.At(centre, static_cast<int>(rect.top) + height - margin - 1), kBlack);
-    EXPECT_EQ(canvas_.At(centre, static_cast<int>(rect.top) + height - margin - 1 - size), kBlack);
+    Expected picture(kSide, kSide);
+    picture.Fill(rect, colour);
+    DrawSpin(picture, rect, Pressed::None);
+    EXPECT_EQ(Difference(canvas_, picture), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Pixels, SpinPaintOfHeight, testing::Range(0, 61));
+INSTANTIATE_TEST_SUITE_P(Heights, SpinOfHeight, testing::Range(0, 61));
 
-TEST_F(SpinPaint, ATwentyOnePixelSpinStartsItsLowerButtonAtEleven)
+// The figures of one spin, worked out by hand: 20 pixels high, buttons 14 wide and 10 high, their left edge at 39.
+TEST_F(SpinPaint, TheFiguresOfATwentyPixelSpin)
 {
-    Paint({0, 0, 30, 21});
-    EXPECT_EQ(canvas_.At(30 - 14, 10), kCanvas);
-    EXPECT_EQ(canvas_.At(30 - 14, 11), kBlack);
+    ASSERT_GE(GetSystemMetrics(SM_CXVSCROLL), 14) << "a narrower scroll bar bounds the spin";
+    Paint(RectOfHeight(20));
+    const COLORREF highlight = GetSysColor(COLOR_BTNHIGHLIGHT);
+    const COLORREF shadow = GetSysColor(COLOR_BTNSHADOW);
+    EXPECT_EQ(canvas_.At(38, 9), kPaper);   // left of the buttons
+    EXPECT_EQ(canvas_.At(39, 9), kBlack);   // frame of the upper one
+    EXPECT_EQ(canvas_.At(52, 18), kBlack);
+    EXPECT_EQ(canvas_.At(39, 19), kBlack);  // frame of the lower one
+    EXPECT_EQ(canvas_.At(52, 28), kBlack);
+    EXPECT_EQ(canvas_.At(53, 20), kPaper);
+    EXPECT_EQ(canvas_.At(45, 29), kPaper);
+    EXPECT_EQ(canvas_.At(40, 10), highlight);
+    EXPECT_EQ(canvas_.At(50, 10), highlight);
+    EXPECT_EQ(canvas_.At(51, 10), shadow);
+    EXPECT_EQ(canvas_.At(50, 12), shadow);
+    EXPECT_EQ(canvas_.At(40, 17), shadow);
+    EXPECT_EQ(canvas_.At(42, 16), shadow);
+    EXPECT_EQ(canvas_.At(41, 11), kGrey);
+    EXPECT_EQ(canvas_.At(46, 12), kBlack);  // apex of the upper arrow, and its base
+    EXPECT_EQ(canvas_.At(43, 15), kBlack);
+    EXPECT_EQ(canvas_.At(49, 15), kBlack);
+    EXPECT_EQ(canvas_.At(45, 12), kGrey);
+    EXPECT_EQ(canvas_.At(46, 25), kBlack);  // apex of the lower arrow, and its base
+    EXPECT_EQ(canvas_.At(43, 22), kBlack);
+    EXPECT_EQ(canvas_.At(49, 22), kBlack);
 }
 
-TEST_F(SpinPaint, APressedButtonIsSunkenAndItsArrowMoved)
+TEST_F(SpinPaint, AnOddHeightLeavesARowBetweenTheButtons)
 {
-    const RECT rect = {0, 0, 30, 40};
-    const int left = 30 - ButtonWidth(40);
-    Paint(rect);
-    const COLORREF raised = canvas_.At(left + 1, 1);
-    Set(zte::SPIN_UP);
-    canvas_.Clear();
-    Paint(rect);
-    EXPECT_EQ(raised, GetSysColor(COLOR_BTNHIGHLIGHT));
-    EXPECT_EQ(canvas_.At(left + 1, 1), GetSysColor(COLOR_BTNSHADOW));
-    EXPECT_EQ(canvas_.At(left + 1, 20 + 1), GetSysColor(COLOR_BTNHIGHLIGHT)) << "the lower button is not pressed";
-    const int size = ButtonWidth(40) / 2 / 2;
-    const int centre = 30 - ButtonWidth(40) / 2;
-    const int apex = (20 - size) / 2;
-    EXPECT_EQ(canvas_.At(centre + 1, apex + 1), kBlack);
-    EXPECT_EQ(canvas_.At(centre, apex), kGrey);
+    Paint(RectOfHeight(21));
+    EXPECT_EQ(canvas_.At(50, 9 + 9), kBlack);
+    EXPECT_EQ(canvas_.At(50, 9 + 10), kPaper);
+    EXPECT_EQ(canvas_.At(50, 9 + 11), kBlack);
 }
 
-TEST_F(SpinPaint, TheBackgroundColourFillsTheRectangle)
-{
-    ZTE_SetSpinBkColor(Window(), RGB(200, 10, 20));
-    Paint({10, 5, 50, 25});
-    EXPECT_EQ(canvas_.At(10, 5), RGB(200, 10, 20));
-    EXPECT_EQ(canvas_.At(20, 24), RGB(200, 10, 20));
-    EXPECT_TRUE(canvas_.IsUntouchedOutside({10, 5, 50, 25}));
-}
-
-TEST_F(SpinPaint, ABlackBackgroundLeavesTheCanvas)
+TEST_F(SpinPaint, BlackMeansNoBackground)
 {
     ZTE_SetSpinBkColor(Window(), kBlack);
-    Paint({10, 5, 50, 25});
-    EXPECT_EQ(canvas_.At(10, 5), kCanvas);
+    Paint(RectOfHeight(20));
+    EXPECT_EQ(canvas_.At(10, 15), kPaper);
 }
 
-TEST_F(SpinPaint, TheBorderFlagDrawsTwoLines)
+TEST_F(SpinPaint, BorderLinesAreDrawnWhenAskedFor)
 {
-    Set(zte::SPIN_BORDER);
-    Paint({0, 0, 50, 20});
-    EXPECT_EQ(canvas_.At(0, 0), kBlack);
-    EXPECT_EQ(canvas_.At(0, 19), kBlack);
-    EXPECT_EQ(canvas_.At(0, 10), kCanvas);
+    const RECT rect = RectOfHeight(20);
+    SetFlags(zte::SPIN_BORDER, true);
+    Paint(rect);
+    Expected picture(kSide, kSide);
+    DrawSpin(picture, rect, Pressed::None);
+    const int right = static_cast<int>(rect.right) - ButtonWidth(20);
+    picture.Line({0, 28}, {right, 28}, kBlack);
+    picture.Line({0, 0}, {right, 0}, kBlack);
+    EXPECT_EQ(Difference(canvas_, picture), "");
 }
 
-TEST_F(SpinPaint, PaintedOnceItsArrowsStandOnePixelFurtherLeft)
+TEST_F(SpinPaint, WithoutARectangleItIsTheSpinsOwn)
 {
-    const RECT rect = {0, 0, 30, 40};
-    const int size = ButtonWidth(40) / 2 / 2;
-    const int apex = (20 - size) / 2;
-    const int centre = 30 - ButtonWidth(40) / 2;
-    EXPECT_EQ(ZTE_PaintSpinOnce(&rect, canvas_.Dc()), ButtonWidth(40));
-    EXPECT_EQ(canvas_.At(centre - 1, apex), kBlack);
-    EXPECT_EQ(canvas_.At(centre, apex), kGrey);
-    EXPECT_EQ(canvas_.At(30 - ButtonWidth(40), 0), kBlack);
+    RECT client{};
+    GetClientRect(Spin(), &client);
+    ZTE_PaintSpin(Window(), canvas_.dc(), nullptr);
+    Expected picture(kSide, kSide);
+    DrawSpin(picture, client, Pressed::None);
+    EXPECT_EQ(Difference(canvas_, picture), "");
 }
 
-TEST_F(SpinPaint, NoFacesAreLeftInTheRecord)
+TEST_F(SpinPaint, TheWindowShowsWhatItPaints)
 {
-    Paint({0, 0, 30, 40});
+    const Form shown(true);
+    Config config;
+    config.mask = "##0";
+    config.type = DT_NUMBER;
+    const Control control(shown.hwnd(), 3, config);
+    ZTE_CreateSpin(control.hwnd());
+    const HWND spin = GetWindow(control.hwnd(), GW_CHILD);
+    RECT client{};
+    GetClientRect(spin, &client);
+    RedrawWindow(control.hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    const HDC dc = GetDC(spin);
+    const Canvas copy(static_cast<int>(client.right), static_cast<int>(client.bottom));
+    BitBlt(copy.dc(), 0, 0, copy.width(), copy.height(), dc, 0, 0, SRCCOPY);
+    ReleaseDC(spin, dc);
+    Expected picture(copy.width(), copy.height());
+    picture.Fill(client, RGB(255, 255, 255));  // of the window class
+    DrawSpin(picture, client, Pressed::None);
+    EXPECT_EQ(Difference(copy, picture), "");
+}
+
+TEST_F(SpinPaint, FacesAreNotKeptBetweenPaints)
+{
+    Paint(RectOfHeight(20));
     EXPECT_EQ(RecordOf(Window())->spinFaceNormal, nullptr);
     EXPECT_EQ(RecordOf(Window())->spinFacePressed, nullptr);
 }
 
-// A process may own 10,000 graphics objects: paints that kept one each would leave none to be had.
-TEST_F(SpinPaint, TenThousandPaintsLeaveNoObjectsBehind)
+TEST_F(SpinPaint, TheContextKeepsItsObjects)
 {
+    const RECT rect = RectOfHeight(20);
+    const HGDIOBJ pen = GetCurrentObject(canvas_.dc(), OBJ_PEN);
+    const HGDIOBJ brush = GetCurrentObject(canvas_.dc(), OBJ_BRUSH);
+    const HGDIOBJ bitmap = GetCurrentObject(canvas_.dc(), OBJ_BITMAP);
     ZTE_SetSpinBkColor(Window(), RGB(1, 2, 3));
-    const RECT rect = {0, 0, 20, 20};
-    for (int i = 0; i < 10000; ++i)
-        ZTE_PaintSpin(Window(), canvas_.Dc(), &rect);
-    HGDIOBJ brushes[2000];
-    int made = 0;
-    for (HGDIOBJ& brush : brushes) {
-        brush = CreateSolidBrush(RGB(1, 1, 1));
-        made += brush != nullptr;
-    }
-    for (const HGDIOBJ brush : brushes)
-        DeleteObject(brush);
-    EXPECT_EQ(made, 2000);
-    EXPECT_EQ(GetObjectType(GetCurrentObject(canvas_.Dc(), OBJ_PEN)), static_cast<DWORD>(OBJ_PEN));
+    Paint(rect);
+    ZTE_PaintSpinOnce(&rect, canvas_.dc());
+    EXPECT_EQ(GetCurrentObject(canvas_.dc(), OBJ_PEN), pen);
+    EXPECT_EQ(GetCurrentObject(canvas_.dc(), OBJ_BRUSH), brush);
+    EXPECT_EQ(GetCurrentObject(canvas_.dc(), OBJ_BITMAP), bitmap);
 }
 
-TEST_F(SpinPaint, WithoutADeviceContextNothingHappens)
+// How many graphics objects the process may still create: objects left behind by paints lower the figure one by one.
+size_t ObjectsLeft()
 {
-    const RECT rect = {0, 0, 20, 20};
-    ZTE_PaintSpin(Window(), nullptr, &rect);
-    ZTE_PaintSpinOnce(&rect, nullptr);
-    EXPECT_EQ(ZTE_PaintSpinOnce(nullptr, canvas_.Dc()), 0);
-    EXPECT_TRUE(canvas_.IsUntouchedOutside({}));
+    std::vector<HGDIOBJ> objects;
+    for (HGDIOBJ object = CreatePen(PS_SOLID, 1, RGB(1, 2, 3)); object && objects.size() < 100000;
+         object = CreatePen(PS_SOLID, 1, RGB(1, 2, 3)))
+        objects.push_back(object);
+    for (const HGDIOBJ object : objects)
+        DeleteObject(object);
+    return objects.size();
+}
+
+TEST_F(SpinPaint, TenThousandPaintsLeaveNoObjectBehind)
+{
+    const RECT rect = RectOfHeight(20);
+    ZTE_SetSpinBkColor(Window(), RGB(1, 2, 3));
+    Paint(rect);
+    const size_t before = ObjectsLeft();
+    ASSERT_GT(before, 1000u);
+    ASSERT_LT(before, 100000u) << "without a limit nothing is counted";
+    for (int i = 0; i < 10000; ++i) {
+        SetFlags(zte::SPIN_UP, i % 3 == 0);
+        SetFlags(zte::SPIN_DOWN, i % 3 == 1);
+        Paint(rect);
+        ZTE_PaintSpinOnce(&rect, canvas_.dc());
+    }
+    SetFlags(zte::SPIN_UP | zte::SPIN_DOWN, false);
+    EXPECT_EQ(ObjectsLeft(), before);
+}
+
+TEST_F(SpinPaint, TheCountOfObjectsSeesOneLeftBehind)
+{
+    const size_t before = ObjectsLeft();
+    const HGDIOBJ left = CreatePen(PS_SOLID, 1, RGB(3, 2, 1));
+    EXPECT_EQ(ObjectsLeft(), before - 1);
+    DeleteObject(left);
+}
+
+// ---- Objects that cannot be had, and odd rectangles
+
+HBITMAP WINAPI NoBitmap(HDC, int, int)
+{
+    return nullptr;
+}
+HDC WINAPI NoContext(HDC)
+{
+    return nullptr;
+}
+HPEN WINAPI NoPen(int, int, COLORREF)
+{
+    return nullptr;
+}
+HBRUSH WINAPI NoBrush(COLORREF)
+{
+    return nullptr;
+}
+
+struct MissingObject {
+    const char* name;
+    const char* function;
+    void* replacement;
+};
+void PrintTo(const MissingObject& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class SpinPaintWithout : public SpinPaint, public testing::WithParamInterface<MissingObject> {};
+
+TEST_P(SpinPaintWithout, GoesOnWithTheArrows)
+{
+    const RECT rect = RectOfHeight(20);
+    ZTE_SetSpinBkColor(Window(), RGB(1, 2, 3));
+    const HGDIOBJ pen = GetCurrentObject(canvas_.dc(), OBJ_PEN);
+    {
+        const ImportPatch missing("gdi32.dll", GetParam().function, GetParam().replacement);
+        Paint(rect);
+        EXPECT_EQ(canvas_.At(46, 12), kBlack);  // the two apexes
+        EXPECT_EQ(canvas_.At(46, 25), kBlack);
+        ZTE_PaintSpinOnce(&rect, canvas_.dc());
+        EXPECT_EQ(canvas_.At(45, 12), kBlack);
+        EXPECT_EQ(canvas_.At(45, 25), kBlack);
+    }
+    EXPECT_EQ(GetCurrentObject(canvas_.dc(), OBJ_PEN), pen);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Objects, SpinPaintWithout,
+    testing::Values(MissingObject{"Bitmaps", "CreateCompatibleBitmap", reinterpret_cast<void*>(NoBitmap)},
+                    MissingObject{"Contexts", "CreateCompatibleDC", reinterpret_cast<void*>(NoContext)},
+                    MissingObject{"Pens", "CreatePen", reinterpret_cast<void*>(NoPen)},
+                    MissingObject{"Brushes", "CreateSolidBrush", reinterpret_cast<void*>(NoBrush)}),
+    RowName<MissingObject>);
+
+TEST_F(SpinPaint, OddRectanglesAndContextsAreHarmless)
+{
+    const RECT rects[] = {{0, 0, 0, 0}, {50, 50, 0, 0},        {-100, -100, -50, -50}, {0, 0, 50, 40000},
+                          {0, 0, 1, 1}, {0, 0, 100000, 70000}, {0, 32767, 0, -32768},  {0, 5, 10, 4}};
+    for (const RECT& rect : rects) {
+        Paint(rect);
+        ZTE_PaintSpinOnce(&rect, canvas_.dc());
+        ZTE_PaintSpin(Window(), nullptr, &rect);
+        ZTE_PaintSpinOnce(&rect, nullptr);
+    }
+    EXPECT_EQ(ZTE_PaintSpinOnce(nullptr, canvas_.dc()), 0);
+    canvas_.Clear();
+    Paint(RectOfHeight(20));  // all is as before
+    EXPECT_EQ(canvas_.At(39, 9), kBlack);
+}
+
+TEST_F(SpinPaint, AWindowThatIsNoControlIsNotPainted)
+{
+    const RECT rect = RectOfHeight(20);
+    ZTE_PaintSpin(form_.hwnd(), canvas_.dc(), &rect);
+    ZTE_PaintSpin(nullptr, canvas_.dc(), &rect);
+    EXPECT_EQ(Difference(canvas_, Expected(kSide, kSide)), "");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include "spin/code_table.h"
 #include "tests/spin/spin_test.h"
+#include "tests/support/base_recorder.h"
 #include "tests/support/import_patch.h"
 
 namespace zttest {
@@ -123,19 +124,16 @@ TEST_F(SpinWindow, OfAControlTwentyHighIsNarrowerThanReported)
     EXPECT_EQ(ZTE_GetSpinWidth(Window(), nullptr), 16);
 }
 
-TEST_F(SpinWindow, CreatingItNarrowsTheFormattingRectangle)
+// What the edit control underneath makes of the rectangle is its own affair.
+TEST_F(SpinWindow, CreatingAndRemovingItSetsTheFormattingRectangle)
 {
     Given("##0", DT_NUMBER, "7|");
-    RECT before{};
-    SendMessageA(Window(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&before));
+    BaseRecorder recorder;
     ZTE_CreateSpin(Window());
-    RECT with{};
-    SendMessageA(Window(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&with));
-    EXPECT_LE(with.right, ClientOf(Window()).right - ClientOf(Spin()).right);
+    EXPECT_EQ(recorder.Of(EM_SETRECT).size(), 1u);
+    recorder.Forget();
     ZTE_DestroySpin(Window());
-    RECT after{};
-    SendMessageA(Window(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&after));
-    EXPECT_GT(after.right, with.right);
+    EXPECT_EQ(recorder.Of(EM_SETRECT).size(), 1u);
 }
 
 TEST_F(SpinWindow, TheTextSurvivesCreationAndRemoval)
@@ -415,6 +413,32 @@ TEST_F(SpinWindow, TheTimerOfAHeldArrowRunsUntilTheRelease)
 
 // ---- Destruction
 
+// A window procedure put in front of a window's own. One at a time.
+WNDPROC procedureBehind;
+class Subclass {
+public:
+    Subclass(HWND window, WNDPROC procedure)
+    {
+        procedureBehind = reinterpret_cast<WNDPROC>(
+            SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+    }
+};
+
+LRESULT CALLBACK EndAtTheBirthOfAChild(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE)
+        DestroyWindow(hwnd);
+    return CallWindowProcA(procedureBehind, hwnd, message, wParam, lParam);
+}
+
+HWND controlToLoseItsSpin;
+LRESULT CALLBACK RemoveTheSpinWhenLeft(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_KILLFOCUS)
+        ZTE_DestroySpin(controlToLoseItsSpin);
+    return CallWindowProcA(procedureBehind, hwnd, message, wParam, lParam);
+}
+
 class SpinDestruction : public SpinWindow {
 protected:
     // A control in a heap of its own, which is destroyed with the window at the first EN_CHANGE.
@@ -561,24 +585,14 @@ TEST_F(SpinDestruction, WhileAnArrowIsHeld)
     ExpectGone();
 }
 
-// A parent that hears of the spin's birth and ends the control there.
+// A host that subclasses the control and ends it when it hears of the spin's birth.
 TEST_F(SpinDestruction, WhileItsSpinIsBeingMade)
 {
-    static HWND victim;
-    static WNDPROC before;
     MakeDoomed("##0", DT_NUMBER, "7");
     form_.onNotification = nullptr;
     ZTE_DestroySpin(doomed_);
-    victim = doomed_;
-    const WNDPROC ending = [](HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
-        if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE)
-            DestroyWindow(victim);
-        return CallWindowProcA(before, hwnd, message, wParam, lParam);
-    };
-    before = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrA(form_.hwnd(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ending)));
+    const Subclass ending(doomed_, EndAtTheBirthOfAChild);
     ZTE_CreateSpin(doomed_);
-    SetWindowLongPtrA(form_.hwnd(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(before));
     EXPECT_FALSE(IsWindow(doomed_));
 }
 
@@ -614,8 +628,6 @@ TEST_F(SpinDestruction, OfTheSpinInItsOwnStepEndsThePress)
 
 TEST_F(SpinDestruction, OfTheSpinAtTheFocusChangeOfAPressTakesNoStep)
 {
-    static HWND control;
-    static WNDPROC before;
     Form shown(true);
     Config config;
     config.mask = "##0";
@@ -623,17 +635,13 @@ TEST_F(SpinDestruction, OfTheSpinAtTheFocusChangeOfAPressTakesNoStep)
     config.data = "7";
     config.options = ZTEO_SPIN;
     Control own(shown.hwnd(), 3, config);
-    control = own.hwnd();
-    const WNDPROC leaving = [](HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
-        if (message == WM_KILLFOCUS)
-            ZTE_DestroySpin(control);
-        return CallWindowProcA(before, hwnd, message, wParam, lParam);
-    };
+    const HWND spin = GetWindow(own.hwnd(), GW_CHILD);
     const HWND other =
         CreateWindowExA(0, "edit", "", WS_CHILD | WS_VISIBLE, 200, 200, 50, 20, shown.hwnd(), nullptr, nullptr, nullptr);
-    before = reinterpret_cast<WNDPROC>(SetWindowLongPtrA(other, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(leaving)));
     SetFocus(other);
-    const HWND spin = GetWindow(control, GW_CHILD);
+    ASSERT_EQ(GetFocus(), other);
+    const Subclass leaving(other, RemoveTheSpinWhenLeft);
+    controlToLoseItsSpin = own.hwnd();
     SendMessageA(spin, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, 1));
     own.AcceptHeap();
     EXPECT_FALSE(IsWindow(spin));
