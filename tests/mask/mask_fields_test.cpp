@@ -233,7 +233,7 @@ const BitCase kBitRows[] = {
     {"MarkerOfADateTimeIsTold",       nullptr,       0,         "MM/DD/YY HH:MM AM/PM", DT_DATETIME, AMPM,     true },
     {"MarkerGoesWithTheNextTime",     "HH:MM AM/PM", DT_TIME,   "HH:MM",                DT_TIME,     AMPM,     false},
     {"MarkerGoesWithTheNextDateTime", "HH:MM AM/PM", DT_TIME,   "MM/DD/YY HH:MM",       DT_DATETIME, AMPM,     false},
-    {"MarkerOfARefusedMaskIsNotTold", nullptr,       0,         "HH:HH AM/PM",          DT_TIME,     AMPM,     false},
+    {"MarkerOfARefusedMaskIsNotTold", nullptr,       0,         "MM:SS AM/PM",          DT_TIME,     AMPM,     false},
     {"MarkerInAStringIsNone",         nullptr,       0,         "AM/PM",                DT_STRING,   AMPM,     false},
 };
 INSTANTIATE_TEST_SUITE_P(, MaskBits, testing::ValuesIn(kBitRows), RowName<BitCase>);
