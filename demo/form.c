@@ -96,8 +96,8 @@ static void CreateForm(HWND window)
     int i;
     form.window = window;
     form.heap = SharedHeapCreate();
-    form.font = CreateFontA(-14, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET, OUT_DEFAULT_PRECIS,
-                            CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, VARIABLE_PITCH | FF_SWISS, "Liberation Sans");
+    form.font = CreateFontA(-13, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET, OUT_DEFAULT_PRECIS,
+                            CLIP_DEFAULT_PRECIS, ANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, "Liberation Sans");
     for (i = 0; i < kFieldCount; ++i)
         AddField(i);
     AddStatus();
