@@ -52,27 +52,29 @@ TEST_P(CodeTableText, IsReadAs)
     EXPECT_EQ(Table()->count, row.entries);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Texts, CodeTableText,
-    testing::Values(TableText{"ThreeColours", "Red\tR/Green\tG/Blue\tB", {"Red=R", "Green=G", "Blue=B"}, 3},
-                    TableText{"ASlashAtTheStartIsSkipped", "/A\ta/B\tb", {"A=a", "B=b"}, 2},
-                    TableText{"ASlashAtTheEndEndsTheLastEntry", "A\ta/B\tb/", {"A=a", "B=b"}, 2},
-                    TableText{"TwoSlashesAreOne", "/A\ta//b/B\tb", {"A=a/b", "B=b"}, 2},
-                    TableText{"TwoSlashesAreOneInADisplay", "a//b\t1/c\t2", {"a/b=1", "c=2"}, 2},
-                    TableText{"TwoSlashesAreOneAtTheEnd", "A\ta//", {"A=a/"}, 1},
-                    TableText{"TwoSlashesAreOneAtTheStart", "//A\ta", {"/A=a"}, 1},
-                    TableText{"ThreeSlashesAreALiteralAndASeparator", "A\ta///B\tb", {"A=a/", "B=b"}, 2},
-                    TableText{"FourSlashesAreTwo", "A\ta////b", {"A=a//b"}, 1},
-                    TableText{"WithoutAValueOutOfTheCycle", "One/Two\t2", {"Two=2"}, 2},
-                    TableText{"ADisplayOfABlank", "a\t1/ \t2/b\t3", {"a=1", " =2", "b=3"}, 3},
-                    TableText{"AnEmptyDisplayIsReadAsNothing", "a\t1/\t2", {"a=1", "="}, 2},
-                    TableText{"AnEmptyValue", "a\t/b\t2", {"a=", "b=2"}, 2},
-                    TableText{"AnEmptyValueAtTheEnd", "a\t", {"a="}, 1},
-                    TableText{"ASecondTabBeginsTheValueAnew", "a\tb\tc", {"b=c"}, 1},
-                    TableText{"BlanksStay", " a \t b ", {" a = b "}, 1},
-                    TableText{"NoEntries", "", {}, 0},
-                    TableText{"OnlyASlash", "/", {}, 0}),
-    RowName<TableText>);
+INSTANTIATE_TEST_SUITE_P(Texts, CodeTableText,
+                         testing::Values(
+                             TableText{
+                                 "ThreeColours", "Red\tR/Green\tG/Blue\tB", {"Red=R", "Green=G", "Blue=B"},
+                                   3
+},
+                             TableText{"ASlashAtTheStartIsSkipped", "/A\ta/B\tb", {"A=a", "B=b"}, 2},
+                             TableText{"ASlashAtTheEndEndsTheLastEntry", "A\ta/B\tb/", {"A=a", "B=b"}, 2},
+                             TableText{"TwoSlashesAreOne", "/A\ta//b/B\tb", {"A=a/b", "B=b"}, 2},
+                             TableText{"TwoSlashesAreOneInADisplay", "a//b\t1/c\t2", {"a/b=1", "c=2"}, 2},
+                             TableText{"TwoSlashesAreOneAtTheEnd", "A\ta//", {"A=a/"}, 1},
+                             TableText{"TwoSlashesAreOneAtTheStart", "//A\ta", {"/A=a"}, 1},
+                             TableText{"ThreeSlashesAreALiteralAndASeparator", "A\ta///B\tb", {"A=a/", "B=b"}, 2},
+                             TableText{"FourSlashesAreTwo", "A\ta////b", {"A=a//b"}, 1},
+                             TableText{"WithoutAValueOutOfTheCycle", "One/Two\t2", {"Two=2"}, 2},
+                             TableText{"ADisplayOfABlank", "a\t1/ \t2/b\t3", {"a=1", " =2", "b=3"}, 3},
+                             TableText{"AnEmptyDisplayIsReadAsNothing", "a\t1/\t2", {"a=1", "="}, 2},
+                             TableText{"AnEmptyValue", "a\t/b\t2", {"a=", "b=2"}, 2},
+                             TableText{"AnEmptyValueAtTheEnd", "a\t", {"a="}, 1},
+                             TableText{"ASecondTabBeginsTheValueAnew", "a\tb\tc", {"b=c"}, 1},
+                             TableText{"BlanksStay", " a \t b ", {" a = b "}, 1}, TableText{"NoEntries", "", {}, 0},
+                             TableText{"OnlyASlash", "/", {}, 0}),
+                         RowName<TableText>);
 
 TEST_F(CodeTableTest, TextsOfMoreThan255CharactersAreCut)
 {

@@ -69,19 +69,19 @@ INSTANTIATE_TEST_SUITE_P(
                     RangeEnd{"CanonicalWithSecondsUnderAmPm", "HH:MM AM/PM", DT_TIME, "13:30:00", "13:30:00:000000"}),
     RowName<RangeEnd>);
 
-INSTANTIATE_TEST_SUITE_P(
-    DateTimes, DateRange,
-    testing::Values(RangeEnd{"InTheMasksLayout", "MM/DD/YYYY HH:MM", DT_DATETIME, "01/02/1999 03:04",
-                             "1999-01-02 03:04:00:000000"},
-                    RangeEnd{"Canonical", "MM/DD/YYYY HH:MM", DT_DATETIME, "1999-01-02 03:04:05",
-                             "1999-01-02 03:04:05:000000"},
-                    RangeEnd{"ADateAlone", "MM/DD/YYYY HH:MM", DT_DATETIME, "1999-01-02", "1999-01-02"},
-                    RangeEnd{"AmPmInTheLayout", "MM/DD/YY HH:MM AM/PM", DT_DATETIME, "01/02/99 03:04 PM",
-                             "1999-01-02 15:04:00:000000"},
-                    RangeEnd{"CanonicalUnderAmPm", "MM/DD/YY HH:MM AM/PM", DT_DATETIME, "1999-01-02 15:04",
-                             "1999-01-02 15:04:00:000000"},
-                    RangeEnd{"ATimeAlone", "MM/DD/YYYY HH:MM", DT_DATETIME, "03:04", nullptr}),
-    RowName<RangeEnd>);
+INSTANTIATE_TEST_SUITE_P(DateTimes, DateRange,
+                         testing::Values(RangeEnd{"InTheMasksLayout", "MM/DD/YYYY HH:MM", DT_DATETIME,
+                                                  "01/02/1999 03:04", "1999-01-02 03:04:00:000000"},
+                                         RangeEnd{"Canonical", "MM/DD/YYYY HH:MM", DT_DATETIME, "1999-01-02 03:04:05",
+                                                  "1999-01-02 03:04:05:000000"},
+                                         RangeEnd{"ADateAlone", "MM/DD/YYYY HH:MM", DT_DATETIME, "1999-01-02",
+                                                  "1999-01-02"},
+                                         RangeEnd{"AmPmInTheLayout", "MM/DD/YY HH:MM AM/PM", DT_DATETIME,
+                                                  "01/02/99 03:04 PM", "1999-01-02 15:04:00:000000"},
+                                         RangeEnd{"CanonicalUnderAmPm", "MM/DD/YY HH:MM AM/PM", DT_DATETIME,
+                                                  "1999-01-02 15:04", "1999-01-02 15:04:00:000000"},
+                                         RangeEnd{"ATimeAlone", "MM/DD/YYYY HH:MM", DT_DATETIME, "03:04", nullptr}),
+                         RowName<RangeEnd>);
 
 class RangeExports : public SpinTest {};
 
@@ -166,7 +166,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Pair{"EarlierMonth", DT_DATE, "1999-05-06", "1999-04-30", 1},
                     Pair{"EarlierYear", DT_DATE, "1999-05-06", "1998-12-31", 1},
                     Pair{"TimesDoNotCountForDates", DT_DATE, "1999-05-06 10:00", "1999-05-06 09:00", 0},
-                    Pair{"NoSecondDate", DT_DATE, "1999-05-06", "", 0}, Pair{"NoFirstDate", DT_DATE, "", "1999-05-06", 0},
+                    Pair{"NoSecondDate", DT_DATE, "1999-05-06", "", 0},
+                    Pair{"NoFirstDate", DT_DATE, "", "1999-05-06", 0},
                     Pair{"TimesInOrder", DT_TIME, "10:00:00", "10:00:01", 0},
                     Pair{"EqualTimes", DT_TIME, "10:00:00", "10:00:00", 0},
                     Pair{"EarlierHour", DT_TIME, "10:00:00", "09:59:59", 1},

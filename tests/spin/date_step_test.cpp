@@ -108,19 +108,19 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Time, DateSteps,
-    testing::Values(DateStep{"HourUp", "HH:MM:SS", nullptr, "|10:20:30", "+", "[11]:20:30"},
-                    DateStep{"HourUpWrapsWithoutCarry", "HH:MM:SS", nullptr, "|23:20:30", "+", "[00]:20:30"},
-                    DateStep{"HourDownWraps", "HH:MM:SS", nullptr, "|00:20:30", "-", "[23]:20:30"},
-                    DateStep{"HourDoesNotCarryIntoTheDay", "MM/DD/YY HH:MM", nullptr, "07/04/95 |23:10", "+",
-                             "07/04/95 [00]:10"},
-                    DateStep{"MinuteUp", "HH:MM:SS", nullptr, "10:|20:30", "+", "10:[21]:30"},
-                    DateStep{"MinuteUpWrapsWithoutCarry", "HH:MM:SS", nullptr, "10:|59:30", "+", "10:[00]:30"},
-                    DateStep{"MinuteDownWraps", "HH:MM:SS", nullptr, "10:|00:30", "-", "10:[59]:30"},
-                    DateStep{"MinuteOfADateTime", "MM/DD/YY HH:MM", nullptr, "07/04/95 10:|59", "+", "07/04/95 10:[00]"},
-                    DateStep{"MonthOfADateTime", "MM/DD/YY HH:MM", nullptr, "|12/04/95 10:59", "+", "[01]/04/95 10:59"},
-                    DateStep{"SecondUpWraps", "HH:MM:SS", nullptr, "10:20:|59", "+", "10:20:[00]"},
-                    DateStep{"SecondDownWraps", "HH:MM:SS", nullptr, "10:20:|00", "-", "10:20:[59]"},
-                    DateStep{"SecondDown", "HH:MM:SS", nullptr, "10:20:|30", "-", "10:20:[29]"}),
+    testing::Values(
+        DateStep{"HourUp", "HH:MM:SS", nullptr, "|10:20:30", "+", "[11]:20:30"},
+        DateStep{"HourUpWrapsWithoutCarry", "HH:MM:SS", nullptr, "|23:20:30", "+", "[00]:20:30"},
+        DateStep{"HourDownWraps", "HH:MM:SS", nullptr, "|00:20:30", "-", "[23]:20:30"},
+        DateStep{"HourDoesNotCarryIntoTheDay", "MM/DD/YY HH:MM", nullptr, "07/04/95 |23:10", "+", "07/04/95 [00]:10"},
+        DateStep{"MinuteUp", "HH:MM:SS", nullptr, "10:|20:30", "+", "10:[21]:30"},
+        DateStep{"MinuteUpWrapsWithoutCarry", "HH:MM:SS", nullptr, "10:|59:30", "+", "10:[00]:30"},
+        DateStep{"MinuteDownWraps", "HH:MM:SS", nullptr, "10:|00:30", "-", "10:[59]:30"},
+        DateStep{"MinuteOfADateTime", "MM/DD/YY HH:MM", nullptr, "07/04/95 10:|59", "+", "07/04/95 10:[00]"},
+        DateStep{"MonthOfADateTime", "MM/DD/YY HH:MM", nullptr, "|12/04/95 10:59", "+", "[01]/04/95 10:59"},
+        DateStep{"SecondUpWraps", "HH:MM:SS", nullptr, "10:20:|59", "+", "10:20:[00]"},
+        DateStep{"SecondDownWraps", "HH:MM:SS", nullptr, "10:20:|00", "-", "10:20:[59]"},
+        DateStep{"SecondDown", "HH:MM:SS", nullptr, "10:20:|30", "-", "10:20:[29]"}),
     RowName<DateStep>);
 
 INSTANTIATE_TEST_SUITE_P(
@@ -133,8 +133,7 @@ INSTANTIATE_TEST_SUITE_P(
                     DateStep{"ThreeDigitsUp", "HH:MM:SS:FFF", nullptr, "10:20:30:|250", "+", "10:20:30:[251]"},
                     DateStep{"ThreeDigitsDown", "HH:MM:SS:FFF", nullptr, "10:20:30:|250", "-", "10:20:30:[249]"},
                     DateStep{"ThreeDigitsDownWrap", "HH:MM:SS:FFF", nullptr, "10:20:30:|000", "-", "10:20:30:[999]"},
-                    DateStep{"ThreeDigitsWrapAround", "HH:MM:SS:FFF", nullptr, "10:20:30:|000", "-+",
-                             "10:20:30:[000]"},
+                    DateStep{"ThreeDigitsWrapAround", "HH:MM:SS:FFF", nullptr, "10:20:30:|000", "-+", "10:20:30:[000]"},
                     DateStep{"FourDigitsUp", "HH:MM:SS:FFFF", nullptr, "10:20:30:|0009", "+", "10:20:30:[0010]"},
                     DateStep{"FiveDigitsDown", "HH:MM:SS:FFFFF", nullptr, "10:20:30:|00010", "-", "10:20:30:[00009]"},
                     DateStep{"SixDigitsUp", "HH:MM:SS:FFFFFF", nullptr, "10:20:30:|000249", "+", "10:20:30:[000250]"},
@@ -159,16 +158,15 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Caret, DateSteps,
-    testing::Values(DateStep{"OnALiteralChangesNothing", "MM/DD/YY", nullptr, "07|/04/95", "+", "07[/]04/95"},
-                    DateStep{"OnALiteralOfTwo", "MM--DD--YY", nullptr, "07-|-04--95", "-", "07[--]04--95"},
-                    DateStep{"OnAnEscapedLiteral", "MM/DD/YY~D", nullptr, "07/04/95|D", "+", "07/04/95[D]"},
-                    DateStep{"AMonthBehindALiteralWithAnH", "the MM/DD/YY", nullptr, "the |07/04/95", "+",
-                             "the [08]/04/95"},
-                    DateStep{"OnALiteralOutOfTheRange", "MM/DD/YYYY", "2000-01-01~2000-12-31", "07|/04/1995", "+",
-                             "01[/]01/2000"},
-                    DateStep{"PastTheEnd", "MM/DD/YY", nullptr, "07/04/95|", "+", "07/04/95|"},
-                    DateStep{"ASelectionCountsByItsStart", "MM/DD/YY", nullptr, "07/[04/95]", "+", "07/[05]/95"},
-                    DateStep{"FreeTextStays", "XX MM/DD/YY", nullptr, "|ab 07/04/95", "+", "[ab] 07/04/95"}),
+    testing::Values(
+        DateStep{"OnALiteralChangesNothing", "MM/DD/YY", nullptr, "07|/04/95", "+", "07[/]04/95"},
+        DateStep{"OnALiteralOfTwo", "MM--DD--YY", nullptr, "07-|-04--95", "-", "07[--]04--95"},
+        DateStep{"OnAnEscapedLiteral", "MM/DD/YY~D", nullptr, "07/04/95|D", "+", "07/04/95[D]"},
+        DateStep{"AMonthBehindALiteralWithAnH", "the MM/DD/YY", nullptr, "the |07/04/95", "+", "the [08]/04/95"},
+        DateStep{"OnALiteralOutOfTheRange", "MM/DD/YYYY", "2000-01-01~2000-12-31", "07|/04/1995", "+", "01[/]01/2000"},
+        DateStep{"PastTheEnd", "MM/DD/YY", nullptr, "07/04/95|", "+", "07/04/95|"},
+        DateStep{"ASelectionCountsByItsStart", "MM/DD/YY", nullptr, "07/[04/95]", "+", "07/[05]/95"},
+        DateStep{"FreeTextStays", "XX MM/DD/YY", nullptr, "|ab 07/04/95", "+", "[ab] 07/04/95"}),
     RowName<DateStep>);
 
 // Year, hour, minute, second and fraction: past one end goes to the other.
@@ -178,8 +176,7 @@ INSTANTIATE_TEST_SUITE_P(
         DateStep{"YearUpPastTheMaximum", "MM/DD/YYYY", "1995-03-10~1997-06-20", "07/04/|1996", "+", "03/10/[1995]"},
         DateStep{"YearDownPastTheMinimum", "MM/DD/YYYY", "1995-03-10~1997-06-20", "02/04/|1996", "-", "06/20/[1997]"},
         DateStep{"YearUpInside", "MM/DD/YYYY", "1995-03-10~1997-06-20", "05/04/|1996", "+", "05/04/[1997]"},
-        DateStep{"YearUpToTheMaximumItself", "MM/DD/YYYY", "1995-03-10~1997-06-20", "06/20/|1996", "+",
-                 "06/20/[1997]"},
+        DateStep{"YearUpToTheMaximumItself", "MM/DD/YYYY", "1995-03-10~1997-06-20", "06/20/|1996", "+", "06/20/[1997]"},
         DateStep{"YearUpWithoutAMinimumIsRefused", "MM/DD/YYYY", "~1997-06-20", "07/04/|1996", "+", "07/04/[1996]"},
         DateStep{"YearDownWithoutAMaximumIsRefused", "MM/DD/YYYY", "1995-03-10~", "02/04/|1996", "-", "02/04/[1996]"},
         DateStep{"YearDownWithAMaximumAloneStopsAt1800", "MM/DD/YYYY", "~1997-06-20", "07/04/|1800", "-",
@@ -230,21 +227,19 @@ INSTANTIATE_TEST_SUITE_P(
                  "03/[10]/1995"},
         DateStep{"DayDownWrapsAboveTheMaximum", "MM/DD/YYYY", "1995-03-10~1997-06-20", "06/|01/1997", "-",
                  "06/[20]/1997"},
-        DateStep{"DayUpPastTheMaximumWithoutAMinimum", "MM/DD/YYYY", "~1997-06-20", "06/|20/1997", "+",
-                 "06/[01]/1997"},
+        DateStep{"DayUpPastTheMaximumWithoutAMinimum", "MM/DD/YYYY", "~1997-06-20", "06/|20/1997", "+", "06/[01]/1997"},
         DateStep{"MonthUpPastTheMaximumGoesToJanuary", "MM/DD/YYYY", "1995-03-10~1997-06-20", "|06/04/1997", "+",
                  "[01]/04/1997"},
         DateStep{"MonthUpPastTheMaximumAndBelowTheMinimum", "MM/DD/YYYY", "1997-02-10~1997-06-20", "|06/04/1997", "+",
                  "[02]/10/1997"},
         DateStep{"MonthDownPastTheMinimumGoesToDecember", "MM/DD/YYYY", "1995-03-10~1997-06-20", "|03/15/1995", "-",
                  "[12]/15/1995"},
-        DateStep{"MonthDownPastTheMinimumAndAboveTheMaximum", "MM/DD/YYYY", "1997-02-10~1997-06-20", "|02/15/1997",
-                 "-", "[06]/20/1997"},
+        DateStep{"MonthDownPastTheMinimumAndAboveTheMaximum", "MM/DD/YYYY", "1997-02-10~1997-06-20", "|02/15/1997", "-",
+                 "[06]/20/1997"},
         DateStep{"MonthUpWrapsBelowTheMinimum", "MM/DD/YYYY", "1995-03-10~1997-06-20", "|12/04/1995", "+",
                  "[03]/10/1995"},
         DateStep{"DayOfTheYearUpPastTheMaximum", "YYYY.JJJ", "1999-02-01~2000-12-30", "2000.|365", "+", "2000.[001]"},
-        DateStep{"DayOfTheYearDownPastTheMinimum", "YYYY.JJJ", "1999-02-01~2000-12-30", "1999.|032", "-",
-                 "1999.[365]"},
+        DateStep{"DayOfTheYearDownPastTheMinimum", "YYYY.JJJ", "1999-02-01~2000-12-30", "1999.|032", "-", "1999.[365]"},
         DateStep{"DayOfTheYearDownPastBoth", "YYYY.JJJ", "1999-02-01~1999-11-30", "1999.|032", "-", "1999.[334]"},
         DateStep{"DayOfTheYearUpPastBoth", "YYYY.JJJ", "1999-02-01~1999-11-30", "1999.|334", "+", "1999.[032]"},
         DateStep{"MonthNamesInTheRange", "DD-MMM-YYYY", "05-FEB-2001~05-MAR-2001", "05-|MAR-2001", "+",
@@ -269,8 +264,8 @@ INSTANTIATE_TEST_SUITE_P(
         DateStep{"AmPmInTheLayout", "HH:MM AM/PM", "09:30 AM~05:15 PM", "|05:00 PM", "+", "[09]:30 AM"},
         DateStep{"AmPmCanonical", "HH:MM AM/PM", "09:30~17:15", "|05:00 PM", "+", "[09]:30 AM"},
         DateStep{"AmPmCanonicalDown", "HH:MM AM/PM", "09:30~17:15", "|10:00 AM", "-", "[05]:15 PM"},
-        DateStep{"DateTimeBothParts", "MM/DD/YYYY HH:MM", "1999-02-03 04:05~1999-04-05 06:07", "04/05/1999 |06:00",
-                 "+", "02/03/1999 [04]:05"},
+        DateStep{"DateTimeBothParts", "MM/DD/YYYY HH:MM", "1999-02-03 04:05~1999-04-05 06:07", "04/05/1999 |06:00", "+",
+                 "02/03/1999 [04]:05"},
         DateStep{"DateTimeDownToTheMaximum", "MM/DD/YYYY HH:MM", "1999-02-03 04:05~1999-04-05 06:07",
                  "02/03/1999 |04:30", "-", "04/05/1999 [06]:07"},
         DateStep{"DatesAloneDoNotBoundHours", "MM/DD/YYYY HH:MM", "1999-02-03~1999-04-05", "04/05/1999 |23:00", "+",
@@ -376,7 +371,9 @@ TEST_F(DateStepping, AnEmptyTextStaysEmpty)
     Show("|");
     Up();
     EXPECT_EQ(Text(), "");
-    EXPECT_EQ(form_.Notifications(), (std::vector<Notification>{{EN_CHANGE, control_->id(), Window()}}));
+    EXPECT_EQ(form_.Notifications(), (std::vector<Notification>{
+                                         {EN_CHANGE, control_->id(), Window()}
+    }));
 }
 
 TEST_F(DateStepping, ARefusedStepStillNotifies)
@@ -384,7 +381,9 @@ TEST_F(DateStepping, ARefusedStepStillNotifies)
     MakeDate();
     Show("07/04/|2999");
     Up();
-    EXPECT_EQ(form_.Notifications(), (std::vector<Notification>{{EN_CHANGE, control_->id(), Window()}}));
+    EXPECT_EQ(form_.Notifications(), (std::vector<Notification>{
+                                         {EN_CHANGE, control_->id(), Window()}
+    }));
 }
 
 TEST_F(DateStepping, AnUnreadableTextIsHarmless)
@@ -440,7 +439,10 @@ TEST_F(DateStepping, AValueIsReadBackAfterEveryStep)
 
 TEST_F(DateStepping, AmPmUsesTheRegionalStrings)
 {
-    const Regional settings({{"s1159", "vorm"}, {"s2359", "nach"}});
+    const Regional settings({
+        {"s1159", "vorm"},
+        {"s2359", "nach"}
+    });
     MakeSpin("HH:MM AM/PM", DT_TIME, nullptr, 1, nullptr);
     ZTE_FmtSetDataString(Window(), "09:30");
     ASSERT_EQ(Text(), "09:30 vorm");

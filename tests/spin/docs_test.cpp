@@ -76,11 +76,13 @@ protected:
     }
     static int32_t TypeNamed(const std::string& name)
     {
-        const std::pair<const char*, int32_t> types[] = {{"number", DT_NUMBER},
-                                                         {"decimal", DT_DECIMAL},
-                                                         {"date", DT_DATE},
-                                                         {"time", DT_TIME},
-                                                         {"date-time", DT_DATETIME}};
+        const std::pair<const char*, int32_t> types[] = {
+            {"number",    DT_NUMBER  },
+            {"decimal",   DT_DECIMAL },
+            {"date",      DT_DATE    },
+            {"time",      DT_TIME    },
+            {"date-time", DT_DATETIME}
+        };
         for (const auto& type : types)
             if (name == type.first)
                 return type.second;

@@ -132,12 +132,36 @@ Expected Face(int width, int height, bool pressed)
     face.Fill(0, 0, width, height, kBlack);
     face.Fill(1, 1, width - 1, height - 1, kGrey);
     if (pressed) {
-        face.Lines({{1, height - 1}, {1, 1}, {width - 1, 1}}, shadow);
+        face.Lines(
+            {
+                {1,         height - 1},
+                {1,         1         },
+                {width - 1, 1         }
+        },
+            shadow);
         return face;
     }
-    face.Lines({{1, height - 2}, {1, 1}, {width - 2, 1}}, highlight);
-    face.Lines({{width - 2, 1}, {width - 2, height - 2}, {0, height - 2}}, shadow);
-    face.Lines({{width - 3, 2}, {width - 3, height - 3}, {1, height - 3}}, shadow);
+    face.Lines(
+        {
+            {1,         height - 2},
+            {1,         1         },
+            {width - 2, 1         }
+    },
+        highlight);
+    face.Lines(
+        {
+            {width - 2, 1         },
+            {width - 2, height - 2},
+            {0,         height - 2}
+    },
+        shadow);
+    face.Lines(
+        {
+            {width - 3, 2         },
+            {width - 3, height - 3},
+            {1,         height - 3}
+    },
+        shadow);
     return face;
 }
 
@@ -254,8 +278,8 @@ TEST_F(SpinPaint, TheFiguresOfATwentyPixelSpin)
     Paint(RectOfHeight(20));
     const COLORREF highlight = GetSysColor(COLOR_BTNHIGHLIGHT);
     const COLORREF shadow = GetSysColor(COLOR_BTNSHADOW);
-    EXPECT_EQ(canvas_.At(38, 9), kPaper);   // left of the buttons
-    EXPECT_EQ(canvas_.At(39, 9), kBlack);   // frame of the upper one
+    EXPECT_EQ(canvas_.At(38, 9), kPaper);  // left of the buttons
+    EXPECT_EQ(canvas_.At(39, 9), kBlack);  // frame of the upper one
     EXPECT_EQ(canvas_.At(52, 18), kBlack);
     EXPECT_EQ(canvas_.At(39, 19), kBlack);  // frame of the lower one
     EXPECT_EQ(canvas_.At(52, 28), kBlack);
@@ -454,8 +478,16 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(SpinPaint, OddRectanglesAndContextsAreHarmless)
 {
-    const RECT rects[] = {{0, 0, 0, 0}, {50, 50, 0, 0},        {-100, -100, -50, -50}, {0, 0, 50, 40000},
-                          {0, 0, 1, 1}, {0, 0, 100000, 70000}, {0, 32767, 0, -32768},  {0, 5, 10, 4}};
+    const RECT rects[] = {
+        {0,    0,     0,      0     },
+        {50,   50,    0,      0     },
+        {-100, -100,  -50,    -50   },
+        {0,    0,     50,     40000 },
+        {0,    0,     1,      1     },
+        {0,    0,     100000, 70000 },
+        {0,    32767, 0,      -32768},
+        {0,    5,     10,     4     }
+    };
     for (const RECT& rect : rects) {
         Paint(rect);
         ZTE_PaintSpinOnce(&rect, canvas_.dc());

@@ -46,15 +46,16 @@ TEST_P(RangeText, GivesTheBounds)
     EXPECT_STREQ(Record().spinRange, GetParam().range);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Texts, RangeText,
-    testing::Values(Bounds{"Both", "10~50", 10, 50}, Bounds{"MinimumAlone", "10", 10, 0},
-                    Bounds{"MinimumAndTilde", "10~", 10, 0}, Bounds{"MaximumAlone", "~50", 0, 50},
-                    Bounds{"ZeroAsMaximum", "5~0", 5, 0}, Bounds{"TildeAlone", "~", 0, 0}, Bounds{"Empty", "", 0, 0},
-                    Bounds{"Words", "a~b", 0, 0}, Bounds{"Fractions", "-1.5~2.25", -1.5, 2.25},
-                    Bounds{"Exponents", "1e2~1e3", 100, 1000}, Bounds{"SecondTildeEndsTheNumber", "1~2~3", 1, 2},
-                    Bounds{"BlanksBefore", " 1~ 2", 1, 2}),
-    RowName<Bounds>);
+INSTANTIATE_TEST_SUITE_P(Texts, RangeText,
+                         testing::Values(Bounds{"Both", "10~50", 10, 50}, Bounds{"MinimumAlone", "10", 10, 0},
+                                         Bounds{"MinimumAndTilde", "10~", 10, 0}, Bounds{"MaximumAlone", "~50", 0, 50},
+                                         Bounds{"ZeroAsMaximum", "5~0", 5, 0}, Bounds{"TildeAlone", "~", 0, 0},
+                                         Bounds{"Empty", "", 0, 0}, Bounds{"Words", "a~b", 0, 0},
+                                         Bounds{"Fractions", "-1.5~2.25", -1.5, 2.25},
+                                         Bounds{"Exponents", "1e2~1e3", 100, 1000},
+                                         Bounds{"SecondTildeEndsTheNumber", "1~2~3", 1, 2},
+                                         Bounds{"BlanksBefore", " 1~ 2", 1, 2}),
+                         RowName<Bounds>);
 
 TEST_F(SpinSettings, NoRangeTextLeavesTheBounds)
 {

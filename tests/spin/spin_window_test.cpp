@@ -223,7 +223,9 @@ TEST_F(SpinMouse, APressInTheUpperHalfStepsUpAtOnce)
     EXPECT_TRUE(HasFlag(zte::SPIN_UP));
     EXPECT_FALSE(HasFlag(zte::SPIN_DOWN));
     EXPECT_TRUE(HasFlag(zte::SPIN_TRACKING));
-    EXPECT_EQ(timerCalls, (std::vector<TimerCall>{{'s', Spin(), 1, 150}}));
+    EXPECT_EQ(timerCalls, (std::vector<TimerCall>{
+                              {'s', Spin(), 1, 150}
+    }));
     EXPECT_EQ(GetCapture(), Spin());
     Release();
 }
@@ -419,8 +421,8 @@ class Subclass {
 public:
     Subclass(HWND window, WNDPROC procedure)
     {
-        procedureBehind = reinterpret_cast<WNDPROC>(
-            SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+        procedureBehind =
+            reinterpret_cast<WNDPROC>(SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
     }
 };
 
@@ -532,15 +534,15 @@ TEST_P(DestroyedInItsStep, OfATick)
     ExpectGone();
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Types, DestroyedInItsStep,
-    testing::Values(DoomedControl{"Number", "##0", DT_NUMBER, "7", nullptr, 0},
-                    DoomedControl{"Decimal", "##0.00", DT_DECIMAL, "7", nullptr, 0},
-                    DoomedControl{"Date", "MM/DD/YY", DT_DATE, "1995-07-04", nullptr, 0},
-                    DoomedControl{"Time", "HH:MM:SS", DT_TIME, "10:20:30", nullptr, 0},
-                    DoomedControl{"String", "AAAA", DT_STRING, "abcd", nullptr, 0},
-                    DoomedControl{"CodeTable", "XXXX", DT_STRING, "1", "a\t1/b\t2", ZTEO_CODE_DISPLAY}),
-    RowName<DoomedControl>);
+INSTANTIATE_TEST_SUITE_P(Types, DestroyedInItsStep,
+                         testing::Values(DoomedControl{"Number", "##0", DT_NUMBER, "7", nullptr, 0},
+                                         DoomedControl{"Decimal", "##0.00", DT_DECIMAL, "7", nullptr, 0},
+                                         DoomedControl{"Date", "MM/DD/YY", DT_DATE, "1995-07-04", nullptr, 0},
+                                         DoomedControl{"Time", "HH:MM:SS", DT_TIME, "10:20:30", nullptr, 0},
+                                         DoomedControl{"String", "AAAA", DT_STRING, "abcd", nullptr, 0},
+                                         DoomedControl{"CodeTable", "XXXX", DT_STRING, "1", "a\t1/b\t2",
+                                                       ZTEO_CODE_DISPLAY}),
+                         RowName<DoomedControl>);
 
 TEST_F(SpinDestruction, InTheFlipOfAmPm)
 {
@@ -636,8 +638,8 @@ TEST_F(SpinDestruction, OfTheSpinAtTheFocusChangeOfAPressTakesNoStep)
     config.options = ZTEO_SPIN;
     Control own(shown.hwnd(), 3, config);
     const HWND spin = GetWindow(own.hwnd(), GW_CHILD);
-    const HWND other =
-        CreateWindowExA(0, "edit", "", WS_CHILD | WS_VISIBLE, 200, 200, 50, 20, shown.hwnd(), nullptr, nullptr, nullptr);
+    const HWND other = CreateWindowExA(0, "edit", "", WS_CHILD | WS_VISIBLE, 200, 200, 50, 20, shown.hwnd(), nullptr,
+                                       nullptr, nullptr);
     SetFocus(other);
     ASSERT_EQ(GetFocus(), other);
     const Subclass leaving(other, RemoveTheSpinWhenLeft);
