@@ -45,12 +45,6 @@ foreach(folder IN LISTS zt_test_folders)
         zt_add_test_program(${folder} ztedit050 ztshared ztdecimal)
     endif()
 endforeach()
-# Unit tests of internal functions have the control library inside them, resources included.
-zt_add_test_program(units ztedit050_objects ztshared ztdecimal)
-if(TARGET test_units)
-    target_sources(test_units PRIVATE ${CMAKE_SOURCE_DIR}/core/ztedit050.rc)
-endif()
-
 # The libraries as a customer meets them: loaded by name, so not linked here, and linked into a program in C.
 zt_add_test_program(abi gtest_main version)
 add_executable(abi_customer ${CMAKE_SOURCE_DIR}/tests/abi/abi_customer.c)

@@ -9,7 +9,7 @@
 #include <ostream>
 #include <string>
 
-#include "core/edit_instance.h"
+#include "engine/record.h"
 #include "tests/support/edit_test.h"
 #include "tests/support/form.h"
 #include "tests/support/profile.h"

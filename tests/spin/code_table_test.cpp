@@ -1,7 +1,7 @@
 // Code tables: how their text is read, how they are cycled, and how typing chooses from them.
 #include <gtest/gtest.h>
 
-#include "spin/code_table.h"
+#include "engine/format/code_table.h"
 #include "tests/spin/spin_test.h"
 
 namespace zttest {
