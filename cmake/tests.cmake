@@ -45,6 +45,8 @@ foreach(folder IN LISTS zt_test_folders)
         zt_add_test_program(${folder} ztedit050 ztshared ztdecimal)
     endif()
 endforeach()
+# The spin's window is tested with the fixture of the spin's steps.
+target_sources(test_win32 PRIVATE ${CMAKE_SOURCE_DIR}/tests/spin/spin_test.cpp)
 # Unit tests of internal functions have the control library inside them, resources included.
 zt_add_test_program(units ztedit050_objects ztshared ztdecimal)
 if(TARGET test_units)

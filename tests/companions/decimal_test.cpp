@@ -6,8 +6,8 @@
 #include <random>
 #include <string>
 
-#include "tests/shared/long_decimal.h"
-#include "tests/shared/rows.h"
+#include "tests/companions/long_decimal.h"
+#include "tests/companions/rows.h"
 #include "ztdecimal.h"
 
 namespace {

@@ -7,8 +7,8 @@
 #include <cstring>
 #include <string>
 
-#include "tests/shared/rows.h"
-#include "tests/shared/scoped_profile.h"
+#include "tests/companions/rows.h"
+#include "tests/companions/scoped_profile.h"
 #include "ztshared.h"
 
 namespace {

@@ -10,9 +10,9 @@
 #include <random>
 #include <string>
 
-#include "tests/shared/long_decimal.h"
-#include "tests/shared/rows.h"
-#include "tests/shared/scoped_profile.h"
+#include "tests/companions/long_decimal.h"
+#include "tests/companions/rows.h"
+#include "tests/companions/scoped_profile.h"
 #include "ztshared.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/shared/rows.h"
+#include "tests/companions/rows.h"
 
 namespace {
 
