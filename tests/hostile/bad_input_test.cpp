@@ -1,6 +1,7 @@
 // Input that no careful host or user would give: nothing crashes, overruns memory or loses blocks.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <string>
 #include <tuple>
@@ -18,12 +19,9 @@ constexpr int32_t kTypes[] = {DT_STRING, DT_NUMBER, DT_DATE, DT_TIME, DT_DATETIM
 // True when no heap of the process has been written past a block.
 bool HeapsAreSound()
 {
-    HANDLE heaps[64];
-    const DWORD count = GetProcessHeaps(64, heaps);
-    for (DWORD i = 0; i < count && i < 64; ++i)
-        if (!HeapValidate(heaps[i], 0, nullptr))
-            return false;
-    return true;
+    std::vector<HANDLE> heaps(GetProcessHeaps(0, nullptr));
+    GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data());
+    return std::all_of(heaps.begin(), heaps.end(), [](HANDLE heap) { return HeapValidate(heap, 0, nullptr); });
 }
 
 class Hostile : public EditTest {
