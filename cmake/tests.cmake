@@ -39,12 +39,14 @@ function(zt_add_test_program folder)
 endfunction()
 
 file(GLOB zt_test_folders CONFIGURE_DEPENDS LIST_DIRECTORIES true RELATIVE ${CMAKE_SOURCE_DIR}/tests ${CMAKE_SOURCE_DIR}/tests/*)
-list(REMOVE_ITEM zt_test_folders support units abi demo)
+list(REMOVE_ITEM zt_test_folders support units abi demo properties)
 foreach(folder IN LISTS zt_test_folders)
     if(IS_DIRECTORY ${CMAKE_SOURCE_DIR}/tests/${folder})
         zt_add_test_program(${folder} ztedit050 ztshared ztdecimal)
     endif()
 endforeach()
+# The spin's window is tested with the fixture of the spin's steps.
+target_sources(test_win32 PRIVATE ${CMAKE_SOURCE_DIR}/tests/spin/spin_test.cpp)
 # The libraries as a customer meets them: loaded by name, so not linked here, and linked into a program in C.
 zt_add_test_program(abi gtest_main version)
 add_executable(abi_customer ${CMAKE_SOURCE_DIR}/tests/abi/abi_customer.c)
