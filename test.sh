@@ -1,16 +1,21 @@
 #!/bin/bash
-# Installs what is missing, builds, and runs all tests on x86 and on x64 under Wine.
-# Usage: ./test.sh [--clang]     (--clang: builds and tests with the second compiler too)
+# Installs what is missing, builds, and runs all tests: the engine's on this machine with sanitizers, for 64 and 32 bits, then
+# those of the libraries on x86 and x64 under Wine, both at once.
+# Usage: ./test.sh [--native | --clang]
+#     --native   the engine's tests only: seconds
+#     --clang    builds and tests with the second compiler too
 set -uo pipefail
 root=$(cd "$(dirname "$0")" && pwd)
 cd "$root" || exit
 
-presets=(x86 x64)
+native=(native native32)
+windows=(x86 x64)
 case ${1:-} in
 "") ;;
---clang) presets+=(clang) ;;
+--native) windows=() ;;
+--clang) native+=(native-clang) windows+=(clang) ;;
 *)
-    echo "usage: ./test.sh [--clang]" >&2
+    echo "usage: ./test.sh [--native | --clang]" >&2
     exit 2
     ;;
 esac
@@ -21,18 +26,48 @@ fail()
     exit 1
 }
 
-tools/install_deps.sh "$@" || exit
-for preset in "${presets[@]}"; do
-    tools/build.sh "$preset" || fail "the $preset build"
-done
+# Runs a step and prints how long it took.
+timed()
+{
+    local start=$SECONDS result=0
+    "$@" || result=$?
+    echo "--- $((SECONDS - start)) s: $*"
+    return $result
+}
 
-. tools/wine_session.sh
-start_wine_session new-display || exit
+# All suites of one architecture, in a Wine prefix and on a display of their own.
+run_windows_tests()
+{
+    local preset=$1
+    WINEPREFIX=$root/build/wineprefix-$preset
+    . tools/wine_session.sh
+    start_wine_session new-display || return
+    ctest --preset "$preset" </dev/null
+}
 
+timed tools/install_deps.sh "$@" || exit
 failed=()
-for preset in "${presets[@]}"; do
+for preset in "${native[@]}"; do
+    timed tools/build.sh "$preset" || fail "the $preset build"
     echo
     echo "=== Tests on $preset ==="
-    ctest --preset "$preset" </dev/null || failed+=("$preset")
+    timed ctest --preset "$preset" </dev/null || failed+=("$preset")
+done
+
+for preset in "${windows[@]}"; do
+    timed tools/build.sh "$preset" || fail "the $preset build"
+done
+declare -A runs=()
+for preset in "${windows[@]}"; do
+    (timed run_windows_tests "$preset") >"build/tests-$preset.log" 2>&1 &
+    runs[$preset]=$!
+done
+for preset in "${windows[@]}"; do
+    wait "${runs[$preset]}" || failed+=("$preset")
+    echo
+    echo "=== Tests on $preset ==="
+    cat "build/tests-$preset.log"
 done
 [ ${#failed[@]} -eq 0 ] || fail "tests on ${failed[*]}"
+echo
+echo "All tests passed on ${native[*]} ${windows[*]} ($SECONDS s)"

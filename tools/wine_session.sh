@@ -2,7 +2,7 @@
 # Sourced by scripts that run Windows programs: one X server and one Wine server for the whole run, both ended on exit.
 # Call start_wine_session; it sets DISPLAY and what Wine needs.
 
-WINEPREFIX=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)/build/wineprefix
+WINEPREFIX=${WINEPREFIX:-$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)/build/wineprefix}
 export WINEPREFIX
 export WINEARCH=win64
 export WINEDEBUG=-all
