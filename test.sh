@@ -39,7 +39,7 @@ timed()
 run_windows_tests()
 {
     local preset=$1
-    WINEPREFIX=$root/build/wineprefix-$preset
+    ZT_WINEPREFIX=$root/build/wineprefix-$preset
     . tools/wine_session.sh
     start_wine_session new-display || return
     ctest --preset "$preset" </dev/null

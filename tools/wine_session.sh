@@ -2,7 +2,7 @@
 # Sourced by scripts that run Windows programs: one X server and one Wine server for the whole run, both ended on exit.
 # Call start_wine_session; it sets DISPLAY and what Wine needs.
 
-WINEPREFIX=${WINEPREFIX:-$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)/build/wineprefix}
+WINEPREFIX=${ZT_WINEPREFIX:-$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)/build/wineprefix}  # never one of the user's: it is made anew
 export WINEPREFIX
 export WINEARCH=win64
 export WINEDEBUG=-all
