@@ -1,0 +1,90 @@
+// The engine's text.
+#include "engine/text/text.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "engine/text/ascii.h"
+
+namespace zte {
+
+size_t BoundedLength(const Char* text, size_t limit)
+{
+    size_t length = 0;
+    while (length < limit && text[length])
+        ++length;
+    return length;
+}
+
+Text Slice(const Text& text, int32_t position, int32_t count)
+{
+    return position < Length(text) ? text.substr(static_cast<size_t>(position), static_cast<size_t>(count)) : Text();
+}
+
+int32_t Find(const Text& text, Char character)
+{
+    const size_t position = text.find(character);
+    return position == Text::npos ? -1 : static_cast<int32_t>(position);
+}
+
+int32_t Find(const Char* text, Char character)
+{
+    const Char* found = std::char_traits<Char>::find(text, TextLength(text), character);
+    return found ? static_cast<int32_t>(found - text) : -1;
+}
+
+Text FromAscii(const char* ascii)
+{
+    return {ascii, ascii + std::strlen(ascii)};
+}
+
+void Append(Text& text, const char* ascii)
+{
+    for (; *ascii; ++ascii)
+        text += static_cast<Char>(*ascii);
+}
+
+bool Equals(const Text& text, const char* ascii)
+{
+    return BeginsWith(text.c_str(), ascii) && text.size() == std::strlen(ascii);
+}
+
+bool BeginsWith(const Char* text, const char* ascii)
+{
+    for (; *ascii; ++ascii, ++text)
+        if (*text != static_cast<Char>(*ascii))
+            return false;
+    return true;
+}
+
+bool BeginsWith(const Char* text, const Char* beginning)
+{
+    for (; *beginning; ++beginning, ++text)
+        if (*text != *beginning)
+            return false;
+    return true;
+}
+
+int32_t IntegerOf(const Char* text)
+{
+    while (IsSpace(*text))
+        ++text;
+    const bool negative = *text == '-';
+    if (IsSign(*text))
+        ++text;
+    int64_t number = 0;
+    for (; IsDigit(*text); ++text)
+        number = std::min<int64_t>(number * 10 + DigitValue(*text), INT32_MAX);
+    return static_cast<int32_t>(negative ? -number : number);
+}
+
+Text NumberText(uint32_t number, int32_t digits)
+{
+    Text text;
+    for (; number != 0 || digits > 0; number /= 10, --digits)
+        text += DigitChar(static_cast<int32_t>(number % 10));
+    std::reverse(text.begin(), text.end());
+    return text;
+}
+
+}  // namespace zte

@@ -1,0 +1,79 @@
+/* ztvalues.h - the values that masked edits show and read (part of ztedit.h, ztshared.h and ztdecimal.h)
+ *
+ * Plain records and numbers, the same on every system; nothing here needs a window.
+ */
+#ifndef ZTVALUES_H
+#define ZTVALUES_H
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Data types, and what a pointer to a value of the type points to. */
+#define DT_STRING 1   /* char[]: a zero-terminated text, without the mask's literals */
+#define DT_NUMBER 2   /* double */
+#define DT_DATE 3     /* DateTimeValue */
+#define DT_TIME 4     /* DateTimeValue */
+#define DT_DATETIME 5 /* DateTimeValue */
+#define DT_DECIMAL 6  /* DecimalValue */
+
+/* 12 bytes. The empty value is all zero except year and hour. */
+typedef struct DateTimeValue {
+    uint32_t microsecond; /* 0 to 999999 */
+    int16_t year;         /* years since 1900; DATETIME_NO_DATE: no date */
+    int8_t month;         /* 0 to 11 */
+    int8_t day;           /* 1 to 31 */
+    int8_t hour;          /* 0 to 23; DATETIME_NO_TIME: no time */
+    int8_t minute;        /* 0 to 59 */
+    int8_t second;        /* 0 to 59 */
+    int8_t spare;         /* always 0 */
+} DateTimeValue;
+
+#define DATETIME_NO_DATE (-32767)
+#define DATETIME_NO_TIME (-1)
+
+/* Kinds of canonical text. */
+#define DATETIME_KIND_BOTH 1 /* a date, optionally followed by a blank and a time */
+#define DATETIME_KIND_DATE 2 /* YYYY-MM-DD */
+#define DATETIME_KIND_TIME 3 /* HH:MM, HH:MM:SS or HH:MM:SS:F.. with 1 to 6 fraction digits, ':' or '.' before them */
+
+/* 16 bytes, the platform's DECIMAL. The value is (hi32 * 2^64 + lo64) / 10^scale, negative when sign is 0x80. */
+typedef struct DecimalValue {
+    uint16_t reserved; /* not read; written as 0 */
+    uint8_t scale;     /* 0 to 28 */
+    uint8_t sign;      /* 0 or 0x80 */
+    uint32_t hi32;
+    uint64_t lo64;
+} DecimalValue;
+
+/* A private heap; see ztshared.h. */
+typedef struct SharedHeapData* SharedHeap;
+
+/* A list of borrowed element pointers with one cursor; see ztshared.h. */
+typedef struct SharedListData* SharedList;
+
+/* A compiled number format is an opaque record of at most this many bytes; see ztshared.h. */
+#define SHARED_FORMAT_SIZE 256
+
+/* FormatResult.formatFlags, see ztedit.h */
+#define FORMAT_DONE 0x0001          /* always set */
+#define FORMAT_HAS_LITERALS 0x4000  /* the text holds literals; set for every date and time */
+#define FORMAT_LITERAL_AFTER 0x8000 /* a literal follows a field */
+
+/* ZTE_SetSpin styles */
+#define SPINSTYLE_PICKLIST 0x10000000u
+#define SPINSTYLE_CODETABLE 0x08000000u
+
+/* EditInitParams.options */
+#define ZTEO_AUTOSKIP 0x1     /* notify with ZTN_AUTOSKIP when the last position is filled */
+#define ZTEO_SPIN 0x2         /* the control owns a spin; the spin fields below are used */
+#define ZTEO_CODE_PICK 0x4    /* typed characters choose entries of the code table */
+#define ZTEO_CODE_DISPLAY 0x8 /* values are shown through the code table */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
