@@ -197,7 +197,7 @@ TEST_P(RedrawIsOn, AfterTheKeys)
     Play(row.keys);
     std::string last = "redraw on";
     for (const std::string& told : recorder_.Told())
-        if (told != "replace")
+        if (told != "text")
             last = told;
     EXPECT_EQ(last, "redraw on");
 }
@@ -212,7 +212,7 @@ TEST_F(Redraw, IsOffWhileTheCharacterIsSelectedAndOnBeforeItIsReplaced)
     Given("MM/DD/YY", DT_DATE, "07/04/9|0");
     recorder_.Forget();
     Type("5");
-    EXPECT_EQ(recorder_.Told(), (std::vector<std::string>{"redraw off", "redraw on", "replace"}));
+    EXPECT_EQ(recorder_.Told(), (std::vector<std::string>{"redraw off", "redraw on", "text"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, RedrawIsOn, testing::ValuesIn(kRedrawRows), RowName<KeyCase>);

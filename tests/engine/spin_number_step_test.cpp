@@ -261,7 +261,7 @@ TEST_F(EveryStep, ShowsTheNewTextBeforeItNotifies)
     EXPECT_EQ(seen, "8");
 }
 
-TEST_F(EveryStep, SwitchesRedrawingOffAndOn)
+TEST_F(EveryStep, SwitchesRedrawingOffAroundTheText)
 {
     Config config;
     config.mask = "##0";
@@ -272,7 +272,7 @@ TEST_F(EveryStep, SwitchesRedrawingOffAndOn)
     Make(config);
     const FieldRecorder recorder;
     Up();
-    EXPECT_EQ(recorder.Told(), (std::vector<std::string>{"redraw off", "redraw on"}));
+    EXPECT_EQ(recorder.Told(), (std::vector<std::string>{"redraw off", "text", "redraw on"}));
 }
 
 TEST_F(EveryStep, OfAStringChangesNothingButNotifies)

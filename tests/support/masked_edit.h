@@ -148,7 +148,8 @@ private:
     std::unique_ptr<Implementation> it_;
 };
 
-// What fields are told while it lives: "redraw off", "redraw on" and "replace", in order. One at a time.
+// What fields are told while it lives, in order: "redraw off", "redraw on", and "text" where text is put into the place of
+// another one. One at a time.
 class FieldRecorder {
 public:
     FieldRecorder();

@@ -301,8 +301,8 @@ std::vector<std::string> FieldRecorder::Told() const
     for (const BaseMessage& message : it_->base.All())
         if (message.message == WM_SETREDRAW)
             told.push_back(message.wParam ? "redraw on" : "redraw off");
-        else if (message.message == EM_REPLACESEL)
-            told.push_back("replace");
+        else if (message.message == EM_REPLACESEL || message.message == WM_SETTEXT)
+            told.push_back("text");
     return told;
 }
 
