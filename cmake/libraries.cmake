@@ -1,16 +1,16 @@
 # zt_add_library: one of the three DLLs, from the sources of some folders.
 
-# zt_add_library(<name> FOLDERS <folder>... LINK <library>...)
+# zt_add_library(<name> FOLDERS <folder>... [STATIC <static library>...] LINK <library>...)
 #
 # Makes of the folders' sources
-#   <name>_objects      the object files, for unit tests of internal functions
+#   <name>_objects      the object files of its folders
 #   <name>_dll          bin/<name>.dll, exporting what <name>.def lists, under undecorated names
 #   <name>              the import library lib/lib<name>.dll.a, what a customer links: link this target to use the DLL
 # The .def and .rc file stand in the first folder. The import library is made from the object files and the .def file, not by
 # the linker: ld's own would know a stdcall function of the .def file by its plain name only, so that no 32-bit caller that
 # includes the header could link.
 function(zt_add_library name)
-    cmake_parse_arguments(arg "" "" "FOLDERS;LINK" ${ARGN})
+    cmake_parse_arguments(arg "" "" "FOLDERS;STATIC;LINK" ${ARGN})
     list(GET arg_FOLDERS 0 main_folder)
     set(def ${CMAKE_SOURCE_DIR}/${main_folder}/${name}.def)
     set(rc ${CMAKE_SOURCE_DIR}/${main_folder}/${name}.rc)
@@ -40,7 +40,7 @@ function(zt_add_library name)
     add_dependencies(${name} ${name}_import_library)
 
     add_library(${name}_dll SHARED ${def} ${rc})
-    target_link_libraries(${name}_dll PRIVATE ${name}_objects ${arg_LINK})
+    target_link_libraries(${name}_dll PRIVATE ${name}_objects ${arg_STATIC} ${arg_LINK})
     set_target_properties(${name}_dll PROPERTIES
         LINKER_LANGUAGE CXX OUTPUT_NAME ${name} PREFIX "" IMPORT_PREFIX "unused-" LINK_DEPENDS ${def})
     # The .def file gives plain names; the fix-up pairs them with the decorated functions of the 32-bit objects.

@@ -4,6 +4,18 @@ set(INSTALL_GTEST OFF)
 set(BUILD_GMOCK ON)  # only what a test program links is built
 add_subdirectory(${ZT_GOOGLETEST_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
 
+# The tests of the engine run on fields in memory, and on Windows on live windows, by the support that they are linked with.
+file(GLOB zt_engine_tests CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/engine/*.cpp)
+if(NOT WIN32)
+    file(GLOB zt_support_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
+        ${CMAKE_SOURCE_DIR}/tests/support/native/*.cpp)
+    add_executable(test_engine ${zt_engine_tests} ${zt_support_sources})
+    target_link_libraries(test_engine PRIVATE zt_engine gtest)
+    add_test(NAME engine COMMAND test_engine --gtest_brief=1)
+    set_tests_properties(engine PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
+    return()
+endif()
+
 file(GLOB zt_support_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
     ${CMAKE_SOURCE_DIR}/tests/support/live/*.cpp)
 add_library(zt_test_flags INTERFACE)
@@ -46,12 +58,6 @@ foreach(folder IN LISTS zt_test_folders)
         zt_add_test_program(${folder} ztedit050 ztshared ztdecimal)
     endif()
 endforeach()
-# Unit tests of internal functions have the control library inside them, resources included.
-zt_add_test_program(units ztedit050_objects ztshared ztdecimal)
-if(TARGET test_units)
-    target_sources(test_units PRIVATE ${CMAKE_SOURCE_DIR}/core/ztedit050.rc)
-endif()
-
 # The libraries as a customer meets them: loaded by name, so not linked here, and linked into a program in C.
 zt_add_test_program(abi gtest_main version)
 add_executable(abi_customer ${CMAKE_SOURCE_DIR}/tests/abi/abi_customer.c)

@@ -20,6 +20,7 @@ struct Selection {
 enum Key : int32_t {
     KEY_BACKSPACE = 0x08,
     KEY_TAB = 0x09,
+    KEY_SHIFT = 0x10,
     KEY_PAGE_UP = 0x21,
     KEY_PAGE_DOWN = 0x22,
     KEY_END = 0x23,
@@ -35,12 +36,6 @@ enum Key : int32_t {
 // The details of a key message: made by the field, handed back to it, never looked into; 0 when there was no key.
 using KeyData = intptr_t;
 
-// The keys that are held down.
-struct KeysHeld {
-    bool shift;
-    bool right;
-};
-
 // An edit control of one line. A call that lets the program around act (by a notification, say) may end in the field's
 // destruction; the field then does not return into the engine: it unwinds to its caller.
 class Field {
@@ -48,7 +43,7 @@ public:
     // What stands there.
     virtual Text ReadText() const = 0;
     virtual Selection ReadSelection() const = 0;
-    virtual KeysHeld ReadKeys() const = 0;
+    virtual bool IsHeld(Key key) const = 0;  // whether a key is down
     virtual bool RefusesInput() const = 0;                   // read-only or disabled
     virtual std::optional<Text> ReadClipboard() const = 0;  // none when it is busy or holds no text
 

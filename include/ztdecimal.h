@@ -18,18 +18,11 @@
 #include <stdint.h>
 #include <windows.h>
 
+#include "ztvalues.h"
+
 #ifdef __cplusplus
 extern "C" {
 #endif
-
-/* 16 bytes, the platform's DECIMAL. The value is (hi32 * 2^64 + lo64) / 10^scale, negative when sign is 0x80. */
-typedef struct DecimalValue {
-    uint16_t reserved; /* not read; written as 0 */
-    uint8_t scale;     /* 0 to 28 */
-    uint8_t sign;      /* 0 or 0x80 */
-    uint32_t hi32;
-    uint64_t lo64;
-} DecimalValue;
 
 /* Reads a decimal text: blanks, an optional sign, digits with at most one '.', an optional exponent.
  *

@@ -30,6 +30,7 @@
 
 #include "ztdecimal.h"
 #include "ztshared.h"
+#include "ztvalues.h"
 
 #ifdef __cplusplus
 extern "C" {
@@ -37,24 +38,6 @@ extern "C" {
 
 #define ZTEDIT_CLASS "ZTEDIT050"
 #define ZTN_AUTOSKIP 0x0903
-
-/* Data types, and what a pointer to a value of the type points to. */
-#define DT_STRING 1   /* char[]: a zero-terminated text, without the mask's literals */
-#define DT_NUMBER 2   /* double */
-#define DT_DATE 3     /* DateTimeValue */
-#define DT_TIME 4     /* DateTimeValue */
-#define DT_DATETIME 5 /* DateTimeValue */
-#define DT_DECIMAL 6  /* DecimalValue */
-
-/* EditInitParams.options */
-#define ZTEO_AUTOSKIP 0x1     /* notify with ZTN_AUTOSKIP when the last position is filled */
-#define ZTEO_SPIN 0x2         /* the control owns a spin; the spin fields below are used */
-#define ZTEO_CODE_PICK 0x4    /* typed characters choose entries of the code table */
-#define ZTEO_CODE_DISPLAY 0x8 /* values are shown through the code table */
-
-/* ZTE_SetSpin styles */
-#define SPINSTYLE_PICKLIST 0x10000000u
-#define SPINSTYLE_CODETABLE 0x08000000u
 
 /* Configures a new control: the creation parameter of CreateWindowEx, or given to ZTE_Init. Only read; everything in it is
  * borrowed for the call except heap, which must outlive the control. */
@@ -77,10 +60,6 @@ typedef struct FormatResult {
     uint32_t formatFlags;  /* FORMAT_ bits */
     int32_t firstFieldPos; /* position at which editing starts: the first field, or a number's first digit or sign */
 } FormatResult;
-
-#define FORMAT_DONE 0x0001          /* always set */
-#define FORMAT_HAS_LITERALS 0x4000  /* the text holds literals; set for every date and time */
-#define FORMAT_LITERAL_AFTER 0x8000 /* a literal follows a field */
 
 /* ---- The control --------------------------------------------------------------------------------------------------- */
 

@@ -10,6 +10,7 @@
 #include <windows.h>
 
 #include "ztdecimal.h"
+#include "ztvalues.h"
 
 #ifdef __cplusplus
 extern "C" {
@@ -19,8 +20,6 @@ extern "C" {
 
 /* A private heap. Blocks are aligned for any type. The flags argument of the functions below is accepted and has no
  * meaning. A heap that cannot give a block ends the process with a no-memory exception: callers never see null. */
-typedef struct SharedHeapData* SharedHeap;
-
 SharedHeap WINAPI SharedHeapCreate(void);
 
 /* Discards the heap with all its blocks. Null is ignored. */
@@ -59,8 +58,6 @@ int32_t WINAPI SharedIsNumber(const char* text);
 
 /* A list of borrowed element pointers with one cursor. The cursor stands on an element, before the first or past the
  * last; a new list's stands before the first. */
-typedef struct SharedListData* SharedList;
-
 SharedList WINAPI SharedListCreate(SharedHeap heap, uint32_t flags); /* lives in heap */
 void WINAPI SharedListDestroy(SharedList list);                      /* null is ignored; elements are not freed */
 void WINAPI SharedListAppend(SharedList list, void* element);        /* at the end; the cursor stays where it is */
@@ -77,26 +74,6 @@ int32_t WINAPI SharedListTell(SharedList list);                /* the cursor's p
 void WINAPI SharedListSeek(SharedList list, int32_t position); /* positions out of range are brought into it */
 
 /* ---- Dates and times ----------------------------------------------------------------------------------------------- */
-
-/* 12 bytes. The empty value is all zero except year and hour. */
-typedef struct DateTimeValue {
-    uint32_t microsecond; /* 0 to 999999 */
-    int16_t year;         /* years since 1900; DATETIME_NO_DATE: no date */
-    int8_t month;         /* 0 to 11 */
-    int8_t day;           /* 1 to 31 */
-    int8_t hour;          /* 0 to 23; DATETIME_NO_TIME: no time */
-    int8_t minute;        /* 0 to 59 */
-    int8_t second;        /* 0 to 59 */
-    int8_t spare;         /* always 0 */
-} DateTimeValue;
-
-#define DATETIME_NO_DATE (-32767)
-#define DATETIME_NO_TIME (-1)
-
-/* Kinds of canonical text. */
-#define DATETIME_KIND_BOTH 1 /* a date, optionally followed by a blank and a time */
-#define DATETIME_KIND_DATE 2 /* YYYY-MM-DD */
-#define DATETIME_KIND_TIME 3 /* HH:MM, HH:MM:SS or HH:MM:SS:F.. with 1 to 6 fraction digits, ':' or '.' before them */
 
 /* Reads canonical text.
  *
@@ -133,8 +110,6 @@ void WINAPI SharedDateTimeNow(DateTimeValue* value);
  * 1234 as 12-34). A format with no digit placeholder, with a second point, with a ',' after the point, with a placeholder
  * after '%', or with a lone '\' at its end is invalid.
  */
-#define SHARED_FORMAT_SIZE 256
-
 /* Compiles a format text.
  *
  * compiled  receives the compiled format, an opaque record of at most size bytes that may be copied and needs no release.

@@ -39,7 +39,8 @@ constexpr bool IsSpace(Char c)
 // Characters that no mask position takes.
 constexpr bool IsControl(Char c)
 {
-    return (c >= 0 && c < 0x20) || c == 0x7F;
+    const auto code = static_cast<uint32_t>(c);
+    return code < 0x20 || code == 0x7F;
 }
 
 }  // namespace zte

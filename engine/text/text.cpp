@@ -49,22 +49,6 @@ bool Equals(const Text& text, const char* ascii)
     return BeginsWith(text.c_str(), ascii) && text.size() == std::strlen(ascii);
 }
 
-bool BeginsWith(const Char* text, const char* ascii)
-{
-    for (; *ascii; ++ascii, ++text)
-        if (*text != static_cast<Char>(*ascii))
-            return false;
-    return true;
-}
-
-bool BeginsWith(const Char* text, const Char* beginning)
-{
-    for (; *beginning; ++beginning, ++text)
-        if (*text != *beginning)
-            return false;
-    return true;
-}
-
 int32_t IntegerOf(const Char* text)
 {
     while (IsSpace(*text))

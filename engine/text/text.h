@@ -48,8 +48,16 @@ int32_t Find(const Char* text, Char character);
 Text FromAscii(const char* ascii);
 void Append(Text& text, const char* ascii);
 bool Equals(const Text& text, const char* ascii);
-bool BeginsWith(const Char* text, const char* ascii);
-bool BeginsWith(const Char* text, const Char* beginning);
+
+// Whether a text begins with another one, which may be an ASCII literal.
+template <typename Character>
+bool BeginsWith(const Char* text, const Character* beginning)
+{
+    for (; *beginning; ++beginning, ++text)
+        if (*text != static_cast<Char>(*beginning))
+            return false;
+    return true;
+}
 
 // Blanks, an optional sign and digits, as far as they go; 0 when there are none. Numbers out of range become the nearest one.
 int32_t IntegerOf(const Char* text);

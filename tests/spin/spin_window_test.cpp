@@ -1,7 +1,7 @@
 // The spin's window: making and removing it, the mouse on its arrows, and every order of destruction.
 #include <gtest/gtest.h>
 
-#include "spin/code_table.h"
+#include "engine/format/code_table.h"
 #include "tests/spin/spin_test.h"
 #include "tests/support/base_recorder.h"
 #include "tests/support/import_patch.h"

@@ -1,11 +1,7 @@
 // Copies of the record behind a control and of its code table.
 #include "tests/support/record_view.h"
 
-#if __has_include("engine/record.h")
 #include "engine/format/code_table.h"
-#else
-#include "spin/code_table.h"
-#endif
 
 namespace zttest {
 namespace {

@@ -1,11 +1,7 @@
 // Copies of the record behind a control and of its code table, for tests to look at.
 #pragma once
 
-#if __has_include("engine/record.h")
 #include "engine/record.h"
-#else
-#include "core/edit_instance.h"
-#endif
 #include "tests/support/masked_edit.h"
 
 namespace zttest {

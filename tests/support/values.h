@@ -4,9 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#ifndef ZTSHARED_H  // which declares the same records
 #include "ztvalues.h"
-#endif
 
 namespace zttest {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/edit_instance.h"
+#include "engine/record.h"
 #include "tests/support/arrow.h"
 #include "tests/support/live/window_test.h"
 

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "core/edit_instance.h"
+#include "engine/record.h"
 #include "tests/support/key_case.h"
 #include "tests/support/live/form.h"
 #include "tests/support/masked_edit.h"

@@ -1,0 +1,127 @@
+// Moving the caret over literals: counting the way, and going it.
+#include "engine/edit/caret.h"
+
+#include "engine/mask/mask_table.h"
+#include "engine/values/number_layout.h"
+
+namespace zte {
+
+namespace {
+
+// Right at the end of the text: the focus may move on; the caret goes to the very end for a key, not after typing. In a
+// fraction, whose last digit may stand behind the end of the mask's display, it just moves.
+void MoveAtEnd(EditInstance& edit, const Text& text, int32_t position, int32_t steps, KeyData keyData, bool shift)
+{
+    bool move = IsInFraction(edit, text, position);
+    if (!move) {
+        if (Has(edit, AUTOSKIP) && !(shift && edit.field->IsHeld(KEY_RIGHT)))
+            edit.field->NotifyFull();
+        move = position == Length(text) && keyData != 0;
+    }
+    if (move)
+        edit.field->PressArrow(KEY_RIGHT, keyData, steps);
+}
+
+// The literals between a position and the next one that may be typed at.
+struct LiteralRun {
+    bool found;      // false: the end of the display comes first
+    int32_t length;  // literals to pass
+};
+
+LiteralRun LiteralsAt(const EditInstance& edit, const Text& text, int32_t position)
+{
+    for (int32_t length = 0;; ++length) {
+        const int32_t at = position + length;
+        if (IsInFraction(edit, text, at))
+            return {true, length};
+        if (at > edit.displayLength - 1)
+            return {false, length};
+        if (MayTypeAt(edit, text, at))
+            return {true, length};
+        if (!PositionAt(edit, text, at).exists)
+            return {false, length};
+    }
+}
+
+}  // namespace
+
+bool IsInFraction(const EditInstance& edit, const Text& text, int32_t position)
+{
+    return IsInFraction(text, position, edit.decimalPlaces, edit.settings->decimalChar);
+}
+
+int32_t StepsToEditable(const EditInstance& edit, const Text& text, int32_t position, Direction direction)
+{
+    const int32_t step = direction == Direction::Forward ? 1 : -1;
+    for (int32_t steps = 1;; ++steps) {
+        position += step;
+        if (position < 0 || (step > 0 && position > edit.displayLength - 1))
+            return 0;
+        if (!PositionAt(edit, text, position).exists || MayTypeAt(edit, text, position))
+            return steps;
+    }
+}
+
+void MoveCaret(EditInstance& edit, Key key, KeyData keyData, bool shift)
+{
+    const int32_t step = key == KEY_LEFT ? -1 : 1;
+    const Text text = edit.field->ReadText();
+    int32_t position = Caret(edit);
+    for (int32_t steps = 1;; ++steps) {
+        position += step;
+        if (key == KEY_RIGHT && position >= Length(text))
+            return MoveAtEnd(edit, text, position, steps, keyData, shift);
+        if (key == KEY_LEFT && position < 0)
+            return edit.field->PressArrow(KEY_LEFT, keyData, steps);
+        if (shift)  // one Left, whatever key was asked for: kept, Backspace counts on it
+            return edit.field->PressArrow(KEY_LEFT, keyData, steps);
+        if (key == KEY_BACKSPACE) {
+            edit.field->HoldShift(true);  // so that the field selects the character that it passes
+            return edit.field->PressArrow(KEY_LEFT, keyData, steps);
+        }
+        if (MayTypeAt(edit, text, position))
+            return edit.field->PressArrow(key, keyData, steps);
+        if (!PositionAt(edit, text, position).exists)
+            return;
+    }
+}
+
+void MoveOnWhenFull(EditInstance& edit)
+{
+    if (Has(edit, AUTOSKIP))
+        MoveCaret(edit, KEY_RIGHT, 0, edit.field->IsHeld(KEY_SHIFT));
+}
+
+bool SkipLiterals(EditInstance& edit, const Text& text, int32_t position)
+{
+    const LiteralRun literals = LiteralsAt(edit, text, position);
+    if (!literals.found || literals.length == 0)
+        return literals.found;
+    edit.carriedFrom = position;
+    edit.carriedTo = position + literals.length;
+    PlaceCaret(edit, edit.carriedTo);
+    return true;
+}
+
+CarriedOver TakeCarriedOver(EditInstance& edit)
+{
+    const CarriedOver carried = {edit.carriedFrom, edit.carriedTo};
+    edit.carriedTo = 0;
+    return carried;
+}
+
+bool IsCarriedLiteral(EditInstance& edit, const Text& text, CarriedOver carried, int32_t caret, Char typed)
+{
+    if (carried.to == 0 || carried.to != caret || caret > Length(text))
+        return false;
+    for (int32_t i = carried.from; i < carried.to; ++i) {
+        if (At(text, i) != typed)
+            continue;
+        edit.carriedFrom = i + 1;
+        edit.carriedTo = i + 1 < carried.to ? carried.to : 0;
+        return true;
+    }
+    return false;
+}
+
+}  // namespace zte

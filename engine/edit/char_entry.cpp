@@ -1,0 +1,158 @@
+// Typing into strings, dates and times: an accepted character overwrites positions, literals are passed.
+#include "engine/edit/char_entry.h"
+
+#include "engine/edit/caret.h"
+#include "engine/edit/validators.h"
+#include "engine/text/ascii.h"
+
+namespace zte {
+
+namespace {
+
+// The character goes to the AM/PM field, wherever the caret is, when it begins one of the regional designators.
+bool IsAmPmChar(const EditInstance& edit, Char typed)
+{
+    if (!HasAmPmField(edit) || typed == Char{})
+        return false;
+    return typed == edit.settings->amString[0] || typed == edit.settings->pmString[0];
+}
+
+// The next literal, not written with "~", that shows the character; -1 when there is none.
+int32_t FindLiteralAhead(const EditInstance& edit, const Text& text, int32_t position, Char typed)
+{
+    for (int32_t at = position + 1; at < Length(text) && at < edit.displayLength; ++at)
+        if (At(text, at) == typed && PositionAt(edit, text, at).IsPlainLiteral())
+            return at;
+    return -1;
+}
+
+bool IsPaddable(FieldKind kind)
+{
+    return kind == FieldKind::Month || kind == FieldKind::Day || kind == FieldKind::Hour || kind == FieldKind::Minute ||
+           kind == FieldKind::Second;
+}
+
+bool IsSecondDigitOfTwo(const EditInstance& edit, int32_t position)
+{
+    const MaskPosition& mask = PositionOf(edit, position);
+    return IsPaddable(mask.kind) && mask.runBefore == 1 && mask.runAfter == 0;
+}
+
+// A single digit before the separator typed becomes "0" and the digit.
+void PadFieldDigit(EditInstance& edit, const Text& text, int32_t position)
+{
+    if (position < 1 || position >= Length(text) || !IsSecondDigitOfTwo(edit, position))
+        return;
+    const Char digit = At(text, position - 1);
+    if (!IsDigit(digit) || digit == '0')
+        return;
+    Text padded = text;
+    padded[static_cast<size_t>(position)] = digit;
+    padded[static_cast<size_t>(position) - 1] = '0';
+    edit.field->SetText(padded.c_str());
+}
+
+// A padded digit fills its field; the rest of a month name, or a digit that only pulls a 0 behind it, leaves the caret on the
+// next position, so that typing can go on there.
+int32_t CaretBehind(const EditInstance& edit, int32_t placedAt, Char typed)
+{
+    const bool fills = edit.typedChar[0] == '0' && edit.typedChar[1] == typed && typed != '0';
+    return placedAt + (fills ? 2 : 1);
+}
+
+// Overwrites as many positions as typedChar has characters. Redrawing is on again before the replacement, so that it paints
+// once.
+int32_t Place(EditInstance& edit, int32_t position, Char typed)
+{
+    const auto length = static_cast<int32_t>(TextLength(edit.typedChar));
+    if (length == 0)
+        return Caret(edit);
+    edit.field->SetRedraw(false);
+    edit.field->Select(position, position + length);
+    edit.field->SetRedraw(true);
+    edit.field->ReplaceSelection(edit.typedChar);
+    const bool isPart = length > 1 && Has(edit, ZERO_PADDED);
+    SetFlag(edit, ZERO_PADDED, false);
+    if (!isPart)
+        return Caret(edit);
+    const int32_t caret = CaretBehind(edit, position, typed);
+    PlaceCaret(edit, caret);
+    return caret;
+}
+
+// Past the literals to the next position; where none follows the field is full and the focus may move on.
+void GoOn(EditInstance& edit, const Text& text, int32_t caret)
+{
+    if (StepsToEditable(edit, text, caret - 1, Direction::Forward) != 0)
+        SkipLiterals(edit, text, caret);
+    else
+        MoveOnWhenFull(edit);
+}
+
+void PlaceAndGoOn(EditInstance& edit, const Text& text, int32_t position, Char typed)
+{
+    const int32_t caret = Place(edit, position, typed);
+    GoOn(edit, text, caret);
+}
+
+// A refused character that is a literal further on skips to it.
+void SkipAhead(EditInstance& edit, const Text& text, int32_t position, Char typed)
+{
+    const int32_t literal = FindLiteralAhead(edit, text, position, typed);
+    if (literal <= 0)
+        return edit.field->Beep();
+    if (IsDateOrTime(edit.dataType))
+        PadFieldDigit(edit, text, position);
+    PlaceCaret(edit, literal + 1);
+    GoOn(edit, text, literal + 1);
+}
+
+// True when the character was accepted, with the verdict in the record.
+bool IsAccepted(EditInstance& edit, const Text& text, int32_t position, Char typed)
+{
+    const Verdict verdict = Validate({edit, text, position, typed});
+    if (verdict.accepted)
+        KeepVerdict(edit, verdict);
+    return verdict.accepted;
+}
+
+// On a literal: before the first field the character is meant for that field, anywhere else it is refused.
+void EnterOnLiteral(EditInstance& edit, const Text& text, int32_t position, Char typed)
+{
+    const int32_t first = edit.firstFieldPos;
+    if (position >= first)
+        return edit.field->Beep();
+    PlaceCaret(edit, first);
+    if (!IsEditable(edit, text, first))
+        return GoOn(edit, text, first);
+    if (!IsAccepted(edit, text, first, typed))
+        return edit.field->Beep();
+    PlaceAndGoOn(edit, text, first, typed);
+}
+
+}  // namespace
+
+void EnterChar(EditInstance& edit, Char typed)
+{
+    edit.field->KeepLayout();
+    ForgetVerdict(edit);
+    const CarriedOver carried = TakeCarriedOver(edit);
+    if (IsAmPmChar(edit, typed)) {
+        KeepVerdict(edit, Verdict::Placing(typed));
+        return PlaceAndGoOn(edit, edit.field->ReadText(), edit.table->ampmPosition, typed);
+    }
+    const int32_t position = Caret(edit);
+    if (edit.displayLength > 0 && position >= edit.displayLength)
+        return;
+    const Text text = edit.field->ReadText();
+    if (IsCarriedLiteral(edit, text, carried, position, typed))
+        return;
+    if (!IsEditable(edit, text, position))
+        EnterOnLiteral(edit, text, position, typed);
+    else if (IsAccepted(edit, text, position, typed))
+        PlaceAndGoOn(edit, text, position, typed);
+    else
+        SkipAhead(edit, text, position, typed);
+}
+
+}  // namespace zte

@@ -1,0 +1,24 @@
+// Key and character messages, routed to the code table, the number entry or the position-by-position entry.
+#pragma once
+
+#include "engine/record.h"
+
+namespace zte {
+
+// What became of a message: kept, or left to the edit control underneath.
+struct Reply {
+    bool kept;
+    intptr_t result;
+};
+constexpr Reply kPassOn{false, 0};
+constexpr Reply Keep(intptr_t result = 1)
+{
+    return {true, result};
+}
+
+// key and typed as the messages carry them: more than a key's or a character's number counts.
+Reply OnKeyDown(EditInstance& edit, uint32_t key, KeyData keyData);
+Reply OnKeyUp(EditInstance& edit, uint32_t key);
+Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData);
+
+}  // namespace zte

@@ -1,0 +1,104 @@
+// Values into the control: setting data, and setting data given as text.
+#include "engine/format/data.h"
+
+#include "engine/format/code_table.h"
+#include "engine/format/date_text.h"
+#include "engine/format/display.h"
+#include "engine/mask/mask_table.h"
+#include "engine/values/number_text.h"
+
+namespace zte {
+
+namespace {
+
+// A data pointer as the text to look up in the code table: none stands for no data.
+const Char* LookupText(const EditInstance& edit, const void* data)
+{
+    return edit.dataType == DT_STRING ? static_cast<const Char*>(data) : nullptr;
+}
+
+bool CanLookUp(const EditInstance& edit, const void* data)
+{
+    return !data || edit.dataType == DT_STRING;
+}
+
+// Shows the data through the code table; false when it is to be formatted.
+bool ShowCode(EditInstance& edit, const void* data)
+{
+    if (!edit.codeTable) {
+        edit.flags |= SPUN;
+        ShowText(edit, Text().c_str());
+        return true;
+    }
+    const Char* entry = CanLookUp(edit, data) ? DisplayTextForValue(edit, LookupText(edit, data)) : nullptr;
+    if (entry) {
+        edit.flags |= CODE_POSITIONED;
+        ShowText(edit, Text(entry).c_str());  // a copy: the parent may set another table meanwhile
+        return true;
+    }
+    if (Has(edit, CODE_PICKLIST))
+        edit.flags |= SPUN;
+    return false;
+}
+
+// The display is complete before the window hears of it: setting the text may take the control away.
+void ShowDisplay(EditInstance& edit, const Display& display)
+{
+    ShowText(edit, display.text.c_str());
+    if (Has(edit, SPUN))
+        return;
+    edit.formatFlags = display.formatFlags;
+    edit.firstFieldPos = display.firstFieldPos;
+    if (display.firstFieldPos != 0)
+        PlaceCaret(edit, display.firstFieldPos);
+}
+
+DateTimeValue DateTimeFromText(const EditInstance& edit, const Char* text)
+{
+    DateTimeValue value;
+    if (!ReadDisplayText(edit, text, value))
+        ParseCanonical(edit, text, value);
+    return value;
+}
+
+}  // namespace
+
+int32_t SetData(EditInstance& edit, const void* data)
+{
+    edit.carriedTo = 0;
+    SetFlag(edit, CODE_POSITIONED, false);
+    if (!edit.mask)
+        return 0;
+    if (Has(edit, CODE_SPIN) && ShowCode(edit, data))
+        return 1;
+    ChooseEditMode(edit);
+    ShowDisplay(edit, FormatValue(edit, data));
+    return 1;
+}
+
+int32_t SetDataString(EditInstance& edit, const Char* text)
+{
+    if (!text)
+        return SetData(edit, nullptr);
+    if (edit.dataType == DT_NUMBER) {
+        const double number = NumberFromPlainText(text);
+        return SetData(edit, &number);
+    }
+    if (edit.dataType == DT_DECIMAL) {
+        const DecimalValue decimal = services::DecimalOf(text, edit.decimalPlaces);
+        return SetData(edit, &decimal);
+    }
+    if (IsDateOrTime(edit.dataType) && edit.mask) {
+        const DateTimeValue value = DateTimeFromText(edit, text);
+        return SetData(edit, &value);
+    }
+    return SetData(edit, text);
+}
+
+void ChooseEditMode(EditInstance& edit)
+{
+    const bool hasLiterals = (edit.formatFlags & FORMAT_HAS_LITERALS) != 0;
+    SetFlag(edit, CHARWISE, hasLiterals || !IsNumeric(edit.dataType) || !edit.table->hasHash);
+}
+
+}  // namespace zte

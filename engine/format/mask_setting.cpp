@@ -1,0 +1,66 @@
+// Installs a mask in a control and shows the type's empty value under it.
+#include "engine/format/mask_setting.h"
+
+#include "engine/format/data.h"
+#include "engine/mask/mask_choice.h"
+#include "engine/mask/mask_table.h"
+#include "engine/mask/number_mask.h"
+#include "engine/values/date_time.h"
+
+namespace zte {
+
+namespace {
+
+FieldLayout LayoutOf(const EditInstance& edit)
+{
+    return {edit.yearDigits, edit.ampmPos, edit.monthPos,    edit.dayPos,     edit.minutePos,
+            edit.secondPos,  edit.hourPos, edit.fractionPos, edit.fractionLen, false};
+}
+
+void KeepLayout(EditInstance& edit, const FieldLayout& layout)
+{
+    edit.yearDigits = layout.yearDigits;
+    edit.ampmPos = layout.ampmPos;
+    edit.monthPos = layout.monthPos;
+    edit.dayPos = layout.dayPos;
+    edit.minutePos = layout.minutePos;
+    edit.secondPos = layout.secondPos;
+    edit.hourPos = layout.hourPos;
+    edit.fractionPos = layout.fractionPos;
+    edit.fractionLen = layout.fractionLen;
+    SetFlag(edit, AMPM, layout.hasAmPm);
+}
+
+void ShowEmptyValue(EditInstance& edit)
+{
+    if (IsNumeric(edit.dataType)) {
+        SetData(edit, nullptr);
+    } else if (edit.dataType == DT_STRING) {
+        const Text blanks(HasMask(edit) ? kMaxMaskLength : 0, ' ');
+        SetData(edit, blanks.c_str());
+    } else {
+        SetData(edit, &kEmptyDateTime);
+    }
+}
+
+}  // namespace
+
+int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
+{
+    edit.dataType = dataType;
+    FieldLayout layout = LayoutOf(edit);
+    const ChosenMask chosen = ChooseMask(mask ? mask : Text(), dataType, *edit.settings, layout);
+    KeepLayout(edit, layout);
+    InstallMask(edit, chosen.text);
+    edit.decimalPlaces = IsNumeric(dataType) ? CountDecimalPlaces(chosen.text) : 0;
+    SetFlag(edit, PERCENT, IsNumeric(dataType) && Find(chosen.text, '%') >= 0);
+    SetFlag(edit, SPUN, false);
+    edit.maskJustSet = 1;
+    edit.carriedTo = 0;
+    ChooseEditMode(edit);
+    if (!Has(edit, CODE_SPIN))
+        ShowEmptyValue(edit);
+    return chosen.asGiven ? 1 : 0;
+}
+
+}  // namespace zte

@@ -1,0 +1,11 @@
+// Installs a mask in a control and shows the type's empty value under it.
+#pragma once
+
+#include "engine/record.h"
+
+namespace zte {
+
+// mask: null counts as empty. 1 when it was installed, 0 when the type's default stands in.
+int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType);
+
+}  // namespace zte

@@ -1,0 +1,21 @@
+// Which mask a control gets: the one given, what a keyword stands for, or the default of the type.
+#pragma once
+
+#include "engine/mask/date_mask.h"
+#include "engine/text/text.h"
+#include "engine/values/settings.h"
+
+namespace zte {
+
+struct ChosenMask {
+    Text text;
+    bool asGiven;  // false: the mask was refused for its type, and the type's default stands in
+};
+
+// Expands keywords and checks the mask. What the checks see of date and time fields is written into layout.
+ChosenMask ChooseMask(const Text& mask, int32_t dataType, const Settings& settings, FieldLayout& layout);
+
+// True for the keywords that are built from the settings' date picture and time separator.
+bool IsPictureKeyword(const Char* mask);
+
+}  // namespace zte

@@ -1,0 +1,71 @@
+// The mask of a control, compiled once when it is set: what stands at every position of the display. It lives in the block of the
+// mask's text, so that a mask is one block of the control's heap.
+#pragma once
+
+#include "engine/mask/mask_positions.h"
+#include "engine/record.h"
+#include "engine/services.h"
+
+namespace zte {
+
+// A field as its offset and length in the mask's text; no length: the mask has no such field.
+struct MaskSpan {
+    int32_t offset;
+    int32_t length;
+};
+
+struct MaskTable {
+    const MaskPosition* positions;
+    int32_t count;
+    MaskPosition beyond;
+
+    int32_t ampmPosition;  // -1: no AM/PM field
+    MaskSpan year;
+    MaskSpan month;
+
+    // Numbers. The digits of most do not stand under their placeholders: positions follow the digits shown.
+    const services::NumberFormat* format;  // null for other types
+    int32_t textLength;                    // of the mask
+    int32_t point;                         // offset of the first '.' in the mask; -1
+    int32_t firstPlaceholder;              // display position of the first digit placeholder
+    bool followsDigits;
+    bool hasHash;      // a '#', which alone lets a number grow from its point
+    bool hasLiterals;  // the currency symbol alone, separators and '%' do not count
+};
+
+// What stands at a position, under the text shown. Past the end see MaskPositions::Beyond.
+MaskPosition PositionAt(const EditInstance& edit, const Text& text, int32_t position);
+
+// The same by the mask alone, for masks whose positions do not follow digits; nothing for the others.
+const MaskPosition& PositionOf(const EditInstance& edit, int32_t position);
+
+// True when the position may be typed at: the AM/PM position is not counted here.
+inline bool IsEditable(const EditInstance& edit, const Text& text, int32_t position)
+{
+    return PositionAt(edit, text, position).IsEditable();
+}
+
+inline bool HasAmPmField(const EditInstance& edit)
+{
+    return edit.table && edit.table->ampmPosition >= 0;
+}
+
+// True when the position is the first of the AM/PM field.
+inline bool IsAmPmPosition(const EditInstance& edit, int32_t position)
+{
+    return HasAmPmField(edit) && position == edit.table->ampmPosition;
+}
+
+// Where the caret may stop to type.
+inline bool MayTypeAt(const EditInstance& edit, const Text& text, int32_t position)
+{
+    return IsAmPmPosition(edit, position) || IsEditable(edit, text, position);
+}
+
+// Gives the control a mask: its text, the table, and displayLength. The mask before it is freed.
+void InstallMask(EditInstance& edit, const Text& mask);
+
+// Frees the mask.
+void DropMask(EditInstance& edit);
+
+}  // namespace zte

@@ -1,0 +1,207 @@
+// The services outside of the library's own DLLs: the engine's values, heaps that count their blocks, lists.
+#include <cstdlib>
+#include <new>
+
+#include "engine/services.h"
+#include "engine/text/writer.h"
+#include "engine/values/cursor_list.h"
+#include "engine/values/date_time.h"
+#include "engine/values/decimal_number.h"
+#include "engine/values/number_format.h"
+#include "engine/values/number_text.h"
+#include "engine/own_heap.h"
+
+struct SharedHeapData {
+    uint32_t blocks;
+};
+
+struct SharedListData {
+    SharedHeap heap;
+    uint32_t flags;
+    zte::CursorList list;
+};
+
+namespace zte {
+
+namespace {
+
+constexpr int32_t kRenderedSize = 1024;  // the largest double has 309 digits, 102 separators and a mask's worth of literals
+
+// Without memory there is nothing to go on with: callers never see null.
+void* OrEnd(void* block)
+{
+    if (!block)
+        std::abort();
+    return block;
+}
+
+Text Render(const services::NumberFormat& format, const DecimalDigits& number, const Settings& settings)
+{
+    Char buffer[kRenderedSize];
+    Writer output(buffer, kRenderedSize);
+    RenderNumber(output, format.compiled, number, settings);
+    return {buffer, static_cast<size_t>(output.Length())};
+}
+
+}  // namespace
+
+SharedHeap CreateHeap()
+{
+    return new (OrEnd(std::malloc(sizeof(SharedHeapData)))) SharedHeapData{0};
+}
+
+void DestroyHeap(SharedHeap heap)
+{
+    std::free(heap);
+}
+
+uint32_t BlockCount(SharedHeap heap)
+{
+    return heap->blocks;
+}
+
+namespace services {
+
+void* Allocate(SharedHeap heap, uint32_t size, uint32_t /*flags*/)
+{
+    ++heap->blocks;
+    return OrEnd(std::malloc(size > 0 ? size : 1));
+}
+
+void* Reallocate(SharedHeap heap, void* blockOrNull, uint32_t size, uint32_t flags)
+{
+    return blockOrNull ? OrEnd(std::realloc(blockOrNull, size > 0 ? size : 1)) : Allocate(heap, size, flags);
+}
+
+void Free(SharedHeap heap, void* block)
+{
+    if (!block)
+        return;
+    --heap->blocks;
+    std::free(block);
+}
+
+SharedList CreateList(SharedHeap heap, uint32_t flags)
+{
+    return new (Allocate(heap, sizeof(SharedListData), flags)) SharedListData{heap, flags, {}};
+}
+
+void DestroyList(SharedList list)
+{
+    Free(list->heap, list->list.elements);
+    Free(list->heap, list);
+}
+
+void Append(SharedList list, void* element)
+{
+    CursorList& room = list->list;
+    if (room.IsFull()) {
+        const int32_t capacity = room.NextCapacity();
+        const auto size = static_cast<uint32_t>(static_cast<size_t>(capacity) * sizeof(void*));
+        room.elements = static_cast<void**>(Reallocate(list->heap, room.elements, size, list->flags));
+        room.capacity = capacity;
+    }
+    room.Append(element);
+}
+
+void* First(SharedList list)
+{
+    return list->list.MoveTo(0);
+}
+
+void* Last(SharedList list)
+{
+    return list->list.MoveTo(list->list.count - 1);
+}
+
+void* Next(SharedList list)
+{
+    return list->list.MoveTo(list->list.cursor + 1);
+}
+
+void* Previous(SharedList list)
+{
+    return list->list.MoveTo(list->list.cursor - 1);
+}
+
+int32_t Tell(SharedList list)
+{
+    return list->list.cursor;
+}
+
+void Seek(SharedList list, int32_t position)
+{
+    list->list.MoveTo(position);
+}
+
+bool ParseDateTime(DateTimeValue& value, const Char* text, int32_t kind, const Settings& settings)
+{
+    return zte::ParseDateTime(value, text, kind, settings);
+}
+
+bool IsNumber(const Char* text, const Settings& settings)
+{
+    return IsNumberText(text, settings);
+}
+
+Char ToUpper(Char c, const Settings& settings)
+{
+    return settings.letters->upper(c);
+}
+
+Char ToLower(Char c, const Settings& settings)
+{
+    return settings.letters->lower(c);
+}
+
+bool CompileFormat(NumberFormat& format, const Text& text)
+{
+    if (!IsValidFormat(text.c_str()) || text.size() >= SHARED_FORMAT_SIZE)
+        return false;
+    Assign(format.compiled, text);
+    return true;
+}
+
+Text FormatDouble(const NumberFormat& format, double value, const Settings& settings)
+{
+    return Render(format, DecimalDigits::FromDouble(value), settings);
+}
+
+Text FormatDecimal(const NumberFormat& format, const DecimalValue& value, const Settings& settings)
+{
+    return Render(format, DecimalDigits::FromDecimal(value), settings);
+}
+
+DecimalValue DecimalOf(const Char* text, int32_t decimalPlaces)
+{
+    return decimal::Read(text, decimalPlaces);
+}
+
+DecimalValue DecimalOf(uint32_t number)
+{
+    return decimal::FromUnsigned(number);
+}
+
+DecimalValue Add(const DecimalValue& first, const DecimalValue& second)
+{
+    return Pack(Sum(decimal::Unpack(&first), decimal::Unpack(&second)));
+}
+
+DecimalValue Subtract(const DecimalValue& first, const DecimalValue& second)
+{
+    return Pack(Difference(decimal::Unpack(&first), decimal::Unpack(&second)));
+}
+
+DecimalValue Divide(const DecimalValue& first, const DecimalValue& second)
+{
+    return Pack(Quotient(decimal::Unpack(&first), decimal::Unpack(&second)));
+}
+
+int32_t Compare(const DecimalValue& first, const DecimalValue& second)
+{
+    return decimal::Compare(decimal::Unpack(&first), decimal::Unpack(&second));
+}
+
+}  // namespace services
+
+}  // namespace zte

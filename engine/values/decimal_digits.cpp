@@ -1,0 +1,85 @@
+// The decimal digits of doubles and decimals, and their rounding.
+#include "engine/values/decimal_digits.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "engine/text/ascii.h"
+#include "engine/values/wide_integer.h"
+
+namespace zte {
+
+DecimalDigits DecimalDigits::FromDouble(double value)
+{
+    DecimalDigits number;
+    if (!std::isfinite(value))
+        return number;
+    char text[kMaxDigits] = "";  // d.ddde+xxx
+    const auto written = std::to_chars(text, text + kMaxDigits, std::fabs(value), std::chars_format::scientific);
+    const char* const exponent = std::find(text, written.ptr, 'e') + 1;
+    for (const char* at = text; at < exponent; ++at)
+        if (*at >= '0' && *at <= '9')
+            number.Append(*at);
+    int32_t power = 0;
+    std::from_chars(exponent + (*exponent == '+'), written.ptr, power);
+    number.pointPos_ = power + 1;
+    number.negative_ = value < 0;
+    number.Normalize();
+    return number;
+}
+
+DecimalDigits DecimalDigits::FromDecimal(const DecimalValue& value)
+{
+    constexpr uint8_t kNegative = 0x80;
+    DecimalDigits number;
+    for (decimal::WideInteger rest(value.hi32, value.lo64); !rest.IsZero();)
+        number.Append(static_cast<char>('0' + rest.Divide(10)));
+    std::reverse(number.digits_, number.digits_ + number.count_);
+    number.pointPos_ = number.count_ - value.scale;
+    number.negative_ = (value.sign & kNegative) != 0;
+    number.Normalize();
+    return number;
+}
+
+void DecimalDigits::MultiplyByPowerOfTen(int32_t power)
+{
+    if (!IsZero())
+        pointPos_ += power;
+}
+
+// kept may lie before the first digit: a number that small has nothing to round up.
+void DecimalDigits::RoundToCount(int64_t kept)
+{
+    if (kept >= count_)
+        return;
+    const bool up = kept >= 0 && digits_[kept] >= '5';
+    count_ = kept > 0 ? static_cast<int32_t>(kept) : 0;
+    if (up)
+        Increment();
+    Normalize();
+}
+
+void DecimalDigits::Increment()
+{
+    while (count_ > 0 && digits_[count_ - 1] == '9')
+        --count_;
+    if (count_ > 0) {
+        ++digits_[count_ - 1];
+        return;
+    }
+    Append('1');
+    ++pointPos_;
+}
+
+void DecimalDigits::Normalize()
+{
+    while (count_ > 0 && digits_[count_ - 1] == '0')
+        --count_;
+    if (count_ > 0)
+        return;
+    pointPos_ = 0;
+    negative_ = false;
+}
+
+}  // namespace zte

@@ -1,0 +1,81 @@
+// Decimals in and out of their 16-byte record, with the one rounding that every operation shares.
+#include "engine/values/decimal_number.h"
+
+namespace zte::decimal {
+
+namespace {
+
+constexpr WideInteger kLargestDigits(UINT32_MAX, UINT64_MAX);
+constexpr int64_t kNothingLeft = 80;  // more digits dropped than 256 bits hold: the number rounds to zero
+
+int Sign(int64_t number)
+{
+    return (number > 0) - (number < 0);
+}
+
+// The digits divided by 10^count, rounded half to even.
+WideInteger DropDigits(const Number& number, int64_t count)
+{
+    WideInteger kept = number.digits;
+    uint32_t dropped = 0;
+    bool below = number.inexact;  // anything but zeros behind the first dropped digit
+    for (int64_t i = 0; i < count; ++i) {
+        below = below || dropped != 0;
+        dropped = kept.Divide(10);
+    }
+    const int againstHalf = dropped == 5 ? below : Sign(static_cast<int64_t>(dropped) - 5);
+    if (count > 0 && (againstHalf > 0 || (againstHalf == 0 && kept.IsOdd())))
+        kept.MultiplyAdd(1, 1);
+    return kept;
+}
+
+DecimalValue Record(const WideInteger& digits, int64_t scale, bool negative)
+{
+    DecimalValue stored{};
+    stored.scale = static_cast<uint8_t>(scale);
+    stored.sign = negative && !digits.IsZero() ? kNegative : uint8_t{0};
+    stored.hi32 = digits.High32();
+    stored.lo64 = digits.Low64();
+    return stored;
+}
+
+}  // namespace
+
+Number Unpack(const DecimalValue* value)
+{
+    Number number;
+    if (!value || value->scale > kLargestScale)
+        return number;
+    number.digits = WideInteger(value->hi32, value->lo64);
+    number.scale = value->scale;
+    number.negative = (value->sign & kNegative) != 0;
+    return number;
+}
+
+void AddTrailingZeros(Number& number, int64_t count)
+{
+    for (int64_t i = 0; i < count; ++i)
+        number.digits.MultiplyAdd(10, 0);
+    number.scale += count;
+}
+
+// Each try rounds the whole number anew: rounding an already rounded one could go the wrong way.
+DecimalValue Pack(const Number& number)
+{
+    int64_t drop = number.scale > kLargestScale ? number.scale - kLargestScale : 0;
+    if (drop > kNothingLeft)
+        return Record(WideInteger(), kLargestScale, false);
+    Number whole = number;
+    if (whole.scale < 0 && whole.digits.FitsIn96Bits())
+        AddTrailingZeros(whole, whole.scale < -kLargestScale - 1 ? kLargestScale + 1 : -whole.scale);
+    for (; drop <= whole.scale; ++drop) {
+        const WideInteger kept = DropDigits(whole, drop);
+        if (kept.FitsIn96Bits())
+            return Record(kept, whole.scale - drop, whole.negative);
+    }
+    if (whole.digits.IsZero())
+        return Record(WideInteger(), 0, false);
+    return Record(kLargestDigits, 0, number.negative);
+}
+
+}  // namespace zte::decimal

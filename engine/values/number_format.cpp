@@ -1,0 +1,114 @@
+// Reads and checks number formats.
+#include "engine/values/number_format.h"
+
+namespace zte {
+
+namespace {
+
+constexpr TokenKind KindOf(Char c)
+{
+    switch (c) {
+    case '0': return TokenKind::Digit;
+    case '#': return TokenKind::SignificantDigit;
+    case '.': return TokenKind::Point;
+    case ',': return TokenKind::Group;
+    case '%': return TokenKind::Percent;
+    default: return TokenKind::Literal;
+    }
+}
+
+// Takes the tokens of a format in their order.
+class ShapeReader {
+public:
+    void Take(TokenKind kind)
+    {
+        if (IsPlaceholder(kind))
+            TakePlaceholder(kind == TokenKind::Digit);
+        else if (kind == TokenKind::Point)
+            TakePoint();
+        else if (kind == TokenKind::Group)
+            TakeGroup();
+        else if (kind == TokenKind::Percent)
+            shape_.percent = true;
+        else if (kind == TokenKind::Invalid)
+            shape_.valid = false;
+    }
+
+    FormatShape Finish()
+    {
+        if (shape_.integerPlaces + shape_.fractionPlaces == 0)
+            shape_.valid = false;
+        return shape_;
+    }
+
+private:
+    void TakePlaceholder(bool forced)
+    {
+        if (shape_.percent)
+            shape_.valid = false;
+        if (shape_.point) {
+            ++shape_.fractionPlaces;
+            if (forced)
+                shape_.forcedFraction = shape_.fractionPlaces;
+            return;
+        }
+        shape_.grouped = shape_.grouped || groupPending_;
+        ++shape_.integerPlaces;
+        if (forced || shape_.forcedInteger > 0)
+            ++shape_.forcedInteger;
+    }
+
+    void TakePoint()
+    {
+        if (shape_.point)
+            shape_.valid = false;
+        shape_.point = true;
+    }
+
+    // It groups once a placeholder follows; elsewhere it has no meaning and shows nothing.
+    void TakeGroup()
+    {
+        if (shape_.point)
+            shape_.valid = false;
+        groupPending_ = shape_.integerPlaces > 0;
+    }
+
+    FormatShape shape_;
+    bool groupPending_ = false;
+};
+
+}  // namespace
+
+Token NextToken(const Char*& format)
+{
+    if (*format == Char{})
+        return {TokenKind::End, Char{}};
+    if (*format != '\\') {
+        const Char c = *format++;
+        return {KindOf(c), c};
+    }
+    ++format;
+    if (*format == Char{})
+        return {TokenKind::Invalid, Char{}};
+    return {TokenKind::Literal, *format++};
+}
+
+FormatShape ReadShape(const Char* format)
+{
+    ShapeReader reader;
+    for (Token token = NextToken(format); token.kind != TokenKind::End; token = NextToken(format))
+        reader.Take(token.kind);
+    return reader.Finish();
+}
+
+bool IsGeneralFormat(const Char* format)
+{
+    return Equals(format, "[GENERAL]");
+}
+
+bool IsValidFormat(const Char* format)
+{
+    return IsGeneralFormat(format) || ReadShape(format).valid;
+}
+
+}  // namespace zte

@@ -1,0 +1,51 @@
+// The language of number formats, read token by token, and what a whole format asks for.
+#pragma once
+
+#include <cstdint>
+
+#include "engine/text/text.h"
+#include "engine/text/writer.h"
+#include "engine/values/decimal_digits.h"
+#include "engine/values/settings.h"
+
+namespace zte {
+
+enum class TokenKind { End, Digit, SignificantDigit, Point, Group, Percent, Literal, Invalid };
+
+struct Token {
+    TokenKind kind;
+    Char text;  // of a Literal or a Percent
+};
+
+constexpr bool IsPlaceholder(TokenKind kind)
+{
+    return kind == TokenKind::Digit || kind == TokenKind::SignificantDigit;
+}
+
+// Takes the token at format and moves format behind it; at the end it stays.
+Token NextToken(const Char*& format);
+
+// What the placeholders of a format say together.
+struct FormatShape {
+    int32_t integerPlaces = 0;   // placeholders before the point
+    int32_t forcedInteger = 0;   // integer digits that are always shown
+    int32_t fractionPlaces = 0;  // placeholders behind the point
+    int32_t forcedFraction = 0;  // fraction digits that are always shown
+    bool point = false;
+    bool grouped = false;
+    bool percent = false;
+    bool valid = true;
+};
+
+FormatShape ReadShape(const Char* format);
+
+bool IsGeneralFormat(const Char* format);
+
+// Whether a text is a format that can be rendered. A compiled format is the text of a valid one: nothing is shorter, and it
+// needs no release.
+bool IsValidFormat(const Char* format);
+
+// Lays a number through a compiled format, with the settings' separators.
+void RenderNumber(Writer& output, const Char* compiled, const DecimalDigits& number, const Settings& settings);
+
+}  // namespace zte

@@ -1,0 +1,156 @@
+// Lays decimal digits through a number format: the one renderer behind doubles and decimals.
+#include "engine/text/ascii.h"
+#include "engine/values/number_format.h"
+
+namespace zte {
+
+namespace {
+
+constexpr int32_t kGroupSize = 3;
+constexpr int32_t kGeneralDigits = 15;  // significant digits, and zeros in front of them, that the plain form may have
+
+// One number on its way through one format.
+class Rendering {
+public:
+    Rendering(Writer& output, const Char* format, const DecimalDigits& number, const Settings& settings)
+        : output_(output), format_(format), shape_(ReadShape(format)), number_(number), settings_(settings)
+    {
+        if (shape_.percent)
+            number_.MultiplyByPowerOfTen(2);
+        number_.RoundToFractionDigits(shape_.fractionPlaces);
+        integerDigits_ = Larger(number_.PointPos(), shape_.forcedInteger);
+        fractionDigits_ = Larger(number_.FractionDigits(), shape_.forcedFraction);
+        placesLeft_ = shape_.integerPlaces;
+        digitsLeft_ = integerDigits_;
+    }
+
+    void Run()
+    {
+        for (Token token = NextToken(format_); token.kind != TokenKind::End; token = NextToken(format_))
+            Show(token);
+    }
+
+private:
+    static int32_t Larger(int32_t first, int32_t second) { return first > second ? first : second; }
+
+    void Show(const Token& token)
+    {
+        if (IsPlaceholder(token.kind))
+            ShowPlace();
+        else if (token.kind == TokenKind::Point)
+            ShowPoint();
+        else if (token.kind == TokenKind::Literal || token.kind == TokenKind::Percent)
+            output_.Put(token.text);
+    }
+
+    void ShowPlace()
+    {
+        if (inFraction_) {
+            ShowFractionPlace();
+            return;
+        }
+        --placesLeft_;
+        ShowIntegerDigits(placesLeft_);
+    }
+
+    // Digits until only those of the places to the right are left; the first place takes all that are too many.
+    void ShowIntegerDigits(int32_t remaining)
+    {
+        while (digitsLeft_ > remaining) {
+            ShowSign();
+            --digitsLeft_;
+            output_.Put(number_.At(number_.PointPos() - digitsLeft_ - 1));
+            if (shape_.grouped && digitsLeft_ > 0 && digitsLeft_ % kGroupSize == 0)
+                output_.Put(settings_.thousandChar);
+        }
+    }
+
+    void ShowPoint()
+    {
+        ShowIntegerDigits(0);
+        ShowSign();
+        output_.Put(settings_.decimalChar);
+        inFraction_ = true;
+    }
+
+    void ShowFractionPlace()
+    {
+        if (fractionShown_ == fractionDigits_)
+            return;
+        output_.Put(number_.At(number_.PointPos() + fractionShown_));
+        ++fractionShown_;
+    }
+
+    // Directly before the first digit or the point, whichever comes first.
+    void ShowSign()
+    {
+        if (number_.IsNegative() && !signShown_)
+            output_.Put(Char{'-'});
+        signShown_ = true;
+    }
+
+    Writer& output_;
+    const Char* format_;
+    FormatShape shape_;
+    DecimalDigits number_;
+    const Settings& settings_;
+    int32_t integerDigits_ = 0;
+    int32_t fractionDigits_ = 0;
+    int32_t placesLeft_ = 0;  // integer placeholders still to come
+    int32_t digitsLeft_ = 0;  // integer digits still to be shown
+    int32_t fractionShown_ = 0;
+    bool inFraction_ = false;
+    bool signShown_ = false;
+};
+
+void PutExponent(Writer& output, int32_t exponent)
+{
+    output.Put(Char{'E'});
+    output.Put(exponent < 0 ? Char{'-'} : Char{'+'});
+    const int32_t magnitude = exponent < 0 ? -exponent : exponent;
+    if (magnitude >= 100)
+        output.Put(DigitChar(magnitude / 100));
+    output.Put(DigitChar(magnitude / 10 % 10));
+    output.Put(DigitChar(magnitude % 10));
+}
+
+// Digits with integerDigits of them before the point; the point only when digits follow it.
+void PutPlain(Writer& output, const DecimalDigits& number, int32_t integerDigits, const Settings& settings)
+{
+    for (int32_t i = 0; i < integerDigits; ++i)
+        output.Put(number.At(i));
+    if (integerDigits <= 0)
+        output.Put(Char{'0'});
+    if (number.Count() <= integerDigits)
+        return;
+    output.Put(settings.decimalChar);
+    for (int32_t i = integerDigits; i < number.Count(); ++i)
+        output.Put(number.At(i));
+}
+
+void RenderGeneral(Writer& output, DecimalDigits number, const Settings& settings)
+{
+    number.RoundToSignificantDigits(kGeneralDigits);
+    if (number.IsZero()) {
+        output.Put(Char{'0'});
+        return;
+    }
+    if (number.IsNegative())
+        output.Put(Char{'-'});
+    const bool plain = number.PointPos() <= kGeneralDigits && number.PointPos() >= -kGeneralDigits;
+    PutPlain(output, number, plain ? number.PointPos() : 1, settings);
+    if (!plain)
+        PutExponent(output, number.PointPos() - 1);
+}
+
+}  // namespace
+
+void RenderNumber(Writer& output, const Char* compiled, const DecimalDigits& number, const Settings& settings)
+{
+    if (IsGeneralFormat(compiled))
+        RenderGeneral(output, number, settings);
+    else
+        Rendering(output, compiled, number, settings).Run();
+}
+
+}  // namespace zte

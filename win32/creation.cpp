@@ -1,0 +1,80 @@
+// Setting a control up from its EditInitParams, and taking it down.
+#include "win32/creation.h"
+
+#include <utility>
+
+#include "engine/format/data.h"
+#include "engine/format/mask_setting.h"
+#include "engine/spin/spin_settings.h"
+#include "win32/life_guard.h"
+#include "win32/record_store.h"
+#include "win32/regional_settings.h"
+#include "win32/spin_window.h"
+
+namespace zte {
+
+namespace {
+
+// The spin parameters, for a control created with a spin.
+void SetUpSpin(EditInstance& edit, const EditInitParams& params)
+{
+    if (Has(edit, HAS_SPIN))
+        SetSpin(edit, params.spinIncrement, params.spinRangeText, params.codeTableText, SpinStyleOf(params.options));
+}
+
+// Mask, initial data, and the spin child when asked for.
+void SetUpContents(EditInstance& edit, const EditInitParams& params)
+{
+    ReadPicturesFor(params.maskText);
+    SetMask(edit, params.maskText, edit.dataType);
+    if (params.initialData)
+        SetDataString(edit, params.initialData);
+    if (Has(edit, HAS_SPIN))
+        CreateHiddenSpin(edit);
+}
+
+}  // namespace
+
+int32_t SetUpControl(HWND hwnd, const EditInitParams& params)
+{
+    DiscardRecord(hwnd);
+    EditInstance& edit = NewRecord(hwnd, params);
+    return WhileAlive(edit, 0, [&] {
+        SetUpSpin(edit, params);
+        edit.controlId = static_cast<uint32_t>(GetWindowLongA(hwnd, GWL_ID));
+        edit.hwndParent = GetParent(hwnd);
+        SetUpContents(edit, params);
+        return 1;
+    });
+}
+
+LRESULT CreateControl(HWND hwnd, WPARAM wParam, LPARAM lParam)
+{
+    const auto& creation = *reinterpret_cast<const CREATESTRUCTA*>(lParam);
+    const auto* params = static_cast<const EditInitParams*>(creation.lpCreateParams);
+    if (!params || !params->heap)
+        return CallBaseEdit(hwnd, WM_CREATE, wParam, lParam);
+
+    EditInstance& edit = NewRecord(hwnd, *params);
+    return WhileAlive<LRESULT>(edit, -1, [&] {
+        SetUpSpin(edit, *params);
+        edit.controlId = static_cast<uint32_t>(reinterpret_cast<uintptr_t>(creation.hMenu));
+        edit.hwndParent = creation.hwndParent;
+        const LRESULT result = FieldOf(edit).ToBase(WM_CREATE, wParam, lParam);
+        if (result != -1)
+            SetUpContents(edit, *params);
+        return result;
+    });
+}
+
+void DiscardRecord(HWND hwnd)
+{
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (!edit)
+        return;
+    if (void* spin = std::exchange(edit->hwndSpin, nullptr))
+        DestroyWindow(static_cast<HWND>(spin));
+    FreeRecord(hwnd, *edit);
+}
+
+}  // namespace zte

@@ -1,0 +1,138 @@
+// The exported functions of ztedit.h, each around a function of the engine: they find the record, and survive its going away.
+#include "engine/format/data.h"
+#include "engine/format/display.h"
+#include "engine/format/mask_setting.h"
+#include "engine/format/read_back.h"
+#include "engine/heap_block.h"
+#include "engine/spin/range.h"
+#include "engine/spin/spin_settings.h"
+#include "win32/creation.h"
+#include "win32/life_guard.h"
+#include "win32/record_store.h"
+#include "win32/regional_settings.h"
+#include "win32/spin_layout.h"
+#include "win32/spin_window.h"
+#include "ztedit.h"
+
+using namespace zte;
+
+int32_t WINAPI ZTE_Init(HWND hwnd, const EditInitParams* params)
+{
+    return params && params->heap && IsWindow(hwnd) ? SetUpControl(hwnd, *params) : 0;
+}
+
+void WINAPI ZTE_SetAutoskip(HWND hwnd, uint32_t on)
+{
+    if (EditInstance* edit = GetEditInstance(hwnd))
+        SetFlag(*edit, AUTOSKIP, (on & 1) != 0);
+}
+
+void WINAPI ZTE_UtilSetFormatRect(HWND hwnd)
+{
+    if (const EditInstance* edit = GetEditInstance(hwnd))
+        edit->field->KeepLayout();
+}
+
+int32_t WINAPI ZTE_FmtSetMask(HWND hwnd, const char* mask, int32_t dataType)
+{
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (!edit)
+        return 1;
+    ReadPicturesFor(mask);
+    return WhileAlive(*edit, 1, [&] { return SetMask(*edit, mask, dataType); });
+}
+
+int32_t WINAPI ZTE_FmtSetData(HWND hwnd, const void* data)
+{
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (!edit)
+        return 0;
+    return WhileAlive(*edit, 0, [&] { return SetData(*edit, data); });
+}
+
+int32_t WINAPI ZTE_FmtSetDataString(HWND hwnd, const char* text)
+{
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (!edit)
+        return 0;
+    return WhileAlive(*edit, 0, [&] { return SetDataString(*edit, text); });
+}
+
+void* WINAPI ZTE_FmtGetData(HWND hwnd)
+{
+    const EditInstance* edit = GetEditInstance(hwnd);
+    return edit ? GetData(*edit) : nullptr;
+}
+
+uint16_t WINAPI ZTE_FmtGetDataType(HWND hwnd)
+{
+    const EditInstance* edit = GetEditInstance(hwnd);
+    return edit ? static_cast<uint16_t>(edit->dataType) : uint16_t{0};
+}
+
+FormatResult* WINAPI ZTE_FmtFormatData(HWND hwnd, const void* data)
+{
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (!edit)
+        return nullptr;
+    const Display display = FormatValue(*edit, data);
+    auto* result = NewBlock<FormatResult>(*edit);
+    result->text = Duplicate(*edit, display.text);
+    result->formatFlags = display.formatFlags;
+    result->firstFieldPos = display.firstFieldPos;
+    return result;
+}
+
+void* WINAPI ZTE_FmtUnformatData(HWND hwnd, const char* text)
+{
+    const EditInstance* edit = GetEditInstance(hwnd);
+    return edit ? UnformatData(*edit, text) : nullptr;
+}
+
+void WINAPI ZTE_SetSpin(HWND hwnd, uint32_t increment, const char* range, const char* codeTable, uint32_t style)
+{
+    if (EditInstance* edit = GetEditInstance(hwnd))
+        SetSpin(*edit, increment, range, codeTable, style);
+}
+
+void WINAPI ZTE_CreateSpin(HWND hwnd)
+{
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (edit && !edit->hwndSpin)
+        WhileAlive(*edit, [&] { CreateSpin(*edit); });
+}
+
+void WINAPI ZTE_DestroySpin(HWND hwnd)
+{
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (edit && edit->hwndSpin)
+        WhileAlive(*edit, [&] { DestroySpin(*edit); });
+}
+
+void WINAPI ZTE_SetSpinBkColor(HWND hwnd, COLORREF colour)
+{
+    if (EditInstance* edit = GetEditInstance(hwnd))
+        edit->spinBkColor = colour;
+}
+
+int16_t WINAPI ZTE_GetSpinWidth(HWND hwnd, const RECT* rect)
+{
+    const EditInstance* edit = GetEditInstance(hwnd);
+    if (!edit)
+        return 0;
+    return EvenSpinWidth(rect ? *rect : ClientOf(SpinOf(*edit)));
+}
+
+int16_t WINAPI ZTE_SpinDateRange(HWND hwnd, DateTimeValue* value, const char* text)
+{
+    const EditInstance* edit = GetEditInstance(hwnd);
+    return edit && value && text ? static_cast<int16_t>(ReadRangeEnd(*edit, *value, text)) : int16_t{1};
+}
+
+int16_t WINAPI ZTE_SpinRangeCompare(HWND hwnd, const void* first, const void* second)
+{
+    const EditInstance* edit = GetEditInstance(hwnd);
+    if (!edit)
+        return 1;
+    return first && second && IsOutOfOrder(edit->dataType, first, second);
+}

@@ -1,0 +1,89 @@
+// Messages that keep the spin child placed, shown and painted beside the text.
+#include "win32/placement.h"
+
+#include "win32/life_guard.h"
+#include "win32/spin_layout.h"
+#include "win32/spin_window.h"
+#include "ztedit.h"
+
+namespace zte {
+
+namespace {
+
+void Invalidate(HWND hwnd)
+{
+    InvalidateRect(hwnd, nullptr, TRUE);
+}
+
+bool IsEmptyWindow(HWND hwnd)
+{
+    RECT rect{};
+    GetWindowRect(hwnd, &rect);
+    return rect.right <= rect.left || rect.bottom <= rect.top;
+}
+
+// The spin sits flush right inside the client area, as high as it.
+void PlaceSpin(EditInstance& edit)
+{
+    if (IsEmptyWindow(WindowOf(edit)))
+        return;
+    const RECT client = ClientOf(WindowOf(edit));
+    const auto height = static_cast<int16_t>(client.bottom - client.top);
+    const int16_t width = EvenSpinWidth(client);
+    DropFaces(edit);
+    MoveWindow(SpinOf(edit), client.right - width, client.top, width, height, TRUE);
+    ShowWindow(SpinOf(edit), SW_SHOW);
+}
+
+// Passes a message on that makes the base lay its formatting rectangle anew, and narrows it again.
+Reply PassOnAndKeepTextOffSpin(EditInstance& edit, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const LRESULT result = FieldOf(edit).ToBase(message, wParam, lParam);
+    KeepTextOffSpin(edit);
+    return Keep(result);
+}
+
+}  // namespace
+
+Reply OnMove(EditInstance& edit)
+{
+    SetFlag(edit, CODE_POSITIONED, false);
+    return kPassOn;
+}
+
+Reply OnSize(EditInstance& edit, WPARAM wParam, LPARAM lParam)
+{
+    if (!edit.hwndSpin)
+        return kPassOn;
+    PlaceSpin(edit);
+    return PassOnAndKeepTextOffSpin(edit, WM_SIZE, wParam, lParam);
+}
+
+Reply OnFocus(EditInstance& edit)
+{
+    if (edit.hwndSpin)
+        Invalidate(SpinOf(edit));
+    return kPassOn;
+}
+
+// A spin that came with ZTE_Init has seen no WM_SIZE yet; the first paint places it.
+Reply OnPaint(EditInstance& edit)
+{
+    if (!edit.hwndSpin)
+        return kPassOn;
+    if (IsEmptyWindow(SpinOf(edit)))
+        PlaceSpin(edit);
+    ShowWindow(SpinOf(edit), SW_SHOW);
+    Invalidate(SpinOf(edit));
+    UpdateWindow(SpinOf(edit));
+    return kPassOn;
+}
+
+// The base sees the font twice: kept, hosts that watch the edit underneath rely on it.
+Reply OnSetFont(EditInstance& edit, WPARAM wParam, LPARAM lParam)
+{
+    CallBaseEdit(WindowOf(edit), WM_SETFONT, wParam, lParam);
+    return PassOnAndKeepTextOffSpin(edit, WM_SETFONT, wParam, lParam);
+}
+
+}  // namespace zte

@@ -1,0 +1,16 @@
+// Messages that keep the spin child placed, shown and painted beside the text.
+#pragma once
+
+#include <windows.h>
+
+#include "engine/edit/keyboard.h"
+
+namespace zte {
+
+Reply OnMove(EditInstance& edit);
+Reply OnSize(EditInstance& edit, WPARAM wParam, LPARAM lParam);
+Reply OnFocus(EditInstance& edit);
+Reply OnPaint(EditInstance& edit);
+Reply OnSetFont(EditInstance& edit, WPARAM wParam, LPARAM lParam);
+
+}  // namespace zte

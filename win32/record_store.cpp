@@ -1,0 +1,94 @@
+// The record of a control: made in the caller's heap, found by the window property "MAIN".
+#include "win32/record_store.h"
+
+#include <new>
+
+#include "engine/spin/spin_settings.h"
+#include "win32/life_guard.h"
+#include "win32/regional_settings.h"
+
+namespace zte {
+
+namespace {
+
+constexpr char kRecordProperty[] = "MAIN";
+
+// The movable block that holds the record's address; its handle is the property's value.
+class LockedBlock {
+public:
+    explicit LockedBlock(HGLOBAL block) : block_(block), address_(static_cast<EditInstance**>(GlobalLock(block))) {}
+    LockedBlock(const LockedBlock&) = delete;
+    LockedBlock& operator=(const LockedBlock&) = delete;
+    ~LockedBlock()
+    {
+        if (address_)
+            GlobalUnlock(block_);
+    }
+    EditInstance** get() const { return address_; }
+
+private:
+    HGLOBAL block_;
+    EditInstance** address_;
+};
+
+// The record comes first: what hosts find under the property is its address.
+struct Control {
+    EditInstance record{};
+    StandardField field{record};
+};
+
+}  // namespace
+
+EditInstance& NewRecord(HWND hwnd, const EditInitParams& params)
+{
+    auto* control = new (SharedHeapAlloc(params.heap, sizeof(Control), params.heapFlags)) Control;
+    EditInstance& edit = control->record;
+    AttachEditInstance(hwnd, &edit);
+    edit.heap = params.heap;
+    edit.heapFlags = params.heapFlags;
+    edit.dataType = params.dataType;
+    edit.hwnd = hwnd;
+    edit.field = &control->field;
+    edit.settings = &regionalSettings;
+    edit.clock = Now;
+    ApplyOptions(edit, params.options);
+    return edit;
+}
+
+void FreeRecord(HWND hwnd, EditInstance& edit)
+{
+    LifeGuard::TellAll(FieldOf(edit));
+    DetachEditInstance(hwnd);
+    SharedHeapFree(edit.heap, &edit);
+}
+
+void AttachEditInstance(HWND hwnd, EditInstance* edit)
+{
+    DetachEditInstance(hwnd);
+    HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, sizeof(EditInstance*));
+    {
+        const LockedBlock locked(block);
+        if (!locked.get())
+            return;
+        *locked.get() = edit;
+    }
+    if (!SetPropA(hwnd, kRecordProperty, block))
+        GlobalFree(block);
+}
+
+EditInstance* GetEditInstance(HWND hwnd)
+{
+    HGLOBAL block = GetPropA(hwnd, kRecordProperty);
+    if (!block)
+        return nullptr;
+    const LockedBlock locked(block);
+    return locked.get() ? *locked.get() : nullptr;
+}
+
+void DetachEditInstance(HWND hwnd)
+{
+    if (HGLOBAL block = RemovePropA(hwnd, kRecordProperty))
+        GlobalFree(block);
+}
+
+}  // namespace zte

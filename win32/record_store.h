@@ -1,0 +1,26 @@
+// The record of a control: made in the caller's heap, found by the window property "MAIN".
+#pragma once
+
+#include <windows.h>
+
+#include "engine/record.h"
+#include "ztedit.h"
+
+namespace zte {
+
+// Makes the record of a control with its field, and attaches it.
+EditInstance& NewRecord(HWND hwnd, const EditInitParams& params);
+
+// Frees the record and detaches it.
+void FreeRecord(HWND hwnd, EditInstance& edit);
+
+// Stores the record under the window's property; a block already there is freed first.
+void AttachEditInstance(HWND hwnd, EditInstance* edit);
+
+// The record of a window, or null.
+EditInstance* GetEditInstance(HWND hwnd);
+
+// Removes the property and its block; the record itself is not freed.
+void DetachEditInstance(HWND hwnd);
+
+}  // namespace zte

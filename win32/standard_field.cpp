@@ -1,0 +1,234 @@
+// The field of a control in a window: the standard edit control underneath.
+#include "win32/standard_field.h"
+
+#include "win32/life_guard.h"
+#include "win32/spin_layout.h"
+#include "ztedit.h"
+
+namespace zte {
+
+WNDPROC baseEditProc;
+
+namespace {
+
+constexpr int kPressed = 0x8000;
+
+// A text limit below the text shown would cut what is put in its place; it is raised for the replacement.
+class RaisedLimit {
+public:
+    explicit RaisedLimit(HWND hwnd) : hwnd_(hwnd)
+    {
+        limit_ = CallBaseEdit(hwnd_, EM_GETLIMITTEXT, 0, 0);
+        const LRESULT length = CallBaseEdit(hwnd_, WM_GETTEXTLENGTH, 0, 0);
+        raised_ = limit_ < length;
+        if (raised_)
+            CallBaseEdit(hwnd_, EM_SETLIMITTEXT, static_cast<WPARAM>(length), 0);
+    }
+    RaisedLimit(const RaisedLimit&) = delete;
+    RaisedLimit& operator=(const RaisedLimit&) = delete;
+    ~RaisedLimit()
+    {
+        if (raised_)
+            CallBaseEdit(hwnd_, EM_SETLIMITTEXT, static_cast<WPARAM>(limit_), 0);
+    }
+
+private:
+    HWND hwnd_;
+    LRESULT limit_;
+    bool raised_;
+};
+
+class OpenedClipboard {
+public:
+    explicit OpenedClipboard(HWND hwnd) : open_(OpenClipboard(hwnd) != FALSE) {}
+    OpenedClipboard(const OpenedClipboard&) = delete;
+    OpenedClipboard& operator=(const OpenedClipboard&) = delete;
+    ~OpenedClipboard()
+    {
+        if (open_)
+            CloseClipboard();
+    }
+    bool IsOpen() const { return open_; }
+
+private:
+    bool open_;
+};
+
+bool HasStyle(HWND hwnd, LONG style)
+{
+    return (GetWindowLongA(hwnd, GWL_STYLE) & style) != 0;
+}
+
+void NotifyParent(HWND hwnd, HWND parent, uint16_t code)
+{
+    const auto id = static_cast<uint16_t>(GetWindowLongA(hwnd, GWL_ID));
+    SendMessageA(parent, WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(hwnd));
+}
+
+}  // namespace
+
+LRESULT CallBaseEdit(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return CallWindowProcA(baseEditProc, hwnd, message, wParam, lParam);
+}
+
+RECT ClientOf(HWND hwnd)
+{
+    RECT client{};
+    GetClientRect(hwnd, &client);
+    return client;
+}
+
+LRESULT StandardField::ToBase(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const LifeCheck life(*this);
+    const LRESULT result = CallBaseEdit(Window(), message, wParam, lParam);
+    life.Check();
+    return result;
+}
+
+void StandardField::ToControl(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const LifeCheck life(*this);
+    SendMessageA(Window(), message, wParam, lParam);
+    life.Check();
+}
+
+Text StandardField::ReadText() const
+{
+    const LRESULT length = CallBaseEdit(Window(), WM_GETTEXTLENGTH, 0, 0);
+    if (length <= 0)
+        return {};
+    Text text(static_cast<size_t>(length) + 1, '\0');
+    const LRESULT copied = CallBaseEdit(Window(), WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+    text.resize(copied > 0 ? static_cast<size_t>(copied) : 0);
+    return text;
+}
+
+Selection StandardField::ReadSelection() const
+{
+    const auto packed = static_cast<uint32_t>(CallBaseEdit(Window(), EM_GETSEL, 0, 0));
+    return {static_cast<int32_t>(packed & 0xFFFF), static_cast<int32_t>(packed >> 16)};
+}
+
+bool StandardField::IsHeld(Key key) const
+{
+    return (GetKeyState(key) & kPressed) != 0;
+}
+
+bool StandardField::RefusesInput() const
+{
+    return HasStyle(Window(), ES_READONLY | WS_DISABLED);
+}
+
+std::optional<Text> StandardField::ReadClipboard() const
+{
+    const OpenedClipboard clipboard(Window());
+    HANDLE data = clipboard.IsOpen() ? GetClipboardData(CF_TEXT) : nullptr;
+    const auto* text = data ? static_cast<const char*>(GlobalLock(data)) : nullptr;
+    if (!text)
+        return std::nullopt;
+    Text copy(text, BoundedLength(text, GlobalSize(data)));
+    GlobalUnlock(data);
+    return copy;
+}
+
+void StandardField::Select(int32_t start, int32_t end)
+{
+    ToControl(EM_SCROLLCARET, 0, 0);
+    ToControl(EM_SETSEL, static_cast<WPARAM>(start), end);
+}
+
+void StandardField::SetText(const Char* text)
+{
+    const LifeCheck life(*this);
+    SetWindowTextA(Window(), text);
+    life.Check();
+}
+
+void StandardField::ReplaceSelection(const Char* text)
+{
+    const RaisedLimit limit(Window());
+    ToBase(EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text));
+    CallBaseEdit(Window(), EM_EMPTYUNDOBUFFER, 0, 0);
+}
+
+void StandardField::PressArrow(Key key, KeyData keyData, int32_t times)
+{
+    for (int32_t i = 0; i < times; ++i) {
+        ToBase(WM_KEYDOWN, static_cast<WPARAM>(key), keyData);
+        ToBase(WM_KEYUP, static_cast<WPARAM>(key), keyData);
+    }
+}
+
+void StandardField::PressDown(Key key, KeyData keyData)
+{
+    ToBase(WM_KEYDOWN, static_cast<WPARAM>(key), keyData);
+}
+
+void StandardField::TypeChar(Char character, KeyData keyData)
+{
+    ToBase(WM_CHAR, static_cast<unsigned char>(character), keyData);
+}
+
+void StandardField::SetModified()
+{
+    CallBaseEdit(Window(), EM_SETMODIFY, TRUE, 0);
+}
+
+void StandardField::HoldShift(bool down)
+{
+    BYTE keys[256];
+    if (!GetKeyboardState(keys))
+        return;
+    keys[VK_SHIFT] = down ? 0x80 : 0;
+    SetKeyboardState(keys);
+}
+
+// Turning redrawing on makes a window visible, so a hidden one (or one whose host has redrawing off) is left alone.
+void StandardField::SetRedraw(bool on)
+{
+    const bool visible = HasStyle(Window(), WS_VISIBLE);
+    if (on ? !redrawOff_ : !visible)
+        return;
+    redrawOff_ = !on;
+    CallBaseEdit(Window(), WM_SETREDRAW, on, 0);
+}
+
+void StandardField::KeepLayout()
+{
+    if (Has(edit_, HAS_SPIN))
+        NarrowFormatRect(Window());
+}
+
+void StandardField::Repaint()
+{
+    InvalidateRect(Window(), nullptr, TRUE);
+}
+
+void StandardField::RepaintSpin()
+{
+    if (edit_.hwndSpin)
+        InvalidateRect(SpinOf(edit_), nullptr, FALSE);
+}
+
+void StandardField::Beep()
+{
+    MessageBeep(0);
+}
+
+void StandardField::NotifyFull()
+{
+    const LifeCheck life(*this);
+    NotifyParent(Window(), static_cast<HWND>(edit_.hwndParent), ZTN_AUTOSKIP);
+    life.Check();
+}
+
+void StandardField::NotifyStepped()
+{
+    const LifeCheck life(*this);
+    NotifyParent(Window(), GetParent(Window()), EN_CHANGE);
+    life.Check();
+}
+
+}  // namespace zte

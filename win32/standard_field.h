@@ -1,0 +1,77 @@
+// The field of a control in a window: the standard edit control underneath. Calls that may make the control go away (by what its
+// parent does on a notification) throw ControlGone when it did; see life_guard.h.
+#pragma once
+
+#include <windows.h>
+
+#include "engine/record.h"
+
+namespace zte {
+
+class LifeGuard;
+
+extern WNDPROC baseEditProc;  // procedure of the system "edit" class
+
+LRESULT CallBaseEdit(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+class StandardField final : public Field {
+public:
+    explicit StandardField(EditInstance& edit) : edit_(edit) {}
+
+    Text ReadText() const override;
+    Selection ReadSelection() const override;
+    bool IsHeld(Key key) const override;
+    bool RefusesInput() const override;
+    std::optional<Text> ReadClipboard() const override;
+
+    // Sent to the control, so that a host's subclass sees them.
+    void Select(int32_t start, int32_t end) override;
+    void SetText(const Char* text) override;
+
+    // To the standard edit control alone.
+    void ReplaceSelection(const Char* text) override;
+    void PressArrow(Key key, KeyData keyData, int32_t times) override;
+    void PressDown(Key key, KeyData keyData) override;
+    void TypeChar(Char character, KeyData keyData) override;
+    void SetModified() override;
+
+    void HoldShift(bool down) override;
+    void SetRedraw(bool on) override;
+    void KeepLayout() override;
+    void Repaint() override;
+    void RepaintSpin() override;
+
+    void Beep() override;
+    void NotifyFull() override;
+    void NotifyStepped() override;
+
+    // A message to the standard edit control, or to the control itself.
+    LRESULT ToBase(UINT message, WPARAM wParam, LPARAM lParam);
+    void ToControl(UINT message, WPARAM wParam, LPARAM lParam);
+
+    LifeGuard* guard = nullptr;  // innermost entry into the library that works on this control
+
+private:
+    HWND Window() const { return static_cast<HWND>(edit_.hwnd); }
+
+    EditInstance& edit_;
+    bool redrawOff_ = false;  // redrawing was turned off by the library
+};
+
+inline HWND WindowOf(const EditInstance& edit)
+{
+    return static_cast<HWND>(edit.hwnd);
+}
+inline HWND SpinOf(const EditInstance& edit)
+{
+    return static_cast<HWND>(edit.hwndSpin);
+}
+inline StandardField& FieldOf(const EditInstance& edit)
+{
+    return static_cast<StandardField&>(*edit.field);
+}
+
+// The client rectangle of a window, in pixels.
+RECT ClientOf(HWND hwnd);
+
+}  // namespace zte

@@ -1,0 +1,75 @@
+// The window procedure of the masked edit: finds the record, routes the message, and keeps it or passes it on.
+#include "engine/edit/paste.h"
+#include "win32/creation.h"
+#include "win32/life_guard.h"
+#include "win32/mouse.h"
+#include "win32/placement.h"
+#include "win32/record_store.h"
+#include "win32/regional_settings.h"
+
+namespace zte {
+
+namespace {
+
+Reply OnPaste(EditInstance& edit)
+{
+    PasteClipboard(edit);
+    return Keep();
+}
+
+// Routes a message that the control handles. False for all others, the library's own EM_ messages among them: they are passed
+// on without a look-up of the record.
+template <typename Handler>
+bool Dispatch(UINT message, WPARAM wParam, LPARAM lParam, Handler&& handle)
+{
+    const auto number = static_cast<uint32_t>(wParam);
+    switch (message) {
+    case WM_MOVE: return handle([](EditInstance& edit) { return OnMove(edit); });
+    case WM_SIZE: return handle([=](EditInstance& edit) { return OnSize(edit, wParam, lParam); });
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS: return handle([](EditInstance& edit) { return OnFocus(edit); });
+    case WM_PAINT: return handle([](EditInstance& edit) { return OnPaint(edit); });
+    case WM_SETFONT: return handle([=](EditInstance& edit) { return OnSetFont(edit, wParam, lParam); });
+    case WM_KEYDOWN: return handle([=](EditInstance& edit) { return OnKeyDown(edit, number, lParam); });
+    case WM_KEYUP: return handle([=](EditInstance& edit) { return OnKeyUp(edit, number); });
+    case WM_CHAR: return handle([=](EditInstance& edit) { return OnChar(edit, number, lParam); });
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK: return handle([](EditInstance& edit) { return OnButtonDown(edit); });
+    case WM_LBUTTONUP: return handle([=](EditInstance& edit) { return OnButtonUp(edit, wParam, lParam); });
+    case WM_PASTE: return handle([](EditInstance& edit) { return OnPaste(edit); });
+    default: return false;
+    }
+}
+
+// True when the control kept the message; kept with result 0 when the control is gone: nothing is left to pass the message on to.
+bool IsKept(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
+{
+    return Dispatch(message, wParam, lParam, [&](auto&& work) {
+        EditInstance* edit = GetEditInstance(hwnd);
+        if (!edit)
+            return false;
+        const Reply reply = WhileAlive(*edit, Keep(0), [&] { return work(*edit); });
+        result = reply.result;
+        return reply.kept;
+    });
+}
+
+}  // namespace
+
+}  // namespace zte
+
+using namespace zte;
+
+LRESULT CALLBACK ZTE_SuperEditWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_CREATE)
+        return CreateControl(hwnd, wParam, lParam);
+    if (message == WM_WININICHANGE)
+        ReadIntlSettings();
+    if (message == WM_DESTROY)
+        DiscardRecord(hwnd);
+    LRESULT result = 0;
+    if (message != WM_DESTROY && IsKept(hwnd, message, wParam, lParam, result))
+        return result;
+    return CallBaseEdit(hwnd, message, wParam, lParam);
+}
