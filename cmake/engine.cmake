@@ -1,8 +1,11 @@
-# The engine, as static libraries, of which a program takes what it needs:
+# The engine as static libraries, of which a program takes what it needs.
+#
+# On Windows:
 #   zt_values    engine/text and engine/values: what the companion libraries are made of, too
-#   zt_editing   the floors above them
-#   zt_memory    the field in memory and the engine's own services, for programs without the library's DLLs
-# and zt_engine: all of them.
+#   zt_editing   the floors above them; the program that links it provides the services
+#   zt_memory    the field in memory, which the tests hold to the system's own
+# Elsewhere:
+#   zt_engine    all of it, with its own services
 
 function(zt_add_floor name)
     set(sources)
@@ -14,19 +17,17 @@ function(zt_add_floor name)
     target_link_libraries(${name} PUBLIC zt_build_flags)
 endfunction()
 
-zt_add_floor(zt_values engine/text engine/values)
-zt_add_floor(zt_editing engine/mask engine/format engine/spin engine/edit)
-zt_add_floor(zt_memory engine)
-
-target_link_libraries(zt_editing PUBLIC zt_values)
-target_link_libraries(zt_memory PUBLIC zt_values)
-add_library(zt_engine INTERFACE)
-target_link_libraries(zt_engine INTERFACE zt_editing zt_memory zt_values)
-
-# The engine throws nothing and asks no object for its type; a build without either says so. (In the library a field may unwind
-# through it.)
-if(NOT WIN32)
-    foreach(floor zt_values zt_editing zt_memory)
-        target_compile_options(${floor} PRIVATE -fno-exceptions -fno-rtti)
-    endforeach()
+set(zt_value_folders engine/text engine/values)
+set(zt_editing_folders engine/mask engine/format engine/spin engine/edit)
+if(WIN32)
+    zt_add_floor(zt_values ${zt_value_folders})
+    zt_add_floor(zt_editing ${zt_editing_folders})
+    target_link_libraries(zt_editing PUBLIC zt_values)
+    add_library(zt_memory STATIC ${CMAKE_SOURCE_DIR}/engine/memory_field.cpp)
+    target_link_libraries(zt_memory PUBLIC zt_values)
+else()
+    zt_add_floor(zt_engine ${zt_value_folders} ${zt_editing_folders} engine)
+    # The engine throws nothing and asks no object for its type; a build without either says so. (In the library a field may
+    # unwind through it.)
+    target_compile_options(zt_engine PRIVATE -fno-exceptions -fno-rtti)
 endif()

@@ -4,21 +4,7 @@ set(INSTALL_GTEST OFF)
 set(BUILD_GMOCK ON)  # only what a test program links is built
 add_subdirectory(${ZT_GOOGLETEST_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
 
-# The tests of the engine run on fields in memory, and on Windows on live windows, by the support that they are linked with.
-file(GLOB zt_engine_tests CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/engine/*.cpp)
-if(NOT WIN32)
-    file(GLOB zt_support_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
-        ${CMAKE_SOURCE_DIR}/tests/support/native/*.cpp)
-    add_executable(test_engine ${zt_engine_tests} ${zt_support_sources})
-    target_link_libraries(test_engine PRIVATE zt_engine gtest)
-    # The engine is compiled without type information, which this check would ask its classes for.
-    set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/support/native/masked_edit.cpp
-        PROPERTIES COMPILE_OPTIONS -fno-sanitize=vptr)
-    add_test(NAME engine COMMAND test_engine --gtest_brief=1)
-    set_tests_properties(engine PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
-    return()
-endif()
-
+# Here the tests of tests/engine run on live windows; on fields in memory see native_tests.cmake.
 file(GLOB zt_support_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
     ${CMAKE_SOURCE_DIR}/tests/support/live/*.cpp)
 add_library(zt_test_flags INTERFACE)
@@ -55,12 +41,14 @@ function(zt_add_test_program folder)
 endfunction()
 
 file(GLOB zt_test_folders CONFIGURE_DEPENDS LIST_DIRECTORIES true RELATIVE ${CMAKE_SOURCE_DIR}/tests ${CMAKE_SOURCE_DIR}/tests/*)
-list(REMOVE_ITEM zt_test_folders support units abi demo)
+list(REMOVE_ITEM zt_test_folders support units abi demo properties)
 foreach(folder IN LISTS zt_test_folders)
     if(IS_DIRECTORY ${CMAKE_SOURCE_DIR}/tests/${folder})
         zt_add_test_program(${folder} ztedit050 ztshared ztdecimal)
     endif()
 endforeach()
+# The spin's window is tested with the fixture of the spin's steps.
+target_sources(test_win32 PRIVATE ${CMAKE_SOURCE_DIR}/tests/spin/spin_test.cpp)
 # The libraries as a customer meets them: loaded by name, so not linked here, and linked into a program in C.
 zt_add_test_program(abi gtest_main version)
 add_executable(abi_customer ${CMAKE_SOURCE_DIR}/tests/abi/abi_customer.c)

@@ -1,10 +1,14 @@
 #!/bin/bash
 # Installs what building, testing and the demo need on Debian 12; does nothing when all is there.
-# Usage: tools/install_deps.sh [--clang]     (--clang: the second compiler and the code checkers as well)
+# Usage: tools/install_deps.sh [--clang | --bench | --coverage]
+#     --clang      the second compiler and the code checkers as well
+#     --bench      what measuring the engine needs, --coverage what counting covered lines needs
 set -euo pipefail
 
 # package:file that shows it is there
 packages=(
+    g++:g++
+    g++-multilib:/usr/lib/gcc/x86_64-linux-gnu/12/32/libstdc++.a
     g++-mingw-w64-i686-posix:/usr/bin/i686-w64-mingw32-g++-posix
     g++-mingw-w64-x86-64-posix:/usr/bin/x86_64-w64-mingw32-g++-posix
     cmake:cmake
@@ -19,9 +23,11 @@ packages=(
     imagemagick:import
     fonts-liberation:/usr/share/fonts/truetype/liberation
 )
-if [ "${1:-}" = --clang ]; then
-    packages+=(clang:clang++ clang-format:clang-format clang-tidy:clang-tidy)
-fi
+case ${1:-} in
+--clang) packages+=(clang:clang++ clang-format:clang-format clang-tidy:clang-tidy) ;;
+--bench) packages+=(libbenchmark-dev:/usr/include/benchmark/benchmark.h valgrind:valgrind) ;;
+--coverage) packages+=(gcovr:gcovr) ;;
+esac
 
 fail()
 {

@@ -105,15 +105,14 @@ TEST_P(BuiltLibrary, TellsVersionAndName)
     EXPECT_STREQ(static_cast<const char*>(value), GetParam().library);
 }
 
-INSTANTIATE_TEST_SUITE_P(Libraries, BuiltLibrary,
-                         testing::Values(
-                             NeededCase{
-                                 "ztdecimal.dll", {"kernel32.dll", "msvcrt.dll"}
-},
-                             NeededCase{"ztshared.dll", {"kernel32.dll", "msvcrt.dll"}},
-                             NeededCase{kControlLibrary,
-                                        {"gdi32.dll", "kernel32.dll", "msvcrt.dll", "user32.dll", "ztdecimal.dll",
-                                         "ztshared.dll"}}),
+// clang-format off
+const NeededCase kLibraries[] = {
+    {"ztdecimal.dll", {"kernel32.dll", "msvcrt.dll"}},
+    {"ztshared.dll",  {"kernel32.dll", "msvcrt.dll"}},
+    {kControlLibrary, {"gdi32.dll", "kernel32.dll", "msvcrt.dll", "user32.dll", "ztdecimal.dll", "ztshared.dll"}},
+};
+// clang-format on
+INSTANTIATE_TEST_SUITE_P(Libraries, BuiltLibrary, testing::ValuesIn(kLibraries),
                          [](const auto& row) { return StemOf(row.param.library); });
 
 class MonthName : public testing::TestWithParam<UINT> {};

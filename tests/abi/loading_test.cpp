@@ -93,8 +93,8 @@ TEST_F(LoadedLibrary, RegistersTheSpinForItself)
 TEST_F(LoadedLibrary, HasAnExitProcedureThatMayBeCalledAnyTime)
 {
     const auto exitProcedure = FunctionOf<decltype(&WEP)>(library_, "WEP");
-    exitProcedure(0);
-    exitProcedure(1);
+    EXPECT_EQ(exitProcedure(0), 1);
+    EXPECT_EQ(exitProcedure(1), 1);
     EXPECT_TRUE(ClassExists(library_.module(), ZTEDIT_CLASS));
 }
 
@@ -125,14 +125,18 @@ std::string TypeIntoADate(const Library& library)
 TEST(LoadingAgain, WorksEveryTimeAndUnloadingTakesTheClassesAway)
 {
     for (int round = 0; round < 20; ++round) {
+        HMODULE gone = nullptr;
         {
             const Library library("ztedit050.dll");
             ASSERT_NE(library.module(), nullptr);
+            gone = library.module();
+            EXPECT_TRUE(ClassExists(gone, ZTEDIT_CLASS)) << round;
+            EXPECT_TRUE(ClassExists(gone, "spin")) << round;
             EXPECT_EQ(TypeIntoADate(library), "02/04/95") << round;
         }
         ASSERT_EQ(GetModuleHandleA("ztedit050.dll"), nullptr) << round;
         EXPECT_FALSE(ClassExists(GetModuleHandleA(nullptr), ZTEDIT_CLASS)) << round;
-        EXPECT_FALSE(ClassExists(nullptr, "spin")) << round;
+        EXPECT_FALSE(ClassExists(gone, "spin")) << round;
     }
 }
 

@@ -58,6 +58,7 @@ const FieldCase kFields[] = {
     {"DecimalHigh",          offsetof(DecimalValue,   hi32),          4,  4 },
     {"DecimalLow",           offsetof(DecimalValue,   lo64),          8,  8 },
     {"DecimalPlatformScale", offsetof(DECIMAL,        scale),         2,  2 },
+    {"DecimalPlatformSign",  offsetof(DECIMAL,        sign),          3,  3 },
     {"DecimalPlatformHigh",  offsetof(DECIMAL,        Hi32),          4,  4 },
     {"DecimalPlatformLow",   offsetof(DECIMAL,        Lo64),          8,  8 },
 };

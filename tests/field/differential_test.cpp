@@ -69,8 +69,7 @@ constexpr Weight kWeights[] = {
 
 constexpr int32_t kKeys[] = {0x08, 0x09, 0x0D, 0x21, 0x22, 0x23, 0x24, 0x25, 0x25, 0x25, 0x26, 0x27, 0x27, 0x27,
                              0x28, 0x2D, 0x2D, 0x2E, 0x2E, 0x2E, 0x2E, 'A',  'C',  'V',  'X',  'Z',  '1'};
-constexpr int32_t kStyles[] = {kPlainStyle, kPlainStyle,  kPlainStyle,   kUpperStyle,
-                               kLowerStyle, kDigitsStyle, kReadOnlyStyle};
+constexpr int32_t kStyles[] = {kPlain, kPlain, kPlain, kUpper, kLower, kDigits, kReadOnly};
 constexpr char kFrequentChars[] = "abc xyz  AZ09.,-\b\b\b\b";
 constexpr char kWordChars[] = "abc xyz  AZ09";
 constexpr char kFrequentControls[] = "\x01\x03\x08\x16\x18\x1a\x7f";
@@ -87,7 +86,7 @@ public:
         Script scripts;
         for (uint32_t i = 0; i < kScriptsPerControl; ++i) {
             scripts.push_back({Action::Limit, zte::MemoryField::kDefaultLimit, 0, {}});
-            scripts.push_back({Action::ReadOnly, (style & kReadOnlyStyle) != 0, 0, {}});
+            scripts.push_back({Action::ReadOnly, (style & kReadOnly) != 0, 0, {}});
             for (uint32_t length = 1 + Below(kLongestScript); length > 0; --length)
                 scripts.push_back(MakeOperation());
         }

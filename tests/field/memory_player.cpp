@@ -23,11 +23,11 @@ std::string Narrowed(const zte::Text& text)
 zte::FieldStyle StyleOf(int32_t style, zte::Char (*foldCase)(zte::Char, zte::LetterCase))
 {
     zte::FieldStyle result;
-    result.readOnly = (style & kReadOnlyStyle) != 0;
-    result.digitsOnly = (style & kDigitsStyle) != 0;
-    if (style & kUpperStyle)
+    result.readOnly = (style & kReadOnly) != 0;
+    result.digitsOnly = (style & kDigits) != 0;
+    if (style & kUpper)
         result.letterCase = zte::LetterCase::Upper;
-    if (style & kLowerStyle)
+    if (style & kLower)
         result.letterCase = zte::LetterCase::Lower;
     result.foldCase = foldCase;
     return result;

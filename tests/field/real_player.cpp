@@ -21,10 +21,10 @@ struct StyleBit {
 };
 
 constexpr StyleBit kStyleBits[] = {
-    {kReadOnlyStyle, ES_READONLY },
-    {kUpperStyle,    ES_UPPERCASE},
-    {kLowerStyle,    ES_LOWERCASE},
-    {kDigitsStyle,   ES_NUMBER   },
+    {kReadOnly, ES_READONLY },
+    {kUpper,    ES_UPPERCASE},
+    {kLower,    ES_LOWERCASE},
+    {kDigits,   ES_NUMBER   },
 };
 
 DWORD BitsOf(int32_t style)

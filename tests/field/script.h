@@ -1,7 +1,7 @@
-// Scripts for an edit control, real or in memory: what is done to it, written as in keystroke tables, and what is seen after.
+// Scripts for an edit control, real or in memory: what is done to it, written as in keystroke tables, and what is seen.
 //
-// A script is a text of characters to type, keys such as {Left}, {Shift+End} or {Ctrl+Del}, and messages such as {text:abc},
-// {sel:1,3} or {undo}; the names stand in script.cpp. Braces cannot be typed.
+// A script is a text of characters to type, keys such as {Left}, {Shift+End} or {Ctrl+Del}, and messages such as
+// {text:abc}, {sel:1,3} or {undo}; the names stand in script.cpp. Braces cannot be typed.
 #pragma once
 
 #include <cstdint>
@@ -59,11 +59,11 @@ std::string Quoted(const std::string& text);
 
 // Styles of a control, for rows and scripts.
 enum Style : int32_t {
-    kPlainStyle = 0,
-    kReadOnlyStyle = 1,
-    kUpperStyle = 2,
-    kLowerStyle = 4,
-    kDigitsStyle = 8,
+    kPlain = 0,
+    kReadOnly = 1,
+    kUpper = 2,
+    kLower = 4,
+    kDigits = 8,
 };
 
 // What is seen from outside.

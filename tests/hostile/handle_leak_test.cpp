@@ -182,6 +182,15 @@ TEST_F(Handles, OfMemoryAreGivenBack)
     EXPECT_LT(MemoryBlocks(), before + kLives);  // a lost block a control would make six a life
 }
 
+TEST_F(Handles, OfMemoryAreSeenByTheCount)
+{
+    const int before = MemoryBlocks();
+    const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, 100);
+    EXPECT_GT(MemoryBlocks(), before);
+    GlobalFree(block);
+    EXPECT_EQ(MemoryBlocks(), before);
+}
+
 TEST_F(Handles, OfPropertiesAreGivenBack)
 {
     Config config;

@@ -29,6 +29,17 @@ protected:
         config.increment = 1;
         Make(config);
     }
+
+    // Whatever came before: a spin set up anew steps.
+    void ExpectItSteps()
+    {
+        ZTE_FmtSetMask(Window(), "##0", DT_NUMBER);
+        ZTE_SetSpin(Window(), 1, "1~9", nullptr, 0);
+        control_->AcceptHeap();
+        ZTE_FmtSetDataString(Window(), "5");
+        Press(VK_UP);
+        EXPECT_EQ(Text(), "6");
+    }
     void Step()
     {
         PutCaret(0);
@@ -59,19 +70,23 @@ TEST_P(RangeText, IsSurvived)
         Step();
         DateTimeValue value = {};
         ZTE_SpinDateRange(Window(), &value, GetParam().text.c_str());
-        control_->AcceptHeap();
+        ExpectItSteps();
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, RangeText,
-                         testing::Values(SpinText{"Nines", std::string(100000, '9')},
-                                         SpinText{"Tildes", std::string(100000, '~')},
-                                         SpinText{"LongEnds", std::string(50000, '1') + "~" + std::string(50000, '2')},
-                                         SpinText{"Letters", std::string(100000, 'x')},
-                                         SpinText{"HighBytes", std::string(100000, '\xE4')},
-                                         SpinText{"Reversed", "9~1"}, SpinText{"Empty", ""},
-                                         SpinText{"WrongDates", "2001-02-30~1995-13-13"}),
-                         RowName<SpinText>);
+// clang-format off
+const SpinText kRanges[] = {
+    {"Nines",      std::string(100000, '9')},
+    {"Tildes",     std::string(100000, '~')},
+    {"LongEnds",   std::string(50000, '1') + "~" + std::string(50000, '2')},
+    {"Letters",    std::string(100000, 'x')},
+    {"HighBytes",  std::string(100000, '\xE4')},
+    {"Reversed",   "9~1"},
+    {"Empty",      ""},
+    {"WrongDates", "2001-02-30~1995-13-13"},
+};
+// clang-format on
+INSTANTIATE_TEST_SUITE_P(Texts, RangeText, testing::ValuesIn(kRanges), RowName<SpinText>);
 
 class CodeTableText : public SpinTextTest {};
 
@@ -85,6 +100,7 @@ TEST_P(CodeTableText, IsSurvived)
             Step();
             SharedHeapFree(control_->heap(), ZTE_FmtGetData(Window()));
             ZTE_FmtSetData(Window(), nullptr);
+            ExpectItSteps();
         }
 }
 
@@ -96,16 +112,21 @@ std::string ManyEntries(int count)
     return text;
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, CodeTableText,
-                         testing::Values(SpinText{"OneLongText", std::string(100000, 'x')},
-                                         SpinText{"OneLongValue", "x\t" + std::string(100000, 'y')},
-                                         SpinText{"Slashes", std::string(100000, '/')},
-                                         SpinText{"Tabs", std::string(100000, '\t')},
-                                         SpinText{"HighBytes", std::string(100000, '\xE4')},
-                                         SpinText{"ManyEntries", ManyEntries(5000)}, SpinText{"Empty", ""},
-                                         SpinText{"OneSlash", "/"}, SpinText{"OneTab", "\t"},
-                                         SpinText{"ThirtyThreeThousandEntries", ManyEntries(33000)}),
-                         RowName<SpinText>);
+// clang-format off
+const SpinText kCodeTables[] = {
+    {"OneLongText",                std::string(100000, 'x')},
+    {"OneLongValue",               "x\t" + std::string(100000, 'y')},
+    {"Slashes",                    std::string(100000, '/')},
+    {"Tabs",                       std::string(100000, '\t')},
+    {"HighBytes",                  std::string(100000, '\xE4')},
+    {"ManyEntries",                ManyEntries(5000)},
+    {"Empty",                      ""},
+    {"OneSlash",                   "/"},
+    {"OneTab",                     "\t"},
+    {"ThirtyThreeThousandEntries", ManyEntries(33000)},
+};
+// clang-format on
+INSTANTIATE_TEST_SUITE_P(Texts, CodeTableText, testing::ValuesIn(kCodeTables), RowName<SpinText>);
 
 TEST_F(EditTest, SettingTheSpinAgainAndAgainGivesTheRangeBack)
 {

@@ -1,5 +1,5 @@
-// The regional settings as controls follow them: every key of the profile section "intl", its default, and what a change
-// does to open controls.
+// The regional settings as controls follow them: every key of the profile section "intl", its default, and what a
+// change does to open controls.
 #include "tests/format/value_test.h"
 
 namespace zttest {
@@ -39,50 +39,48 @@ class IntlKey : public ValueTest, public testing::WithParamInterface<IntlKeyCase
 TEST_P(IntlKey, IsFollowed)
 {
     const IntlKeyCase& row = GetParam();
-    const Regional settings(With(kUnitedStates, {
-                                                    {row.key, row.value}
-    }));
+    const ProfileValue key = {row.key, row.value};
+    const Regional settings(With(kUnitedStates, RegionalSet{key}));
     Install(row.mask, row.type);
     EXPECT_EQ(ShownFor(row.data), row.shown);
 }
 
 const IntlKeyCase kKeyRows[] = {
-    {"DecimalAbsent",                          "sDecimal",    nullptr,       "#.00",          DT_NUMBER, "1.5",        "1.50"        },
-    {"DecimalComma",                           "sDecimal",    ",",           "[currency(8)]", DT_NUMBER, "1.5",        "$1,50"       },
-    {"DecimalOfTwoCharactersIsItsFirst",       "sDecimal",    ":;",          "[currency(8)]", DT_NUMBER, "1.5",        "$1:50"       },
-    {"DecimalEmptyIsWrittenAsAPoint",          "sDecimal",    "",            "#.00",          DT_NUMBER, "1.5",        "1.50"        },
-    {"ThousandAbsent",                         "sThousand",   nullptr,       "#,#.00",        DT_NUMBER, "1234.5",     "1,234.50"    },
-    {"ThousandEmptyIsAComma",                  "sThousand",   "",            "#,#.00",        DT_NUMBER, "1234.5",     "1,234.50"    },
-    {"ThousandApostrophe",                     "sThousand",   "'",           "[currency(8)]", DT_NUMBER, "1234.5",     "$1'234.50"   },
-    {"ThousandOfTwoCharactersIsItsFirst",      "sThousand",   "_-",          "[currency(8)]", DT_NUMBER, "1234.5",     "$1_234.50"   },
-    {"CurrencyAbsent",                         "sCurrency",   nullptr,       "[currency(8)]", DT_NUMBER, "1.5",        "$1.50"       },
-    {"CurrencyEmptyStaysEmpty",                "sCurrency",   "",            "[currency(8)]", DT_NUMBER, "1.5",        "1.50"        },
-    {"CurrencyIsTakenWhole",                   "sCurrency",   "guilders",    "[currency(8)]", DT_NUMBER, "1.5",        "guilders1.50"},
-    {"CurrencyPositionAbsent",                 "iCurrency",   nullptr,       "[currency(8)]", DT_NUMBER, "1.5",        "$1.50"       },
-    {"CurrencyPositionBehind",                 "iCurrency",   "1",           "[currency(8)]", DT_NUMBER, "1.5",        "1.50$"       },
-    {"CurrencyPositionThreeHasNoBlank",        "iCurrency",   "3",           "[currency(8)]", DT_NUMBER, "1.5",        "1.50$"       },
-    {"CurrencyPositionNoNumberIsZero",         "iCurrency",   "x",           "[currency(8)]", DT_NUMBER, "1.5",        "$1.50"       },
-    {"CurrencyDigitsAbsent",                   "iCurrDigits", nullptr,       "[currency(8)]", DT_NUMBER, "1.5",        "$1.50"       },
-    {"CurrencyDigitsThree",                    "iCurrDigits", "3",           "[currency(8)]", DT_NUMBER, "1.5",        "$1.500"      },
-    {"CurrencyDigitsNone",                     "iCurrDigits", "0",           "[currency(8)]", DT_NUMBER, "1.4",        "$1"          },
-    {"NegativeFormatIsNotFollowed",            "iNegCurr",    "5",           "[currency(8)]", DT_NUMBER, "-1.5",       "$-1.50"      },
-    {"AmAbsent",                               "s1159",       nullptr,       "HH:MM AM/PM",   DT_TIME,   "01:05",      "01:05 AM"    },
-    {"AmEmpty",                                "s1159",       "",            "HH:MM AM/PM",   DT_TIME,   "01:05",      "01:05 AM"    },
-    {"AmOfFourCharacters",                     "s1159",       "a.m.",        "HH:MM AM/PM",   DT_TIME,   "01:05",      "01:05 a.m."  },
-    {"AmOfFiveCharactersIsCutToFour",          "s1159",       "a.m.m",       "HH:MM AM/PM",   DT_TIME,   "01:05",      "01:05 a.m."  },
-    {"PmAbsent",                               "s2359",       nullptr,       "HH:MM AM/PM",   DT_TIME,   "13:05",      "01:05 PM"    },
-    {"PmEmpty",                                "s2359",       "",            "HH:MM AM/PM",   DT_TIME,   "13:05",      "01:05 PM"    },
-    {"PmOfFourCharacters",                     "s2359",       "p.m.",        "HH:MM AM/PM",   DT_TIME,   "13:05",      "01:05 p.m."  },
-    {"PmOfALongWordIsCutToFour",               "s2359",       "nachmittags", "HH:MM AM/PM",   DT_TIME,   "13:05",      "01:05 nach"  },
-    {"ShortDateAbsent",                        "sShortDate",  nullptr,       "[date]",        DT_DATE,   "1995-07-04", "07/04/95"    },
-    {"ShortDateDayFirst",                      "sShortDate",  "dd.MM.yyyy",  "[date]",        DT_DATE,   "1995-07-04", "04.07.1995"  },
-    {"ShortDateYearFirst",                     "sShortDate",  "yyyy-MM-dd",  "[date]",        DT_DATE,   "1995-07-04", "1995-07-04"  },
-    {"ShortDateOfSingleLetters",               "sShortDate",  "d/M/yy",      "[date]",        DT_DATE,   "1995-07-04", "04/07/95"    },
-    {"ShortDateWithAMonthNameIsShownInDigits", "sShortDate",  "dd-MMM-yyyy", "[date]",        DT_DATE,   "1995-07-04",
-     "04-07-1995"                                                                                                                    },
-    {"TimeAbsent",                             "sTime",       nullptr,       "[time]",        DT_TIME,   "14:07:09",   "14:07:09"    },
-    {"TimePoint",                              "sTime",       ".",           "[time]",        DT_TIME,   "14:07:09",   "14.07.09"    },
-    {"TimeEmpty",                              "sTime",       "",            "[time]",        DT_TIME,   "14:07:09",   "140709"      },
+    {"DecimalAbsent",          "sDecimal",    nullptr,       "#.00",          DT_NUMBER, "1.5",        "1.50"        },
+    {"DecimalComma",           "sDecimal",    ",",           "[currency(8)]", DT_NUMBER, "1.5",        "$1,50"       },
+    {"DecimalFirstCharacter",  "sDecimal",    ":;",          "[currency(8)]", DT_NUMBER, "1.5",        "$1:50"       },
+    {"DecimalEmptyIsAPoint",   "sDecimal",    "",            "#.00",          DT_NUMBER, "1.5",        "1.50"        },
+    {"ThousandAbsent",         "sThousand",   nullptr,       "#,#.00",        DT_NUMBER, "1234.5",     "1,234.50"    },
+    {"ThousandEmptyIsAComma",  "sThousand",   "",            "#,#.00",        DT_NUMBER, "1234.5",     "1,234.50"    },
+    {"ThousandApostrophe",     "sThousand",   "'",           "[currency(8)]", DT_NUMBER, "1234.5",     "$1'234.50"   },
+    {"ThousandFirstCharacter", "sThousand",   "_-",          "[currency(8)]", DT_NUMBER, "1234.5",     "$1_234.50"   },
+    {"CurrencyAbsent",         "sCurrency",   nullptr,       "[currency(8)]", DT_NUMBER, "1.5",        "$1.50"       },
+    {"CurrencyEmptyIsEmpty",   "sCurrency",   "",            "[currency(8)]", DT_NUMBER, "1.5",        "1.50"        },
+    {"CurrencyIsTakenWhole",   "sCurrency",   "guilders",    "[currency(8)]", DT_NUMBER, "1.5",        "guilders1.50"},
+    {"CurrencyPositionAbsent", "iCurrency",   nullptr,       "[currency(8)]", DT_NUMBER, "1.5",        "$1.50"       },
+    {"CurrencyPositionBehind", "iCurrency",   "1",           "[currency(8)]", DT_NUMBER, "1.5",        "1.50$"       },
+    {"CurrencyPositionThree",  "iCurrency",   "3",           "[currency(8)]", DT_NUMBER, "1.5",        "1.50$"       },
+    {"CurrencyPositionWord",   "iCurrency",   "x",           "[currency(8)]", DT_NUMBER, "1.5",        "$1.50"       },
+    {"CurrencyDigitsAbsent",   "iCurrDigits", nullptr,       "[currency(8)]", DT_NUMBER, "1.5",        "$1.50"       },
+    {"CurrencyDigitsThree",    "iCurrDigits", "3",           "[currency(8)]", DT_NUMBER, "1.5",        "$1.500"      },
+    {"CurrencyDigitsNone",     "iCurrDigits", "0",           "[currency(8)]", DT_NUMBER, "1.4",        "$1"          },
+    {"NegativeFormatIgnored",  "iNegCurr",    "5",           "[currency(8)]", DT_NUMBER, "-1.5",       "$-1.50"      },
+    {"AmAbsent",               "s1159",       nullptr,       "HH:MM AM/PM",   DT_TIME,   "01:05",      "01:05 AM"    },
+    {"AmEmpty",                "s1159",       "",            "HH:MM AM/PM",   DT_TIME,   "01:05",      "01:05 AM"    },
+    {"AmOfFourCharacters",     "s1159",       "a.m.",        "HH:MM AM/PM",   DT_TIME,   "01:05",      "01:05 a.m."  },
+    {"AmOfFiveCharacters",     "s1159",       "a.m.m",       "HH:MM AM/PM",   DT_TIME,   "01:05",      "01:05 a.m."  },
+    {"PmAbsent",               "s2359",       nullptr,       "HH:MM AM/PM",   DT_TIME,   "13:05",      "01:05 PM"    },
+    {"PmEmpty",                "s2359",       "",            "HH:MM AM/PM",   DT_TIME,   "13:05",      "01:05 PM"    },
+    {"PmOfFourCharacters",     "s2359",       "p.m.",        "HH:MM AM/PM",   DT_TIME,   "13:05",      "01:05 p.m."  },
+    {"PmOfALongWordIsCut",     "s2359",       "nachmittags", "HH:MM AM/PM",   DT_TIME,   "13:05",      "01:05 nach"  },
+    {"ShortDateAbsent",        "sShortDate",  nullptr,       "[date]",        DT_DATE,   "1995-07-04", "07/04/95"    },
+    {"ShortDateDayFirst",      "sShortDate",  "dd.MM.yyyy",  "[date]",        DT_DATE,   "1995-07-04", "04.07.1995"  },
+    {"ShortDateYearFirst",     "sShortDate",  "yyyy-MM-dd",  "[date]",        DT_DATE,   "1995-07-04", "1995-07-04"  },
+    {"ShortDateSingleLetters", "sShortDate",  "d/M/yy",      "[date]",        DT_DATE,   "1995-07-04", "04/07/95"    },
+    {"ShortDateWithMonthName", "sShortDate",  "dd-MMM-yyyy", "[date]",        DT_DATE,   "1995-07-04", "04-07-1995"  },
+    {"TimeAbsent",             "sTime",       nullptr,       "[time]",        DT_TIME,   "14:07:09",   "14:07:09"    },
+    {"TimePoint",              "sTime",       ".",           "[time]",        DT_TIME,   "14:07:09",   "14.07.09"    },
+    {"TimeEmpty",              "sTime",       "",            "[time]",        DT_TIME,   "14:07:09",   "140709"      },
 };
 INSTANTIATE_TEST_SUITE_P(, IntlKey, testing::ValuesIn(kKeyRows), RowName<IntlKeyCase>);
 

@@ -22,4 +22,11 @@ int MaskedEdit::Count(Notice notice) const
     return static_cast<int>(std::count(Notices().begin(), Notices().end(), notice));
 }
 
+std::vector<std::string> FieldRecorder::Redraws() const
+{
+    std::vector<std::string> told = Told();
+    told.erase(std::remove(told.begin(), told.end(), "text"), told.end());
+    return told;
+}
+
 }  // namespace zttest

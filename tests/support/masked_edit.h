@@ -158,6 +158,7 @@ public:
     ~FieldRecorder();
 
     std::vector<std::string> Told() const;
+    std::vector<std::string> Redraws() const;  // without "text"
     void Forget();
 
 private:

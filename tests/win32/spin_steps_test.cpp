@@ -1,5 +1,6 @@
 // Stepping as only a spin's window can do it: by the mouse on its arrows, by its timer, and beside a window that moves; and
 // the exports for its width and colour.
+#include "tests/support/live/base_recorder.h"
 #include "tests/support/live/spin_window_test.h"
 
 namespace zttest {
@@ -124,6 +125,46 @@ const OutsideCase kOutsideRows[] = {
     {"MovesACodeTableBackward", "XXXX",       DT_STRING, "a\t1/b\t2/c\t3", nullptr,       "b"         },
 };
 INSTANTIATE_TEST_SUITE_P(Fields, StepWithoutDirection, testing::ValuesIn(kOutsideRows), RowName<OutsideCase>);
+
+// Turning redrawing on would show the control.
+struct HiddenStep {
+    const char* name;
+    const char* mask;
+    int32_t type;
+    const char* data;
+};
+void PrintTo(const HiddenStep& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class StepOfAHiddenControl : public SpinWindowTest, public testing::WithParamInterface<HiddenStep> {};
+
+TEST_P(StepOfAHiddenControl, LeavesRedrawingAlone)
+{
+    Config config;
+    config.mask = GetParam().mask;
+    config.type = GetParam().type;
+    config.data = GetParam().data;
+    config.options = ZTEO_SPIN;
+    config.increment = 1;
+    config.style = WS_CHILD | ES_AUTOHSCROLL;
+    Make(config);
+    const BaseRecorder recorder;
+    Up();
+    EXPECT_TRUE(recorder.Of(WM_SETREDRAW).empty());
+    EXPECT_EQ(GetWindowLongA(Window(), GWL_STYLE) & WS_VISIBLE, 0);
+}
+
+const HiddenStep kHiddenSteps[] = {
+    {"Number",   "##0",            DT_NUMBER,   "7"               },
+    {"Decimal",  "##0",            DT_DECIMAL,  "7"               },
+    {"Date",     "MM/DD/YY",       DT_DATE,     "1995-07-04"      },
+    {"Time",     "HH:MM",          DT_TIME,     "10:20"           },
+    {"DateTime", "MM/DD/YY HH:MM", DT_DATETIME, "1995-07-04 10:20"},
+    {"String",   "AAAA",           DT_STRING,   "abcd"            },
+};
+INSTANTIATE_TEST_SUITE_P(Types, StepOfAHiddenControl, testing::ValuesIn(kHiddenSteps), RowName<HiddenStep>);
 
 struct Width {
     const char* name;

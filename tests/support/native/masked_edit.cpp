@@ -7,16 +7,12 @@
 #include <ctime>
 #include <utility>
 
-#include "engine/edit/click.h"
-#include "engine/edit/keyboard.h"
-#include "engine/edit/paste.h"
 #include "engine/format/data.h"
 #include "engine/format/display.h"
 #include "engine/format/mask_setting.h"
 #include "engine/format/read_back.h"
 #include "engine/mask/mask_table.h"
-#include "engine/memory_field.h"
-#include "engine/own_heap.h"
+#include "engine/memory_control.h"
 #include "engine/services.h"
 #include "engine/spin/range.h"
 #include "engine/spin/spin_settings.h"
@@ -34,7 +30,6 @@ using zte::Text;
 std::vector<std::string>* recorded = nullptr;
 
 constexpr int kControlKey = 0x11;
-constexpr zte::KeyData kKeyData = 1;  // a key pressed once
 
 // The engine's texts from those of the tests, and back.
 class EngineText {
@@ -52,49 +47,51 @@ std::string Plain(const Text& text)
     return std::string(text.begin(), text.end());
 }
 
-zte::FieldStyle StyleOf(const Config& config)
-{
-    zte::FieldStyle style;
-    style.readOnly = config.readOnly;
-    return style;
-}
+// A configuration in the engine's texts.
+class EngineConfig {
+public:
+    explicit EngineConfig(const Config& config)
+        : config_(config), mask_(config.mask), data_(config.data), range_(config.range), codes_(config.codes)
+    {
+    }
+
+    zte::ControlSetup Setup() const
+    {
+        zte::ControlSetup setup;
+        setup.mask = mask_.get();
+        setup.dataType = config_.type;
+        setup.options = config_.options;
+        setup.data = data_.get();
+        setup.spinRange = range_.get();
+        setup.spinIncrement = config_.increment;
+        setup.codeTable = codes_.get();
+        setup.style.readOnly = config_.readOnly;
+        return setup;
+    }
+
+private:
+    const Config& config_;
+    EngineText mask_;
+    EngineText data_;
+    EngineText range_;
+    EngineText codes_;
+};
 
 }  // namespace
 
 struct MaskedEdit::Implementation final : Keyboard, zte::FieldListener {
-    explicit Implementation(const Config& config) : field(StyleOf(config)), heap(zte::CreateHeap())
+    explicit Implementation(const Config& config) : control(EngineConfig(config).Setup(), SettingsInForce(), Now, this)
     {
-        field.SetListener(this);
-        record.heap = heap;
-        record.dataType = config.type;
-        record.field = &field;
-        record.settings = &SettingsInForce();
-        record.clock = Now;
-        SetUp(config);
-        ownBlocks = zte::BlockCount(heap);
+        ownBlocks = control.BlockCount();
     }
     Implementation(const Implementation&) = delete;
     Implementation& operator=(const Implementation&) = delete;
     ~Implementation()
     {
-        EXPECT_EQ(zte::BlockCount(heap), ownBlocks) << "blocks were left behind in the control's heap";
+        EXPECT_EQ(control.BlockCount(), ownBlocks) << "blocks were left behind in the control's heap";
         zte::DropSpinTexts(record);
         zte::DropMask(record);
-        EXPECT_EQ(zte::BlockCount(heap), 0u) << "blocks of the record were not given back to the heap";
-        zte::DestroyHeap(heap);
-    }
-
-    void SetUp(const Config& config)
-    {
-        zte::ApplyOptions(record, config.options);
-        if (Has(record, zte::HAS_SPIN))
-            zte::SetSpin(record, config.increment, EngineText(config.range).get(), EngineText(config.codes).get(),
-                         zte::SpinStyleOf(config.options));
-        zte::SetMask(record, EngineText(config.mask).get(), config.type);
-        if (config.data)
-            zte::SetDataString(record, EngineText(config.data).get());
-        if (Has(record, zte::HAS_SPIN))
-            record.hwndSpin = this;
+        EXPECT_EQ(control.BlockCount(), 0u) << "blocks of the record were not given back to the heap";
     }
 
     // Copies a value that was read back, and frees it.
@@ -110,7 +107,7 @@ struct MaskedEdit::Implementation final : Keyboard, zte::FieldListener {
         } else {
             value = Plain(static_cast<const zte::Char*>(block));
         }
-        zte::services::Free(heap, block);
+        zte::services::Free(record.heap, block);
         return value;
     }
 
@@ -137,7 +134,6 @@ struct MaskedEdit::Implementation final : Keyboard, zte::FieldListener {
             recorded->push_back("text");
     }
 
-    // Keys. A disabled control has no focus, yet is sent them all the same.
     void Hold(int key, bool down) override
     {
         if (key == zte::KEY_SHIFT)
@@ -149,19 +145,12 @@ struct MaskedEdit::Implementation final : Keyboard, zte::FieldListener {
     }
     void SendKeyDown(int key) override
     {
-        WithClipboard([&] {
-            if (!zte::OnKeyDown(record, static_cast<uint32_t>(key), kKeyData).kept)
-                field.Press(static_cast<zte::Key>(key));
-        });
+        WithClipboard([&] { control.KeyDown(key); });
     }
-    void SendKeyUp(int key) override { zte::OnKeyUp(record, static_cast<uint32_t>(key)); }
+    void SendKeyUp(int key) override { control.KeyUp(key); }
     void SendChar(char character, int) override
     {
-        WithClipboard([&] {
-            const auto typed = static_cast<unsigned char>(character);
-            if (!zte::OnChar(record, typed, kKeyData).kept)
-                field.Type(static_cast<zte::Char>(typed));
-        });
+        WithClipboard([&] { control.Type(static_cast<unsigned char>(character)); });
     }
 
     // The clipboard is everybody's.
@@ -173,20 +162,11 @@ struct MaskedEdit::Implementation final : Keyboard, zte::FieldListener {
         NativeClipboard() = field.ReadClipboard();
     }
 
-    template <class Work>
-    void WithMouse(Work work)
-    {
-        record.carriedTo = 0;
-        work();
-        if (zte::IsClickCorrected(record) && !field.Shown().empty())
-            zte::CorrectClick(record);
-    }
-
     std::vector<Notice> notices;
     std::function<void()> listener;
-    zte::EditInstance record{};
-    zte::MemoryField field;
-    SharedHeap heap;
+    zte::MemoryControl control;
+    zte::EditInstance& record = control.Record();
+    zte::MemoryField& field = control.Edit();
     uint32_t ownBlocks = 0;
 };
 
@@ -231,13 +211,12 @@ void MaskedEdit::SetSpin(uint32_t increment, const char* range, const char* code
 
 void MaskedEdit::CreateSpin()
 {
-    it_->record.hwndSpin = it_.get();
+    it_->control.CreateSpin();
 }
 
 void MaskedEdit::DestroySpin()
 {
-    zte::DropSpinTexts(it_->record);
-    it_->record.hwndSpin = nullptr;
+    it_->control.DestroySpin();
 }
 
 bool MaskedEdit::ReadRangeEnd(DateTimeValue* value, const char* text) const
@@ -267,7 +246,7 @@ std::optional<DateTimeValue> MaskedEdit::ReadDateTime() const
         return std::nullopt;
     DateTimeValue value;
     std::memcpy(&value, block, sizeof value);
-    zte::services::Free(it_->heap, block);
+    zte::services::Free(it_->record.heap, block);
     return value;
 }
 
@@ -318,7 +297,7 @@ void MaskedEdit::Undo()
 
 void MaskedEdit::Paste()
 {
-    it_->WithClipboard([this] { zte::PasteClipboard(it_->record); });
+    it_->WithClipboard([this] { it_->control.Paste(); });
 }
 
 void MaskedEdit::SetReadOnly()
@@ -338,12 +317,12 @@ Keyboard& MaskedEdit::Keys()
 
 void MaskedEdit::Click(int position)
 {
-    it_->WithMouse([&] { it_->field.Click(position); });
+    it_->control.Click(position);
 }
 
 void MaskedEdit::Drag(int from, int to)
 {
-    it_->WithMouse([&] { it_->field.Drag(from, to); });
+    it_->control.Drag(from, to);
 }
 
 bool MaskedEdit::ShiftIsDown() const
@@ -384,7 +363,7 @@ std::optional<CodeTableView> MaskedEdit::CodeTable() const
 
 uint32_t MaskedEdit::Blocks() const
 {
-    return zte::BlockCount(it_->heap);
+    return it_->control.BlockCount();
 }
 
 void MaskedEdit::AcceptBlocks()

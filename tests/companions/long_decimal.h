@@ -1,4 +1,5 @@
-// Decimal arithmetic of any length on digit texts, by the methods of pen and paper: what the libraries are checked against.
+// Decimal arithmetic of any length on digit texts, by the methods of pen and paper: what the libraries are checked
+// against.
 #pragma once
 
 #include <string>

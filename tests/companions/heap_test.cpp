@@ -6,12 +6,14 @@
 #include <utility>
 #include <vector>
 
+#include "tests/companions/ended_calls.h"
 #include "ztshared.h"
 
 namespace {
 
-constexpr DWORD kNoMemory = 0xC0000017;
-constexpr DWORD kCameBack = 1;
+using zttest::EndOf;
+using zttest::kCameBack;
+using zttest::kNoMemory;
 
 class Heap : public testing::Test {
 protected:
@@ -19,34 +21,6 @@ protected:
 
     SharedHeap heap_ = SharedHeapCreate();
 };
-
-// Ends the thread in which the no-memory exception was raised, instead of the process.
-LONG CALLBACK EndThreadAtNoMemory(EXCEPTION_POINTERS* exception)
-{
-    const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
-    if (record.ExceptionCode == kNoMemory && (record.ExceptionFlags & EXCEPTION_NONCONTINUABLE) != 0)
-        ExitThread(kNoMemory);
-    return EXCEPTION_CONTINUE_SEARCH;
-}
-
-DWORD WINAPI RunCalls(void* calls)
-{
-    reinterpret_cast<void (*)()>(calls)();
-    return kCameBack;
-}
-
-// Whether the calls end in the no-memory exception: they run on a thread of their own, which the exception ends.
-bool RunsOutOfMemory(void (*calls)())
-{
-    void* const handler = AddVectoredExceptionHandler(1, EndThreadAtNoMemory);
-    const HANDLE thread = CreateThread(nullptr, 0, RunCalls, reinterpret_cast<void*>(calls), 0, nullptr);
-    WaitForSingleObject(thread, INFINITE);
-    DWORD result = 0;
-    GetExitCodeThread(thread, &result);
-    CloseHandle(thread);
-    RemoveVectoredExceptionHandler(handler);
-    return result == kNoMemory;
-}
 
 TEST_F(Heap, CountsItsLiveBlocks)
 {
@@ -142,49 +116,72 @@ TEST_F(Heap, IgnoresNullBlocksAndNullHeaps)
 {
     SharedHeapFree(heap_, nullptr);
     EXPECT_EQ(SharedHeapBlockCount(heap_), 0u);
-    SharedHeapFree(nullptr, nullptr);
-    SharedHeapDestroy(nullptr);
     EXPECT_EQ(SharedHeapBlockCount(nullptr), 0u);
+    EXPECT_EQ(EndOf([] { SharedHeapFree(nullptr, nullptr); }), kCameBack);
+    EXPECT_EQ(EndOf([] { SharedHeapDestroy(nullptr); }), kCameBack);
+}
+
+// MEM_COMMIT where there is memory, MEM_FREE where there is none.
+DWORD StateOf(const void* address)
+{
+    MEMORY_BASIC_INFORMATION pages{};
+    VirtualQuery(address, &pages, sizeof pages);
+    return pages.State;
 }
 
 TEST(HeapDestruction, DiscardsEveryBlock)
 {
-    constexpr uint32_t kSize = 10'000'000;
-    for (int i = 0; i < 50; ++i) {
-        const SharedHeap heap = SharedHeapCreate();
-        for (int block = 0; block < 10; ++block)
-            SharedHeapAlloc(heap, kSize, 0);
-        SharedHeapDestroy(heap);  // 5 GB in all: more than a 32-bit process could keep
-    }
+    const SharedHeap heap = SharedHeapCreate();
+    std::vector<void*> blocks;
+    for (const uint32_t size : {10u, 1000u, 100'000u, 10'000'000u, 100'000'000u})
+        blocks.push_back(SharedHeapAlloc(heap, size, 0));
+    for (const void* block : blocks)
+        EXPECT_EQ(StateOf(block), static_cast<DWORD>(MEM_COMMIT));
+    SharedHeapDestroy(heap);
+    for (const void* block : blocks)
+        EXPECT_EQ(StateOf(block), static_cast<DWORD>(MEM_FREE));
+}
+
+TEST(HeapDestruction, LeavesOtherHeapsAlone)
+{
+    const SharedHeap heap = SharedHeapCreate();
+    const SharedHeap other = SharedHeapCreate();
+    const char* text = SharedHeapStrDup(other, "text", 0);
+    SharedHeapDestroy(heap);
+    EXPECT_STREQ(text, "text");
+    EXPECT_EQ(SharedHeapBlockCount(other), 1u);
+    SharedHeapDestroy(other);
 }
 
 #ifndef _WIN64  // a 64-bit process has room for every size that can be asked for
 TEST(HeapExhaustion, EndsInTheNoMemoryException)
 {
-    EXPECT_TRUE(RunsOutOfMemory([] {
-        const SharedHeap heap = SharedHeapCreate();
-        for (;;)
-            SharedHeapAlloc(heap, 0xFFFFFFFF, 0);
-    }));
+    EXPECT_EQ(EndOf([] {
+                  const SharedHeap heap = SharedHeapCreate();
+                  for (;;)
+                      SharedHeapAlloc(heap, 0xFFFFFFFF, 0);
+              }),
+              kNoMemory);
 }
 
 TEST(HeapExhaustion, EndsAResizeToo)
 {
-    EXPECT_TRUE(RunsOutOfMemory([] {
-        const SharedHeap heap = SharedHeapCreate();
-        for (;;)
-            SharedHeapRealloc(heap, SharedHeapAlloc(heap, 10, 0), 0xFFFFFFFF, 0);
-    }));
+    EXPECT_EQ(EndOf([] {
+                  const SharedHeap heap = SharedHeapCreate();
+                  for (;;)
+                      SharedHeapRealloc(heap, SharedHeapAlloc(heap, 10, 0), 0xFFFFFFFF, 0);
+              }),
+              kNoMemory);
 }
 #endif
 
 TEST(HeapExhaustion, IsWhatANullHeapCallsFor)
 {
-    EXPECT_TRUE(RunsOutOfMemory([] { SharedHeapAlloc(nullptr, 10, 0); }));
-    EXPECT_TRUE(RunsOutOfMemory([] { SharedHeapStrDup(nullptr, "text", 0); }));
-    EXPECT_TRUE(RunsOutOfMemory([] { SharedHeapRealloc(nullptr, nullptr, 10, 0); }));
-    EXPECT_TRUE(RunsOutOfMemory([] { SharedListCreate(nullptr, 0); }));
-    EXPECT_FALSE(RunsOutOfMemory([] { SharedHeapDestroy(SharedHeapCreate()); }));
+    EXPECT_EQ(EndOf([] { SharedHeapAlloc(nullptr, 10, 0); }), kNoMemory);
+    EXPECT_EQ(EndOf([] { SharedHeapStrDup(nullptr, "text", 0); }), kNoMemory);
+    EXPECT_EQ(EndOf([] { SharedHeapRealloc(nullptr, nullptr, 10, 0); }), kNoMemory);
+    EXPECT_EQ(EndOf([] { SharedListCreate(nullptr, 0); }), kNoMemory);
+    EXPECT_EQ(EndOf([] { SharedHeapDestroy(SharedHeapCreate()); }), kCameBack);
 }
 
 }  // namespace

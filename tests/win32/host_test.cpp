@@ -150,79 +150,71 @@ TEST(TwoForms, WithTwoHeapsDoNotDisturbEachOther)
     SharedHeapDestroy(secondHeap);
 }
 
-// A host that destroys the control, and the heap with it, at the first notification of one code.
-class DestroyedInItsNotification : public EditTest {
+// A key that makes the control notify the host, which destroys the control, and the heap with it, there and then.
+struct DoomedKey {
+    const char* name;
+    const char* mask;
+    int32_t type;
+    const char* data;
+    uint32_t options;
+    int caret;
+    const char* keys;
+    int notification;
+};
+void PrintTo(const DoomedKey& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class DestroyedInItsNotification : public EditTest, public testing::WithParamInterface<DoomedKey> {
 protected:
-    void MakeDoomed(const char* mask, int32_t type, const char* data, int code, uint32_t options = ZTEO_AUTOSKIP)
+    void MakeDoomed(const DoomedKey& row)
     {
         heap_ = SharedHeapCreate();
-        EditInitParams params = Params(heap_, mask, type, data, options);
+        EditInitParams params = Params(heap_, row.mask, row.type, row.data, row.options);
         params.spinIncrement = 1;
         doomed_ = CreateOn(form_.hwnd(), &params);
         typist_.Use(doomed_);
-        form_.onNotification = [this, code](const Notification& notification) {
-            if (notification.code != code || !heap_)
-                return;
-            DestroyWindow(doomed_);
-            SharedHeapDestroy(heap_);
-            heap_ = nullptr;
+        form_.onNotification = [this, code = row.notification](const Notification& notification) {
+            if (notification.code == code)
+                Destroy();
         };
     }
-    void TearDown() override
+    void Destroy()
     {
-        if (heap_) {
-            DestroyWindow(doomed_);
-            SharedHeapDestroy(heap_);
-        }
+        if (!heap_)
+            return;
+        DestroyWindow(doomed_);
+        SharedHeapDestroy(heap_);
+        heap_ = nullptr;
     }
-    void ExpectGone()
-    {
-        EXPECT_FALSE(IsWindow(doomed_));
-        EXPECT_EQ(heap_, nullptr) << "the notification never came";
-    }
+    void TearDown() override { Destroy(); }
 
     HWND doomed_ = nullptr;
     SharedHeap heap_ = nullptr;
 };
 
-TEST_F(DestroyedInItsNotification, AtAutoskipOfADate)
+TEST_P(DestroyedInItsNotification, IsGoneAndNothingElseHappens)
 {
-    MakeDoomed("MM/DD/YY", DT_DATE, "1995-07-04", ZTN_AUTOSKIP);
-    SendMessageA(doomed_, EM_SETSEL, 7, 7);
-    Type("6");
-    ExpectGone();
+    const DoomedKey& row = GetParam();
+    MakeDoomed(row);
+    SendMessageA(doomed_, EM_SETSEL, static_cast<WPARAM>(row.caret), row.caret);
+    Play(row.keys);
+    EXPECT_FALSE(IsWindow(doomed_));
+    EXPECT_EQ(heap_, nullptr) << "the notification never came";
+    EXPECT_EQ(Beeps(), 0);
 }
 
-TEST_F(DestroyedInItsNotification, AtAutoskipOfAFraction)
-{
-    MakeDoomed("#,##0.00", DT_NUMBER, "1.5", ZTN_AUTOSKIP);
-    SendMessageA(doomed_, EM_SETSEL, 3, 3);
-    Type("6");
-    ExpectGone();
-}
-
-TEST_F(DestroyedInItsNotification, AtAutoskipOfAWholeNumber)
-{
-    MakeDoomed("####", DT_NUMBER, "123", ZTN_AUTOSKIP);
-    SendMessageA(doomed_, EM_SETSEL, 3, 3);
-    Type("4");
-    ExpectGone();
-}
-
-TEST_F(DestroyedInItsNotification, AtAutoskipOfTheRightKey)
-{
-    MakeDoomed("MM/DD/YY", DT_DATE, "1995-07-04", ZTN_AUTOSKIP);
-    SendMessageA(doomed_, EM_SETSEL, 7, 7);
-    Press(VK_RIGHT);
-    ExpectGone();
-}
-
-TEST_F(DestroyedInItsNotification, AtTheChangeAfterASpinStep)
-{
-    MakeDoomed("####", DT_NUMBER, "5", EN_CHANGE, ZTEO_SPIN);
-    Press(VK_UP);
-    ExpectGone();
-}
+// clang-format off
+constexpr DoomedKey kDoomedKeys[] = {
+    {"AutoskipOfADate",        "MM/DD/YY", DT_DATE,   "1995-07-04", ZTEO_AUTOSKIP, 7, "6",       ZTN_AUTOSKIP},
+    {"AutoskipOfAFraction",    "#,##0.00", DT_NUMBER, "1.5",        ZTEO_AUTOSKIP, 3, "6",       ZTN_AUTOSKIP},
+    {"AutoskipOfAWholeNumber", "####",     DT_NUMBER, "123",        ZTEO_AUTOSKIP, 3, "4",       ZTN_AUTOSKIP},
+    {"AutoskipOfTheRightKey",  "MM/DD/YY", DT_DATE,   "1995-07-04", ZTEO_AUTOSKIP, 7, "{Right}", ZTN_AUTOSKIP},
+    {"ChangeAfterASpinStep",   "####",     DT_NUMBER, "5",          ZTEO_SPIN,     0, "{Up}",    EN_CHANGE   },
+};
+// clang-format on
+INSTANTIATE_TEST_SUITE_P(Keys, DestroyedInItsNotification, testing::ValuesIn(kDoomedKeys), RowName<DoomedKey>);
 
 class SettingsChange : public EditTest {};
 

@@ -1,15 +1,15 @@
 // Canonical texts of dates and times: what is read, and that everything else is refused.
 #include <gtest/gtest.h>
 
-#include <cstddef>
 #include <cstdio>
 #include <cstring>
 #include <random>
 #include <regex>
 #include <string>
 
-#include "tests/shared/rows.h"
-#include "tests/shared/scoped_profile.h"
+#include "tests/companions/ended_calls.h"
+#include "tests/companions/rows.h"
+#include "tests/companions/scoped_profile.h"
 #include "ztshared.h"
 
 namespace {
@@ -42,19 +42,6 @@ std::string Read(const std::string& text, int32_t kind)
 }
 
 constexpr char kRefused[] = "refused";
-
-TEST(DateTimeRecord, HasTwelveBytesInItsFixedOrder)
-{
-    EXPECT_EQ(sizeof(DateTimeValue), 12u);
-    EXPECT_EQ(offsetof(DateTimeValue, microsecond), 0u);
-    EXPECT_EQ(offsetof(DateTimeValue, year), 4u);
-    EXPECT_EQ(offsetof(DateTimeValue, month), 6u);
-    EXPECT_EQ(offsetof(DateTimeValue, day), 7u);
-    EXPECT_EQ(offsetof(DateTimeValue, hour), 8u);
-    EXPECT_EQ(offsetof(DateTimeValue, minute), 9u);
-    EXPECT_EQ(offsetof(DateTimeValue, second), 10u);
-    EXPECT_EQ(offsetof(DateTimeValue, spare), 11u);
-}
 
 struct TextCase {
     const char* name;
@@ -182,31 +169,48 @@ TEST(DateTimeParsing, RefusesNull)
     EXPECT_NE(SharedParseDateTime(nullptr, "2024-03-05", DATETIME_KIND_DATE), 0);
 }
 
-TEST(DateTimeParsing, KnowsTheRegionalHalvesOfTheDayInAnyCase)
+// The words of the profile for the halves of the day.
+struct HalfCase {
+    const char* name;
+    const char* morning;
+    const char* evening;
+    int32_t kind;
+    const char* text;
+    const char* read;
+};
+
+void PrintTo(const HalfCase& row, std::ostream* out)
 {
-    const ScopedProfile profile({
-        {"s1159", "vorm"},
-        {"s2359", "n.m."}
-    });
-    EXPECT_EQ(Read("09:00 vorm", 3), "-32767/0/0 9:0:0.000000 (0)");
-    EXPECT_EQ(Read("09:00 VORM", 3), "-32767/0/0 9:0:0.000000 (0)");
-    EXPECT_EQ(Read("09:00 n.m.", 3), "-32767/0/0 21:0:0.000000 (0)");
-    EXPECT_EQ(Read("2024-03-05 12:00 N.M.", 1), "124/2/5 12:0:0.000000 (0)");
-    EXPECT_EQ(Read("09:00 pm", 3), "-32767/0/0 21:0:0.000000 (0)");
-    EXPECT_EQ(Read("12:00 am", 3), "-32767/0/0 0:0:0.000000 (0)");
-    EXPECT_EQ(Read("09:00 vor", 3), kRefused);
-    EXPECT_EQ(Read("09:00 vormx", 3), kRefused);
+    *out << '"' << row.text << "\" with " << row.morning << " and " << row.evening;
 }
 
-TEST(DateTimeParsing, TakesFourCharactersOfALongerHalf)
+class RegionalHalves : public testing::TestWithParam<HalfCase> {};
+
+TEST_P(RegionalHalves, AreReadInAnyCase)
 {
-    const ScopedProfile profile({
-        {"s1159", "morning"},
-        {"s2359", "evening"}
-    });
-    EXPECT_EQ(Read("09:00 even", 3), "-32767/0/0 21:0:0.000000 (0)");
-    EXPECT_EQ(Read("09:00 evening", 3), kRefused);
+    const ScopedProfile::Values halves = {
+        {"s1159", GetParam().morning},
+        {"s2359", GetParam().evening}
+    };
+    const ScopedProfile profile(halves);
+    EXPECT_EQ(Read(GetParam().text, GetParam().kind), GetParam().read);
 }
+
+// clang-format off
+constexpr HalfCase kHalves[] = {
+    {"Morning",                   "vorm",    "n.m.",    3, "09:00 vorm",            "-32767/0/0 9:0:0.000000 (0)"},
+    {"MorningInCapitals",         "vorm",    "n.m.",    3, "09:00 VORM",            "-32767/0/0 9:0:0.000000 (0)"},
+    {"Evening",                   "vorm",    "n.m.",    3, "09:00 n.m.",            "-32767/0/0 21:0:0.000000 (0)"},
+    {"EveningInCapitals",         "vorm",    "n.m.",    1, "2024-03-05 12:00 N.M.", "124/2/5 12:0:0.000000 (0)"},
+    {"PlainPm",                   "vorm",    "n.m.",    3, "09:00 pm",              "-32767/0/0 21:0:0.000000 (0)"},
+    {"PlainAm",                   "vorm",    "n.m.",    3, "12:00 am",              "-32767/0/0 0:0:0.000000 (0)"},
+    {"CutWord",                   "vorm",    "n.m.",    3, "09:00 vor",             kRefused},
+    {"WordWithARest",             "vorm",    "n.m.",    3, "09:00 vormx",           kRefused},
+    {"FourCharactersOfALongWord", "morning", "evening", 3, "09:00 even",            "-32767/0/0 21:0:0.000000 (0)"},
+    {"AllOfALongWord",            "morning", "evening", 3, "09:00 evening",         kRefused},
+};
+// clang-format on
+INSTANTIATE_TEST_SUITE_P(Words, RegionalHalves, testing::ValuesIn(kHalves), zttest::RowName<HalfCase>);
 
 TEST(DateTimeParsing, FallsBackToThePlainHalves)
 {
@@ -363,7 +367,7 @@ TEST(Clock, GivesTheLocalTime)
 
 TEST(Clock, IgnoresNull)
 {
-    SharedDateTimeNow(nullptr);
+    EXPECT_EQ(zttest::EndOf([] { SharedDateTimeNow(nullptr); }), zttest::kCameBack);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // Pen-and-paper arithmetic on digit texts.
-#include "tests/shared/long_decimal.h"
+#include "tests/companions/long_decimal.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -6,8 +6,8 @@
 #include <random>
 #include <string>
 
-#include "tests/shared/long_decimal.h"
-#include "tests/shared/rows.h"
+#include "tests/companions/long_decimal.h"
+#include "tests/companions/rows.h"
 #include "ztdecimal.h"
 
 namespace {
@@ -83,15 +83,6 @@ std::string RandomText(std::mt19937& random, int mostDigits)
     if (places > 0)
         text.insert(text.size() - static_cast<size_t>(places), ".");
     return random() % 2 ? "-" + text : text;
-}
-
-TEST(DecimalRecord, HasTheLayoutOfThePlatformsDecimal)
-{
-    EXPECT_EQ(sizeof(DecimalValue), sizeof(DECIMAL));
-    EXPECT_EQ(offsetof(DecimalValue, scale), offsetof(DECIMAL, scale));
-    EXPECT_EQ(offsetof(DecimalValue, sign), offsetof(DECIMAL, sign));
-    EXPECT_EQ(offsetof(DecimalValue, hi32), offsetof(DECIMAL, Hi32));
-    EXPECT_EQ(offsetof(DecimalValue, lo64), offsetof(DECIMAL, Lo64));
 }
 
 TEST(DecimalRecord, IsUnderstoodByOleAutomation)
@@ -249,20 +240,84 @@ TEST(DecimalReading, AgreesWithPenAndPaperOnRandomTexts)
     }
 }
 
-TEST(DecimalSum, IsExact)
+constexpr char kMost[] = "79228162514264337593543950335";
+constexpr char kLeast[] = "-79228162514264337593543950335";
+
+// Exact inside 28 digits; beyond them the half goes to the even digit, and what is out of range is the largest of its
+// sign.
+struct Calculation {
+    const char* name;
+    const char* first;
+    char operation;
+    const char* second;
+    const char* result;
+};
+
+void PrintTo(const Calculation& row, std::ostream* out)
 {
-    EXPECT_EQ(Add("19.90", "3.78"), "23.68");
-    EXPECT_EQ(Add("0.1", "0.2"), "0.3");
-    EXPECT_EQ(Add("-5", "5"), "0");
-    EXPECT_EQ(Add("9999999999999999999999999999", "1"), "10000000000000000000000000000");
-    EXPECT_EQ(Add("0.0000000000000000000000000001", "0.9999999999999999999999999999"), "1");
-    EXPECT_EQ(Add("1000000000000000000", "0.0000000001"), "1000000000000000000.0000000001");
-    EXPECT_EQ(Add("18446744073709551615", "1"), "18446744073709551616");
-    EXPECT_EQ(Subtract("18446744073709551616", "1"), "18446744073709551615");
-    EXPECT_EQ(Subtract("0.3", "0.1"), "0.2");
-    EXPECT_EQ(Subtract("1", "79228162514264337593543950335"), "-79228162514264337593543950334");
-    EXPECT_EQ(Subtract("-1", "-1"), "0");
+    *out << row.first << ' ' << row.operation << ' ' << row.second;
 }
+
+class DecimalCalculation : public testing::TestWithParam<Calculation> {};
+
+TEST_P(DecimalCalculation, GivesTheResult)
+{
+    const auto calculate = GetParam().operation == '+' ? Add : GetParam().operation == '-' ? Subtract : Divide;
+    EXPECT_EQ(calculate(GetParam().first, GetParam().second), GetParam().result);
+}
+
+// clang-format off
+constexpr Calculation kSums[] = {
+    {"Cents",                  "19.90",                          '+', "3.78",                           "23.68"},
+    {"TenthsThatNoDoubleHas",  "0.1",                            '+', "0.2",                            "0.3"},
+    {"Opposites",              "-5",                             '+', "5",                              "0"},
+    {"CarryOver28Digits",      "9999999999999999999999999999",   '+', "1",                              "10000000000000000000000000000"},
+    {"CarryOver28Places",      "0.0000000000000000000000000001", '+', "0.9999999999999999999999999999", "1"},
+    {"FarApart",               "1000000000000000000",            '+', "0.0000000001",                   "1000000000000000000.0000000001"},
+    {"CarryOver64Bits",        "18446744073709551615",           '+', "1",                              "18446744073709551616"},
+    {"BorrowOver64Bits",       "18446744073709551616",           '-', "1",                              "18446744073709551615"},
+    {"TenthsSubtracted",       "0.3",                            '-', "0.1",                            "0.2"},
+    {"ChangeOfSign",           "1",                              '-', kMost,                            "-79228162514264337593543950334"},
+    {"EqualNegatives",         "-1",                             '-', "-1",                             "0"},
+    {"HalfToEvenDown",         "70000000000000000000000000000",  '+', "0.5",                            "70000000000000000000000000000"},
+    {"HalfToEvenUp",           "70000000000000000000000000001",  '+', "0.5",                            "70000000000000000000000000002"},
+    {"AboveHalf",              "70000000000000000000000000000",  '+', "0.5000000000000000000000000001", "70000000000000000000000000001"},
+    {"LowestDigitRunsOut",     "7.0000000000000000000000000001", '+', "1000",                           "1007"},
+    {"OneTooLarge",            kMost,                            '+', "1",                              kMost},
+    {"TwiceTheLargest",        kMost,                            '+', kMost,                            kMost},
+    {"LargestAndLessThanHalf", kMost,                            '+', "0.4",                            kMost},
+    {"OneTooSmall",            kLeast,                           '-', "1",                              kLeast},
+};
+
+constexpr Calculation kQuotients[] = {
+    {"ByAHundred",        "12.5",                           '/', "100",                            "0.125"},
+    {"AQuarter",          "1",                              '/', "4",                              "0.25"},
+    {"TrailingZeros",     "10.00",                          '/', "2",                              "5"},
+    {"ByATenth",          "5",                              '/', "0.10",                           "50"},
+    {"OfANegative",       "-7",                             '/', "2",                              "-3.5"},
+    {"OfTwoNegatives",    "-7",                             '/', "-2",                             "3.5"},
+    {"LargestByOne",      kMost,                            '/', "1",                              kMost},
+    {"LargestByItself",   kMost,                            '/', kMost,                            "1"},
+    {"OfZero",            "0",                              '/', "7",                              "0"},
+    {"SmallestResult",    "1",                              '/', "10000000000000000000000000000",  "0.0000000000000000000000000001"},
+    {"AThird",            "1",                              '/', "3",                              "0.3333333333333333333333333333"},
+    {"TwoThirds",         "2",                              '/', "3",                              "0.6666666666666666666666666667"},
+    {"TwoThirdsNegative", "-2",                             '/', "3",                              "-0.6666666666666666666666666667"},
+    {"HalfToEvenZero",    "0.0000000000000000000000000001", '/', "2",                              "0"},
+    {"HalfToEvenUp",      "0.0000000000000000000000000003", '/', "2",                              "0.0000000000000000000000000002"},
+    {"HalfToEvenDown",    "0.0000000000000000000000000005", '/', "2",                              "0.0000000000000000000000000002"},
+    {"LargestByTen",      kMost,                            '/', "10",                             "7922816251426433759354395033.5"},
+    {"LargestHalved",     kMost,                            '/', "2",                              "39614081257132168796771975168"},
+    {"TwoLessHalved",     "79228162514264337593543950333",  '/', "2",                              "39614081257132168796771975166"},
+    {"ByZero",            "5",                              '/', "0",                              "0"},
+    {"ZeroByZero",        "0",                              '/', "0.00",                           "0"},
+    {"TooLarge",          kMost,                            '/', "0.1",                            kMost},
+    {"LargestPowerOfTen", "-1",                             '/', "0.0000000000000000000000000001", "-10000000000000000000000000000"},
+    {"TooSmall",          "-8",                             '/', "0.0000000000000000000000000001", kLeast},
+};
+// clang-format on
+INSTANTIATE_TEST_SUITE_P(Sums, DecimalCalculation, testing::ValuesIn(kSums), zttest::RowName<Calculation>);
+INSTANTIATE_TEST_SUITE_P(Quotients, DecimalCalculation, testing::ValuesIn(kQuotients), zttest::RowName<Calculation>);
 
 TEST(DecimalSum, KeepsTheLargerScale)
 {
@@ -281,22 +336,6 @@ TEST(DecimalSum, OfOppositesHasNoSign)
     DecSubtract(&sum, &a, &a);
     EXPECT_EQ(sum.sign, 0);
     EXPECT_EQ(Text(sum), "0");
-}
-
-TEST(DecimalSum, RoundsHalfToEvenOnceTheDigitsRunOut)
-{
-    EXPECT_EQ(Add("70000000000000000000000000000", "0.5"), "70000000000000000000000000000");
-    EXPECT_EQ(Add("70000000000000000000000000001", "0.5"), "70000000000000000000000000002");
-    EXPECT_EQ(Add("70000000000000000000000000000", "0.5000000000000000000000000001"), "70000000000000000000000000001");
-    EXPECT_EQ(Add("7.0000000000000000000000000001", "1000"), "1007");
-}
-
-TEST(DecimalSum, OutOfRangeIsTheLargestOfItsSign)
-{
-    EXPECT_EQ(Add(kLargestDecimal, "1"), kLargestDecimal);
-    EXPECT_EQ(Add(kLargestDecimal, kLargestDecimal), kLargestDecimal);
-    EXPECT_EQ(Add(kLargestDecimal, "0.4"), kLargestDecimal);
-    EXPECT_EQ(Subtract(std::string("-") + kLargestDecimal, "1"), std::string("-") + kLargestDecimal);
 }
 
 TEST(DecimalSum, MayReplaceAnOperand)
@@ -324,46 +363,6 @@ TEST(DecimalSum, AgreesWithPenAndPaperOnRandomNumbers)
     }
 }
 
-TEST(DecimalQuotient, IsExactWhereItEnds)
-{
-    EXPECT_EQ(Divide("12.5", "100"), "0.125");
-    EXPECT_EQ(Divide("1", "4"), "0.25");
-    EXPECT_EQ(Divide("10.00", "2"), "5");
-    EXPECT_EQ(Divide("5", "0.10"), "50");
-    EXPECT_EQ(Divide("-7", "2"), "-3.5");
-    EXPECT_EQ(Divide("-7", "-2"), "3.5");
-    EXPECT_EQ(Divide(kLargestDecimal, "1"), kLargestDecimal);
-    EXPECT_EQ(Divide(kLargestDecimal, kLargestDecimal), "1");
-    EXPECT_EQ(Divide("0", "7"), "0");
-    EXPECT_EQ(Divide("1", "10000000000000000000000000000"), "0.0000000000000000000000000001");
-}
-
-TEST(DecimalQuotient, RoundsHalfToEvenInTheLastDigitKept)
-{
-    EXPECT_EQ(Divide("1", "3"), "0.3333333333333333333333333333");
-    EXPECT_EQ(Divide("2", "3"), "0.6666666666666666666666666667");
-    EXPECT_EQ(Divide("-2", "3"), "-0.6666666666666666666666666667");
-    EXPECT_EQ(Divide("0.0000000000000000000000000001", "2"), "0");
-    EXPECT_EQ(Divide("0.0000000000000000000000000003", "2"), "0.0000000000000000000000000002");
-    EXPECT_EQ(Divide("0.0000000000000000000000000005", "2"), "0.0000000000000000000000000002");
-    EXPECT_EQ(Divide("79228162514264337593543950335", "10"), "7922816251426433759354395033.5");
-    EXPECT_EQ(Divide("79228162514264337593543950335", "2"), "39614081257132168796771975168");
-    EXPECT_EQ(Divide("79228162514264337593543950333", "2"), "39614081257132168796771975166");
-}
-
-TEST(DecimalQuotient, ByZeroIsZero)
-{
-    EXPECT_EQ(Divide("5", "0"), "0");
-    EXPECT_EQ(Divide("0", "0.00"), "0");
-}
-
-TEST(DecimalQuotient, OutOfRangeIsTheLargestOfItsSign)
-{
-    EXPECT_EQ(Divide(kLargestDecimal, "0.1"), kLargestDecimal);
-    EXPECT_EQ(Divide("-1", "0.0000000000000000000000000001"), "-10000000000000000000000000000");
-    EXPECT_EQ(Divide("-8", "0.0000000000000000000000000001"), std::string("-") + kLargestDecimal);
-}
-
 TEST(DecimalQuotient, MayReplaceAnOperand)
 {
     DecimalValue value = Decimal("3");
@@ -385,20 +384,44 @@ TEST(DecimalQuotient, AgreesWithPenAndPaperOnRandomNumbers)
     }
 }
 
-TEST(DecimalOrder, LooksAtTheValueAndNotAtTheScale)
+struct OrderCase {
+    const char* name;
+    const char* first;
+    const char* second;
+    int order;
+};
+
+void PrintTo(const OrderCase& row, std::ostream* out)
 {
-    EXPECT_EQ(Order("1.0", "1.00"), 0);
-    EXPECT_EQ(Order("0", "-0.000"), 0);
-    EXPECT_EQ(Order("1", "1.0000000000000000000000000001"), -1);
-    EXPECT_EQ(Order("-1", "1"), -1);
-    EXPECT_EQ(Order("-1", "-2"), 1);
-    EXPECT_EQ(Order("2", "10"), -1);
-    EXPECT_EQ(Order(kLargestDecimal, "0.0000000000000000000000000001"), 1);
-    EXPECT_EQ(Order(std::string("-") + kLargestDecimal, kLargestDecimal), -1);
-    EXPECT_EQ(Order(kLargestDecimal, kLargestDecimal), 0);
+    *out << row.first << " and " << row.second;
 }
 
-TEST(DecimalOrder, TakesANegativeZeroAsZero)
+class DecimalOrder : public testing::TestWithParam<OrderCase> {};
+
+TEST_P(DecimalOrder, LooksAtTheValueAndNotAtTheScale)
+{
+    EXPECT_EQ(Order(GetParam().first, GetParam().second), GetParam().order);
+}
+
+TEST_P(DecimalOrder, IsTheOppositeTheOtherWayRound)
+{
+    EXPECT_EQ(Order(GetParam().second, GetParam().first), -GetParam().order);
+}
+
+constexpr OrderCase kOrders[] = {
+    {"ScalesDiffer",       "1.0",  "1.00",                           0 },
+    {"ZerosOfBothSigns",   "0",    "-0.000",                         0 },
+    {"SmallestDifference", "1",    "1.0000000000000000000000000001", -1},
+    {"SignsDiffer",        "-1",   "1",                              -1},
+    {"Negatives",          "-1",   "-2",                             1 },
+    {"LengthsDiffer",      "2",    "10",                             -1},
+    {"LargestAndSmallest", kMost,  "0.0000000000000000000000000001", 1 },
+    {"LeastAndMost",       kLeast, kMost,                            -1},
+    {"LargestAndItself",   kMost,  kMost,                            0 },
+};
+INSTANTIATE_TEST_SUITE_P(Pairs, DecimalOrder, testing::ValuesIn(kOrders), zttest::RowName<OrderCase>);
+
+TEST(DecimalRecord, WithASignAndNoDigitsIsZero)
 {
     DecimalValue negativeZero{};
     negativeZero.sign = 0x80;

@@ -10,9 +10,9 @@
 #include <random>
 #include <string>
 
-#include "tests/shared/long_decimal.h"
-#include "tests/shared/rows.h"
-#include "tests/shared/scoped_profile.h"
+#include "tests/companions/long_decimal.h"
+#include "tests/companions/rows.h"
+#include "tests/companions/scoped_profile.h"
 #include "ztshared.h"
 
 namespace {
@@ -73,7 +73,7 @@ protected:
     const ScopedProfile profile_{zttest::kPointAndComma};
 };
 
-// ---- What is shown ---------------------------------------------------------------------------------------------------
+// ---- What is shown --------------------------------------------------------------------------------------------------
 
 struct ShowCase {
     const char* name;
@@ -269,7 +269,7 @@ TEST_F(NumberFormat, ShowsDecimalsWhoseSmallestDigitOutlastsTheFormat)
     EXPECT_EQ(Format("0." + std::string(27, '0')).Show(value), "0." + std::string(27, '0'));
 }
 
-// ---- Regional characters ---------------------------------------------------------------------------------------------
+// ---- Regional characters --------------------------------------------------------------------------------------------
 
 struct RegionalCase {
     const char* name;
@@ -322,7 +322,7 @@ TEST_F(NumberFormat, HasPointAndCommaAsPlaceholdersUnderAnyProfile)
     EXPECT_TRUE(Compiles("#,##0.00"));
 }
 
-// ---- What compiles ---------------------------------------------------------------------------------------------------
+// ---- What compiles --------------------------------------------------------------------------------------------------
 
 struct ValidityCase {
     const char* name;
@@ -436,7 +436,7 @@ TEST_F(NumberFormat, MayBeCopiedAndUsedOften)
     }
 }
 
-// ---- The output's size -----------------------------------------------------------------------------------------------
+// ---- The output's size ----------------------------------------------------------------------------------------------
 
 TEST_F(NumberFormat, CutsTheTextToTheOutput)
 {
@@ -487,7 +487,7 @@ TEST_F(NumberFormat, SurvivesNullArguments)
     EXPECT_STREQ(text, "");
 }
 
-// ---- Random values and formats ---------------------------------------------------------------------------------------
+// ---- Random values and formats --------------------------------------------------------------------------------------
 
 // A format of digit placeholders alone, without or with grouping, and how many digits it has behind the point.
 struct RandomFormat {

@@ -1,4 +1,5 @@
-// The spin as pixels: whole pictures on memory device contexts, of all heights, pressed and unpressed, on any background.
+// The spin as pixels: whole pictures on memory device contexts, of all heights, pressed and unpressed, on any
+// background.
 #include <gtest/gtest.h>
 
 #include <initializer_list>
@@ -131,37 +132,17 @@ Expected Face(int width, int height, bool pressed)
     Expected face(width, height);
     face.Fill(0, 0, width, height, kBlack);
     face.Fill(1, 1, width - 1, height - 1, kGrey);
+    const int right = width - 1;
+    const int bottom = height - 1;
+    // clang-format off
     if (pressed) {
-        face.Lines(
-            {
-                {1,         height - 1},
-                {1,         1         },
-                {width - 1, 1         }
-        },
-            shadow);
+        face.Lines({{1, bottom}, {1, 1}, {right, 1}}, shadow);
         return face;
     }
-    face.Lines(
-        {
-            {1,         height - 2},
-            {1,         1         },
-            {width - 2, 1         }
-    },
-        highlight);
-    face.Lines(
-        {
-            {width - 2, 1         },
-            {width - 2, height - 2},
-            {0,         height - 2}
-    },
-        shadow);
-    face.Lines(
-        {
-            {width - 3, 2         },
-            {width - 3, height - 3},
-            {1,         height - 3}
-    },
-        shadow);
+    face.Lines({{1, bottom - 1}, {1, 1}, {right - 1, 1}}, highlight);
+    face.Lines({{right - 1, 1}, {right - 1, bottom - 1}, {0, bottom - 1}}, shadow);
+    face.Lines({{right - 2, 2}, {right - 2, bottom - 2}, {1, bottom - 2}}, shadow);
+    // clang-format on
     return face;
 }
 
@@ -272,34 +253,64 @@ TEST_P(SpinOfHeight, IsPaintedOnItsBackground)
 INSTANTIATE_TEST_SUITE_P(Heights, SpinOfHeight, testing::Range(0, 61));
 
 // The figures of one spin, worked out by hand: 20 pixels high, buttons 14 wide and 10 high, their left edge at 39.
-TEST_F(SpinPaint, TheFiguresOfATwentyPixelSpin)
+enum class Part { Paper, Black, Grey, Highlight, Shadow };
+
+COLORREF ColourOf(Part part)
+{
+    switch (part) {
+    case Part::Paper: return kPaper;
+    case Part::Black: return kBlack;
+    case Part::Grey: return kGrey;
+    case Part::Highlight: return GetSysColor(COLOR_BTNHIGHLIGHT);
+    case Part::Shadow: break;
+    }
+    return GetSysColor(COLOR_BTNSHADOW);
+}
+
+struct FigureCase {
+    const char* name;
+    int x;
+    int y;
+    Part part;
+};
+void PrintTo(const FigureCase& row, std::ostream* out)
+{
+    *out << row.name << " at (" << row.x << ", " << row.y << ")";
+}
+
+class TwentyPixelSpin : public SpinPaint, public testing::WithParamInterface<FigureCase> {};
+
+TEST_P(TwentyPixelSpin, HasItsPartsInTheirPlaces)
 {
     ASSERT_GE(GetSystemMetrics(SM_CXVSCROLL), 14) << "a narrower scroll bar bounds the spin";
     Paint(RectOfHeight(20));
-    const COLORREF highlight = GetSysColor(COLOR_BTNHIGHLIGHT);
-    const COLORREF shadow = GetSysColor(COLOR_BTNSHADOW);
-    EXPECT_EQ(canvas_.At(38, 9), kPaper);  // left of the buttons
-    EXPECT_EQ(canvas_.At(39, 9), kBlack);  // frame of the upper one
-    EXPECT_EQ(canvas_.At(52, 18), kBlack);
-    EXPECT_EQ(canvas_.At(39, 19), kBlack);  // frame of the lower one
-    EXPECT_EQ(canvas_.At(52, 28), kBlack);
-    EXPECT_EQ(canvas_.At(53, 20), kPaper);
-    EXPECT_EQ(canvas_.At(45, 29), kPaper);
-    EXPECT_EQ(canvas_.At(40, 10), highlight);
-    EXPECT_EQ(canvas_.At(50, 10), highlight);
-    EXPECT_EQ(canvas_.At(51, 10), shadow);
-    EXPECT_EQ(canvas_.At(50, 12), shadow);
-    EXPECT_EQ(canvas_.At(40, 17), shadow);
-    EXPECT_EQ(canvas_.At(42, 16), shadow);
-    EXPECT_EQ(canvas_.At(41, 11), kGrey);
-    EXPECT_EQ(canvas_.At(46, 12), kBlack);  // apex of the upper arrow, and its base
-    EXPECT_EQ(canvas_.At(43, 15), kBlack);
-    EXPECT_EQ(canvas_.At(49, 15), kBlack);
-    EXPECT_EQ(canvas_.At(45, 12), kGrey);
-    EXPECT_EQ(canvas_.At(46, 25), kBlack);  // apex of the lower arrow, and its base
-    EXPECT_EQ(canvas_.At(43, 22), kBlack);
-    EXPECT_EQ(canvas_.At(49, 22), kBlack);
+    EXPECT_EQ(canvas_.At(GetParam().x, GetParam().y), ColourOf(GetParam().part));
 }
+
+constexpr FigureCase kFigures[] = {
+    {"LeftOfTheButtons",      38, 9,  Part::Paper    },
+    {"RightOfTheButtons",     53, 20, Part::Paper    },
+    {"BelowTheButtons",       45, 29, Part::Paper    },
+    {"UpperFrameTopLeft",     39, 9,  Part::Black    },
+    {"UpperFrameBottomRight", 52, 18, Part::Black    },
+    {"LowerFrameTopLeft",     39, 19, Part::Black    },
+    {"LowerFrameBottomRight", 52, 28, Part::Black    },
+    {"HighlightTopLeft",      40, 10, Part::Highlight},
+    {"HighlightTopRight",     50, 10, Part::Highlight},
+    {"ShadowTopRight",        51, 10, Part::Shadow   },
+    {"ShadowRightInner",      50, 12, Part::Shadow   },
+    {"ShadowBottomLeft",      40, 17, Part::Shadow   },
+    {"ShadowBottomInner",     42, 16, Part::Shadow   },
+    {"Surface",               41, 11, Part::Grey     },
+    {"UpperApex",             46, 12, Part::Black    },
+    {"UpperBaseLeft",         43, 15, Part::Black    },
+    {"UpperBaseRight",        49, 15, Part::Black    },
+    {"BesideTheUpperApex",    45, 12, Part::Grey     },
+    {"LowerApex",             46, 25, Part::Black    },
+    {"LowerBaseLeft",         43, 22, Part::Black    },
+    {"LowerBaseRight",        49, 22, Part::Black    },
+};
+INSTANTIATE_TEST_SUITE_P(Figures, TwentyPixelSpin, testing::ValuesIn(kFigures), RowName<FigureCase>);
 
 TEST_F(SpinPaint, AnOddHeightLeavesARowBetweenTheButtons)
 {
@@ -468,13 +479,13 @@ TEST_P(SpinPaintWithout, GoesOnWithTheArrows)
     EXPECT_EQ(GetCurrentObject(canvas_.dc(), OBJ_PEN), pen);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Objects, SpinPaintWithout,
-    testing::Values(MissingObject{"Bitmaps", "CreateCompatibleBitmap", reinterpret_cast<void*>(NoBitmap)},
-                    MissingObject{"Contexts", "CreateCompatibleDC", reinterpret_cast<void*>(NoContext)},
-                    MissingObject{"Pens", "CreatePen", reinterpret_cast<void*>(NoPen)},
-                    MissingObject{"Brushes", "CreateSolidBrush", reinterpret_cast<void*>(NoBrush)}),
-    RowName<MissingObject>);
+const MissingObject kMissing[] = {
+    {"Bitmaps",  "CreateCompatibleBitmap", reinterpret_cast<void*>(NoBitmap) },
+    {"Contexts", "CreateCompatibleDC",     reinterpret_cast<void*>(NoContext)},
+    {"Pens",     "CreatePen",              reinterpret_cast<void*>(NoPen)    },
+    {"Brushes",  "CreateSolidBrush",       reinterpret_cast<void*>(NoBrush)  },
+};
+INSTANTIATE_TEST_SUITE_P(Objects, SpinPaintWithout, testing::ValuesIn(kMissing), RowName<MissingObject>);
 
 TEST_F(SpinPaint, OddRectanglesAndContextsAreHarmless)
 {
@@ -496,8 +507,10 @@ TEST_F(SpinPaint, OddRectanglesAndContextsAreHarmless)
     }
     EXPECT_EQ(ZTE_PaintSpinOnce(nullptr, canvas_.dc()), 0);
     canvas_.Clear();
-    Paint(RectOfHeight(20));  // all is as before
-    EXPECT_EQ(canvas_.At(39, 9), kBlack);
+    Paint(RectOfHeight(20));
+    Expected picture(kSide, kSide);
+    DrawSpin(picture, RectOfHeight(20), Pressed::None);
+    EXPECT_EQ(Difference(canvas_, picture), "") << "all is as before";
 }
 
 TEST_F(SpinPaint, AWindowThatIsNoControlIsNotPainted)

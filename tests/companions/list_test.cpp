@@ -5,9 +5,13 @@
 #include <random>
 #include <vector>
 
+#include "tests/companions/ended_calls.h"
 #include "ztshared.h"
 
 namespace {
+
+using zttest::EndOf;
+using zttest::kCameBack;
 
 class List : public testing::Test {
 protected:
@@ -143,15 +147,15 @@ TEST_F(List, DoesNotFreeItsElements)
 
 TEST_F(List, SurvivesNull)
 {
-    SharedListDestroy(nullptr);
-    SharedListAppend(nullptr, this);
-    SharedListSeek(nullptr, 1);
+    EXPECT_EQ(EndOf([] { SharedListDestroy(nullptr); }), kCameBack);
+    EXPECT_EQ(EndOf([] { SharedListAppend(nullptr, nullptr); }), kCameBack);
+    EXPECT_EQ(EndOf([] { SharedListSeek(nullptr, 1); }), kCameBack);
+    EXPECT_EQ(EndOf([] { SharedListTell(nullptr); }), kCameBack);
     EXPECT_EQ(SharedListFirst(nullptr), nullptr);
     EXPECT_EQ(SharedListLast(nullptr), nullptr);
     EXPECT_EQ(SharedListNext(nullptr), nullptr);
     EXPECT_EQ(SharedListPrev(nullptr), nullptr);
     EXPECT_EQ(SharedListCurrent(nullptr), nullptr);
-    SharedListTell(nullptr);
 }
 
 // A vector and a position that may stand one before the first and one past the last.

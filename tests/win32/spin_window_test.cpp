@@ -1,6 +1,8 @@
 // The spin's window: making and removing it, the mouse on its arrows, and every order of destruction.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "engine/format/code_table.h"
 #include "tests/spin/spin_test.h"
 #include "tests/support/base_recorder.h"
@@ -78,17 +80,17 @@ TEST_F(SpinWindow, SharesTheRecordOfItsControl)
     EXPECT_EQ(RecordOf(Window())->hwndSpin, Spin());
 }
 
-struct Creation20 {
+struct HeightCase {
     const char* name;
     int height;
-    int width;
+    int width;  // unless the scroll bar of the system is narrower
 };
-void PrintTo(const Creation20& row, std::ostream* out)
+void PrintTo(const HeightCase& row, std::ostream* out)
 {
     *out << row.name;
 }
 
-class CreatedSpin : public SpinWindow, public testing::WithParamInterface<Creation20> {};
+class CreatedSpin : public SpinWindow, public testing::WithParamInterface<HeightCase> {};
 
 TEST_P(CreatedSpin, StandsAtTheRightEdge)
 {
@@ -100,8 +102,7 @@ TEST_P(CreatedSpin, StandsAtTheRightEdge)
     ZTE_CreateSpin(Window());
     const HWND spin = Spin();
     ASSERT_NE(spin, nullptr);
-    const int widest = GetSystemMetrics(SM_CXVSCROLL) + 2;
-    const int width = GetParam().width > widest ? widest : GetParam().width;
+    const int width = std::min(GetParam().width, GetSystemMetrics(SM_CXVSCROLL) + 2);
     const RECT place = PlaceOf(spin);
     const RECT client = ClientOf(Window());
     EXPECT_EQ(place.left, client.right - width);
@@ -112,9 +113,9 @@ TEST_P(CreatedSpin, StandsAtTheRightEdge)
 }
 
 INSTANTIATE_TEST_SUITE_P(Heights, CreatedSpin,
-                         testing::Values(Creation20{"Six", 6, 7}, Creation20{"Twenty", 20, 15},
-                                         Creation20{"TwentyOne", 21, 16}, Creation20{"Hundred", 100, 68}),
-                         RowName<Creation20>);
+                         testing::Values(HeightCase{"Six", 6, 7}, HeightCase{"Twenty", 20, 15},
+                                         HeightCase{"TwentyOne", 21, 16}, HeightCase{"Hundred", 100, 68}),
+                         RowName<HeightCase>);
 
 TEST_F(SpinWindow, OfAControlTwentyHighIsNarrowerThanReported)
 {
@@ -213,6 +214,14 @@ TEST_F(SpinWindow, WindowsThatAreNoControlsAreLeftAlone)
 class SpinMouse : public SpinWindow {
 protected:
     void SetUp() override { MakeNumber(); }
+
+    // What the record says of a press: the arrow that is down, the one held outside, the mouse followed.
+    uint32_t ArrowFlags() const
+    {
+        return RecordOf(Window())->flags &
+               (zte::SPIN_UP | zte::SPIN_DOWN | zte::SPIN_UP_HELD | zte::SPIN_DOWN_HELD | zte::SPIN_TRACKING);
+    }
+
     TimerRecorder timers_;
 };
 
@@ -220,22 +229,24 @@ TEST_F(SpinMouse, APressInTheUpperHalfStepsUpAtOnce)
 {
     PressArrow(Arrow::Up);
     EXPECT_EQ(Text(), "8");
-    EXPECT_TRUE(HasFlag(zte::SPIN_UP));
-    EXPECT_FALSE(HasFlag(zte::SPIN_DOWN));
-    EXPECT_TRUE(HasFlag(zte::SPIN_TRACKING));
-    EXPECT_EQ(timerCalls, (std::vector<TimerCall>{
-                              {'s', Spin(), 1, 150}
-    }));
-    EXPECT_EQ(GetCapture(), Spin());
+    EXPECT_EQ(ArrowFlags(), zte::SPIN_UP | zte::SPIN_TRACKING);
     Release();
 }
 
-TEST_F(SpinMouse, APressInTheLowerHalfStepsDown)
+TEST_F(SpinMouse, APressInTheLowerHalfStepsDownAtOnce)
 {
     PressArrow(Arrow::Down);
     EXPECT_EQ(Text(), "6");
-    EXPECT_TRUE(HasFlag(zte::SPIN_DOWN));
-    EXPECT_FALSE(HasFlag(zte::SPIN_UP));
+    EXPECT_EQ(ArrowFlags(), zte::SPIN_DOWN | zte::SPIN_TRACKING);
+    Release();
+}
+
+TEST_F(SpinMouse, APressStartsTheTimerAndTakesTheMouse)
+{
+    PressArrow(Arrow::Up);
+    const TimerCall set = {'s', Spin(), 1, 150};
+    EXPECT_EQ(timerCalls, std::vector<TimerCall>{set});
+    EXPECT_EQ(GetCapture(), Spin());
     Release();
 }
 
@@ -285,10 +296,11 @@ TEST_F(SpinMouse, ReleasingEndsThePress)
 {
     PressArrow(Arrow::Up);
     Release();
-    EXPECT_FALSE(HasFlag(zte::SPIN_UP | zte::SPIN_DOWN | zte::SPIN_TRACKING));
+    EXPECT_EQ(ArrowFlags(), 0u);
     EXPECT_NE(GetCapture(), Spin());
-    ASSERT_EQ(timerCalls.size(), 2u);
-    EXPECT_EQ(timerCalls.back(), (TimerCall{'k', Spin(), 1, 0}));
+    const TimerCall set = {'s', Spin(), 1, 150};
+    const TimerCall ended = {'k', Spin(), 1, 0};
+    EXPECT_EQ(timerCalls, (std::vector<TimerCall>{set, ended}));
 }
 
 TEST_F(SpinMouse, APressGivesTheControlTheFocus)
@@ -306,33 +318,70 @@ TEST_F(SpinMouse, APressGivesTheControlTheFocus)
     SendMessageA(spin, WM_LBUTTONUP, 0, 0);
 }
 
-TEST_F(SpinMouse, LeavingParksThePressAndComingBackTakesItUp)
+struct ArrowCase {
+    const char* name;
+    Arrow arrow;
+    uint32_t down;
+    uint32_t parked;
+    const char* afterATick;
+};
+void PrintTo(const ArrowCase& row, std::ostream* out)
 {
-    PressArrow(Arrow::Up);
-    MouseAt(WM_MOUSEMOVE, {-5, 3});
-    EXPECT_FALSE(HasFlag(zte::SPIN_UP));
-    EXPECT_TRUE(HasFlag(zte::SPIN_UP_HELD));
-    EXPECT_FALSE(HasFlag(zte::SPIN_DOWN_HELD));
+    *out << row.name;
+}
+
+class PressThatLeaves : public SpinMouse, public testing::WithParamInterface<ArrowCase> {
+protected:
+    static constexpr POINT kLeft = {-5, 3};
+    static constexpr POINT kOneRowBelow = {3, 20};
+};
+
+TEST_P(PressThatLeaves, IsParked)
+{
+    for (const POINT& outside : {kLeft, kOneRowBelow}) {
+        PressArrow(GetParam().arrow);
+        MouseAt(WM_MOUSEMOVE, outside);
+        EXPECT_EQ(ArrowFlags(), GetParam().parked | zte::SPIN_TRACKING) << outside.x;
+        MouseAt(WM_MOUSEMOVE, {0, 0});
+        Release();
+    }
+}
+
+TEST_P(PressThatLeaves, StaysParkedOutside)
+{
+    PressArrow(GetParam().arrow);
+    MouseAt(WM_MOUSEMOVE, kLeft);
     MouseAt(WM_MOUSEMOVE, {200, 200});
-    EXPECT_FALSE(HasFlag(zte::SPIN_UP));
-    MouseAt(WM_MOUSEMOVE, MiddleOf(Arrow::Down));  // any place inside: the arrow pressed first comes back
-    EXPECT_TRUE(HasFlag(zte::SPIN_UP));
-    EXPECT_FALSE(HasFlag(zte::SPIN_DOWN));
-    Tick();
-    EXPECT_EQ(Text(), "9");
+    EXPECT_EQ(ArrowFlags(), GetParam().parked | zte::SPIN_TRACKING);
     Release();
 }
 
-TEST_F(SpinMouse, LeavingWithTheLowerArrowParksThatOne)
+TEST_P(PressThatLeaves, IsTakenUpAgainAtAnyPlaceInside)
 {
-    PressArrow(Arrow::Down);
-    MouseAt(WM_MOUSEMOVE, {3, 20});  // one row below
-    EXPECT_FALSE(HasFlag(zte::SPIN_DOWN));
-    EXPECT_TRUE(HasFlag(zte::SPIN_DOWN_HELD));
+    for (const Arrow inside : {Arrow::Up, Arrow::Down}) {
+        PressArrow(GetParam().arrow);
+        MouseAt(WM_MOUSEMOVE, kLeft);
+        MouseAt(WM_MOUSEMOVE, MiddleOf(inside));
+        EXPECT_EQ(ArrowFlags() & (zte::SPIN_UP | zte::SPIN_DOWN), GetParam().down);
+        Release();
+    }
+}
+
+TEST_P(PressThatLeaves, StepsItsOwnWayWhenItIsBack)
+{
+    PressArrow(GetParam().arrow);
+    MouseAt(WM_MOUSEMOVE, kLeft);
     MouseAt(WM_MOUSEMOVE, {0, 0});
-    EXPECT_TRUE(HasFlag(zte::SPIN_DOWN));
+    Tick();
+    EXPECT_EQ(Text(), GetParam().afterATick);
     Release();
 }
+
+constexpr ArrowCase kArrows[] = {
+    {"Up",   Arrow::Up,   zte::SPIN_UP,   zte::SPIN_UP_HELD,   "9"},
+    {"Down", Arrow::Down, zte::SPIN_DOWN, zte::SPIN_DOWN_HELD, "5"},
+};
+INSTANTIATE_TEST_SUITE_P(Arrows, PressThatLeaves, testing::ValuesIn(kArrows), RowName<ArrowCase>);
 
 TEST_F(SpinMouse, StepsGoOnOutside)
 {
@@ -350,15 +399,28 @@ TEST_F(SpinMouse, ReleasingOutsideKeepsTheParkedArrowOnly)
     PressArrow(Arrow::Up);
     MouseAt(WM_MOUSEMOVE, {-5, -5});
     Release();
-    EXPECT_FALSE(HasFlag(zte::SPIN_UP | zte::SPIN_DOWN | zte::SPIN_TRACKING));
-    EXPECT_TRUE(HasFlag(zte::SPIN_UP_HELD));
+    EXPECT_EQ(ArrowFlags(), zte::SPIN_UP_HELD);
+}
+
+TEST_F(SpinMouse, AnArrowReleasedOutsideIsNotTakenUpByAMove)
+{
+    PressArrow(Arrow::Up);
+    MouseAt(WM_MOUSEMOVE, {-5, -5});
+    Release();
     MouseAt(WM_MOUSEMOVE, {2, 2});
     EXPECT_FALSE(HasFlag(zte::SPIN_UP)) << "moves count while an arrow is held only";
+}
+
+TEST_F(SpinMouse, AnArrowReleasedOutsideIsNotTakenUpByTheNextPress)
+{
+    PressArrow(Arrow::Up);
+    MouseAt(WM_MOUSEMOVE, {-5, -5});
+    Release();
     PressArrow(Arrow::Down);
-    EXPECT_EQ(Text(), "7");
     MouseAt(WM_MOUSEMOVE, {-5, -5});
     MouseAt(WM_MOUSEMOVE, {2, 2});
     EXPECT_FALSE(HasFlag(zte::SPIN_UP));
+    EXPECT_EQ(Text(), "7");  // one up and one down
     Release();
 }
 
@@ -366,7 +428,7 @@ TEST_F(SpinMouse, MovingWithoutAPressDoesNothing)
 {
     MouseAt(WM_MOUSEMOVE, {2, 2});
     MouseAt(WM_MOUSEMOVE, {-2, -2});
-    EXPECT_FALSE(HasFlag(zte::SPIN_UP | zte::SPIN_DOWN | zte::SPIN_UP_HELD | zte::SPIN_DOWN_HELD));
+    EXPECT_EQ(ArrowFlags(), 0u);
     EXPECT_EQ(Text(), "7");
 }
 
@@ -534,15 +596,15 @@ TEST_P(DestroyedInItsStep, OfATick)
     ExpectGone();
 }
 
-INSTANTIATE_TEST_SUITE_P(Types, DestroyedInItsStep,
-                         testing::Values(DoomedControl{"Number", "##0", DT_NUMBER, "7", nullptr, 0},
-                                         DoomedControl{"Decimal", "##0.00", DT_DECIMAL, "7", nullptr, 0},
-                                         DoomedControl{"Date", "MM/DD/YY", DT_DATE, "1995-07-04", nullptr, 0},
-                                         DoomedControl{"Time", "HH:MM:SS", DT_TIME, "10:20:30", nullptr, 0},
-                                         DoomedControl{"String", "AAAA", DT_STRING, "abcd", nullptr, 0},
-                                         DoomedControl{"CodeTable", "XXXX", DT_STRING, "1", "a\t1/b\t2",
-                                                       ZTEO_CODE_DISPLAY}),
-                         RowName<DoomedControl>);
+constexpr DoomedControl kDoomed[] = {
+    {"Number",    "##0",      DT_NUMBER,  "7",          nullptr,     0                },
+    {"Decimal",   "##0.00",   DT_DECIMAL, "7",          nullptr,     0                },
+    {"Date",      "MM/DD/YY", DT_DATE,    "1995-07-04", nullptr,     0                },
+    {"Time",      "HH:MM:SS", DT_TIME,    "10:20:30",   nullptr,     0                },
+    {"String",    "AAAA",     DT_STRING,  "abcd",       nullptr,     0                },
+    {"CodeTable", "XXXX",     DT_STRING,  "1",          "a\t1/b\t2", ZTEO_CODE_DISPLAY},
+};
+INSTANTIATE_TEST_SUITE_P(Types, DestroyedInItsStep, testing::ValuesIn(kDoomed), RowName<DoomedControl>);
 
 TEST_F(SpinDestruction, InTheFlipOfAmPm)
 {
@@ -596,6 +658,8 @@ TEST_F(SpinDestruction, WhileItsSpinIsBeingMade)
     const Subclass ending(doomed_, EndAtTheBirthOfAChild);
     ZTE_CreateSpin(doomed_);
     EXPECT_FALSE(IsWindow(doomed_));
+    EXPECT_EQ(SharedHeapBlockCount(heap_), 1u);  // the mask: neither the record nor a part of the spin is left
+    EXPECT_EQ(GetCapture(), nullptr);
 }
 
 TEST_F(SpinDestruction, OfTheSpinAloneLeavesAWorkingControl)

@@ -7,8 +7,8 @@
 #include <cstring>
 #include <string>
 
-#include "tests/shared/rows.h"
-#include "tests/shared/scoped_profile.h"
+#include "tests/companions/rows.h"
+#include "tests/companions/scoped_profile.h"
 #include "ztshared.h"
 
 namespace {
@@ -71,26 +71,42 @@ constexpr NumberCase kNumberCases[] = {
 
 INSTANTIATE_TEST_SUITE_P(Texts, NumberTest, testing::ValuesIn(kNumberCases), zttest::RowName<NumberCase>);
 
-TEST(NumberTestRegional, TakesTheRegionalPointAndThePlainOne)
+struct RegionalNumberCase {
+    const char* name;
+    const ScopedProfile::Values* profile;
+    const char* text;
+    bool number;
+};
+
+void PrintTo(const RegionalNumberCase& row, std::ostream* out)
 {
-    const ScopedProfile profile(zttest::kCommaAndPoint);
-    EXPECT_NE(SharedIsNumber("1,5"), 0);
-    EXPECT_NE(SharedIsNumber("1.5"), 0);
-    EXPECT_NE(SharedIsNumber(",5"), 0);
-    EXPECT_EQ(SharedIsNumber("1.5,2"), 0);
-    EXPECT_EQ(SharedIsNumber("1,2,3"), 0);
-    EXPECT_EQ(SharedIsNumber(","), 0);
+    *out << '"' << row.text << '"';
 }
 
-TEST(NumberTestRegional, TakesThePlainPointWhenTheProfileHasNone)
+class NumberTestRegional : public testing::TestWithParam<RegionalNumberCase> {};
+
+TEST_P(NumberTestRegional, TakesTheRegionalPointAndThePlainOne)
 {
-    const ScopedProfile profile(zttest::kEmptyCharacters);
-    EXPECT_NE(SharedIsNumber("1.5"), 0);
-    EXPECT_EQ(SharedIsNumber(""), 0);
-    EXPECT_EQ(SharedIsNumber("1,5"), 0);
+    const ScopedProfile profile(*GetParam().profile);
+    EXPECT_EQ(SharedIsNumber(GetParam().text) != 0, GetParam().number);
 }
 
-TEST(NumberTestRegional, TakesNullAsNoNumber)
+const RegionalNumberCase kRegionalNumberCases[] = {
+    {"Comma",                &zttest::kCommaAndPoint,   "1,5",   true },
+    {"PointBesideTheComma",  &zttest::kCommaAndPoint,   "1.5",   true },
+    {"CommaFirst",           &zttest::kCommaAndPoint,   ",5",    true },
+    {"PointAndComma",        &zttest::kCommaAndPoint,   "1.5,2", false},
+    {"TwoCommas",            &zttest::kCommaAndPoint,   "1,2,3", false},
+    {"CommaOnly",            &zttest::kCommaAndPoint,   ",",     false},
+    {"PointWithoutASetting", &zttest::kEmptyCharacters, "1.5",   true },
+    {"EmptyWithoutASetting", &zttest::kEmptyCharacters, "",      false},
+    {"CommaWithoutASetting", &zttest::kEmptyCharacters, "1,5",   false},
+};
+
+INSTANTIATE_TEST_SUITE_P(Texts, NumberTestRegional, testing::ValuesIn(kRegionalNumberCases),
+                         zttest::RowName<RegionalNumberCase>);
+
+TEST(NumberTestNull, IsNoNumber)
 {
     EXPECT_EQ(SharedIsNumber(nullptr), 0);
 }

@@ -1,0 +1,33 @@
+# The tests that run on this machine, without a window: the properties of the engine, and the tests of tests/engine on fields in
+# memory.
+
+set(INSTALL_GTEST OFF)
+set(BUILD_GMOCK OFF)
+add_subdirectory(${ZT_GOOGLETEST_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+
+add_library(zt_native_test_flags INTERFACE)
+target_link_libraries(zt_native_test_flags INTERFACE zt_engine gtest)
+target_include_directories(zt_native_test_flags INTERFACE ${CMAKE_SOURCE_DIR}/tests)
+target_compile_definitions(zt_native_test_flags INTERFACE ZTE_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+
+# zt_add_native_tests(<name> <file>...): the test program bin/test_<name> and its entry of ctest.
+function(zt_add_native_tests name)
+    add_executable(test_${name} ${ARGN})
+    target_link_libraries(test_${name} PRIVATE zt_native_test_flags)
+    add_test(NAME ${name} COMMAND test_${name} --gtest_brief=1)
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
+endfunction()
+
+file(GLOB zt_property_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/properties/*.cpp)
+zt_add_native_tests(properties ${zt_property_sources})
+target_link_libraries(test_properties PRIVATE gtest_main)
+
+file(GLOB zt_engine_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/engine/*.cpp ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
+    ${CMAKE_SOURCE_DIR}/tests/support/native/*.cpp)
+zt_add_native_tests(engine ${zt_engine_sources})
+# The engine is compiled without type information, which this check would ask its classes for.
+set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/support/native/masked_edit.cpp
+    PROPERTIES COMPILE_OPTIONS -fno-sanitize=vptr)
+
+add_test(NAME includes COMMAND ${CMAKE_COMMAND} -DSOURCE_DIR=${CMAKE_SOURCE_DIR}
+    -P ${CMAKE_SOURCE_DIR}/cmake/check_includes.cmake)

@@ -1,0 +1,101 @@
+// A masked edit in memory.
+#include "engine/memory_control.h"
+
+#include "engine/edit/click.h"
+#include "engine/edit/keyboard.h"
+#include "engine/edit/paste.h"
+#include "engine/format/data.h"
+#include "engine/format/mask_setting.h"
+#include "engine/mask/mask_table.h"
+#include "engine/own_heap.h"
+#include "engine/spin/spin_settings.h"
+#include "engine/spin/step.h"
+
+namespace zte {
+
+MemoryControl::MemoryControl(const ControlSetup& setup, const Settings& settings, Clock clock, FieldListener* listener)
+    : field_(setup.style)
+{
+    field_.SetListener(listener);
+    record_.heap = CreateHeap();
+    record_.dataType = setup.dataType;
+    record_.field = &field_;
+    record_.settings = &settings;
+    record_.clock = clock;
+    ApplyOptions(record_, setup.options);
+    if (Has(record_, HAS_SPIN))
+        SetSpin(record_, setup.spinIncrement, setup.spinRange, setup.codeTable, SpinStyleOf(setup.options));
+    SetMask(record_, setup.mask, setup.dataType);
+    if (setup.data)
+        SetDataString(record_, setup.data);
+    if (Has(record_, HAS_SPIN))
+        CreateSpin();
+}
+
+MemoryControl::~MemoryControl()
+{
+    DropSpinTexts(record_);
+    DropMask(record_);
+    DestroyHeap(record_.heap);
+}
+
+void MemoryControl::KeyDown(int32_t key)
+{
+    if (!OnKeyDown(record_, static_cast<uint32_t>(key), 0).kept)
+        field_.Press(static_cast<Key>(key));
+}
+
+void MemoryControl::Type(uint32_t character)
+{
+    if (!OnChar(record_, character, 0).kept)
+        field_.Type(static_cast<Char>(character));
+}
+
+void MemoryControl::KeyUp(int32_t key)
+{
+    OnKeyUp(record_, static_cast<uint32_t>(key));
+}
+
+template <typename Mouse>
+void MemoryControl::UseMouse(Mouse mouse)
+{
+    record_.carriedTo = 0;
+    mouse();
+    if (IsClickCorrected(record_) && !field_.Shown().empty())
+        CorrectClick(record_);
+}
+
+void MemoryControl::Click(int32_t position, bool shift)
+{
+    UseMouse([&] { field_.Click(position, shift); });
+}
+
+void MemoryControl::Drag(int32_t from, int32_t to)
+{
+    UseMouse([&] { field_.Drag(from, to); });
+}
+
+void MemoryControl::Paste()
+{
+    PasteClipboard(record_);
+}
+
+void MemoryControl::DestroySpin()
+{
+    DropSpinTexts(record_);
+    record_.hwndSpin = nullptr;
+}
+
+void MemoryControl::Step(bool up)
+{
+    record_.flags |= up ? SPIN_UP : SPIN_DOWN;
+    SpinStep(record_);
+    SetFlag(record_, SPIN_UP | SPIN_DOWN, false);
+}
+
+uint32_t MemoryControl::BlockCount() const
+{
+    return zte::BlockCount(record_.heap);
+}
+
+}  // namespace zte
