@@ -22,5 +22,12 @@ file(GLOB zt_property_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/proper
 zt_add_native_tests(properties ${zt_property_sources})
 target_link_libraries(test_properties PRIVATE gtest_main)
 
+file(GLOB zt_engine_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/engine/*.cpp ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
+    ${CMAKE_SOURCE_DIR}/tests/support/native/*.cpp)
+zt_add_native_tests(engine ${zt_engine_sources})
+# The engine is compiled without type information, which this check would ask its classes for.
+set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/support/native/masked_edit.cpp
+    PROPERTIES COMPILE_OPTIONS -fno-sanitize=vptr)
+
 add_test(NAME includes COMMAND ${CMAKE_COMMAND} -DSOURCE_DIR=${CMAKE_SOURCE_DIR}
     -P ${CMAKE_SOURCE_DIR}/cmake/check_includes.cmake)

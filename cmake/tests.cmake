@@ -4,7 +4,9 @@ set(INSTALL_GTEST OFF)
 set(BUILD_GMOCK ON)  # only what a test program links is built
 add_subdirectory(${ZT_GOOGLETEST_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
 
-file(GLOB zt_support_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/support/*.cpp)
+# Here the tests of tests/engine run on live windows; on fields in memory see native_tests.cmake.
+file(GLOB zt_support_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
+    ${CMAKE_SOURCE_DIR}/tests/support/live/*.cpp)
 add_library(zt_test_flags INTERFACE)
 target_link_libraries(zt_test_flags INTERFACE zt_build_flags gtest user32 gdi32)
 target_include_directories(zt_test_flags INTERFACE ${CMAKE_SOURCE_DIR}/tests)
@@ -53,11 +55,6 @@ add_executable(abi_customer ${CMAKE_SOURCE_DIR}/tests/abi/abi_customer.c)
 target_link_libraries(abi_customer PRIVATE ztedit050 ztshared ztdecimal zt_build_flags)
 target_link_options(abi_customer PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wl,--fatal-warnings>)
 add_dependencies(test_abi abi_customer)
-
-# The mask tests run the examples of docs/masks.md.
-if(TARGET test_mask)
-    target_compile_definitions(test_mask PRIVATE ZTE_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
-endif()
 
 # A person at the demo form: real key and mouse presses, compared with what it must show and give back.
 add_test(NAME demo COMMAND ${CMAKE_SOURCE_DIR}/tools/run_under_wine.sh

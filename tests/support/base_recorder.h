@@ -1,31 +1,4 @@
-// Records what the library hands to the standard edit procedure, in order. One at a time.
+// Where the window tests still look for it.
 #pragma once
 
-#include <windows.h>
-
-#include <vector>
-
-#include "tests/support/import_patch.h"
-
-namespace zttest {
-
-struct BaseMessage {
-    UINT message;
-    WPARAM wParam;
-    RECT rect;  // what lParam pointed to, for EM_SETRECTNP
-};
-
-class BaseRecorder {
-public:
-    BaseRecorder();
-    ~BaseRecorder();
-
-    const std::vector<BaseMessage>& All() const;
-    std::vector<BaseMessage> Of(UINT message) const;
-    void Forget();
-
-private:
-    ImportPatch patch_;
-};
-
-}  // namespace zttest
+#include "tests/support/live/base_recorder.h"

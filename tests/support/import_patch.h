@@ -1,21 +1,4 @@
-// Leads one import of the control library to a function of the test while it lives.
+// Where the window tests still look for it.
 #pragma once
 
-namespace zttest {
-
-class ImportPatch {
-public:
-    // Reports a failure when the library does not import the function.
-    ImportPatch(const char* dll, const char* function, void* replacement);
-    ImportPatch(const ImportPatch&) = delete;
-    ImportPatch& operator=(const ImportPatch&) = delete;
-    ~ImportPatch();
-
-    void* Original() const { return original_; }
-
-private:
-    void** slot_;  // the entry in the import address table, or null
-    void* original_ = nullptr;
-};
-
-}  // namespace zttest
+#include "tests/support/live/import_patch.h"

@@ -1,28 +1,11 @@
 // Regional settings for tests.
-// Only keys that differ are written, since each write goes to the disk.
+// Only keys that differ are written, since each write may go to the disk.
 #include "tests/support/profile.h"
 
-#include <windows.h>
-
-#include "include/ztedit.h"
+#include <cstring>
 
 namespace zttest {
 namespace {
-
-constexpr const char* kSection = "intl";
-constexpr const char* kAbsent = "\x01";
-
-std::string ReadKey(const char* key)
-{
-    char value[300];
-    GetProfileStringA(kSection, key, kAbsent, value, sizeof value);
-    return value;
-}
-
-void WriteKey(const char* key, const std::string& value)
-{
-    WriteProfileStringA(kSection, key, value == kAbsent ? nullptr : value.c_str());
-}
 
 RegionalSet Complete(const char* decimal, const char* thousand, const char* currency, const char* currencyPosition,
                      const char* shortDate)
@@ -53,11 +36,11 @@ Regional::Regional(const RegionalSet& values)
 {
     for (const ProfileValue& entry : values) {
         const std::string wanted = entry.value ? entry.value : kAbsent;
-        const std::string current = ReadKey(entry.key);
+        const std::string current = ReadProfile(entry.key);
         if (current == wanted)
             continue;
         previous_.emplace_back(entry.key, current);
-        WriteKey(entry.key, wanted);
+        WriteProfile(entry.key, wanted);
     }
     TellRegionalChange();
 }
@@ -65,16 +48,23 @@ Regional::Regional(const RegionalSet& values)
 Regional::~Regional()
 {
     for (auto entry = previous_.rbegin(); entry != previous_.rend(); ++entry)
-        WriteKey(entry->first.c_str(), entry->second);
+        WriteProfile(entry->first.c_str(), entry->second);
     TellRegionalChange();
 }
 
-void TellRegionalChange()
+RegionalSet With(RegionalSet set, const RegionalSet& changes)
 {
-    const HWND listener = CreateWindowExA(0, ZTEDIT_CLASS, "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
-                                          GetModuleHandleA(nullptr), nullptr);
-    SendMessageA(listener, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>("intl"));
-    DestroyWindow(listener);
+    for (const ProfileValue& change : changes)
+        for (ProfileValue& entry : set)
+            if (std::strcmp(entry.key, change.key) == 0)
+                entry.value = change.value;
+    return set;
+}
+
+std::string RegionalValue(const char* key)
+{
+    const std::string value = ReadProfile(key);
+    return value == kAbsent ? "" : value;
 }
 
 }  // namespace zttest

@@ -1,0 +1,182 @@
+// The keywords that expand into masks of the regional settings.
+#include "tests/support/engine_test.h"
+
+namespace zttest {
+namespace {
+
+class Keywords : public ValueTest {
+protected:
+    Keywords() { Install(nullptr, DT_STRING); }
+};
+
+struct KeywordCase {
+    const char* name;
+    const RegionalSet* settings;
+    const char* keyword;
+    int32_t type;
+    int32_t result;
+    const char* mask;
+};
+void PrintTo(const KeywordCase& row, std::ostream* out)
+{
+    *out << row.keyword;
+}
+
+class Expansion : public Keywords, public testing::WithParamInterface<KeywordCase> {};
+
+TEST_P(Expansion, IsInstalled)
+{
+    const Regional settings(*GetParam().settings);
+    EXPECT_EQ(SetMask(GetParam().keyword, GetParam().type), GetParam().result);
+    EXPECT_EQ(MaskInForce(), GetParam().mask);
+}
+
+const KeywordCase kDateKeywordRows[] = {
+    {"DateInTheUnitedStates",          &kUnitedStates, "[date]",         DT_DATE,     1, "mm/dd/yyyy"           },
+    {"DateInGerman",                   &kGerman,       "[date]",         DT_DATE,     1, "dd.mm.yyyy"           },
+    {"DateInIso",                      &kIso,          "[date]",         DT_DATE,     1, "yyyy-mm-dd"           },
+    {"DateInCapitals",                 &kUnitedStates, "[DATE]",         DT_DATE,     1, "mm/dd/yyyy"           },
+    {"DateInMixedCase",                &kUnitedStates, "[Date]",         DT_DATE,     1, "mm/dd/yyyy"           },
+    {"DateIsNotCheckedAgainstTheType", &kUnitedStates, "[date]",         DT_STRING,   1, "mm/dd/yyyy"           },
+    {"Time",                           &kUnitedStates, "[time]",         DT_TIME,     1, "hh:mm:ss"             },
+    {"TimeInCapitals",                 &kUnitedStates, "[TIME]",         DT_TIME,     1, "hh:mm:ss"             },
+    {"Both",                           &kUnitedStates, "[date] [time]",  DT_DATETIME, 1, "mm/dd/yyyy hh:mm:ss"  },
+    {"BothInGerman",                   &kGerman,       "[date] [time]",  DT_DATETIME, 1, "dd.mm.yyyy hh:mm:ss"  },
+    {"BothInCapitals",                 &kIso,          "[DATE] [TIME]",  DT_DATETIME, 1, "yyyy-mm-dd hh:mm:ss"  },
+    {"TextBeforeIsNoKeyword",          &kUnitedStates, " [time]",        DT_STRING,   1, " [time]"              },
+    {"TextBehindIsNoKeyword",          &kUnitedStates, "[time] ",        DT_STRING,   1, "[time] "              },
+    {"TwoBlanksAreNoKeyword",          &kUnitedStates, "[date]  [time]", DT_DATETIME, 0, "MM/DD/YY HH:MM:SS:FFF"},
+    {"TheOtherOrderIsNoKeyword",       &kUnitedStates, "[time] [date]",  DT_DATETIME, 0, "MM/DD/YY HH:MM:SS:FFF"},
+};
+
+const KeywordCase kCurrencyKeywordRows[] = {
+    {"Eight",                          &kUnitedStates, "[currency(8)]",                    DT_NUMBER,  1, "$###,###.00"           },
+    {"Nine",                           &kUnitedStates, "[currency(9)]",                    DT_NUMBER,  1, "$#,###,###.00"         },
+    {"Sixteen",                        &kUnitedStates, "[currency(16)]",                   DT_NUMBER,  1, "$##,###,###,###,###.00"},
+    {"Three",                          &kUnitedStates, "[currency(3)]",                    DT_NUMBER,  1, "$#.00"                 },
+    {"OnlyTheFraction",                &kUnitedStates, "[currency(2)]",                    DT_NUMBER,  1, "$.00"                  },
+    {"FewerThanTheFraction",           &kUnitedStates, "[currency(1)]",                    DT_NUMBER,  1, "$.00"                  },
+    {"NoCount",                        &kUnitedStates, "[currency()]",                     DT_NUMBER,  1, "$.00"                  },
+    {"ANegativeCount",                 &kUnitedStates, "[currency(-4)]",                   DT_NUMBER,  1, "$.00"                  },
+    {"ForADecimal",                    &kUnitedStates, "[currency(8)]",                    DT_DECIMAL, 1, "$###,###.00"           },
+    {"TextBehind",                     &kUnitedStates, "[currency(8)] of it",              DT_NUMBER,  1, "$###,###.00"           },
+    {"TextBeforeTheParenthesis",       &kUnitedStates, "[currency: (8)]",                  DT_NUMBER,  1, "$###,###.00"           },
+    {"NineteenCharactersOfCount",      &kUnitedStates, "[currency(0000000000000000008)]",  DT_NUMBER,  1, "$###,###.00"           },
+    {"TheCountIsSixteenBitsWide",      &kUnitedStates, "[currency(65544)]",                DT_NUMBER,  1, "$###,###.00"           },
+    {"SeventeenFails",                 &kUnitedStates, "[currency(17)]",                   DT_NUMBER,  0, "#,#.00"                },
+    {"TwentyCharactersOfCountFail",    &kUnitedStates, "[currency(00000000000000000008)]", DT_NUMBER,  0, "#,#.00"                },
+    {"NoParenthesisFails",             &kUnitedStates, "[currency]",                       DT_NUMBER,  0, "#,#.00"                },
+    {"NoClosingParenthesisFails",      &kUnitedStates, "[currency(8]",                     DT_NUMBER,  0, "#,#.00"                },
+    {"OtherOrderOfParenthesesFails",   &kUnitedStates, "[currency)8(]",                    DT_NUMBER,  0, "#,#.00"                },
+    {"CapitalsAreNoKeyword",           &kUnitedStates, "[Currency(8)]",                    DT_NUMBER,  0, "#,#.00"                },
+    {"AFailedKeywordMayBeAStringMask", &kUnitedStates, "[currency(17)]",                   DT_STRING,  1, "[currency(17)]"        },
+    {"GermanBehindTheDigits",          &kGerman,       "[currency(8)]",                    DT_NUMBER,  1, "###,###.00EUR"         },
+    {"FrenchBehindTheDigits",          &kFrench,       "[currency(5)]",                    DT_NUMBER,  1, "###.00F"               },
+    {"SwissBeforeTheDigits",           &kSwiss,        "[currency(8)]",                    DT_NUMBER,  1, "CHF###,###.00"         },
+};
+
+INSTANTIATE_TEST_SUITE_P(Date, Expansion, testing::ValuesIn(kDateKeywordRows), RowName<KeywordCase>);
+INSTANTIATE_TEST_SUITE_P(Currency, Expansion, testing::ValuesIn(kCurrencyKeywordRows), RowName<KeywordCase>);
+
+// Keys of the settings and the keyword under them, the rest as in the United States.
+struct SettingCase {
+    const char* name;
+    const char* key;
+    const char* value;
+    const char* secondKey;
+    const char* secondValue;
+    const char* keyword;
+    int32_t type;
+    int32_t result;
+    const char* mask;
+};
+void PrintTo(const SettingCase& row, std::ostream* out)
+{
+    *out << row.keyword << " with " << row.key << '=' << row.value;
+}
+
+class SettingsOf : public Keywords, public testing::WithParamInterface<SettingCase> {};
+
+TEST_P(SettingsOf, TheKeywordAreFollowed)
+{
+    const SettingCase& row = GetParam();
+    RegionalSet changes = {
+        {row.key, row.value}
+    };
+    if (row.secondKey)
+        changes.push_back({row.secondKey, row.secondValue});
+    const Regional settings(With(kUnitedStates, changes));
+    EXPECT_EQ(SetMask(row.keyword, row.type), row.result);
+    EXPECT_EQ(MaskInForce(), row.mask);
+}
+
+const SettingCase kSettingRows[] = {
+    {"PositionZero",                     "iCurrency",   "0",            "sCurrency", "F",     "[currency(5)]", DT_NUMBER,   1, "F###.00"          },
+    {"PositionOne",                      "iCurrency",   "1",            "sCurrency", "F",     "[currency(5)]", DT_NUMBER,   1, "###.00F"          },
+    {"PositionTwo",                      "iCurrency",   "2",            "sCurrency", "F",     "[currency(5)]", DT_NUMBER,   1, "F###.00"          },
+    {"PositionThree",                    "iCurrency",   "3",            "sCurrency", "F",     "[currency(5)]", DT_NUMBER,   1, "###.00F"          },
+    {"PositionFourIsZero",               "iCurrency",   "4",            "sCurrency", "F",     "[currency(5)]", DT_NUMBER,   1, "F###.00"          },
+    {"PositionSevenIsZero",              "iCurrency",   "7",            "sCurrency", "F",     "[currency(5)]", DT_NUMBER,   1, "F###.00"          },
+    {"ANegativePositionIsZero",          "iCurrency",   "-1",           "sCurrency", "F",     "[currency(5)]", DT_NUMBER,   1, "F###.00"          },
+    {"ThreeLettersBefore",               "iCurrency",   "2",            "sCurrency", "DKK",   "[currency(8)]", DT_NUMBER,   1, "DKK###,###.00"    },
+    {"ThreeLettersBehind",               "iCurrency",   "3",            "sCurrency", "DKK",   "[currency(8)]", DT_NUMBER,   1, "###,###.00DKK"    },
+    {"NoSymbol",                         "iCurrency",   "0",            "sCurrency", "",      "[currency(8)]", DT_NUMBER,   1, "###,###.00"       },
+    {"NoFractionDigits",                 "iCurrDigits", "0",            nullptr,     nullptr, "[currency(4)]", DT_NUMBER,   1, "$#,###"           },
+    {"OneFractionDigit",                 "iCurrDigits", "1",            nullptr,     nullptr, "[currency(4)]", DT_NUMBER,   1, "$###.0"           },
+    {"ThreeFractionDigits",              "iCurrDigits", "3",            nullptr,     nullptr, "[currency(7)]", DT_NUMBER,   1, "$#,###.000"       },
+    {"ANegativeFractionKeepsThePoint",   "iCurrDigits", "-1",           nullptr,     nullptr, "[currency(4)]", DT_NUMBER,   1,
+     "$##,###."                                                                                                                                   },
+    {"SeparatorsStayPlain",              "sDecimal",    ",",            "sThousand", ".",     "[currency(8)]", DT_NUMBER,   1, "$###,###.00"      },
+    {"AnotherTimeSeparator",             "sTime",       ".",            nullptr,     nullptr, "[time]",        DT_TIME,     1, "hh.mm.ss"         },
+    {"ATimeSeparatorOfTwoCharacters",    "sTime",       "::",           nullptr,     nullptr, "[time]",        DT_TIME,     1, "hh::mm::ss"       },
+    {"BothOfThem",                       "sShortDate",  "d-MMM-yy",     "sTime",     ".",     "[date] [time]", DT_DATETIME, 1, "dd-mm-yy hh.mm.ss"},
+    {"WordsInThePicture",                "sShortDate",  "'Day' d.M.yy", nullptr,     nullptr, "[date]",        DT_DATE,     1, "Day dd.mm.yy"     },
+    {"AnEmptyPictureIsAnEmptyMask",      "sShortDate",  "",             nullptr,     nullptr, "[date]",        DT_DATE,     1, ""                 },
+    {"ABadPictureFails",                 "sShortDate",  "yyy/MM/dd",    nullptr,     nullptr, "[date]",        DT_DATE,     0, "MM/DD/YY"         },
+    {"ABadPictureFailsForBoth",          "sShortDate",  "yyy/MM/dd",    nullptr,     nullptr, "[date] [time]", DT_DATETIME, 0,
+     "MM/DD/YY HH:MM:SS:FFF"                                                                                                                      },
+    {"AFailedKeywordMayBeATimeMask",     "sShortDate",  "yyy/MM/dd",    nullptr,     nullptr, "[date]",        DT_TIME,     1, "[date]"           },
+    {"ABadPictureDoesNotConcernTheTime", "sShortDate",  "yyy/MM/dd",    nullptr,     nullptr, "[time]",        DT_TIME,     1, "hh:mm:ss"         },
+};
+INSTANTIATE_TEST_SUITE_P(, SettingsOf, testing::ValuesIn(kSettingRows), RowName<SettingCase>);
+
+TEST_F(Keywords, ACurrencySymbolThatJustFitsIsTaken)
+{
+    const std::string symbol(245, 'c');
+    const Regional settings(With(kUnitedStates, {
+                                                    {"sCurrency", symbol.c_str()}
+    }));
+    EXPECT_EQ(SetMask("[currency(8)]", DT_NUMBER), 1);
+    EXPECT_EQ(MaskInForce(), symbol + "###,###.00");
+}
+
+TEST_F(Keywords, ACurrencySymbolThatDoesNotFitFails)
+{
+    const std::string symbol(246, 'c');
+    const Regional settings(With(kUnitedStates, {
+                                                    {"sCurrency", symbol.c_str()}
+    }));
+    EXPECT_EQ(SetMask("[currency(8)]", DT_NUMBER), 0);
+    EXPECT_EQ(MaskInForce(), "#,#.00");
+}
+
+TEST_F(Keywords, ExpandByTheSettingsOfTheCall)
+{
+    SetMask("[date]", DT_DATE);
+    const Regional settings(kGerman);
+    EXPECT_EQ(MaskInForce(), "mm/dd/yyyy");
+    SetMask("[date]", DT_DATE);
+    EXPECT_EQ(MaskInForce(), "dd.mm.yyyy");
+}
+
+TEST_F(Keywords, ThatFailUnderAStringMaskStandAsTheyAre)
+{
+    const Regional settings(With(kUnitedStates, {
+                                                    {"sShortDate", "yyy/MM/dd"}
+    }));
+    EXPECT_EQ(SetMask("[date]", DT_STRING), 1);
+    EXPECT_EQ(MaskInForce(), "[date]");
+}
+
+}  // namespace
+}  // namespace zttest

@@ -1,0 +1,67 @@
+// The examples of docs/spin.md: every row of its tables is played and comes out as written.
+#include <sstream>
+
+#include "tests/support/documents.h"
+#include "tests/support/engine_test.h"
+
+namespace zttest {
+namespace {
+
+std::string WithTabs(std::string text)
+{
+    for (size_t at = text.find("<tab>"); at != std::string::npos; at = text.find("<tab>"))
+        text.replace(at, 5, "\t");
+    return text;
+}
+
+class DocumentedSteps : public SpinTest, public testing::WithParamInterface<DocumentRow> {
+protected:
+    void StepAll(const std::string& keys)
+    {
+        std::istringstream names(keys);
+        for (std::string name; names >> name;) {
+            ASSERT_TRUE(name == "Up" || name == "Down") << name;
+            Step(name == "Up" ? Arrow::Up : Arrow::Down);
+        }
+    }
+};
+
+class DocumentedStep : public DocumentedSteps {};
+
+TEST_P(DocumentedStep, LeadsToWhatIsWritten)
+{
+    const DocumentRow& row = GetParam();
+    const char* range = row["range"] == "none" ? nullptr : row["range"].c_str();
+    const auto increment = static_cast<uint32_t>(std::stoul(row["increment"]));
+    MakeSpin(row["mask"].c_str(), TypeNamed(row["type"]), range, increment, nullptr);
+    Show(row["from"]);
+    StepAll(row["keys"]);
+    EXPECT_EQ(Shown(), row["becomes"]);
+}
+
+const std::vector<DocumentRow> kSteps =
+    DocumentRows("docs/spin.md", {"type", "mask", "range", "increment", "from", "keys", "becomes"});
+INSTANTIATE_TEST_SUITE_P(Spin, DocumentedStep, testing::ValuesIn(kSteps), LineName);
+
+class DocumentedCodeTable : public DocumentedSteps {};
+
+TEST_P(DocumentedCodeTable, ComesOutAsWritten)
+{
+    const DocumentRow& row = GetParam();
+    MakeCodeTable("XXXXXX", DT_STRING, WithTabs(row["code table"]).c_str(), SPINSTYLE_CODETABLE);
+    StepAll(row["keys"]);
+    EXPECT_EQ(Text(), row["shows"]);
+    EXPECT_EQ(Value(), row["reads as"]);
+}
+
+const std::vector<DocumentRow> kCodeTables = DocumentRows("docs/spin.md", {"code table", "keys", "shows", "reads as"});
+INSTANTIATE_TEST_SUITE_P(Spin, DocumentedCodeTable, testing::ValuesIn(kCodeTables), LineName);
+
+TEST(DocumentedExamplesOfTheSpin, AreFound)
+{
+    EXPECT_GT(kSteps.size(), 30u);
+    EXPECT_GE(kCodeTables.size(), 5u);
+}
+
+}  // namespace
+}  // namespace zttest

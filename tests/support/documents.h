@@ -1,0 +1,32 @@
+// The tables of the documentation, whose rows are played as tests.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace zttest {
+
+// One row of a table. A cell is asked for by the heading of its column.
+struct DocumentRow {
+    int line;
+    std::map<std::string, std::string> cells;
+
+    bool Has(const std::string& heading) const { return cells.count(heading) == 1; }
+    const std::string& operator[](const std::string& heading) const { return cells.at(heading); }
+};
+void PrintTo(const DocumentRow& row, std::ostream* out);
+
+// The rows of a file of the sources ("docs/masks.md") whose table has all the columns named.
+std::vector<DocumentRow> DocumentRows(const std::string& file, const std::vector<const char*>& columns);
+
+// The name of a row as gtest wants it for INSTANTIATE_TEST_SUITE_P.
+std::string LineName(const testing::TestParamInfo<DocumentRow>& info);
+
+// The data type that the documentation calls by a name.
+int32_t TypeNamed(const std::string& name);
+
+}  // namespace zttest
