@@ -140,6 +140,10 @@ void DestroyCodeTable(EditInstance& edit)
     if (!table)
         return;
     services::DestroyList(table->cycle);
+    for (int32_t i = 0; i < table->count; ++i) {
+        services::Free(edit.heap, table->Entries()[i].display);
+        services::Free(edit.heap, table->Entries()[i].value);
+    }
     services::Free(edit.heap, table);
 }
 
