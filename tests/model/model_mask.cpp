@@ -2,6 +2,7 @@
 // Everything is read from the mask text on demand.
 #include "model_control.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstdio>
 #include <cstdlib>
@@ -15,9 +16,10 @@ char Upper(char c)
     return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
 }
 
-bool SameText(const std::string& a, const char* b)
+bool SameText(const std::string& a, const std::string& b)
 {
-    return _stricmp(a.c_str(), b) == 0;
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Upper(x) == Upper(y); });
 }
 
 const char* DefaultMask(Type type)

@@ -150,6 +150,12 @@ void Control::SetSpin(unsigned increment, const char* range, const char* codeTab
     codeSpin_ = codes;
 }
 
+void Control::SetCodeDisplay(bool codes, bool pick)
+{
+    codeSpin_ = codes;
+    codePick_ = pick;
+}
+
 void Control::TypeAhead(char c)
 {
     if (!hasTable_)
@@ -309,16 +315,14 @@ void Control::SpinDate(bool up)
     const auto known = [&](const Stamp& end) { return dateField ? end.HasDate() : end.HasTime(); };
     const auto above = [&] { return known(max) && OutOfOrder(value, max); };
     const auto below = [&] { return known(min) && OutOfOrder(min, value); };
-    // A control whose blank value is meant starts from an end of the range; today is not modelled.
+    // A control whose blank value is meant starts from an end of the range, or from today.
     if ((value.year == -1900 || value.year == kLastYear) && value.month == 0 && value.day == 1) {
         if (up && min.HasDate())
             toMin();
         else if (!up && max.HasDate())
             toMax();
-        else {
-            fromClock_ = true;
-            return;
-        }
+        else
+            value = Today();
     } else {
         bool wrapped = false;
         const auto turn = [&](int current, int low, int high) {

@@ -564,6 +564,15 @@ void Control::FinishNumeric(int position, bool lastFraction)
 void Control::Char(char c, bool shift)
 {
     shift_ = shift;
+    if (Refuses())
+        return;
+    const std::string before = Text();
+    TakeChar(c);
+    NoteChange(before);
+}
+
+void Control::TakeChar(char c)
+{
     if (c == 3 || c == 4)
         return;
     const bool wasSelected = DeleteSelection(true);
@@ -635,8 +644,12 @@ void Control::KeyDown(int key, bool shift)
         carried_.clear();
         numericBackspaceDone_ = false;
     }
+    if (Refuses() && (key < kEnd || key > kRight || key == kUp))
+        return;
+    const std::string before = Text();
     if (mask_.empty() || !HandleKeyDown(key, shift, true))
         edit_.Key(key, shift);
+    NoteChange(before);
 }
 
 bool Control::HandleKeyDown(int key, bool shift, bool byUser)
@@ -831,6 +844,15 @@ void Control::SetSelection(int start, int end)
 }
 
 void Control::Paste(const std::string& clipboard)
+{
+    if (Refuses())
+        return;
+    const std::string before = Text();
+    PasteText(clipboard);
+    NoteChange(before);
+}
+
+void Control::PasteText(const std::string& clipboard)
 {
     carried_.clear();
     const Value data = Unformat(clipboard);

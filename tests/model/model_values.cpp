@@ -37,6 +37,13 @@ bool Leap(int calendarYear)
     return calendarYear % 4 == 0 && (calendarYear % 100 != 0 || calendarYear % 400 == 0);
 }
 
+std::string Upper(std::string text)
+{
+    for (char& c : text)
+        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    return text;
+}
+
 std::string Lower(std::string text)
 {
     for (char& c : text)
@@ -139,7 +146,7 @@ struct Buffer {
 int MonthFromName(const std::string& name)
 {
     for (int i = 0; i < 12; ++i)
-        if (_stricmp(kMonths[i], name.c_str()) == 0)
+        if (Upper(name) == kMonths[i])
             return i;
     return -1;
 }
@@ -341,13 +348,6 @@ void Control::FormatFields(const Value& value, Shown& shown) const
     shown.text = out.Text();
 }
 
-bool Control::Interleaved() const
-{
-    int unused = 0;
-    const auto format = model::Format::Compile(FormatTextOf(mask_, type_, false, unused));
-    return IsNumeric() && format && format->interleaved;
-}
-
 const CodeEntry* Control::FindValue(const Value& value, const std::string& formatted) const
 {
     const std::string& wanted = value.none && formatted.empty() ? "null!" : formatted;
@@ -378,6 +378,7 @@ void Control::SetData(const Value& value)
     carried_.clear();
     numericBackspaceDone_ = false;
     positioned_ = false;
+    modified_ = false;
     ChooseEditMode();
     const Shown shown = Format(value);
     edit_.SetText(shown.text);
