@@ -143,6 +143,8 @@ private:
     };
 
     bool Refuses() const { return readOnly_ || !enabled_; }
+    bool IsPlain() const { return mask_.empty() && !codeSpin_; }
+    bool ThroughCodes() const { return hasTable_ && codeSpin_; }
     bool IsNumeric() const { return type_ == kNumber || type_ == kDecimal; }
     bool IsTemporal() const { return type_ == kDate || type_ == kTime || type_ == kDateTime; }
     char Point() const { return regional_->Point(); }
@@ -198,6 +200,8 @@ private:
     void RefuseNumeric();
     std::string LeadingEscapes() const;
     int CaretAfterGrowth(const std::string& before, int position, int grown) const;
+    static int DigitsBefore(const std::string& text, int position);
+    int BehindDigits(int digits) const;
     void FinishNumeric(int position, bool lastFraction);
     bool SkipLiterals(int position, bool remember);
     int FindLiteralAhead(const std::string& text, int position, char c) const;
@@ -212,6 +216,11 @@ private:
     void DeleteNumericSelection(bool typing);
     void PasteText(const std::string& clipboard);
     void TypeAhead(char c);
+    void ForgetTyping()
+    {
+        carried_.clear();
+        behindTyped_ = false;
+    }
     void Beep() { ++beeps_; }
     void PlaceCaret(int position) { edit_.Select(position, position); }
 
@@ -220,7 +229,10 @@ private:
     void SpinCodeTable(bool up);
     void SpinNumber(bool up);
     void SpinDate(bool up);
-    const CodeEntry* FindValue(const Value& value, const std::string& formatted) const;
+    const CodeEntry* Find(const std::string CodeEntry::*part, const std::string& text);
+    const CodeEntry* EntryOf(const Value& value);
+    Value DataOf(const CodeEntry& entry) const;
+    bool ShowThroughCodes(const Value& value);
 
     const Regional* regional_;
     PlainEdit edit_;
@@ -260,6 +272,7 @@ private:
     bool readOnly_ = false;
     bool enabled_ = true;
     bool modified_ = false;  // by the user
+    bool behindTyped_ = false;  // the caret stands behind a digit that has just been typed
     int autoskips_ = 0;
     int changes_ = 0;
     int beeps_ = 0;

@@ -458,7 +458,7 @@ int Control::SetMask(const char* mask, Type type)
     type_ = type;
     decimalPlaces_ = 0;
     spun_ = false;
-    carried_.clear();
+    ForgetTyping();
     int result = 1;
     std::optional<std::string> expansion;
     if (SameText(given, "[date]") || SameText(given, "[time]")) {

@@ -167,7 +167,7 @@ void Control::TypeAhead(char c)
                 return i;
         return -1;
     };
-    int found = positioned_ || cursor_ >= 0 ? search(cursor_ + 1) : -1;
+    int found = search(cursor_ + 1);
     if (found < 0)
         found = search(0);
     if (found < 0)
@@ -178,7 +178,7 @@ void Control::TypeAhead(char c)
 
 void Control::SpinStep(bool up)
 {
-    carried_.clear();
+    ForgetTyping();
     if (increment_ == 0 || (!hasTable_ && codeSpin_))
         return;
     spun_ = true;
@@ -194,13 +194,14 @@ void Control::SpinStep(bool up)
 void Control::SpinCodeTable(bool up)
 {
     const int count = static_cast<int>(cycle_.size());
-    if (!positioned_)
-        cursor_ = up ? 0 : count - 1;
-    else
-        cursor_ = up ? cursor_ + 1 : cursor_ - 1;
+    const bool atEntry = positioned_ && cursor_ >= 0;
     positioned_ = true;
     if (count == 0)
         return;
+    if (!atEntry)
+        cursor_ = up ? 0 : count - 1;
+    else
+        cursor_ = up ? cursor_ + 1 : cursor_ - 1;
     cursor_ = (cursor_ + count) % count;
     edit_.SetText(cycle_[static_cast<size_t>(cursor_)].display);
 }
@@ -294,7 +295,7 @@ void Control::SpinDate(bool up)
         minutes = minutes || std::toupper(static_cast<unsigned char>(mask_[static_cast<size_t>(i)])) == 'H';
     const Stamp original = value;
     bool whole = false;
-    bool refused = InsideAmPm(caret);
+    bool refused = false;
     const auto toEnd = [&](const Stamp& end, bool withTime) {
         if (end.HasDate()) {
             value.year = std::min(end.year, kLastYear);
@@ -333,7 +334,7 @@ void Control::SpinDate(bool up)
         const int calendar = CalendarYear(value.year);
         bool handled = true;
         const int length = DaysOfMonth(calendar, value.month);
-        switch (refused ? '\0' : letter) {
+        switch (InsideAmPm(caret) ? '\0' : letter) {
         case 'Y': {
             const int next = value.year + (up ? 1 : -1) * static_cast<int>(increment_);
             if ((up && !max.HasDate() && next > 1099) || (!up && !min.HasDate() && next < -100))

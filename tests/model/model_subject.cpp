@@ -1,6 +1,7 @@
 // The model as a subject.
 #include "subject.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace model {
@@ -54,7 +55,7 @@ public:
         control_.KeyUp();
     }
 
-    void Click(int position) override { control_.Click(position); }
+    void Click(int position) override { control_.Click(std::min(position, static_cast<int>(control_.Text().size()))); }
     void Paste(const std::string& clipboard) override { control_.Paste(clipboard); }
     void Select(int start, int end) override { control_.SetSelection(start, end); }
     int SetMask(const char* mask, Type type) override { return control_.SetMask(mask, type); }

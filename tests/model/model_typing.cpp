@@ -16,6 +16,11 @@ bool IsDigit(char c)
     return c >= '0' && c <= '9';
 }
 
+bool IsDigitOrSign(char c)
+{
+    return IsDigit(c) || c == '-' || c == '+';
+}
+
 bool IsControl(char c)
 {
     return static_cast<unsigned char>(c) < ' ' || c == 127;
@@ -79,7 +84,7 @@ Control::Verdict Control::ValidateNumber(char c, int position)
     const std::string& text = Text();
     const int point = PointPos(text);
     const int length = edit_.Length();
-    if (decimalPlaces_ != 0 && position >= point + 1 && (text.empty() || text.find(Point()) != std::string::npos)) {
+    if (decimalPlaces_ != 0 && position >= point + 1 && text != "-" && text != "+") {
         (typing_ ? typedFraction_ : typed_) = c;
         return Verdict::Accepted;
     }
@@ -392,7 +397,7 @@ void Control::RefuseNumeric()
     int at = decimalPlaces_ != 0 ? PointPos(Text()) : static_cast<int>(Text().find_last_of("0123456789") + 1);
     while (at > 0 && behind > 0)
         behind -= IsDigit(Text()[static_cast<size_t>(--at)]) ? 1 : 0;
-    while (at > firstField_ && Text()[static_cast<size_t>(at) - 1] == regional_->thousand)
+    if (CharOf(before, caret) == regional_->thousand && CharOf(Text(), at - 1) == regional_->thousand)
         --at;
     PlaceCaret(at);
 }
@@ -422,7 +427,11 @@ int Control::CaretAfterGrowth(const std::string& before, int position, int grown
         while (behind > 0 && !IsDigit(text[static_cast<size_t>(behind) - 1]))
             --behind;
     }
-    if (decimalPlaces_ != 0 && oldPoint == std::string::npos)
+    if (DigitsBefore(text, edit_.Length()) == 0)
+        return position + grown;
+    if (decimalPlaces_ == 0)
+        return std::min(std::max(behind, position + grown), static_cast<int>(end));
+    if (oldPoint == std::string::npos)
         return behind;
     for (int i = behind; i < position + grown; ++i)
         if (IsDigit(CharOf(text, i)))
@@ -430,12 +439,27 @@ int Control::CaretAfterGrowth(const std::string& before, int position, int grown
     return std::max(behind, position + grown);
 }
 
+int Control::DigitsBefore(const std::string& text, int position)
+{
+    return static_cast<int>(std::count_if(text.begin(), text.begin() + position, IsDigitOrSign));
+}
+
+// The place behind the nth digit; the end of the text when it has fewer.
+int Control::BehindDigits(int digits) const
+{
+    int at = 0;
+    for (; at < edit_.Length() && digits > 0; ++at)
+        digits -= IsDigit(Text()[static_cast<size_t>(at)]) ? 1 : 0;
+    return at;
+}
+
 void Control::EnterNumericChar(char c)
 {
     typed_.clear();
     typedFraction_.clear();
     const std::string carried = carried_;
-    carried_.clear();
+    const bool behindTyped = behindTyped_ && IsDigit(CharOf(Text(), edit_.Start() - 1));
+    ForgetTyping();
     int position = edit_.Start();
     if (static_cast<unsigned>(position) > static_cast<unsigned>(displayLength_ - 1))
         return;
@@ -447,9 +471,8 @@ void Control::EnterNumericChar(char c)
     const std::string text = Text();
     const char under = CharOf(text, position);
     const int point = PointPos(text);
-    // A number whose point was deleted with it has an integer part only.
-    const bool pointless = decimalPlaces_ != 0 && text.find(Point()) == std::string::npos;
-    if (decimalPlaces_ != 0 && !pointless && position >= point + decimalPlaces_ + 1)
+    const bool loneSign = text == "-" || text == "+";
+    if (decimalPlaces_ != 0 && !loneSign && position >= point + decimalPlaces_ + 1)
         return;
     const bool onField = Editable(text, position);
     if (Validate(c, position) == Verdict::Refused) {
@@ -476,7 +499,7 @@ void Control::EnterNumericChar(char c)
         if (position < firstField_) {
             position = firstField_;
             PlaceCaret(position);
-        } else if (mask != '.' && mask != ',')
+        } else if (mask != '.' && mask != ',' && !(behindTyped && IsDigit(c) && !typedFraction_.empty()))
             return Beep();
     }
     if (c == '-') {
@@ -495,8 +518,11 @@ void Control::EnterNumericChar(char c)
     bool lastFraction = false;
     if (!typed_.empty()) {
         // The point is never overwritten: its digit goes to the first fraction position.
-        if (decimalPlaces_ != 0 && CharOf(text, position) == Point())
+        if (CharOf(text, position) == Point()) {
             ++position;
+            if (c == '+')
+                return PlaceCaret(position);
+        }
         lastFraction = decimalPlaces_ != 0 && position == point + decimalPlaces_;
         edit_.Select(position, position + static_cast<int>(typed_.size()));
         edit_.Replace(typed_);
@@ -513,7 +539,7 @@ void Control::EnterNumericChar(char c)
                 PlaceCaret(position);
             }
             if (under == '-')
-                PlaceCaret(c >= '1' && c <= '9' ? firstField_ + 1 : 1);
+                PlaceCaret(c != '0' || charwise_ ? firstField_ + 1 : std::max(1, firstField_));
         }
     } else if (!typedFraction_.empty()) {
         lastFraction = decimalPlaces_ != 0 && CharOf(text, point) == Point() && position == point + decimalPlaces_;
@@ -526,6 +552,8 @@ void Control::EnterNumericChar(char c)
             Reformat(&whole);
         } else if (const int grown = Reformat(nullptr); grown != 0)
             position = CaretAfterGrowth(inserted, position, grown);
+        else if (decimalPlaces_ == 0 && inserted != Text())
+            position = std::min(position, BehindDigits(DigitsBefore(inserted, position)));
         if (text.empty() && IsDigit(c)) {
             // The only digit stands last before the point, behind the zeros that the mask forces.
             const size_t pointAt = decimalPlaces_ != 0 ? Text().find(Point()) : std::string::npos;
@@ -535,6 +563,7 @@ void Control::EnterNumericChar(char c)
             position = decimalPlaces_ != 0 ? firstField_ : edit_.Length();
         PlaceCaret(position);
     }
+    behindTyped_ = IsDigit(c);
     FinishNumeric(position, lastFraction);
 }
 
@@ -575,9 +604,13 @@ void Control::TakeChar(char c)
 {
     if (c == 3 || c == 4)
         return;
+    if (c == '\b' && numericBackspaceDone_ && IsNumeric()) {
+        numericBackspaceDone_ = false;
+        return;
+    }
     const bool wasSelected = DeleteSelection(true);
     if (wasSelected)
-        carried_.clear();
+        ForgetTyping();
     const auto finish = [this] { typing_ = false; };
     if (wasSelected && c == '\b' && !backspaceDone_)
         return finish();
@@ -586,7 +619,7 @@ void Control::TakeChar(char c)
         PlaceCaret(edit_.Start());
         return finish();
     }
-    if (mask_.empty() && !codeSpin_) {
+    if (IsPlain()) {
         edit_.Char(c);
         return finish();
     }
@@ -602,18 +635,16 @@ void Control::TakeChar(char c)
         positioned_ = false;
         if (spun_) {
             codeSpin_ = false;
-            spun_ = false;
             SetData(Value::None());
             codeSpin_ = true;
+            spun_ = false;
         }
     }
     if (c == '\t' || c == '\n' || c == 27)
         return finish();
     spun_ = false;
     if (IsNumeric()) {
-        if (c == '\b' && numericBackspaceDone_)
-            numericBackspaceDone_ = false;
-        else if (!deletePending_ || c != '\b')
+        if (!deletePending_ || c != '\b')
             EnterNumericChar(c);
         else {
             const int position = std::max(0, edit_.Start() - 1);
@@ -641,13 +672,15 @@ void Control::KeyDown(int key, bool shift)
     shift_ = shift;
     const bool navigation = key >= 0x21 && key <= 0x28;
     if (navigation || key == kBackspace || key == kDelete || key == kInsert) {
-        carried_.clear();
+        ForgetTyping();
         numericBackspaceDone_ = false;
     }
-    if (Refuses() && (key < kEnd || key > kRight || key == kUp))
+    const bool deletes = key == kBackspace || key == kDelete;
+    if (Refuses() && deletes)
         return;
+    const bool steps = key == kUp || key == kDown;
     const std::string before = Text();
-    if (mask_.empty() || !HandleKeyDown(key, shift, true))
+    if (mask_.empty() || (Refuses() && steps) || !HandleKeyDown(key, shift, true))
         edit_.Key(key, shift);
     NoteChange(before);
 }
@@ -839,7 +872,7 @@ void Control::DeleteNumericSelection(bool typing)
 void Control::SetSelection(int start, int end)
 {
     if (start != end || start != edit_.Start() || start != edit_.End())
-        carried_.clear();
+        ForgetTyping();
     edit_.Select(start, end);
 }
 
@@ -854,7 +887,7 @@ void Control::Paste(const std::string& clipboard)
 
 void Control::PasteText(const std::string& clipboard)
 {
-    carried_.clear();
+    ForgetTyping();
     const Value data = Unformat(clipboard);
     if (data.none)
         return;
@@ -874,7 +907,7 @@ void Control::PasteText(const std::string& clipboard)
 void Control::Click(int position)
 {
     shift_ = false;
-    carried_.clear();
+    ForgetTyping();
     PlaceCaret(position);
     if (mask_.empty() || (IsNumeric() && !charwise_) || Text().empty())
         return;

@@ -348,13 +348,22 @@ void Control::FormatFields(const Value& value, Shown& shown) const
     shown.text = out.Text();
 }
 
-const CodeEntry* Control::FindValue(const Value& value, const std::string& formatted) const
+// A look-up leaves the table's cursor on the entry found, or behind the last one.
+const CodeEntry* Control::Find(const std::string CodeEntry::*part, const std::string& text)
 {
-    const std::string& wanted = value.none && formatted.empty() ? "null!" : formatted;
-    for (const CodeEntry& entry : cycle_)
-        if (entry.value == wanted)
-            return &entry;
+    for (cursor_ = 0; cursor_ < static_cast<int>(cycle_.size()); ++cursor_)
+        if (cycle_[static_cast<size_t>(cursor_)].*part == text)
+            return &cycle_[static_cast<size_t>(cursor_)];
+    cursor_ = -1;
     return nullptr;
+}
+
+// The entry of data as they are handed in: no data, or the text of a string.
+const CodeEntry* Control::EntryOf(const Value& value)
+{
+    if (!ThroughCodes() || (!value.none && type_ != kString))
+        return nullptr;
+    return Find(&CodeEntry::value, value.none ? "null!" : value.text);
 }
 
 Shown Control::Format(const Value& value)
@@ -370,15 +379,39 @@ Shown Control::Format(const Value& value)
         FormatFields(value, shown);
     if (IsTemporal())
         shown.flags |= 0x4000;
+    const CodeEntry* entry = IsNumeric() && ThroughCodes() ? Find(&CodeEntry::value, shown.text) : EntryOf(value);
+    if (entry != nullptr) {
+        positioned_ = true;
+        shown.text = entry->display;
+    }
     return shown;
+}
+
+// True when the code table has settled what is shown.
+bool Control::ShowThroughCodes(const Value& value)
+{
+    if (codeSpin_ && !hasTable_) {
+        edit_.SetText("");
+        spun_ = true;
+        return true;
+    }
+    const CodeEntry* entry = EntryOf(value);
+    if (entry != nullptr) {
+        positioned_ = true;
+        edit_.SetText(entry->display);
+    } else if (ThroughCodes() && codePick_)
+        spun_ = true;
+    return entry != nullptr;
 }
 
 void Control::SetData(const Value& value)
 {
-    carried_.clear();
+    ForgetTyping();
     numericBackspaceDone_ = false;
     positioned_ = false;
     modified_ = false;
+    if (ShowThroughCodes(value))
+        return;
     ChooseEditMode();
     const Shown shown = Format(value);
     edit_.SetText(shown.text);
@@ -548,6 +581,16 @@ bool Control::ZeroDate(const Stamp& stamp) const
     return stamp.day == 0 && stamp.month == 0 && stamp.year == 100 && MonthFromText() == 0;
 }
 
+// The data that an entry stands for.
+Value Control::DataOf(const CodeEntry& entry) const
+{
+    if (!IsTemporal())
+        return Value::OfText(entry.value);
+    Stamp stamp;
+    ParseCanonical(stamp, entry.value, type_, *regional_);
+    return Value::OfStamp(stamp);
+}
+
 Value Control::GetData()
 {
     if (Text().empty()) {
@@ -555,6 +598,9 @@ Value Control::GetData()
             return Value::OfStamp(Stamp());
         return Value::OfText(IsNumeric() ? "0" : "");
     }
+    const CodeEntry* entry = ThroughCodes() ? Find(&CodeEntry::display, Text()) : nullptr;
+    if (entry != nullptr && !IsTemporal())
+        return DataOf(*entry);
     if (!IsTemporal()) {
         std::string fields = ReadFields(Text(), true);
         if (IsNumeric() && percent_) {
@@ -567,7 +613,7 @@ Value Control::GetData()
         }
         return Value::OfText(fields);
     }
-    Stamp stamp = ReadStamp(false);
+    Stamp stamp = entry != nullptr ? DataOf(*entry).stamp : ReadStamp(false);
     if (type_ == kDate && (ZeroDate(stamp) || stamp.year == -1900 || !stamp.HasDate()))
         return Value::None();
     if (type_ == kTime && stamp.hour == 0 && stamp.minute == 0 && stamp.second == 0 && stamp.microsecond == 0)
@@ -588,6 +634,8 @@ Value Control::Unformat(const std::string& text)
 {
     if (text.empty())
         return Value::None();
+    if (const CodeEntry* entry = ThroughCodes() ? Find(&CodeEntry::display, text) : nullptr)
+        return DataOf(*entry);
     if (!IsTemporal())
         return Value::OfText(ReadFields(text, false));
     Stamp stamp;
