@@ -142,7 +142,8 @@ private:
         Accepted,
     };
 
-    bool Refuses() const { return readOnly_ || !enabled_; }
+    // A disabled window gets no keys; the plain edit underneath takes that for granted.
+    bool Refuses() const { return readOnly_ || (!enabled_ && !IsPlain()); }
     bool IsPlain() const { return mask_.empty() && !codeSpin_; }
     bool ThroughCodes() const { return hasTable_ && codeSpin_; }
     bool IsNumeric() const { return type_ == kNumber || type_ == kDecimal; }
@@ -200,8 +201,9 @@ private:
     void RefuseNumeric();
     std::string LeadingEscapes() const;
     int CaretAfterGrowth(const std::string& before, int position, int grown) const;
+    int CaretAfterShrinking(const std::string& before, int position, char typed) const;
     static int DigitsBefore(const std::string& text, int position);
-    int BehindDigits(int digits) const;
+    int BehindDigits(int digits, int otherwise) const;
     void FinishNumeric(int position, bool lastFraction);
     bool SkipLiterals(int position, bool remember);
     int FindLiteralAhead(const std::string& text, int position, char c) const;

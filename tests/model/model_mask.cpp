@@ -355,8 +355,6 @@ bool Control::CheckFields(const std::string& mask, Type type)
     int display = 0;
     const bool dates = type != kTime;
     const bool times = type != kDate;
-    if (times)
-        ampm_ = false;
     const auto claim = [](bool& seen) {
         const bool first = !seen;
         seen = true;
@@ -436,11 +434,8 @@ bool Control::CheckMask(const std::string& mask, Type type)
     const bool tooLong = mask.size() > 255;
     if (type == kNumber || type == kDecimal)
         return !tooLong && CheckNumberMask(mask);
-    if (type != kString) {
-        if (tooLong && type != kDate)
-            ampm_ = false;
+    if (type != kString)
         return !tooLong && CheckFields(mask, type);
-    }
     for (size_t i = 0; i < mask.size(); ++i)
         if (mask[i] == '~' && (++i >= mask.size() || mask[i] == '~'))
             return false;
@@ -457,6 +452,7 @@ int Control::SetMask(const char* mask, Type type)
     const std::string given = mask == nullptr ? "" : mask;
     type_ = type;
     decimalPlaces_ = 0;
+    ampm_ = false;
     spun_ = false;
     ForgetTyping();
     int result = 1;

@@ -75,17 +75,6 @@ std::string General(const Number& number, const Separators& separators)
     return (number.negative ? "-" : "") + text;
 }
 
-std::string Grouped(const std::string& digits, char group)
-{
-    std::string text;
-    for (size_t i = 0; i < digits.size(); ++i) {
-        if (i != 0 && (digits.size() - i) % 3 == 0)
-            text += group;
-        text += digits[i];
-    }
-    return text;
-}
-
 }  // namespace
 
 Number Number::FromDouble(double value)
@@ -139,13 +128,17 @@ std::optional<Format> Format::Compile(const std::string& text)
     bool started = false;
     for (size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
-        std::string& literals = started ? format.suffix : format.prefix;
+        const auto literal = [&](char l) {
+            if (started && !format.point)
+                format.inner.push_back({format.integer.size(), l});
+            else
+                (!started ? format.prefix : format.fraction.empty() ? format.middle : format.suffix) += l;
+        };
         switch (c) {
         case '0':
         case '#':
             if (format.percent)
                 return std::nullopt;
-            format.interleaved = format.interleaved || !format.suffix.empty();
             (format.point ? format.fraction : format.integer) += c;
             started = true;
             break;
@@ -163,19 +156,42 @@ std::optional<Format> Format::Compile(const std::string& text)
             break;
         case '%':
             format.percent = true;
-            literals += c;
+            literal(c);
             break;
         case '\\':
             if (++i == text.size())
                 return std::nullopt;
-            literals += text[i];
+            literal(text[i]);
             break;
-        default: literals += c;
+        default: literal(c);
         }
     }
     if (format.integer.empty() && format.fraction.empty())
         return std::nullopt;
     return format;
+}
+
+// The integer digits from the right, each literal before the placeholders that follow it, the sign before the first digit.
+std::string Format::IntegerText(const std::string& digits, bool negative, char group) const
+{
+    std::string reversed;
+    auto next = inner.rbegin();
+    for (size_t done = 0; done < digits.size() || done < integer.size(); ++done) {
+        if (done == digits.size() && negative)
+            reversed += '-';
+        for (; next != inner.rend() && integer.size() - next->before <= done; ++next)
+            reversed += next->literal;
+        if (done >= digits.size())
+            continue;
+        if (grouped && done != 0 && done % 3 == 0)
+            reversed += group;
+        reversed += digits[digits.size() - 1 - done];
+    }
+    if (negative && digits.size() >= integer.size())
+        reversed += '-';
+    for (; next != inner.rend(); ++next)
+        reversed += next->literal;
+    return {reversed.rbegin(), reversed.rend()};
 }
 
 std::string Render(const Format& format, const Number& number, const Separators& separators)
@@ -200,13 +216,10 @@ std::string Render(const Format& format, const Number& number, const Separators&
            format.fraction.find('0', fraction.size() - 1) == std::string::npos)
         fraction.pop_back();
 
-    std::string text = format.prefix;
-    if (number.negative && !zero)
-        text += '-';
-    text += format.grouped ? Grouped(integer, separators.group) : integer;
+    std::string text = format.prefix + format.IntegerText(integer, number.negative && !zero, separators.group);
     if (format.point)
         text += separators.point;
-    return text + fraction + format.suffix;
+    return text + format.middle + fraction + format.suffix;
 }
 
 bool IsNumber(const std::string& text, char point)

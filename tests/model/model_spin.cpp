@@ -416,7 +416,8 @@ void Control::SpinDate(bool up)
     const std::string shown = Format(Value::OfStamp(value)).text;
     if (whole)
         edit_.SetText(shown);
-    else {
+    // A position of every type is no field: what was typed there stays.
+    else if (letter != 'X' && letter != '!' && letter != '^') {
         edit_.Select(caret - before, caret + after + 1);
         edit_.Replace(shown.substr(static_cast<size_t>(caret - before), static_cast<size_t>(n)));
     }

@@ -79,6 +79,17 @@ TEST(ModelNumbers, RoundHalfAwayFromZeroInDecimal)
     EXPECT_EQ(Shows("[GENERAL]", -2.5), "-2.5");
 }
 
+TEST(ModelNumbers, LiteralsStandWhereTheFormatHasThem)
+{
+    EXPECT_EQ(Shows("# ##0", 5), " 5");
+    EXPECT_EQ(Shows("# ##0", -5), " -5");
+    EXPECT_EQ(Shows("# ##0", -1234567), "-1234 567");
+    EXPECT_EQ(Shows("# # 0", 123), "1 2 3");
+    EXPECT_EQ(Shows("0 0 ", 5), "0 5 ");
+    EXPECT_EQ(Shows("0%.", -0.05), "-5%.");
+    EXPECT_EQ(Shows(".x#", -0.5), "-.x5");
+}
+
 TEST(ModelNumbers, BadFormatsDoNotCompile)
 {
     for (const char* bad : {"#.0.0", "#.0,0", "#%0", "#\\", "abc", ""})

@@ -16,11 +16,6 @@ bool IsDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-bool IsDigitOrSign(char c)
-{
-    return IsDigit(c) || c == '-' || c == '+';
-}
-
 bool IsControl(char c)
 {
     return static_cast<unsigned char>(c) < ' ' || c == 127;
@@ -391,13 +386,23 @@ void Control::RefuseNumeric()
     const size_t oldPoint = decimalPlaces_ != 0 ? before.find(Point()) : std::string::npos;
     if (oldPoint != std::string::npos && caret > static_cast<int>(oldPoint))
         return PlaceCaret(PointPos(Text()) + caret - static_cast<int>(oldPoint));
+    const int allDigits = DigitsBefore(before, static_cast<int>(before.size()));
+    if (DigitsBefore(Text(), edit_.Length()) == 0) {
+        const bool amongLetters = ThroughCodes() && caret > 0 && allDigits == DigitsBefore(before, caret);
+        return PlaceCaret(amongLetters ? caret + edit_.Length() - static_cast<int>(before.size()) : 0);
+    }
+    if (decimalPlaces_ != 0 && caret > 0 && allDigits == 0 && ThroughCodes())
+        return PlaceCaret(PointPos(Text()) + 1);
+    if (caret == static_cast<int>(before.size()) && caret > 0 && !IsDigit(before.back()) && decimalPlaces_ == 0)
+        return PlaceCaret(edit_.Length());
     int behind = 0;  // digits between the caret and the point or the end
     for (size_t i = static_cast<size_t>(caret); i < before.size() && i < oldPoint; ++i)
         behind += IsDigit(before[i]) ? 1 : 0;
     int at = decimalPlaces_ != 0 ? PointPos(Text()) : static_cast<int>(Text().find_last_of("0123456789") + 1);
     while (at > 0 && behind > 0)
         behind -= IsDigit(Text()[static_cast<size_t>(--at)]) ? 1 : 0;
-    if (CharOf(before, caret) == regional_->thousand && CharOf(Text(), at - 1) == regional_->thousand)
+    const char group = regional_->thousand;
+    if (CharOf(before, caret) == group && CharOf(before, caret - 1) != group && CharOf(Text(), at - 1) == group)
         --at;
     PlaceCaret(at);
 }
@@ -433,6 +438,8 @@ int Control::CaretAfterGrowth(const std::string& before, int position, int grown
         return std::min(std::max(behind, position + grown), static_cast<int>(end));
     if (oldPoint == std::string::npos)
         return behind;
+    if (static_cast<size_t>(position) <= oldPoint)
+        grown = static_cast<int>(end - oldPoint);  // digits of the fraction do not count
     for (int i = behind; i < position + grown; ++i)
         if (IsDigit(CharOf(text, i)))
             return behind;
@@ -441,16 +448,31 @@ int Control::CaretAfterGrowth(const std::string& before, int position, int grown
 
 int Control::DigitsBefore(const std::string& text, int position)
 {
-    return static_cast<int>(std::count_if(text.begin(), text.begin() + position, IsDigitOrSign));
+    return static_cast<int>(std::count_if(text.begin(), text.begin() + position, IsDigit));
 }
 
-// The place behind the nth digit; the end of the text when it has fewer.
-int Control::BehindDigits(int digits) const
+// The place behind the nth digit, or another one when the text has fewer.
+int Control::BehindDigits(int digits, int otherwise) const
 {
     int at = 0;
     for (; at < edit_.Length() && digits > 0; ++at)
         digits -= IsDigit(Text()[static_cast<size_t>(at)]) ? 1 : 0;
-    return at;
+    return digits > 0 ? otherwise : at;
+}
+
+// The caret for a text that has not grown. A fraction keeps its place behind the point; what was dropped before the
+// caret moves it back, but for a leading zero and a plus sign just typed.
+int Control::CaretAfterShrinking(const std::string& before, int position, char typed) const
+{
+    const size_t oldPoint = decimalPlaces_ != 0 ? before.find(Point()) : std::string::npos;
+    if (oldPoint != std::string::npos && position > static_cast<int>(oldPoint))
+        return position + PointPos(Text()) - static_cast<int>(oldPoint);
+    const bool leadingZero = typed == '0' && before.find_first_of("123456789") >= static_cast<size_t>(position);
+    if (!IsDigit(typed) || leadingZero)
+        return position;
+    if (decimalPlaces_ != 0)
+        return before.find('+') < static_cast<size_t>(position) ? position - 1 : position;
+    return std::min(position, BehindDigits(DigitsBefore(before, position), position));
 }
 
 void Control::EnterNumericChar(char c)
@@ -538,11 +560,12 @@ void Control::EnterNumericChar(char c)
                 edit_.SetText(std::string(Text()));
                 PlaceCaret(position);
             }
-            if (under == '-')
+            if (under == '-' && c == '+')
+                PlaceCaret(1);
+            else if (under == '-')
                 PlaceCaret(c != '0' || charwise_ ? firstField_ + 1 : std::max(1, firstField_));
         }
     } else if (!typedFraction_.empty()) {
-        lastFraction = decimalPlaces_ != 0 && CharOf(text, point) == Point() && position == point + decimalPlaces_;
         edit_.Char(typedFraction_[0]);
         position = edit_.Start();
         const std::string inserted = Text();
@@ -552,18 +575,21 @@ void Control::EnterNumericChar(char c)
             Reformat(&whole);
         } else if (const int grown = Reformat(nullptr); grown != 0)
             position = CaretAfterGrowth(inserted, position, grown);
-        else if (decimalPlaces_ == 0 && inserted != Text())
-            position = std::min(position, BehindDigits(DigitsBefore(inserted, position)));
-        if (text.empty() && IsDigit(c)) {
+        else if (inserted != Text())
+            position = CaretAfterShrinking(inserted, position, c);
+        if (text.empty()) {
             // The only digit stands last before the point, behind the zeros that the mask forces.
             const size_t pointAt = decimalPlaces_ != 0 ? Text().find(Point()) : std::string::npos;
             const size_t digit = Text().find_last_of("0123456789", pointAt);
-            position = digit == std::string::npos ? firstField_ : static_cast<int>(digit) + 1;
-        } else if (text.empty())
-            position = decimalPlaces_ != 0 ? firstField_ : edit_.Length();
+            if (decimalPlaces_ != 0 && (digit == std::string::npos || !IsDigit(c)))
+                position = firstField_;
+            else
+                position = static_cast<int>(digit + 1);
+        }
         PlaceCaret(position);
+        lastFraction = decimalPlaces_ != 0 && edit_.Start() > PointPos(Text()) + decimalPlaces_;
     }
-    behindTyped_ = IsDigit(c);
+    behindTyped_ = true;
     FinishNumeric(position, lastFraction);
 }
 
@@ -676,11 +702,12 @@ void Control::KeyDown(int key, bool shift)
         numericBackspaceDone_ = false;
     }
     const bool deletes = key == kBackspace || key == kDelete;
-    if (Refuses() && deletes)
+    const bool refuses = readOnly_ || (!enabled_ && !mask_.empty());
+    if (refuses && deletes)
         return;
     const bool steps = key == kUp || key == kDown;
     const std::string before = Text();
-    if (mask_.empty() || (Refuses() && steps) || !HandleKeyDown(key, shift, true))
+    if (mask_.empty() || (refuses && steps) || !HandleKeyDown(key, shift, true))
         edit_.Key(key, shift);
     NoteChange(before);
 }
@@ -909,6 +936,10 @@ void Control::Click(int position)
     shift_ = false;
     ForgetTyping();
     PlaceCaret(position);
+    if (ThroughCodes() && positioned_ && !codePick_) {
+        positioned_ = false;
+        return;
+    }
     if (mask_.empty() || (IsNumeric() && !charwise_) || Text().empty())
         return;
     const int point = PointPos(Text());
