@@ -142,8 +142,7 @@ private:
         Accepted,
     };
 
-    // A disabled window gets no keys; the plain edit underneath takes that for granted.
-    bool Refuses() const { return readOnly_ || (!enabled_ && !IsPlain()); }
+    bool Refuses() const { return readOnly_ || !enabled_; }
     bool IsPlain() const { return mask_.empty() && !codeSpin_; }
     bool ThroughCodes() const { return hasTable_ && codeSpin_; }
     bool IsNumeric() const { return type_ == kNumber || type_ == kDecimal; }
@@ -202,6 +201,7 @@ private:
     std::string LeadingEscapes() const;
     int CaretAfterGrowth(const std::string& before, int position, int grown) const;
     int CaretAfterShrinking(const std::string& before, int position, char typed) const;
+    int EndOfInteger() const;
     static int DigitsBefore(const std::string& text, int position);
     int BehindDigits(int digits, int otherwise) const;
     void FinishNumeric(int position, bool lastFraction);

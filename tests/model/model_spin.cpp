@@ -1,7 +1,9 @@
-// The model's spin: ranges, code tables, and the step of a number, a date field or a code table.
+// The model's spin: ranges, and the step of a number or a date field.
 // A step reads the value shown, changes it and shows it again.
 #include "model_control.h"
+#include "model_text.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cmath>
 #include <cstdlib>
@@ -98,38 +100,6 @@ bool StepInRange(T& value, T step, T min, const T* max, bool up, bool raiseToMin
 
 }  // namespace
 
-std::vector<CodeEntry> CycleOfCodeTable(const std::string& text)
-{
-    std::vector<CodeEntry> cycle;
-    CodeEntry entry;
-    std::string buffer;
-    bool isValue = false;
-    const auto close = [&] {
-        if (isValue)
-            cycle.push_back({entry.display, buffer.substr(0, 255)});
-        entry = {};
-        buffer.clear();
-        isValue = false;
-    };
-    size_t i = text.compare(0, 1, "/") == 0 && text.compare(0, 2, "//") != 0 ? 1 : 0;
-    for (; i < text.size(); ++i) {
-        const char c = text[i];
-        const bool literal = c == '/' && i + 1 < text.size() && text[i + 1] == '/';
-        if (c == '\t') {
-            entry.display = buffer.substr(0, 255);
-            buffer.clear();
-            isValue = true;
-        } else if (c == '/' && !literal)
-            close();
-        else
-            buffer += c;
-        i += literal ? 1 : 0;
-    }
-    if (!buffer.empty() || isValue)
-        close();
-    return cycle;
-}
-
 void Control::SetSpin(unsigned increment, const char* range, const char* codeTable, bool pick, bool codes, Type type)
 {
     type_ = type;
@@ -150,32 +120,6 @@ void Control::SetSpin(unsigned increment, const char* range, const char* codeTab
     codeSpin_ = codes;
 }
 
-void Control::SetCodeDisplay(bool codes, bool pick)
-{
-    codeSpin_ = codes;
-    codePick_ = pick;
-}
-
-void Control::TypeAhead(char c)
-{
-    if (!hasTable_)
-        return;
-    const int count = static_cast<int>(cycle_.size());
-    const auto search = [&](int from) {
-        for (int i = from; i < count; ++i)
-            if (!cycle_[static_cast<size_t>(i)].display.empty() && cycle_[static_cast<size_t>(i)].display[0] == c)
-                return i;
-        return -1;
-    };
-    int found = search(cursor_ + 1);
-    if (found < 0)
-        found = search(0);
-    if (found < 0)
-        return;
-    cursor_ = found;
-    edit_.SetText(cycle_[static_cast<size_t>(found)].display);
-}
-
 void Control::SpinStep(bool up)
 {
     ForgetTyping();
@@ -189,21 +133,6 @@ void Control::SpinStep(bool up)
     else if (IsTemporal())
         SpinDate(up);
     ++changes_;
-}
-
-void Control::SpinCodeTable(bool up)
-{
-    const int count = static_cast<int>(cycle_.size());
-    const bool atEntry = positioned_ && cursor_ >= 0;
-    positioned_ = true;
-    if (count == 0)
-        return;
-    if (!atEntry)
-        cursor_ = up ? 0 : count - 1;
-    else
-        cursor_ = up ? cursor_ + 1 : cursor_ - 1;
-    cursor_ = (cursor_ + count) % count;
-    edit_.SetText(cycle_[static_cast<size_t>(cursor_)].display);
 }
 
 void Control::SpinNumber(bool up)

@@ -81,8 +81,10 @@ std::string RandomData(Random& random, Type type, const Config& config)
     }
 }
 
-std::string Alphabet(const Setting& setting, const Config& config, Type type)
+std::string Alphabet(const Setting& setting, const Config& config, Type type, const std::string& mask)
 {
+    if (mask == "[GENERAL]")
+        return "x$ ";  // shows and reads; what typing into it should do is not laid down
     const char point = setting.regional.Point();
     if (config.codePick)
         return "RGBNrgbXA10257.-";
@@ -104,7 +106,7 @@ public:
         type_ = config.type;
         plain_ = config.mask.empty();
         config_.autoskip = random_.Chance(50);
-        alphabet_ = Alphabet(setting_, config_, type_);
+        alphabet_ = Alphabet(setting_, config_, type_, config_.mask);
     }
 
     const Config& Start() const { return config_; }
@@ -176,7 +178,7 @@ private:
         const ControlRow& row = rows[static_cast<size_t>(random_.Below(static_cast<int>(rows.size())))];
         type_ = row.type;
         plain_ = *row.mask == '\0';
-        alphabet_ = Alphabet(setting_, config_, type_);
+        alphabet_ = Alphabet(setting_, config_, type_, row.mask);
         return {StepKind::Mask, row.type, 0, row.mask};
     }
 
