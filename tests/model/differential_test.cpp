@@ -31,6 +31,18 @@ struct ScenarioRow {
 // clang-format off
 constexpr ScenarioRow kScenarios[] = {
     {"us", "#,##0.00", kNumber, false, 0, "", nullptr, false, false, "1234.5{read}{Home}{Del}{Back}x"},
+    {"us", "##0%", kNumber, false, 0, "", nullptr, false, false, "{sel 0 255}12{End}5{read}"},
+    {"us", "##0%", kNumber, false, 0, "", nullptr, false, false, "{sel 0 255}-12{read}"},
+    {"us", "$#,###", kNumber, true, 0, "", nullptr, false, false, "{sel 0 255}+{data 9920}{sel 0 255}{Del}0"},
+    {"swiss", "[currency(8)]", kNumber, true, 0, "", nullptr, false, false, "{paste -407}0{read}"},
+    {"german", "#,#.00", kNumber, true, 0, "", nullptr, false, false,
+     "{data 8867}{End}{Back}{Shift+Right}6{Shift+Left}{Left}3"},
+    {"french", "#,##0.00", kNumber, false, 0, "", nullptr, false, false, "{data 9924016014}{sel 2 5}6{read}"},
+    {"us", "(A)", kString, true, 1, "", "Red\tR/Green\tG/None\tnull!", true, false, "{Up}{Back}{data R}{Down}{read}"},
+    {"us", "##0", kNumber, false, 1, "", "One\t1/Two\t2/Ten\t10/None\t0", true, false, "{Up}1{Up}{Back}x{read}"},
+    {"us", "HH:MM", kTime, false, 1, "", "Noon\t12:00/Tea\t16:30", true, true, "N{read}{paste Noon}{Up}"},
+    {"us", "HH:MM AM/PM", kTime, false, 1, "09:00~", nullptr, false, false, "{sel 9 9}{Up}{mask 3 JJJ/YY}{Up}"},
+    {"us", "", kString, true, 1, "", nullptr, false, false, "y{Up}{enable 0}{Del}{Back}z{readonly 1}{Del}"},
 };
 // clang-format on
 

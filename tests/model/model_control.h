@@ -273,7 +273,7 @@ private:
     std::string carried_;  // literals over which typing has just carried the caret
     bool readOnly_ = false;
     bool enabled_ = true;
-    bool modified_ = false;  // by the user
+    bool modified_ = false;     // by the user
     bool behindTyped_ = false;  // the caret stands behind a digit that has just been typed
     int autoskips_ = 0;
     int changes_ = 0;

@@ -171,7 +171,7 @@ std::optional<Format> Format::Compile(const std::string& text)
     return format;
 }
 
-// The integer digits from the right, each literal before the placeholders that follow it, the sign before the first digit.
+// The integer digits from the right, each literal before the placeholders behind it, the sign before the first digit.
 std::string Format::IntegerText(const std::string& digits, bool negative, char group) const
 {
     std::string reversed;

@@ -96,7 +96,8 @@ void Control::EnterNumericChar(char c)
             if (under == '-' && c == '+')
                 PlaceCaret(1);
             else if (under == '-')
-                PlaceCaret(c != '0' || charwise_ ? firstField_ + 1 : std::max(1, firstField_));
+                PlaceCaret(c != '0' || charwise_ || CharOf(Text(), firstField_) == '0' ? firstField_ + 1
+                                                                                       : std::max(1, firstField_));
         }
     } else if (!typedFraction_.empty()) {
         edit_.Char(typedFraction_[0]);
@@ -168,7 +169,7 @@ void Control::RefuseNumeric()
     }
     if (decimalPlaces_ != 0 && caret > 0 && allDigits == 0 && ThroughCodes())
         return PlaceCaret(PointPos(Text()) + 1);
-    if (caret == static_cast<int>(before.size()) && caret > 0 && !IsDigit(before.back()) && decimalPlaces_ == 0)
+    if (caret == static_cast<int>(before.size()) && caret > 0 && before.back() == '%' && decimalPlaces_ == 0)
         return PlaceCaret(edit_.Length());
     int behind = 0;  // digits between the caret and the point or the end
     for (size_t i = static_cast<size_t>(caret); i < before.size() && i < oldPoint; ++i)
@@ -196,48 +197,50 @@ std::string Control::LeadingEscapes() const
 int Control::CaretAfterGrowth(const std::string& before, int position, int grown) const
 {
     const std::string& text = Text();
+    if (DigitsBefore(text, edit_.Length()) == 0)
+        return position + grown;
     const size_t oldPoint = decimalPlaces_ != 0 ? before.find(Point()) : std::string::npos;
-    const size_t end = decimalPlaces_ != 0 ? text.find(Point()) : text.find_last_of("0123456789") + 1;
-    int behind = static_cast<int>(end) + position - static_cast<int>(oldPoint);
-    if (oldPoint == std::string::npos || static_cast<size_t>(position) <= oldPoint) {
+    const bool inFraction = oldPoint != std::string::npos && static_cast<size_t>(position) > oldPoint;
+    const int end = EndOfInteger();
+    int behind = end;  // the place behind the digit typed
+    if (inFraction)
+        behind += position - static_cast<int>(oldPoint);
+    else {
         int digits = 0;
         for (size_t i = static_cast<size_t>(position); i < before.size() && i < oldPoint; ++i)
             digits += IsDigit(before[i]) ? 1 : 0;
-        behind = static_cast<int>(end);
         while (behind > 0 && digits > 0)
             digits -= IsDigit(text[static_cast<size_t>(--behind)]) ? 1 : 0;
         while (behind > 0 && !IsDigit(text[static_cast<size_t>(behind) - 1]))
             --behind;
     }
-    if (DigitsBefore(text, edit_.Length()) == 0)
-        return position + grown;
-    if (decimalPlaces_ == 0)
-        return std::min(std::max(behind, position + grown), static_cast<int>(end));
-    if (oldPoint == std::string::npos)
+    if (decimalPlaces_ != 0 && oldPoint == std::string::npos)
         return behind;
-    if (static_cast<size_t>(position) <= oldPoint)
-        grown = static_cast<int>(end - oldPoint);  // digits of the fraction do not count
-    for (int i = behind; i < position + grown; ++i)
+    int moved = position + grown;
+    if (decimalPlaces_ == 0)
+        moved = std::min(moved, end);
+    else if (!inFraction)
+        moved = position + end - static_cast<int>(oldPoint);  // digits of the fraction do not count
+    for (int i = behind; i < moved; ++i)
         if (IsDigit(CharOf(text, i)))
             return behind;
-    return std::max(behind, position + grown);
+    return std::max(behind, moved);
 }
 
-// The caret for a text that has not grown. A fraction keeps its place behind the point; what was dropped before the
-// caret moves it back, but for a leading zero and a plus sign just typed.
+// The caret for a text that has not grown: behind the same digits, unless a leading zero was dropped. A fraction keeps its
+// place behind the point.
 int Control::CaretAfterShrinking(const std::string& before, int position, char typed) const
 {
     if (!IsDigit(typed))
         return position;
     const size_t oldPoint = decimalPlaces_ != 0 ? before.find(Point()) : std::string::npos;
     if (oldPoint != std::string::npos && position > static_cast<int>(oldPoint))
-        return position + PointPos(Text()) - static_cast<int>(oldPoint);
-    const bool leadingZero = typed == '0' && before.find_first_of("123456789") >= static_cast<size_t>(position);
+        return position + std::max(0, PointPos(Text()) - static_cast<int>(oldPoint));
+    const int all = DigitsBefore(before, static_cast<int>(before.size()));
+    if (all > DigitsBefore(Text(), edit_.Length()))
+        return position;  // a leading zero was dropped
     const int digits = DigitsBefore(before, position);
-    const int end = EndOfInteger();
-    if (leadingZero || digits > DigitsBefore(Text(), end))
-        return position;
-    const int kept = std::min(position, end);
+    const int kept = std::min(position, EndOfInteger());
     return DigitsBefore(Text(), kept) == digits ? kept : BehindDigits(digits, position);
 }
 

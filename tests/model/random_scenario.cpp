@@ -101,7 +101,8 @@ std::string Alphabet(const Setting& setting, const Config& config, Type type, co
 // The dice of one scenario. What they may throw depends on the mask of the moment.
 class Player {
 public:
-    Player(const Setting& setting, const Config& config, unsigned seed) : random_(seed), setting_(setting), config_(config)
+    Player(const Setting& setting, const Config& config, unsigned seed)
+        : random_(seed), setting_(setting), config_(config)
     {
         type_ = config.type;
         plain_ = config.mask.empty();
@@ -192,6 +193,7 @@ private:
 
 }  // namespace
 
+// clang-format off
 const std::vector<ControlRow>& ControlRows()
 {
     static const std::vector<ControlRow> rows = {
@@ -283,13 +285,14 @@ const std::vector<ControlRow>& ControlRows()
         {"AAAA",                    kString,   1, "", kColours                                     },
         {"AAAA",                    kString,   1, "", "",                               true       },
         {"##0",                     kNumber,   1, "", "One\t1/Two\t2/Ten\t10/None\t0",  true       },
-        {"##0",                     kNumber,   1, "", "One\t1/Two\t2/Ten\t10/No\tnull!", true, true},
+        {"##0",                     kNumber,   1, "", "One\t1/Two\t2/Ten\t10/No\tnull!",  true,  true},
         {"#,##0.00",                kDecimal,  1, "", "Half\t0.50/One\t1.00/Few\t3.00", true       },
         {"MM/DD/YY",                kDate,     1, "", "Moon\t1969-07-20/Now\tnull!",    true       },
         {"HH:MM",                   kTime,     1, "", "Noon\t12:00/Tea\t16:30",         true,  true},
     };
     return rows;
 }
+// clang-format on
 
 Scenario RandomScenario(const Setting& setting, const ControlRow& row, unsigned seed, int steps)
 {

@@ -1,5 +1,5 @@
-// A scenario: one control under one regional setting, and the steps of a user, played on the library and on the model at
-// once. After each step the two are compared; the first difference ends the scenario.
+// A scenario: one control under one regional setting, and the steps of a user, played on the library and on the model.
+// After each step the two are compared; the first difference ends the scenario.
 #ifndef TESTS_MODEL_SCENARIO_H
 #define TESTS_MODEL_SCENARIO_H
 

@@ -19,8 +19,8 @@ struct Config {
     unsigned increment = 0;  // with a spin when above 0
     std::string range = {};
     std::optional<std::string> codes = {};  // the spin's code table
-    bool codeDisplay = false;          // values are shown through the code table
-    bool codePick = false;             // typed characters choose entries of the table
+    bool codeDisplay = false;               // values are shown through the code table
+    bool codePick = false;                  // typed characters choose entries of the table
 };
 
 // What can be seen of a control, and what it has done since it was made.
@@ -30,8 +30,8 @@ struct State {
     int end = 0;
     int beeps = 0;
     int autoskips = 0;
-    int steps = 0;       // presses of Up and Down of which the parent was told
-    bool drawn = true;   // redrawing is on
+    int steps = 0;      // presses of Up and Down of which the parent was told
+    bool drawn = true;  // redrawing is on
     bool modified = false;
 
     bool operator==(const State& other) const
