@@ -230,10 +230,10 @@ void Control::Paste(const std::string& clipboard)
 
 void Control::PasteText(const std::string& clipboard)
 {
-    ForgetTyping();
     const Value data = Unformat(clipboard);
     if (data.none)
         return;
+    ForgetTyping();
     if (!IsNumeric())
         return SetData(data);
     std::string text = data.text;

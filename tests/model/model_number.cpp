@@ -10,6 +10,8 @@
 namespace model {
 namespace {
 
+constexpr int kGeneralDigits = 15;
+
 bool IsDigit(char c)
 {
     return c >= '0' && c <= '9';
@@ -49,10 +51,18 @@ std::string Rounded(const Number& number, int places)
     return digits;
 }
 
+std::string WithExponent(std::string digits, int exponent, char point)
+{
+    if (digits.size() > 1)
+        digits.insert(1, 1, point);
+    const std::string power = std::to_string(std::abs(exponent));
+    return digits + (exponent < 0 ? "E-" : "E+") + (power.size() < 2 ? "0" : "") + power;
+}
+
 std::string General(const Number& number, const Separators& separators)
 {
     Number shown = number;
-    const int excess = static_cast<int>(shown.digits.size()) - 15;
+    const int excess = static_cast<int>(shown.digits.size()) - kGeneralDigits;
     if (excess > 0) {
         shown.digits = Rounded({false, number.digits, excess}, 0);
         shown.scale -= excess;
@@ -63,6 +73,9 @@ std::string General(const Number& number, const Separators& separators)
     }
     if (shown.digits.empty())
         return "0";
+    const int exponent = static_cast<int>(shown.digits.size()) - shown.scale - 1;
+    if (exponent >= kGeneralDigits || exponent < -kGeneralDigits - 1)
+        return (number.negative ? "-" : "") + WithExponent(shown.digits, exponent, separators.point);
     std::string text = shown.digits;
     if (shown.scale <= 0)
         text.append(static_cast<size_t>(-shown.scale), '0');

@@ -162,12 +162,13 @@ void Control::RefuseNumeric()
     const size_t oldPoint = decimalPlaces_ != 0 ? before.find(Point()) : std::string::npos;
     if (oldPoint != std::string::npos && caret > static_cast<int>(oldPoint))
         return PlaceCaret(PointPos(Text()) + caret - static_cast<int>(oldPoint));
+    const bool letters = ThroughCodes() && before != "-" && before != "+";
     const int allDigits = DigitsBefore(before, static_cast<int>(before.size()));
     if (DigitsBefore(Text(), edit_.Length()) == 0) {
-        const bool amongLetters = ThroughCodes() && caret > 0 && allDigits == DigitsBefore(before, caret);
+        const bool amongLetters = letters && caret > 0 && allDigits == DigitsBefore(before, caret);
         return PlaceCaret(amongLetters ? caret + edit_.Length() - static_cast<int>(before.size()) : 0);
     }
-    if (decimalPlaces_ != 0 && caret > 0 && allDigits == 0 && ThroughCodes())
+    if (decimalPlaces_ != 0 && caret > 0 && allDigits == 0 && letters)
         return PlaceCaret(PointPos(Text()) + 1);
     if (caret == static_cast<int>(before.size()) && caret > 0 && before.back() == '%' && decimalPlaces_ == 0)
         return PlaceCaret(edit_.Length());
@@ -180,7 +181,7 @@ void Control::RefuseNumeric()
     // Beside a separator: as far on as the text has grown.
     const int grown = std::max(0, edit_.Length() - static_cast<int>(before.size()));
     const int moved = std::min(caret + grown, EndOfInteger());
-    if (DigitsBefore(Text(), moved) == DigitsBefore(Text(), at))
+    if (behind == 0 && DigitsBefore(Text(), moved) == DigitsBefore(Text(), at))
         at = moved;
     PlaceCaret(at);
 }
@@ -217,10 +218,8 @@ int Control::CaretAfterGrowth(const std::string& before, int position, int grown
     if (decimalPlaces_ != 0 && oldPoint == std::string::npos)
         return behind;
     int moved = position + grown;
-    if (decimalPlaces_ == 0)
+    if (!inFraction)
         moved = std::min(moved, end);
-    else if (!inFraction)
-        moved = position + end - static_cast<int>(oldPoint);  // digits of the fraction do not count
     for (int i = behind; i < moved; ++i)
         if (IsDigit(CharOf(text, i)))
             return behind;
@@ -235,7 +234,7 @@ int Control::CaretAfterShrinking(const std::string& before, int position, char t
         return position;
     const size_t oldPoint = decimalPlaces_ != 0 ? before.find(Point()) : std::string::npos;
     if (oldPoint != std::string::npos && position > static_cast<int>(oldPoint))
-        return position + std::max(0, PointPos(Text()) - static_cast<int>(oldPoint));
+        return std::min(position + std::max(0, PointPos(Text()) - static_cast<int>(oldPoint)), edit_.Length());
     const int all = DigitsBefore(before, static_cast<int>(before.size()));
     if (all > DigitsBefore(Text(), edit_.Length()))
         return position;  // a leading zero was dropped
