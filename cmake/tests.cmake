@@ -47,8 +47,6 @@ foreach(folder IN LISTS zt_test_folders)
         zt_add_test_program(${folder} ztedit050 ztshared ztdecimal)
     endif()
 endforeach()
-# The spin's window is tested with the fixture of the spin's steps.
-target_sources(test_win32 PRIVATE ${CMAKE_SOURCE_DIR}/tests/spin/spin_test.cpp)
 # The libraries as a customer meets them: loaded by name, so not linked here, and linked into a program in C.
 zt_add_test_program(abi gtest_main version)
 add_executable(abi_customer ${CMAKE_SOURCE_DIR}/tests/abi/abi_customer.c)
