@@ -7,6 +7,8 @@ add_subdirectory(${ZT_GOOGLETEST_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FRO
 
 add_library(zt_native_test_flags INTERFACE)
 target_link_libraries(zt_native_test_flags INTERFACE zt_engine gtest)
+# The engine is compiled without type information, which this check would ask its classes for.
+target_compile_options(zt_native_test_flags INTERFACE -fno-sanitize=vptr)
 target_include_directories(zt_native_test_flags INTERFACE ${CMAKE_SOURCE_DIR}/tests)
 target_compile_definitions(zt_native_test_flags INTERFACE ZTE_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
 
@@ -25,9 +27,12 @@ target_link_libraries(test_properties PRIVATE gtest_main)
 file(GLOB zt_engine_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/engine/*.cpp ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
     ${CMAKE_SOURCE_DIR}/tests/support/native/*.cpp)
 zt_add_native_tests(engine ${zt_engine_sources})
-# The engine is compiled without type information, which this check would ask its classes for.
-set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/support/native/masked_edit.cpp
-    PROPERTIES COMPILE_OPTIONS -fno-sanitize=vptr)
+
+# Functions of the engine by themselves.
+file(GLOB zt_unit_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/units/*.cpp)
+set(zt_unit_support profile.cpp values.cpp native/main.cpp native/profile_store.cpp)
+list(TRANSFORM zt_unit_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
+zt_add_native_tests(units ${zt_unit_sources} ${zt_unit_support})
 
 add_test(NAME includes COMMAND ${CMAKE_COMMAND} -DSOURCE_DIR=${CMAKE_SOURCE_DIR}
     -P ${CMAKE_SOURCE_DIR}/cmake/check_includes.cmake)
