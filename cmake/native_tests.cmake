@@ -7,6 +7,8 @@ add_subdirectory(${ZT_GOOGLETEST_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FRO
 
 add_library(zt_native_test_flags INTERFACE)
 target_link_libraries(zt_native_test_flags INTERFACE zt_engine gtest)
+# The engine is compiled without type information, which this check would ask its classes for.
+target_compile_options(zt_native_test_flags INTERFACE -fno-sanitize=vptr)
 target_include_directories(zt_native_test_flags INTERFACE ${CMAKE_SOURCE_DIR}/tests)
 target_compile_definitions(zt_native_test_flags INTERFACE ZTE_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
 
@@ -36,6 +38,19 @@ file(GLOB zt_field_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/field/*.c
 list(FILTER zt_field_sources EXCLUDE REGEX "real_|differential_")
 zt_add_native_tests(field ${zt_field_sources})
 target_link_libraries(test_field PRIVATE gtest_main)
+
+# Functions of the engine by themselves.
+file(GLOB zt_unit_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/units/*.cpp)
+set(zt_unit_support profile.cpp values.cpp native/main.cpp native/profile_store.cpp)
+list(TRANSFORM zt_unit_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
+zt_add_native_tests(units ${zt_unit_sources} ${zt_unit_support})
+
+# The engine against an independent reading of its rules, over a million random keys, pastes, values and steps.
+file(GLOB zt_model_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/model/*.cpp)
+list(FILTER zt_model_sources EXCLUDE REGEX "/live_")
+zt_add_native_tests(model ${zt_model_sources} ${CMAKE_SOURCE_DIR}/tests/support/keyboard.cpp)
+target_link_libraries(test_model PRIVATE gtest_main)
+target_compile_options(test_model PRIVATE -O1)
 
 add_test(NAME includes COMMAND ${CMAKE_COMMAND} -DSOURCE_DIR=${CMAKE_SOURCE_DIR}
     -P ${CMAKE_SOURCE_DIR}/cmake/check_includes.cmake)

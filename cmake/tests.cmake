@@ -30,6 +30,7 @@ endfunction()
 # it brings its own gtest_main, with tests/support.
 function(zt_add_test_program folder)
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/tests/${folder}/*.rc)
+    list(FILTER sources EXCLUDE REGEX "/native_")
     if(NOT sources)
         return()
     endif()
@@ -54,8 +55,6 @@ endforeach()
 if(TARGET test_field)
     target_link_libraries(test_field PRIVATE zt_memory)
 endif()
-# The spin's window is tested with the fixture of the spin's steps.
-target_sources(test_win32 PRIVATE ${CMAKE_SOURCE_DIR}/tests/spin/spin_test.cpp)
 # The libraries as a customer meets them: loaded by name, so not linked here, and linked into a program in C.
 zt_add_test_program(abi gtest_main version)
 add_executable(abi_customer ${CMAKE_SOURCE_DIR}/tests/abi/abi_customer.c)

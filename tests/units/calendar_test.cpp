@@ -1,18 +1,20 @@
 // The calendar of the control and the names of its months.
-#include "mask/calendar.h"
+#include "engine/values/calendar.h"
 
 #include <gtest/gtest.h>
 
 #include <ostream>
 #include <string>
 
-#include "mask/month_names.h"
-#include "tests/support/edit_test.h"
+#include "engine/values/month_names.h"
+#include "tests/support/key_case.h"
 
 namespace zttest {
 namespace {
 
 using namespace zte;
+
+const Settings kSettings = StandardSettings();
 
 DateTimeValue Day(int yearValue, int month, int day)
 {
@@ -116,7 +118,6 @@ TEST_P(DayByDay, TheMonthTableIsRight)
     int32_t before = 0;
     for (int month = 0; month < 12; ++month) {
         const MonthRow& row = MonthRowOf(4, GetParam(), month);
-        EXPECT_EQ(row.nameId, 2000 + month);
         EXPECT_EQ(row.index, month);
         EXPECT_EQ(row.daysBefore, before);
         EXPECT_EQ(row.days, DaysOf(month));
@@ -164,13 +165,13 @@ TEST(MonthNames, AreTheTwelveAbbreviations)
     static const char* const names[] = {"JAN", "FEB", "MAR", "APR", "MAY", "JUN",
                                         "JUL", "AUG", "SEP", "OCT", "NOV", "DEC"};
     for (int32_t month = 0; month < 12; ++month)
-        EXPECT_EQ(MonthName(month), names[month]);
+        EXPECT_EQ(MonthName(kSettings, month), names[month]);
 }
 
 TEST(MonthNames, OfNoMonthAreEmpty)
 {
-    EXPECT_EQ(MonthName(-1), "");
-    EXPECT_EQ(MonthName(12), "");
+    EXPECT_EQ(MonthName(kSettings, -1), "");
+    EXPECT_EQ(MonthName(kSettings, 12), "");
 }
 
 struct NameCase {
@@ -187,7 +188,7 @@ class MonthOfName : public testing::TestWithParam<NameCase> {};
 
 TEST_P(MonthOfName, IsFound)
 {
-    EXPECT_EQ(MonthFromName(GetParam().text), GetParam().month);
+    EXPECT_EQ(MonthFromName(kSettings, GetParam().text), GetParam().month);
 }
 
 const NameCase kNameRows[] = {
@@ -202,73 +203,52 @@ const NameCase kNameRows[] = {
 };
 INSTANTIATE_TEST_SUITE_P(, MonthOfName, testing::ValuesIn(kNameRows), RowName<NameCase>);
 
+// The month, from one on in calendar order, whose abbreviation begins with the start.
 struct PrefixCase {
     const char* name;
-    const char* prefix;
-    const char* month;
+    const char* start;
+    int32_t first;
+    const char* month;  // empty: none
 };
 void PrintTo(const PrefixCase& row, std::ostream* out)
 {
-    *out << '"' << row.prefix << '"';
+    *out << '"' << row.start << "\" from " << row.first;
 }
 
 class MonthOfPrefix : public testing::TestWithParam<PrefixCase> {};
 
-TEST_P(MonthOfPrefix, IsTheFirstOfTheYear)
+TEST_P(MonthOfPrefix, IsFound)
 {
-    EXPECT_EQ(MonthNameByPrefix(GetParam().prefix), GetParam().month);
+    EXPECT_EQ(MonthName(kSettings, MonthByPrefix(kSettings, GetParam().start, GetParam().first)), GetParam().month);
 }
 
 const PrefixCase kPrefixRows[] = {
-    {"J",         "J",    "JAN"},
-    {"Ju",        "ju",   "JUN"},
-    {"Jul",       "Jul",  "JUL"},
-    {"A",         "a",    "APR"},
-    {"Au",        "Au",   "AUG"},
-    {"M",         "M",    "MAR"},
-    {"May",       "may",  "MAY"},
-    {"D",         "d",    "DEC"},
-    {"Unknown",   "X",    ""   },
-    {"ADigit",    "1",    ""   },
-    {"ABlank",    " ",    ""   },
-    {"TooLong",   "JUNE", ""   },
-    {"OtherTail", "JUX",  ""   },
+    {"J",                         "J",    0,  "JAN"},
+    {"Ju",                        "ju",   0,  "JUN"},
+    {"Jul",                       "Jul",  0,  "JUL"},
+    {"A",                         "a",    0,  "APR"},
+    {"Au",                        "Au",   0,  "AUG"},
+    {"M",                         "M",    0,  "MAR"},
+    {"May",                       "may",  0,  "MAY"},
+    {"D",                         "d",    0,  "DEC"},
+    {"Unknown",                   "X",    0,  ""   },
+    {"ADigit",                    "1",    0,  ""   },
+    {"ABlank",                    " ",    0,  ""   },
+    {"TooLong",                   "JUNE", 0,  ""   },
+    {"OtherTail",                 "JUX",  0,  ""   },
+    {"JulyBehindJune",            "JU",   6,  "JUL"},
+    {"NoOtherWithJuBehindJuly",   "JU",   7,  ""   },
+    {"JuneBehindJanuary",         "J",    1,  "JUN"},
+    {"JulyBehindJuneByOneLetter", "J",    6,  "JUL"},
+    {"NoOtherWithJBehindJuly",    "J",    7,  ""   },
+    {"MayBehindMarch",            "MA",   3,  "MAY"},
+    {"NoOtherWithMaBehindMay",    "MA",   5,  ""   },
+    {"AugustBehindApril",         "A",    4,  "AUG"},
+    {"NoOtherWithAuBehindAugust", "AU",   8,  ""   },
+    {"NoWrapToTheNextYear",       "D",    12, ""   },
+    {"AWholeNameHasNoOther",      "JUN",  6,  ""   },
 };
 INSTANTIATE_TEST_SUITE_P(, MonthOfPrefix, testing::ValuesIn(kPrefixRows), RowName<PrefixCase>);
-
-struct NextCase {
-    const char* name;
-    const char* month;
-    int32_t n;
-    const char* next;
-};
-void PrintTo(const NextCase& row, std::ostream* out)
-{
-    *out << row.month << ", " << row.n;
-}
-
-class NextMonth : public testing::TestWithParam<NextCase> {};
-
-TEST_P(NextMonth, OfTheSameStartIsFound)
-{
-    EXPECT_EQ(NextMonthNameMatch(GetParam().month, GetParam().n), GetParam().next);
-}
-
-const NextCase kNextRows[] = {
-    {"JuneToJuly",              "JUN", 1, "JUL"},
-    {"JulyIsTheLastWithJu",     "JUL", 1, ""   },
-    {"JanuaryToJune",           "JAN", 0, "JUN"},
-    {"JuneToJulyByOneLetter",   "JUN", 0, "JUL"},
-    {"JulyIsTheLastWithJ",      "JUL", 0, ""   },
-    {"MarchToMay",              "MAR", 1, "MAY"},
-    {"MayIsTheLast",            "MAY", 1, ""   },
-    {"AprilToAugust",           "APR", 0, "AUG"},
-    {"NoOtherWithAu",           "AUG", 1, ""   },
-    {"NoWrapToTheNextYear",     "DEC", 0, ""   },
-    {"AWholeNameHasNoOther",    "JUN", 2, ""   },
-    {"SmallLettersAreCompared", "jun", 1, ""   },
-};
-INSTANTIATE_TEST_SUITE_P(, NextMonth, testing::ValuesIn(kNextRows), RowName<NextCase>);
 
 }  // namespace
 }  // namespace zttest

@@ -4,30 +4,19 @@
 #include <ostream>
 #include <string>
 
-#include "intl/intl_picture.h"
-#include "tests/support/edit_test.h"
-#include "tests/support/profile.h"
+#include "engine/mask/picture.h"
+#include "tests/support/key_case.h"
 
 namespace zttest {
 namespace {
 
 using namespace zte;
 
-constexpr char kUntouched = '?';
+constexpr int32_t kRoom = 255;
 
-struct Conversion {
-    int32_t status;
-    std::string mask;  // what was written in front of the first untouched character
-};
-
-// Converts with size characters of room; a write behind them fails the test.
-Conversion Convert(const char* picture, int32_t size = 255)
+zte::Picture Convert(const char* picture, int32_t size = kRoom)
 {
-    std::string out(static_cast<size_t>(size) + 8, kUntouched);
-    const int32_t status = PictureToMask(picture, &out[0], size);
-    EXPECT_EQ(out.find_first_not_of(kUntouched, static_cast<size_t>(size)), std::string::npos)
-        << "written behind the buffer";
-    return {status, status == PICTURE_OK ? std::string(out.c_str()) : out.substr(0, out.find(kUntouched))};
+    return PictureToMask(picture, size);
 }
 
 struct PictureCase {
@@ -40,12 +29,12 @@ void PrintTo(const PictureCase& row, std::ostream* out)
     *out << row.picture;
 }
 
-class Picture : public testing::TestWithParam<PictureCase> {};
+class PictureText : public testing::TestWithParam<PictureCase> {};
 
-TEST_P(Picture, BecomesAMask)
+TEST_P(PictureText, BecomesAMask)
 {
-    const Conversion conversion = Convert(GetParam().picture);
-    EXPECT_EQ(conversion.status, PICTURE_OK);
+    const zte::Picture conversion = Convert(GetParam().picture);
+    EXPECT_EQ(conversion.status, PictureStatus::Ok);
     EXPECT_EQ(conversion.mask, GetParam().mask);
 }
 
@@ -95,12 +84,12 @@ const PictureCase kPictureRows[] = {
     {"TimeTemplate",                   "hh':'mm':'ss",       "hh:mm:ss"            },
     {"EveryPart",                      "dddd, d.M.yyyy h:m", "dd, dd.mm.yyyy hh:mm"},
 };
-INSTANTIATE_TEST_SUITE_P(, Picture, testing::ValuesIn(kPictureRows), RowName<PictureCase>);
+INSTANTIATE_TEST_SUITE_P(, PictureText, testing::ValuesIn(kPictureRows), RowName<PictureCase>);
 
 struct RefusedCase {
     const char* name;
     const char* picture;
-    int32_t status;
+    PictureStatus status;
 };
 void PrintTo(const RefusedCase& row, std::ostream* out)
 {
@@ -115,53 +104,53 @@ TEST_P(RefusedPicture, GivesItsStatus)
 }
 
 const RefusedCase kRefusedRows[] = {
-    {"UnclosedSingleQuote",    "'Day d",      7 },
-    {"UnclosedDoubleQuote",    "\"Day d",     7 },
-    {"OtherQuoteDoesNotClose", "'Day\" d",    7 },
-    {"BackslashAtTheEnd",      "d\\",         7 },
-    {"FiveMonthLetters",       "MMMMM/dd/yy", 9 },
-    {"FiveDayLetters",         "ddddd",       10},
-    {"FiveYearLetters",        "yyyyy",       11},
-    {"OneYearLetter",          "d/M/y",       11},
-    {"ThreeYearLetters",       "yyy/MM/dd",   11},
-    {"OneYearLetterAtTheEnd",  "y",           11},
-    {"ThreeHourLetters",       "hhh",         12},
-    {"ThreeSecondLetters",     "h:m:sss",     13},
-    {"ThreeMinuteLetters",     "h:mmm",       14},
-    {"MonthNameBehindTheHour", "h MMMM",      14},
-    {"LoneA",                  "h A",         15},
-    {"AmWithoutPm",            "h AM",        15},
-    {"MixedCaseAmPm",          "h Am/Pm",     15},
-    {"SmallMixedShortAmPm",    "h a/P",       15},
-    {"WordWithAnA",            "a day",       15},
-    {"SevenFractionLetters",   "fffffff",     16},
-    {"TheFirstErrorCounts",    "yyy'",        11},
+    {"UnclosedSingleQuote",    "'Day d",      PictureStatus::Unclosed    },
+    {"UnclosedDoubleQuote",    "\"Day d",     PictureStatus::Unclosed    },
+    {"OtherQuoteDoesNotClose", "'Day\" d",    PictureStatus::Unclosed    },
+    {"BackslashAtTheEnd",      "d\\",         PictureStatus::Unclosed    },
+    {"FiveMonthLetters",       "MMMMM/dd/yy", PictureStatus::LongMonth   },
+    {"FiveDayLetters",         "ddddd",       PictureStatus::LongDay     },
+    {"FiveYearLetters",        "yyyyy",       PictureStatus::BadYear     },
+    {"OneYearLetter",          "d/M/y",       PictureStatus::BadYear     },
+    {"ThreeYearLetters",       "yyy/MM/dd",   PictureStatus::BadYear     },
+    {"OneYearLetterAtTheEnd",  "y",           PictureStatus::BadYear     },
+    {"ThreeHourLetters",       "hhh",         PictureStatus::LongHour    },
+    {"ThreeSecondLetters",     "h:m:sss",     PictureStatus::LongSecond  },
+    {"ThreeMinuteLetters",     "h:mmm",       PictureStatus::LongMinute  },
+    {"MonthNameBehindTheHour", "h MMMM",      PictureStatus::LongMinute  },
+    {"LoneA",                  "h A",         PictureStatus::BadAmPm     },
+    {"AmWithoutPm",            "h AM",        PictureStatus::BadAmPm     },
+    {"MixedCaseAmPm",          "h Am/Pm",     PictureStatus::BadAmPm     },
+    {"SmallMixedShortAmPm",    "h a/P",       PictureStatus::BadAmPm     },
+    {"WordWithAnA",            "a day",       PictureStatus::BadAmPm     },
+    {"SevenFractionLetters",   "fffffff",     PictureStatus::LongFraction},
+    {"TheFirstErrorCounts",    "yyy'",        PictureStatus::BadYear     },
 };
 INSTANTIATE_TEST_SUITE_P(, RefusedPicture, testing::ValuesIn(kRefusedRows), RowName<RefusedCase>);
 
 TEST(PictureRoom, ExactlyTheMaskAndItsEndFit)
 {
-    const Conversion conversion = Convert("M/d/yy", 9);
-    EXPECT_EQ(conversion.status, PICTURE_OK);
+    const zte::Picture conversion = Convert("M/d/yy", 9);
+    EXPECT_EQ(conversion.status, PictureStatus::Ok);
     EXPECT_EQ(conversion.mask, "mm/dd/yy");
 }
 
 TEST(PictureRoom, OneLessHasNoRoomForTheEnd)
 {
-    EXPECT_EQ(Convert("M/d/yy", 8).status, PICTURE_BUFFER_FULL);
+    EXPECT_EQ(Convert("M/d/yy", 8).status, PictureStatus::DoesNotFit);
 }
 
 class SmallRoom : public testing::TestWithParam<int> {};
 
 TEST_P(SmallRoom, IsFullAndNotOverrun)
 {
-    EXPECT_EQ(Convert("M/d/yy 'quoted' \\x h:m:s AM/PM ff", GetParam()).status, PICTURE_BUFFER_FULL);
+    EXPECT_EQ(Convert("M/d/yy 'quoted' \\x h:m:s AM/PM ff", GetParam()).status, PictureStatus::DoesNotFit);
 }
 
 TEST_P(SmallRoom, HoldsTheStartOfTheMask)
 {
     const std::string whole = "mm/dd/yy quoted x hh:mm:ss AM/PM fff";
-    const Conversion conversion = Convert("M/d/yy 'quoted' \\x h:m:s AM/PM ff", GetParam());
+    const zte::Picture conversion = Convert("M/d/yy 'quoted' \\x h:m:s AM/PM ff", GetParam());
     EXPECT_EQ(whole.compare(0, conversion.mask.size(), conversion.mask), 0) << conversion.mask;
 }
 
@@ -169,72 +158,74 @@ INSTANTIATE_TEST_SUITE_P(, SmallRoom, testing::Range(0, 37));
 
 TEST(PictureRoom, AnErrorInThePictureIsNotHiddenByRoomLeft)
 {
-    EXPECT_EQ(Convert("yyy", 255).status, PICTURE_BAD_YEAR);
+    EXPECT_EQ(Convert("yyy", 255).status, PictureStatus::BadYear);
 }
 
-// The conversion of what the profile has.
-struct ProfileCase {
+// The conversion of what the settings have.
+struct SettingCase {
     const char* name;
-    const char* key;
     const char* value;
-    int32_t kind;
-    int32_t status;
+    PictureStatus status;
     const char* mask;
 };
-void PrintTo(const ProfileCase& row, std::ostream* out)
+void PrintTo(const SettingCase& row, std::ostream* out)
 {
-    *out << row.key << '=' << (row.value ? row.value : "(absent)");
+    *out << '"' << row.value << '"';
 }
 
-class ProfilePicture : public testing::TestWithParam<ProfileCase> {};
+class DateSetting : public testing::TestWithParam<SettingCase> {};
+class TimeSetting : public testing::TestWithParam<SettingCase> {};
 
-TEST_P(ProfilePicture, IsConverted)
+void Check(const zte::Picture& picture, const SettingCase& row)
 {
-    const Regional settings(RegionalSet(1, {GetParam().key, GetParam().value}));
-    char out[255] = "";
-    EXPECT_EQ(IntlPictureToMask(out, sizeof out, GetParam().kind), GetParam().status);
-    if (GetParam().status == PICTURE_OK) {
-        EXPECT_STREQ(out, GetParam().mask);
+    EXPECT_EQ(picture.status, row.status);
+    if (row.status == PictureStatus::Ok) {
+        EXPECT_EQ(picture.mask, row.mask);
     }
 }
 
-const ProfileCase kProfileRows[] = {
-    {"DateAbsent",             "sShortDate", nullptr,       1, 0,  "mm/dd/yy"                },
-    {"DateEmpty",              "sShortDate", "",            1, 0,  ""                        },
-    {"DateDayFirst",           "sShortDate", "dd.MM.yyyy",  1, 0,  "dd.mm.yyyy"              },
-    {"DateWithWords",          "sShortDate", "'Day' d",     1, 0,  "Day dd"                  },
-    {"DateOfThreeYearLetters", "sShortDate", "yyy/MM/dd",   1, 11, ""                        },
-    {"DateOfFiveMonthLetters", "sShortDate", "MMMMM/dd/yy", 1, 9,  ""                        },
-    {"TimeAbsent",             "sTime",      nullptr,       2, 0,  "hh:mm:ss"                },
-    {"TimeEmpty",              "sTime",      "",            2, 0,  "hhmmss"                  },
-    {"TimePoint",              "sTime",      ".",           2, 0,  "hh.mm.ss"                },
-    {"TimeOfAMaskLetter",      "sTime",      "h",           2, 0,  "hhhmmhss"                },
-    {"TimeIsCutToNine",        "sTime",      "123456789ab", 2, 0,  "hh123456789mm123456789ss"},
-    {"TimeOfAQuote",           "sTime",      "'x",          2, 0,  "hhxmmxss"                },
-    {"TimeOfAnyOtherKind",     "sTime",      ".",           7, 0,  "hh.mm.ss"                },
-    {"TimeOfKindZero",         "sTime",      ".",           0, 0,  "hh.mm.ss"                },
+TEST_P(DateSetting, IsConverted)
+{
+    Settings settings = StandardSettings();
+    Assign(settings.shortDate, GetParam().value);
+    Check(DatePictureToMask(settings, kRoom), GetParam());
+}
+
+TEST_P(TimeSetting, IsConverted)
+{
+    Settings settings = StandardSettings();
+    Assign(settings.timeSeparator, GetParam().value);
+    Check(TimePictureToMask(settings, kRoom), GetParam());
+}
+
+const SettingCase kDateRows[] = {
+    {"Standard",         "m/d/yy",      PictureStatus::Ok,        "mm/dd/yy"  },
+    {"Empty",            "",            PictureStatus::Ok,        ""          },
+    {"DayFirst",         "dd.MM.yyyy",  PictureStatus::Ok,        "dd.mm.yyyy"},
+    {"WithWords",        "'Day' d",     PictureStatus::Ok,        "Day dd"    },
+    {"ThreeYearLetters", "yyy/MM/dd",   PictureStatus::BadYear,   ""          },
+    {"FiveMonthLetters", "MMMMM/dd/yy", PictureStatus::LongMonth, ""          },
 };
-INSTANTIATE_TEST_SUITE_P(, ProfilePicture, testing::ValuesIn(kProfileRows), RowName<ProfileCase>);
+INSTANTIATE_TEST_SUITE_P(, DateSetting, testing::ValuesIn(kDateRows), RowName<SettingCase>);
 
-TEST(ProfilePictureRoom, FiveCharactersDoNotHoldADate)
+const SettingCase kTimeRows[] = {
+    {"Standard",    ":",           PictureStatus::Ok, "hh:mm:ss"                },
+    {"Empty",       "",            PictureStatus::Ok, "hhmmss"                  },
+    {"Point",       ".",           PictureStatus::Ok, "hh.mm.ss"                },
+    {"AMaskLetter", "h",           PictureStatus::Ok, "hhhmmhss"                },
+    {"IsCutToNine", "123456789ab", PictureStatus::Ok, "hh123456789mm123456789ss"},
+    {"AQuote",      "'x",          PictureStatus::Ok, "hhxmmxss"                },
+};
+INSTANTIATE_TEST_SUITE_P(, TimeSetting, testing::ValuesIn(kTimeRows), RowName<SettingCase>);
+
+TEST(SettingRoom, FiveCharactersDoNotHoldADate)
 {
-    char out[5];
-    EXPECT_EQ(IntlPictureToMask(out, sizeof out, PICTURE_DATE), PICTURE_BUFFER_FULL);
+    EXPECT_EQ(DatePictureToMask(StandardSettings(), 5).status, PictureStatus::DoesNotFit);
 }
 
-TEST(ProfilePictureRoom, FiveCharactersDoNotHoldATime)
+TEST(SettingRoom, FiveCharactersDoNotHoldATime)
 {
-    char out[5];
-    EXPECT_EQ(IntlPictureToMask(out, sizeof out, PICTURE_TIME), PICTURE_BUFFER_FULL);
-}
-
-TEST(ProfilePictureRoom, MoreThanNinetyNineCharactersAreCut)
-{
-    const std::string picture = std::string(110, '-') + "yyy";
-    const Regional settings(RegionalSet(1, {"sShortDate", picture.c_str()}));
-    char out[255] = "";
-    EXPECT_EQ(IntlPictureToMask(out, sizeof out, PICTURE_DATE), PICTURE_OK);
-    EXPECT_EQ(out, std::string(99, '-'));
+    EXPECT_EQ(TimePictureToMask(StandardSettings(), 5).status, PictureStatus::DoesNotFit);
 }
 
 }  // namespace

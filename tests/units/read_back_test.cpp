@@ -1,34 +1,43 @@
-// What the library reads back for itself while the user edits, and numbers laid through their mask again.
-#include "format/read_back.h"
+// What the engine reads back for itself while the user edits, and numbers laid through their mask again.
+#include "engine/format/read_back.h"
 
-#include "core/instance.h"
-#include "tests/format/value_test.h"
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <ostream>
+
+#include "engine/format/data.h"
+#include "engine/format/reformat_number.h"
+#include "engine/memory_control.h"
+#include "tests/support/key_case.h"
+#include "tests/support/native/profile_store.h"
+#include "tests/support/profile.h"
+#include "tests/support/values.h"
 
 namespace zttest {
 namespace {
 
-using zte::EditInstance;
-
-class LiveRecord : public ValueTest {
+class EditedText : public testing::Test {
 protected:
-    EditInstance& Live() const { return *zte::GetEditInstance(Window()); }
-
-    std::string ReadCurrent() const
+    void Install(const char* mask, int32_t type)
     {
-        void* block = zte::ReadCurrentData(Live());
-        if (!block)
-            return kNullResult;
-        std::string value;
-        if (zte::IsDateOrTime(Live().dataType)) {
-            DateTimeValue read;
-            std::memcpy(&read, block, sizeof read);
-            value = Canonical(read);
-        } else {
-            value = static_cast<const char*>(block);
-        }
-        SharedHeapFree(control_->heap(), block);
-        return value;
+        zte::ControlSetup setup;
+        setup.mask = mask;
+        setup.dataType = type;
+        control_ = std::make_unique<zte::MemoryControl>(setup, SettingsInForce(), nullptr);
     }
+    void SetText(const char* text) { control_->Edit().SetText(text); }
+    std::string Text() const { return control_->Edit().Shown(); }
+    zte::EditInstance& Live() const { return control_->Record(); }
+
+    std::string ReadText(const char* text) const
+    {
+        if (zte::IsDateOrTime(Live().dataType))
+            return Canonical(zte::ReadShownDateTime(Live(), text));
+        return zte::ReadShownText(Live(), text);
+    }
+
+    std::unique_ptr<zte::MemoryControl> control_;
 };
 
 struct CurrentCase {
@@ -43,13 +52,12 @@ void PrintTo(const CurrentCase& row, std::ostream* out)
     *out << '"' << row.text << "\" under " << row.mask;
 }
 
-class CurrentData : public LiveRecord, public testing::WithParamInterface<CurrentCase> {};
+class CurrentData : public EditedText, public testing::WithParamInterface<CurrentCase> {};
 
 TEST_P(CurrentData, IsReadWithoutTheRulesOfNull)
 {
     Install(GetParam().mask, GetParam().type);
-    SetText(GetParam().text);
-    EXPECT_EQ(ReadCurrent(), GetParam().value);
+    EXPECT_EQ(ReadText(GetParam().text), GetParam().value);
 }
 
 const CurrentCase kCurrentRows[] = {
@@ -67,18 +75,11 @@ const CurrentCase kCurrentRows[] = {
     {"Number",                "#,##0.00",       DT_NUMBER,   "1,234.50",       "1234.50"                   },
     {"Percent",               "#,##0.00%",      DT_NUMBER,   "12.50%",         "0.125"                     },
     {"String",                "(##) ##",        DT_STRING,   "(12) 34",        "1234"                      },
-    {"EmptyNumber",           "#,##0",          DT_NUMBER,   "",               kNullResult                 },
-    {"EmptyString",           "###",            DT_STRING,   "",               kNullResult                 },
-    {"EmptyDate",             "MM/DD/YY",       DT_DATE,     "",               kNullResult                 },
+    {"EmptyNumber",           "#,##0",          DT_NUMBER,   "",               ""                          },
+    {"EmptyString",           "###",            DT_STRING,   "",               ""                          },
+    {"EmptyDate",             "MM/DD/YY",       DT_DATE,     "",               ""                          },
 };
 INSTANTIATE_TEST_SUITE_P(, CurrentData, testing::ValuesIn(kCurrentRows), RowName<CurrentCase>);
-
-TEST_F(LiveRecord, AnEmptyWindowIsTheEmptyDate)
-{
-    Install("MM/DD/YY", DT_DATE);
-    SetText("");
-    EXPECT_EQ(Canonical(zte::ReadCurrentDateTime(Live())), "");
-}
 
 struct ReformatCase {
     const char* name;
@@ -94,7 +95,7 @@ void PrintTo(const ReformatCase& row, std::ostream* out)
     *out << '"' << row.text << "\" under " << row.mask;
 }
 
-class Reformat : public LiveRecord, public testing::WithParamInterface<ReformatCase> {};
+class Reformat : public EditedText, public testing::WithParamInterface<ReformatCase> {};
 
 TEST_P(Reformat, LaysATextGivenThroughTheMask)
 {
@@ -104,12 +105,12 @@ TEST_P(Reformat, LaysATextGivenThroughTheMask)
     EXPECT_EQ(Text(), GetParam().shown);
 }
 
-TEST_P(Reformat, LaysTheWindowTextThroughTheMask)
+TEST_P(Reformat, LaysTheTextShownThroughTheMask)
 {
     const Regional settings(*GetParam().settings);
     Install(GetParam().mask, GetParam().type);
     SetText(GetParam().text);
-    EXPECT_EQ(zte::ReformatNumber(Live(), nullptr), GetParam().grown);
+    EXPECT_EQ(zte::ReformatNumber(Live()), GetParam().grown);
     EXPECT_EQ(Text(), GetParam().shown);
 }
 
@@ -137,11 +138,11 @@ const ReformatCase kReformatRows[] = {
 };
 INSTANTIATE_TEST_SUITE_P(, Reformat, testing::ValuesIn(kReformatRows), RowName<ReformatCase>);
 
-TEST_F(LiveRecord, ATextOf255CharactersIsNotReformatted)
+TEST_F(EditedText, ATextOf255CharactersIsNotReformatted)
 {
     Install("#,##0", DT_NUMBER);
-    ShownFor("7");
-    EXPECT_EQ(zte::ReformatNumber(Live(), std::string(255, '1').c_str()), 0);
+    zte::SetDataString(Live(), "7");
+    EXPECT_EQ(zte::ReformatNumber(Live(), zte::Text(255, '1')), 0);
     EXPECT_EQ(Text(), "7");
 }
 

@@ -4,25 +4,58 @@
 #include <ostream>
 #include <string>
 
-#include "format/date_walk.h"
-#include "format/format_text.h"
-#include "format/number_text.h"
-#include "mask/field_text.h"
-#include "tests/support/edit_test.h"
+#include "engine/format/date_text.h"
+#include "engine/format/field_text.h"
+#include "engine/format/number_value.h"
+#include "engine/mask/mask_table.h"
+#include "engine/mask/number_mask.h"
+#include "engine/memory_control.h"
+#include "engine/services.h"
+#include "engine/values/number_text.h"
+#include "tests/support/key_case.h"
+#include "tests/support/native/profile_store.h"
 #include "tests/support/profile.h"
+#include "tests/support/values.h"
 
 namespace zttest {
 namespace {
 
 using namespace zte;
 
+// A control with a mask, for its record. The mask is not checked: null leaves the type's default.
+class Masked {
+public:
+    Masked(const char* mask, int32_t type) : control_(SetupOf(type), SettingsInForce(), nullptr)
+    {
+        if (!mask)
+            return;
+        EditInstance& record = control_.Record();
+        InstallMask(record, mask);
+        record.yearDigits = Text(mask).find("YYYY") == Text::npos ? 2 : 4;
+    }
+    const EditInstance& operator*() const { return control_.Record(); }
+
+private:
+    static ControlSetup SetupOf(int32_t type)
+    {
+        ControlSetup setup;
+        setup.dataType = type;
+        return setup;
+    }
+
+    MemoryControl control_;
+};
+
 std::string TextOfDecimal(const DecimalValue& value)
 {
-    char compiled[SHARED_FORMAT_SIZE];
-    char text[SHARED_FORMAT_SIZE] = "";
-    SharedCompileFormat(compiled, "0.############################", SHARED_FORMAT_SIZE);
-    SharedFormatDecimal(text, sizeof text, compiled, &value, 0);
-    return text;
+    services::NumberFormat format;
+    EXPECT_TRUE(services::CompileFormat(format, "0.############################"));
+    return services::FormatDecimal(format, value, StandardSettings());
+}
+
+DecimalValue DecimalFrom(const char* text)
+{
+    return DecimalFromText(*Masked("0.00", DT_DECIMAL), text);
 }
 
 struct NumberCase {
@@ -52,7 +85,7 @@ TEST_P(NumberTexts, AreReadAsCanonicalTextUnderAnySettings)
 TEST_P(NumberTexts, AreReadWithTheRegionalDecimalCharacter)
 {
     const Regional settings(kGerman);
-    EXPECT_EQ(NumberFromText(GetParam().text), GetParam().german);
+    EXPECT_EQ(NumberFromText(*Masked("0", DT_NUMBER), GetParam().text), GetParam().german);
 }
 
 const NumberCase kNumberRows[] = {
@@ -74,27 +107,25 @@ INSTANTIATE_TEST_SUITE_P(, NumberTexts, testing::ValuesIn(kNumberRows), RowName<
 TEST(PlainPoint, StandsForTheRegionalCharacter)
 {
     const Regional settings(kGerman);
-    EXPECT_EQ(WithPlainPoint("-12,50"), "-12.50");
+    EXPECT_EQ(WithPlainPoint("-12,50", SettingsInForce()), "-12.50");
 }
 
 TEST(DecimalTexts, KeepEveryDigit)
 {
-    EXPECT_EQ(TextOfDecimal(DecimalFromText("12345678901234567890.12345678", 2)), "12345678901234567890.12345678");
+    EXPECT_EQ(TextOfDecimal(DecimalFrom("12345678901234567890.12345678")), "12345678901234567890.12345678");
 }
 
 TEST(DecimalTexts, AreReadWithTheRegionalDecimalCharacter)
 {
     const Regional settings(kGerman);
-    const DecimalValue comma = DecimalFromText("-12,5", 2);
-    DecimalValue expected;
-    DecFromString(&expected, "-12.5", 2);
-    EXPECT_EQ(DecCompare(&comma, &expected), 0);
+    const DecimalValue comma = DecimalFrom("-12,5");
+    EXPECT_EQ(services::Compare(comma, DecimalOf("-12.5")), 0);
 }
 
 TEST(DecimalTexts, ThatAreNoneAreZero)
 {
-    EXPECT_EQ(TextOfDecimal(DecimalFromText("seven", 2)), "0.");
-    EXPECT_EQ(TextOfDecimal(DecimalFromText("", 2)), "0.");
+    EXPECT_EQ(TextOfDecimal(DecimalFrom("seven")), "0.");
+    EXPECT_EQ(TextOfDecimal(DecimalFrom("")), "0.");
 }
 
 // The mask of a number as its format.
@@ -119,7 +150,7 @@ TEST_P(FormatTexts, AreTheMaskWithItsEscapes)
 
 TEST_P(FormatTexts, TellOfLiterals)
 {
-    EXPECT_EQ(HasLiterals(GetParam().mask, DT_NUMBER), GetParam().literals);
+    EXPECT_EQ(HasLiterals(GetParam().mask, DT_NUMBER, SettingsInForce()), GetParam().literals);
 }
 
 TEST_P(FormatTexts, TellTheFirstPlaceholder)
@@ -144,27 +175,10 @@ INSTANTIATE_TEST_SUITE_P(, FormatTexts, testing::ValuesIn(kFormatRows), RowName<
 TEST(FormatText, TheSymbolOfTheSettingsIsNoLiteral)
 {
     const Regional settings(kGerman);
-    EXPECT_FALSE(HasLiterals("EUR##0", DT_NUMBER));
-    EXPECT_FALSE(HasLiterals("##0EUR", DT_NUMBER));
-    EXPECT_TRUE(HasLiterals("$##0", DT_NUMBER));
+    EXPECT_FALSE(HasLiterals("EUR##0", DT_NUMBER, SettingsInForce()));
+    EXPECT_FALSE(HasLiterals("##0EUR", DT_NUMBER, SettingsInForce()));
+    EXPECT_TRUE(HasLiterals("$##0", DT_NUMBER, SettingsInForce()));
 }
-
-// A record with a mask and no window.
-class MaskOnly {
-public:
-    MaskOnly(const char* mask, int32_t type) : mask_(mask)
-    {
-        edit_.mask = &mask_[0];
-        edit_.dataType = type;
-        edit_.displayLength = static_cast<int32_t>(mask_.size());
-        edit_.yearDigits = mask_.find("YYYY") == std::string::npos ? 2 : 4;
-    }
-    EditInstance& operator*() { return edit_; }
-
-private:
-    std::string mask_;
-    EditInstance edit_ = {};
-};
 
 struct WalkCase {
     const char* name;
@@ -183,9 +197,9 @@ class DateWalk : public testing::TestWithParam<WalkCase> {};
 
 TEST_P(DateWalk, ReadsFieldByField)
 {
-    MaskOnly edit(GetParam().mask, GetParam().type);
+    const Masked edit(GetParam().mask, GetParam().type);
     DateTimeValue value = {};
-    EXPECT_EQ(WalkDateText(*edit, GetParam().text, value), GetParam().read);
+    EXPECT_EQ(ReadFields(*edit, GetParam().text, value), GetParam().read);
     EXPECT_EQ(Canonical(value), GetParam().value);
 }
 
@@ -224,12 +238,12 @@ void PrintTo(const CheckCase& row, std::ostream* out)
     *out << Canonical(row.value);
 }
 
-class CanonicalCheck : public testing::TestWithParam<CheckCase> {};
+class FieldCheck : public testing::TestWithParam<CheckCase> {};
 
-TEST_P(CanonicalCheck, FindsImpossibleDatesAndTimes)
+TEST_P(FieldCheck, FindsImpossibleDatesAndTimes)
 {
     DateTimeValue value = GetParam().value;
-    const bool possible = CheckByCanonicalText(GetParam().type, value);
+    const bool possible = CheckFields(GetParam().type, value);
     EXPECT_EQ(possible, GetParam().checked != nullptr);
     if (possible) {
         EXPECT_EQ(Canonical(value), GetParam().checked);
@@ -254,26 +268,26 @@ const CheckCase kCheckRows[] = {
     {"DateWithoutATime",   DT_DATETIME, {0, 95, 6, 4, -1, 0, 0, 0},       "1995-07-04"                },
     {"BadTimeOfAGoodDate", DT_DATETIME, {0, 95, 6, 4, 25, 0, 0, 0},       nullptr                     },
 };
-INSTANTIATE_TEST_SUITE_P(, CanonicalCheck, testing::ValuesIn(kCheckRows), RowName<CheckCase>);
+INSTANTIATE_TEST_SUITE_P(, FieldCheck, testing::ValuesIn(kCheckRows), RowName<CheckCase>);
 
 TEST(CanonicalText, OfADateFillsTheValue)
 {
     DateTimeValue value = {};
-    EXPECT_EQ(ParseCanonical(DT_DATE, "1995-07-04", value), 0);
+    EXPECT_TRUE(ParseCanonical(*Masked(nullptr, DT_DATE), "1995-07-04", value));
     EXPECT_EQ(Canonical(value), "1995-07-04");
 }
 
 TEST(CanonicalText, OfATimeFillsTheValue)
 {
     DateTimeValue value = {};
-    EXPECT_EQ(ParseCanonical(DT_TIME, "14:07", value), 0);
+    EXPECT_TRUE(ParseCanonical(*Masked(nullptr, DT_TIME), "14:07", value));
     EXPECT_EQ(Canonical(value), "14:07:00:000000");
 }
 
 TEST(CanonicalText, OfADateAndTimeFillsTheValue)
 {
     DateTimeValue value = {};
-    EXPECT_EQ(ParseCanonical(DT_DATETIME, "1995-07-04 14:07:09.25", value), 0);
+    EXPECT_TRUE(ParseCanonical(*Masked(nullptr, DT_DATETIME), "1995-07-04 14:07:09.25", value));
     EXPECT_EQ(Canonical(value), "1995-07-04 14:07:09:250000");
 }
 
@@ -281,31 +295,12 @@ TEST(CanonicalText, ThatIsNoneLeavesTheEmptyValue)
 {
     for (const int32_t type : {DT_DATE, DT_TIME, DT_DATETIME}) {
         DateTimeValue value = {1, 1, 1, 1, 1, 1, 1, 0};
-        EXPECT_NE(ParseCanonical(type, "07/04/95", value), 0);
+        EXPECT_FALSE(ParseCanonical(*Masked(nullptr, type), "07/04/95", value));
         EXPECT_EQ(Canonical(value), "");
     }
 }
 
-TEST(DisplayText, HasTheLengthOfTheDisplay)
-{
-    MaskOnly edit("MM/DD/YY", DT_DATE);
-    EXPECT_TRUE(LooksLikeDisplayText(*edit, "07/04/95"));
-    EXPECT_FALSE(LooksLikeDisplayText(*edit, "1995-07-04"));
-    EXPECT_FALSE(LooksLikeDisplayText(*edit, ""));
-}
-
-TEST(DisplayText, OfTwelveHoursShowsItsMarker)
-{
-    MaskOnly edit("HH:MM AM/PM", DT_TIME);
-    (*edit).flags = AMPM;
-    (*edit).ampmPos = 6;
-    EXPECT_TRUE(LooksLikeDisplayText(*edit, "01:30 PM"));
-    EXPECT_TRUE(LooksLikeDisplayText(*edit, "01:30 AM"));
-    EXPECT_FALSE(LooksLikeDisplayText(*edit, "13:30:00:25"));
-    EXPECT_FALSE(LooksLikeDisplayText(*edit, "13:30"));
-}
-
-// The year and the month under a mask, read from the text of a window.
+// The year and the month under a mask, read from a text.
 struct FieldCase {
     const char* name;
     const char* mask;
@@ -317,29 +312,17 @@ void PrintTo(const FieldCase& row, std::ostream* out)
     *out << '"' << row.text << "\" under " << row.mask;
 }
 
-class FieldReader : public testing::TestWithParam<FieldCase> {
-protected:
-    FieldReader() : edit_(GetParam().mask, DT_DATE)
-    {
-        (*edit_).hwnd =
-            CreateWindowExA(0, "edit", GetParam().text, WS_POPUP, 0, 0, 100, 20, nullptr, nullptr, nullptr, nullptr);
-    }
-    ~FieldReader() override { DestroyWindow((*edit_).hwnd); }
-
-    MaskOnly edit_;
-};
-
-class YearOfText : public FieldReader {};
-class MonthOfText : public FieldReader {};
+class YearOfText : public testing::TestWithParam<FieldCase> {};
+class MonthOfText : public testing::TestWithParam<FieldCase> {};
 
 TEST_P(YearOfText, IsRead)
 {
-    EXPECT_EQ(YearFromText(*edit_), GetParam().expected);
+    EXPECT_EQ(YearFromText(*Masked(GetParam().mask, DT_DATE), GetParam().text), GetParam().expected);
 }
 
 TEST_P(MonthOfText, IsRead)
 {
-    EXPECT_EQ(MonthFromText(*edit_), GetParam().expected);
+    EXPECT_EQ(MonthFromText(*Masked(GetParam().mask, DT_DATE), GetParam().text), GetParam().expected);
 }
 
 const FieldCase kYearFieldRows[] = {
