@@ -54,3 +54,4 @@ target_compile_options(test_model PRIVATE -O1)
 
 add_test(NAME includes COMMAND ${CMAKE_COMMAND} -DSOURCE_DIR=${CMAKE_SOURCE_DIR}
     -P ${CMAKE_SOURCE_DIR}/cmake/check_includes.cmake)
+add_test(NAME lines COMMAND ${CMAKE_SOURCE_DIR}/tools/check_lines.sh WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
