@@ -132,27 +132,27 @@ void EnterOnLiteral(EditInstance& edit, const Text& text, int32_t position, Char
 
 }  // namespace
 
-void EnterChar(EditInstance& edit, Char typed)
+void EnterChar(EditInstance& edit, Char typed, int32_t caret)
 {
     edit.field->KeepLayout();
     ForgetVerdict(edit);
     const CarriedOver carried = TakeCarriedOver(edit);
-    if (IsAmPmChar(edit, typed)) {
-        KeepVerdict(edit, Verdict::Placing(typed));
-        return PlaceAndGoOn(edit, edit.field->ReadText(), edit.table->ampmPosition, typed);
-    }
-    const int32_t position = Caret(edit);
-    if (edit.displayLength > 0 && position >= edit.displayLength)
+    const bool isAmPm = IsAmPmChar(edit, typed);
+    if (!isAmPm && edit.displayLength > 0 && caret >= edit.displayLength)
         return;
     const Text text = edit.field->ReadText();
-    if (IsCarriedLiteral(edit, text, carried, position, typed))
+    if (isAmPm) {
+        KeepVerdict(edit, Verdict::Placing(typed));
+        return PlaceAndGoOn(edit, text, edit.table->ampmPosition, typed);
+    }
+    if (IsCarriedLiteral(edit, text, carried, caret, typed))
         return;
-    if (!IsEditable(edit, text, position))
-        EnterOnLiteral(edit, text, position, typed);
-    else if (IsAccepted(edit, text, position, typed))
-        PlaceAndGoOn(edit, text, position, typed);
+    if (!IsEditable(edit, text, caret))
+        EnterOnLiteral(edit, text, caret, typed);
+    else if (IsAccepted(edit, text, caret, typed))
+        PlaceAndGoOn(edit, text, caret, typed);
     else
-        SkipAhead(edit, text, position, typed);
+        SkipAhead(edit, text, caret, typed);
 }
 
 }  // namespace zte

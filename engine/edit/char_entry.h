@@ -5,6 +5,7 @@
 
 namespace zte {
 
-void EnterChar(EditInstance& edit, Char typed);
+// caret: where it stands.
+void EnterChar(EditInstance& edit, Char typed, int32_t caret);
 
 }  // namespace zte

@@ -45,24 +45,27 @@ void FinishBackspace(EditInstance& edit)
     PlaceCaret(edit, Caret(edit));
 }
 
-// The text that a spin or the code table put there gives way to the blank template at the first typed character.
-void EndSpunText(EditInstance& edit)
+// The text that a spin or the code table put there gives way to the blank template at the first typed character. True when it
+// did.
+bool EndSpunText(EditInstance& edit)
 {
     const bool fromTable = edit.codeTable && Has(edit, CODE_SPIN) && !Has(edit, CODE_PICKLIST);
     if (fromTable)
         SetFlag(edit, CODE_POSITIONED, false);
-    if (fromTable && Has(edit, SPUN)) {
+    const bool ended = fromTable && Has(edit, SPUN);
+    if (ended) {
         SetFlag(edit, CODE_SPIN, false);
         SetData(edit, nullptr);
         SetFlag(edit, CODE_SPIN, true);
     }
     SetFlag(edit, SPUN, false);
+    return ended;
 }
 
 // The character of a Backspace whose key-down was left to the base: a forced digit becomes 0, any other goes.
-void BackspaceInNumber(EditInstance& edit, KeyData keyData)
+void BackspaceInNumber(EditInstance& edit, int32_t caret, KeyData keyData)
 {
-    const int32_t position = std::max(Caret(edit) - 1, 0);
+    const int32_t position = std::max(caret - 1, 0);
     Text text = edit.field->ReadText();
     if (PositionAt(edit, text, position).character == '0') {
         text[static_cast<size_t>(position)] = '0';
@@ -75,12 +78,12 @@ void BackspaceInNumber(EditInstance& edit, KeyData keyData)
     PlaceCaret(edit, position);
 }
 
-void EnterNumber(EditInstance& edit, uint32_t typed, KeyData keyData)
+void EnterNumber(EditInstance& edit, uint32_t typed, int32_t caret, KeyData keyData)
 {
     if (edit.deletePending && typed == kBackspace)
-        BackspaceInNumber(edit, keyData);
+        BackspaceInNumber(edit, caret, keyData);
     else
-        EnterNumericChar(edit, static_cast<Char>(typed), keyData);
+        EnterNumericChar(edit, static_cast<Char>(typed), caret, keyData);
 }
 
 Reply Finish(EditInstance& edit, Reply reply)
@@ -90,7 +93,8 @@ Reply Finish(EditInstance& edit, Reply reply)
     return reply;
 }
 
-Reply Enter(EditInstance& edit, uint32_t typed, KeyData keyData)
+// caret: where it stands before the character.
+Reply Enter(EditInstance& edit, uint32_t typed, int32_t caret, KeyData keyData)
 {
     if (!HasMask(edit) && !Has(edit, CODE_SPIN)) {
         SetFlag(edit, SPUN, false);
@@ -105,7 +109,8 @@ Reply Enter(EditInstance& edit, uint32_t typed, KeyData keyData)
         SetFlag(edit, SPUN, false);
         return kPassOn;
     }
-    EndSpunText(edit);
+    if (EndSpunText(edit))
+        caret = Caret(edit);
     if (IsLeftToTheForm(typed))
         return Keep(0);
     if (typed == kCtrlV) {
@@ -113,12 +118,12 @@ Reply Enter(EditInstance& edit, uint32_t typed, KeyData keyData)
         return Keep();
     }
     if (IsNumeric(edit.dataType)) {
-        EnterNumber(edit, typed, keyData);
+        EnterNumber(edit, typed, caret, keyData);
         return Keep();
     }
     if (edit.deletePending && typed == kBackspace)
         return kPassOn;
-    EnterChar(edit, static_cast<Char>(typed));
+    EnterChar(edit, static_cast<Char>(typed), caret);
     return Keep();
 }
 
@@ -161,14 +166,15 @@ Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData)
         edit.swallowBackspace = false;
         return Keep();
     }
-    const bool deleted = DeleteSelection(edit, edit.field->ReadSelection(), true);
+    const Selection selection = edit.field->ReadSelection();
+    const bool deleted = DeleteSelection(edit, selection, true);
     if (typed == kBackspace && Has(edit, BACKSPACE_DONE)) {
         FinishBackspace(edit);
         return Keep();
     }
     if (deleted && typed == kBackspace)
         return Finish(edit, Keep());
-    return Finish(edit, Enter(edit, typed, keyData));
+    return Finish(edit, Enter(edit, typed, deleted ? Caret(edit) : selection.start, keyData));
 }
 
 }  // namespace zte

@@ -254,12 +254,12 @@ bool IsFull(const EditInstance& edit, const NumericEntry& entry)
 
 }  // namespace
 
-void EnterNumericChar(EditInstance& edit, Char typed, KeyData keyData)
+void EnterNumericChar(EditInstance& edit, Char typed, int32_t caret, KeyData keyData)
 {
     edit.field->KeepLayout();
     ForgetVerdict(edit);
     NumericEntry entry{
-        typed, keyData, Caret(edit), edit.field->ReadText(), TakeCarriedOver(edit), edit.settings->decimalChar};
+        typed, keyData, caret, edit.field->ReadText(), TakeCarriedOver(edit), edit.settings->decimalChar};
     if (IsFull(edit, entry))
         return;
     const Verdict verdict = ValidateNumberDigit({edit, entry.text, entry.position, typed});

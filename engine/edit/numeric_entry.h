@@ -6,6 +6,7 @@
 
 namespace zte {
 
-void EnterNumericChar(EditInstance& edit, Char typed, KeyData keyData);
+// caret: where it stands.
+void EnterNumericChar(EditInstance& edit, Char typed, int32_t caret, KeyData keyData);
 
 }  // namespace zte
