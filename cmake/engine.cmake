@@ -30,4 +30,13 @@ else()
     # The engine throws nothing and asks no object for its type; a build without either says so. (In the library a field may
     # unwind through it.)
     target_compile_options(zt_engine PRIVATE -fno-exceptions -fno-rtti)
+    # Only the engine is watched; the tests around it build in half the time without.
+    if(ZT_SANITIZE)
+        target_compile_options(zt_engine PRIVATE -O1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(zt_engine PUBLIC -fsanitize=address,undefined)
+    endif()
+    if(ZT_COVERAGE)
+        target_compile_options(zt_engine PRIVATE --coverage)
+        target_link_options(zt_engine PUBLIC --coverage)
+    endif()
 endif()

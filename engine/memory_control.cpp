@@ -13,6 +13,12 @@
 
 namespace zte {
 
+namespace {
+
+constexpr KeyData kFromKeyboard = 1;  // a key was pressed
+
+}  // namespace
+
 MemoryControl::MemoryControl(const ControlSetup& setup, const Settings& settings, Clock clock, FieldListener* listener)
     : field_(setup.style)
 {
@@ -41,13 +47,13 @@ MemoryControl::~MemoryControl()
 
 void MemoryControl::KeyDown(int32_t key)
 {
-    if (!OnKeyDown(record_, static_cast<uint32_t>(key), 0).kept)
+    if (!OnKeyDown(record_, static_cast<uint32_t>(key), kFromKeyboard).kept)
         field_.Press(static_cast<Key>(key));
 }
 
 void MemoryControl::Type(uint32_t character)
 {
-    if (!OnChar(record_, character, 0).kept)
+    if (!OnChar(record_, character, kFromKeyboard).kept)
         field_.Type(static_cast<Char>(character));
 }
 

@@ -6,7 +6,7 @@
 namespace zte {
 
 SharedHeap CreateHeap();
-void DestroyHeap(SharedHeap heap);  // its blocks are freed one by one before
+void DestroyHeap(SharedHeap heap);  // with all its blocks
 uint32_t BlockCount(SharedHeap heap);
 
 }  // namespace zte

@@ -1,7 +1,9 @@
 // The services outside of the library's own DLLs: the engine's values, heaps that count their blocks, lists.
+#include <cstddef>
 #include <cstdlib>
 #include <new>
 
+#include "engine/own_heap.h"
 #include "engine/services.h"
 #include "engine/text/writer.h"
 #include "engine/values/cursor_list.h"
@@ -9,10 +11,16 @@
 #include "engine/values/decimal_number.h"
 #include "engine/values/number_format.h"
 #include "engine/values/number_text.h"
-#include "engine/own_heap.h"
+
+// Blocks hang together, so that a heap can be discarded as a whole.
+struct alignas(std::max_align_t) OwnBlock {
+    OwnBlock* previous;
+    OwnBlock* next;
+};
 
 struct SharedHeapData {
-    uint32_t blocks;
+    OwnBlock blocks;  // the ends of the ring
+    uint32_t count;
 };
 
 struct SharedListData {
@@ -35,6 +43,24 @@ void* OrEnd(void* block)
     return block;
 }
 
+void Link(SharedHeapData& heap, OwnBlock& block)
+{
+    block.previous = &heap.blocks;
+    block.next = heap.blocks.next;
+    block.previous->next = block.next->previous = &block;
+}
+
+void Unlink(const OwnBlock& block)
+{
+    block.previous->next = block.next;
+    block.next->previous = block.previous;
+}
+
+OwnBlock& BlockOf(void* contents)
+{
+    return static_cast<OwnBlock*>(contents)[-1];
+}
+
 Text Render(const services::NumberFormat& format, const DecimalDigits& number, const Settings& settings)
 {
     Char buffer[kRenderedSize];
@@ -47,38 +73,52 @@ Text Render(const services::NumberFormat& format, const DecimalDigits& number, c
 
 SharedHeap CreateHeap()
 {
-    return new (OrEnd(std::malloc(sizeof(SharedHeapData)))) SharedHeapData{0};
+    auto* heap = new (OrEnd(std::malloc(sizeof(SharedHeapData)))) SharedHeapData{};
+    heap->blocks.previous = heap->blocks.next = &heap->blocks;
+    return heap;
 }
 
 void DestroyHeap(SharedHeap heap)
 {
+    while (heap->blocks.next != &heap->blocks)
+        services::Free(heap, heap->blocks.next + 1);
     std::free(heap);
 }
 
 uint32_t BlockCount(SharedHeap heap)
 {
-    return heap->blocks;
+    return heap->count;
 }
 
 namespace services {
 
 void* Allocate(SharedHeap heap, uint32_t size, uint32_t /*flags*/)
 {
-    ++heap->blocks;
-    return OrEnd(std::malloc(size > 0 ? size : 1));
+    auto* block = new (OrEnd(std::malloc(sizeof(OwnBlock) + size))) OwnBlock;
+    Link(*heap, *block);
+    ++heap->count;
+    return block + 1;
 }
 
 void* Reallocate(SharedHeap heap, void* blockOrNull, uint32_t size, uint32_t flags)
 {
-    return blockOrNull ? OrEnd(std::realloc(blockOrNull, size > 0 ? size : 1)) : Allocate(heap, size, flags);
+    if (!blockOrNull)
+        return Allocate(heap, size, flags);
+    OwnBlock& old = BlockOf(blockOrNull);
+    Unlink(old);
+    auto* block = static_cast<OwnBlock*>(OrEnd(std::realloc(&old, sizeof(OwnBlock) + size)));
+    Link(*heap, *block);
+    return block + 1;
 }
 
 void Free(SharedHeap heap, void* block)
 {
     if (!block)
         return;
-    --heap->blocks;
-    std::free(block);
+    OwnBlock& freed = BlockOf(block);
+    Unlink(freed);
+    --heap->count;
+    std::free(&freed);
 }
 
 SharedList CreateList(SharedHeap heap, uint32_t flags)

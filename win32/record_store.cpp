@@ -3,6 +3,7 @@
 
 #include <new>
 
+#include "engine/format/code_table.h"
 #include "engine/spin/spin_settings.h"
 #include "win32/life_guard.h"
 #include "win32/regional_settings.h"
@@ -58,6 +59,7 @@ EditInstance& NewRecord(HWND hwnd, const EditInitParams& params)
 void FreeRecord(HWND hwnd, EditInstance& edit)
 {
     LifeGuard::TellAll(FieldOf(edit));
+    DestroyCodeTable(edit);
     DetachEditInstance(hwnd);
     SharedHeapFree(edit.heap, &edit);
 }

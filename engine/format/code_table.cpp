@@ -83,6 +83,7 @@ private:
     void Store(Char* CodeTableEntry::*member)
     {
         table_ = GrowFor(edit_, table_, index_);
+        FreeBlock(edit_, table_->Entries()[index_].*member);  // a second tab begins the value anew
         table_->Entries()[index_].*member = Duplicate(edit_, part_);
         if (table_->count < index_ + 1)
             table_->count = static_cast<int16_t>(index_ + 1);
@@ -140,6 +141,10 @@ void DestroyCodeTable(EditInstance& edit)
     if (!table)
         return;
     services::DestroyList(table->cycle);
+    for (int32_t i = 0; i < table->count; ++i) {
+        services::Free(edit.heap, table->Entries()[i].display);
+        services::Free(edit.heap, table->Entries()[i].value);
+    }
     services::Free(edit.heap, table);
 }
 

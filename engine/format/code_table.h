@@ -24,7 +24,7 @@ constexpr char kNullValue[] = "null!";
 // Builds edit.codeTable from a code-table text; a table always results.
 void ParseCodeTable(EditInstance& edit, const Char* text);
 
-// Destroys the cycle list, frees the table and clears the field; the entry texts stay in the caller's heap.
+// Frees the table with its texts and clears the field.
 void DestroyCodeTable(EditInstance& edit);
 
 // The display text of the first entry whose data value equals value (null: the "null!" entry); null when none does. The

@@ -23,9 +23,9 @@ TEST(FieldInMemoryForTheEngine, HoldsShiftForItsOwnKeysAndForTheReader)
     field.SetText(zte::FromAscii("abcd").c_str());
     field.HoldShift(true);
     field.PressArrow(zte::KEY_RIGHT, 0, 3);
-    EXPECT_TRUE(field.IsHeld(KEY_SHIFT));
+    EXPECT_TRUE(field.IsHeld(zte::KEY_SHIFT));
     field.HoldShift(false);
-    EXPECT_FALSE(field.IsHeld(KEY_SHIFT));
+    EXPECT_FALSE(field.IsHeld(zte::KEY_SHIFT));
     EXPECT_EQ(field.ReadSelection().start, 0);
     EXPECT_EQ(field.ReadSelection().end, 3);
 }
@@ -36,7 +36,7 @@ TEST(FieldInMemoryForTheEngine, KeysPressedWithOthersLetThemGo)
     field.SetText(zte::FromAscii("ab cd").c_str());
     field.Press(zte::KEY_RIGHT, true, true);
     EXPECT_EQ(field.ReadSelection().end, 3);
-    EXPECT_FALSE(field.IsHeld(KEY_SHIFT));
+    EXPECT_FALSE(field.IsHeld(zte::KEY_SHIFT));
     field.Press(zte::KEY_LEFT);
     EXPECT_EQ(field.Caret(), 2);
 }

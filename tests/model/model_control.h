@@ -85,6 +85,7 @@ Picture PictureToMask(const Regional& regional, int size, int kind);
 std::string CurrencyMask(const Regional& regional, int totalDigits);
 bool ParseCanonical(Stamp& stamp, const std::string& text, Type type, const Regional& regional);
 int DaysOfMonth(int calendarYear, int month);
+Stamp Today();  // the moment that stands for now
 std::vector<CodeEntry> CycleOfCodeTable(const std::string& text);
 
 class Control {
@@ -99,6 +100,9 @@ public:
     Value GetData();
     Value Unformat(const std::string& text);
     void SetAutoskip(bool on) { autoskip_ = on; }
+    void SetReadOnly(bool on) { readOnly_ = on; }
+    void Enable(bool on) { enabled_ = on; }
+    void SetCodeDisplay(bool codes, bool pick);
     void SetSelection(int start, int end);
     void SetSpin(unsigned increment, const char* range, const char* codeTable, bool pick, bool codes, Type type);
     bool SpinDateRange(Stamp& stamp, const std::string& text);
@@ -117,12 +121,10 @@ public:
     int Autoskips() const { return autoskips_; }
     int Changes() const { return changes_; }
     int Beeps() const { return beeps_; }
+    bool Modified() const { return modified_; }
     const std::string& Mask() const { return mask_; }
     bool Charwise() const { return charwise_; }
     int FirstField() const { return firstField_; }
-    // Literals between the digit placeholders: their place in a number is not modelled.
-    bool Interleaved() const;
-    bool TookClock() const { return fromClock_; }
 
 private:
     struct MaskChar {
@@ -140,6 +142,9 @@ private:
         Accepted,
     };
 
+    bool Refuses() const { return readOnly_ || !enabled_; }
+    bool IsPlain() const { return mask_.empty() && !codeSpin_; }
+    bool ThroughCodes() const { return hasTable_ && codeSpin_; }
     bool IsNumeric() const { return type_ == kNumber || type_ == kDecimal; }
     bool IsTemporal() const { return type_ == kDate || type_ == kTime || type_ == kDateTime; }
     char Point() const { return regional_->Point(); }
@@ -188,16 +193,22 @@ private:
     Verdict ValidateJulian(char c, int position);
     Verdict ValidateHour(char c, int position);
     Verdict ValidateMinute(char c, int position);
+    void TakeChar(char c);
     void EnterChar(char c);
     void EnterNumericChar(char c);
     void OverwriteNumber(int position, const std::string& before, char under);
     void RefuseNumeric();
     std::string LeadingEscapes() const;
     int CaretAfterGrowth(const std::string& before, int position, int grown) const;
+    int CaretAfterShrinking(const std::string& before, int position, char typed) const;
+    int EndOfInteger() const;
+    static int DigitsBefore(const std::string& text, int position);
+    int BehindDigits(int digits, int otherwise) const;
     void FinishNumeric(int position, bool lastFraction);
     bool SkipLiterals(int position, bool remember);
     int FindLiteralAhead(const std::string& text, int position, char c) const;
     void PadFieldDigit(int position);
+    void NoteChange(const std::string& before) { modified_ = modified_ || before != Text(); }
     bool HandleKeyDown(int key, bool shift, bool byUser);
     bool NumericDeletion(int key, bool shift);
     bool PositionalDeletion(int key, bool shift);
@@ -205,7 +216,13 @@ private:
     int StepsToEditable(int position, bool forward) const;
     bool DeleteSelection(bool typing);
     void DeleteNumericSelection(bool typing);
+    void PasteText(const std::string& clipboard);
     void TypeAhead(char c);
+    void ForgetTyping()
+    {
+        carried_.clear();
+        behindTyped_ = false;
+    }
     void Beep() { ++beeps_; }
     void PlaceCaret(int position) { edit_.Select(position, position); }
 
@@ -214,7 +231,10 @@ private:
     void SpinCodeTable(bool up);
     void SpinNumber(bool up);
     void SpinDate(bool up);
-    const CodeEntry* FindValue(const Value& value, const std::string& formatted) const;
+    const CodeEntry* Find(const std::string CodeEntry::*part, const std::string& text);
+    const CodeEntry* EntryOf(const Value& value);
+    Value DataOf(const CodeEntry& entry) const;
+    bool ShowThroughCodes(const Value& value);
 
     const Regional* regional_;
     PlainEdit edit_;
@@ -247,11 +267,14 @@ private:
     unsigned increment_ = 0;
     double spinMin_ = 0.0;
     double spinMax_ = 0.0;
-    bool fromClock_ = false;  // a step took the current date, which the model does not know
     std::optional<std::string> range_;
     std::string typed_;
     std::string typedFraction_;
     std::string carried_;  // literals over which typing has just carried the caret
+    bool readOnly_ = false;
+    bool enabled_ = true;
+    bool modified_ = false;     // by the user
+    bool behindTyped_ = false;  // the caret stands behind a digit that has just been typed
     int autoskips_ = 0;
     int changes_ = 0;
     int beeps_ = 0;

@@ -47,8 +47,10 @@ public:
     void Key(int key, bool shift)
     {
         switch (key) {
-        case kLeft: Move(caret_ - 1, shift); break;
-        case kRight: Move(caret_ + 1, shift); break;
+        case kLeft:
+        case kUp: Move(caret_ - 1, shift); break;
+        case kRight:
+        case kDown: Move(caret_ + 1, shift); break;
         case kHome: Move(0, shift); break;
         case kEnd: Move(Length(), shift); break;
         case kDelete: Erase(shift ? -1 : +1); break;

@@ -1,23 +1,19 @@
-// The model's masks: which positions are fields, which masks a type accepts, keywords and regional pictures.
+// The model's masks: which positions are fields, and which masks a type accepts.
 // Everything is read from the mask text on demand.
 #include "model_control.h"
+#include "model_text.h"
 
-#include <cctype>
-#include <cstdio>
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
 namespace model {
 namespace {
 
-char Upper(char c)
+bool SameText(const std::string& a, const std::string& b)
 {
-    return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-}
-
-bool SameText(const std::string& a, const char* b)
-{
-    return _stricmp(a.c_str(), b) == 0;
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Upper(x) == Upper(y); });
 }
 
 const char* DefaultMask(Type type)
@@ -32,149 +28,7 @@ const char* DefaultMask(Type type)
     }
 }
 
-// Writes a mask of at most `size` bytes, terminator included.
-class MaskWriter {
-public:
-    explicit MaskWriter(int size) : size_(size) {}
-    void Put(char c)
-    {
-        if (static_cast<int>(picture.mask.size()) < size_)
-            picture.mask += c;
-        else
-            picture.status = 1;
-    }
-    void Put(const char* text)
-    {
-        while (*text != '\0' && picture.status == 0)
-            Put(*text++);
-    }
-    bool Full() const { return static_cast<int>(picture.mask.size()) >= size_; }
-
-    Picture picture;
-
-private:
-    int size_;
-};
-
-struct RunRule {
-    char letter;
-    int limit;
-    int error;
-};
-
 }  // namespace
-
-Picture PictureToMask(const Regional& regional, int size, int kind)
-{
-    const std::string& sep = regional.timeSeparator;
-    const std::string picture = kind == 1 ? regional.shortDate : "hh'" + sep + "'mm'" + sep + "'ss";
-    MaskWriter out(size);
-    bool hourSeen = false;
-    bool open = false;
-    size_t i = 0;
-    const auto run = [&](char letter) {
-        int n = 0;
-        while (i < picture.size() && Upper(picture[i]) == letter)
-            ++n, ++i;
-        return n;
-    };
-    const auto fail = [&](int status) { out.picture.status = status; };
-    while (i < picture.size() && out.picture.status == 0 && !open) {
-        const char c = picture[i];
-        int n = 0;
-        switch (Upper(c)) {
-        case 'M':
-            n = run('M');
-            if (n > (hourSeen ? 2 : 4))
-                fail(hourSeen ? 14 : 9);
-            else
-                out.Put("mm");
-            break;
-        case 'D':
-            n = run('D');
-            if (n > 4)
-                fail(10);
-            else
-                out.Put(n == 3 ? "ddd" : "dd");
-            break;
-        case 'Y':
-            n = run('Y');
-            if (n != 2 && n != 4)
-                fail(11);
-            else
-                out.Put(n == 2 ? "yy" : "yyyy");
-            break;
-        case 'H':
-            n = run('H');
-            hourSeen = true;
-            if (n > 2)
-                fail(12);
-            else
-                out.Put("hh");
-            break;
-        case 'S':
-            if (run('S') > 2)
-                fail(13);
-            else
-                out.Put("ss");
-            break;
-        case 'F':
-            n = run('F');
-            if (n > 6)
-                fail(16);
-            else
-                out.Put(std::string(static_cast<size_t>(n) + 1, 'f').c_str());
-            break;
-        case 'A':
-            if (picture.compare(i, 5, "AM/PM") == 0 || picture.compare(i, 5, "am/pm") == 0 ||
-                picture.compare(i, 3, "A/P") == 0 || picture.compare(i, 3, "a/p") == 0) {
-                out.Put("AM/PM");
-                i = std::min(picture.size(), i + 5);
-            } else
-                fail(15);
-            break;
-        case '\\':
-            ++i;
-            open = i >= picture.size();
-            if (!open)
-                out.Put(picture[i++]);
-            break;
-        case '\'':
-        case '"': {
-            ++i;
-            while (i < picture.size() && picture[i] != c && out.picture.status == 0)
-                out.Put(picture[i++]);
-            open = i >= picture.size();
-            ++i;
-            break;
-        }
-        default: out.Put(picture[i++]);
-        }
-    }
-    if (out.picture.status == 0 && open)
-        fail(7);
-    if (out.picture.status == 0 && out.Full())
-        fail(1);
-    return out.picture;
-}
-
-std::string CurrencyMask(const Regional& regional, int totalDigits)
-{
-    std::string integer;
-    if (regional.currencyDigits < totalDigits) {
-        const int n = totalDigits - regional.currencyDigits;
-        for (int i = n; i > 0; --i) {
-            integer += '#';
-            if (i > 1 && (i - 1) % 3 == 0)
-                integer += ',';
-        }
-    }
-    std::string fraction;
-    if (regional.currencyDigits != 0)
-        fraction = "." + std::string(static_cast<size_t>(std::max(0, regional.currencyDigits)), '0');
-    const bool behind = regional.currencyPosition == 1 || regional.currencyPosition == 3;
-    return behind ? integer + fraction + regional.currency : regional.currency + integer + fraction;
-}
 
 bool Control::InTable(char c, Type type)
 {
@@ -353,8 +207,6 @@ bool Control::CheckFields(const std::string& mask, Type type)
     int display = 0;
     const bool dates = type != kTime;
     const bool times = type != kDate;
-    if (times)
-        ampm_ = false;
     const auto claim = [](bool& seen) {
         const bool first = !seen;
         seen = true;
@@ -434,11 +286,8 @@ bool Control::CheckMask(const std::string& mask, Type type)
     const bool tooLong = mask.size() > 255;
     if (type == kNumber || type == kDecimal)
         return !tooLong && CheckNumberMask(mask);
-    if (type != kString) {
-        if (tooLong && type != kDate)
-            ampm_ = false;
+    if (type != kString)
         return !tooLong && CheckFields(mask, type);
-    }
     for (size_t i = 0; i < mask.size(); ++i)
         if (mask[i] == '~' && (++i >= mask.size() || mask[i] == '~'))
             return false;
@@ -455,8 +304,9 @@ int Control::SetMask(const char* mask, Type type)
     const std::string given = mask == nullptr ? "" : mask;
     type_ = type;
     decimalPlaces_ = 0;
+    ampm_ = false;
     spun_ = false;
-    carried_.clear();
+    ForgetTyping();
     int result = 1;
     std::optional<std::string> expansion;
     if (SameText(given, "[date]") || SameText(given, "[time]")) {

@@ -10,6 +10,8 @@
 namespace model {
 namespace {
 
+constexpr int kGeneralDigits = 15;
+
 bool IsDigit(char c)
 {
     return c >= '0' && c <= '9';
@@ -49,10 +51,18 @@ std::string Rounded(const Number& number, int places)
     return digits;
 }
 
+std::string WithExponent(std::string digits, int exponent, char point)
+{
+    if (digits.size() > 1)
+        digits.insert(1, 1, point);
+    const std::string power = std::to_string(std::abs(exponent));
+    return digits + (exponent < 0 ? "E-" : "E+") + (power.size() < 2 ? "0" : "") + power;
+}
+
 std::string General(const Number& number, const Separators& separators)
 {
     Number shown = number;
-    const int excess = static_cast<int>(shown.digits.size()) - 15;
+    const int excess = static_cast<int>(shown.digits.size()) - kGeneralDigits;
     if (excess > 0) {
         shown.digits = Rounded({false, number.digits, excess}, 0);
         shown.scale -= excess;
@@ -63,6 +73,9 @@ std::string General(const Number& number, const Separators& separators)
     }
     if (shown.digits.empty())
         return "0";
+    const int exponent = static_cast<int>(shown.digits.size()) - shown.scale - 1;
+    if (exponent >= kGeneralDigits || exponent < -kGeneralDigits - 1)
+        return (number.negative ? "-" : "") + WithExponent(shown.digits, exponent, separators.point);
     std::string text = shown.digits;
     if (shown.scale <= 0)
         text.append(static_cast<size_t>(-shown.scale), '0');
@@ -73,17 +86,6 @@ std::string General(const Number& number, const Separators& separators)
         text.insert(text.size() - scale, 1, separators.point);
     }
     return (number.negative ? "-" : "") + text;
-}
-
-std::string Grouped(const std::string& digits, char group)
-{
-    std::string text;
-    for (size_t i = 0; i < digits.size(); ++i) {
-        if (i != 0 && (digits.size() - i) % 3 == 0)
-            text += group;
-        text += digits[i];
-    }
-    return text;
 }
 
 }  // namespace
@@ -139,13 +141,17 @@ std::optional<Format> Format::Compile(const std::string& text)
     bool started = false;
     for (size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
-        std::string& literals = started ? format.suffix : format.prefix;
+        const auto literal = [&](char l) {
+            if (started && !format.point)
+                format.inner.push_back({format.integer.size(), l});
+            else
+                (!started ? format.prefix : format.fraction.empty() ? format.middle : format.suffix) += l;
+        };
         switch (c) {
         case '0':
         case '#':
             if (format.percent)
                 return std::nullopt;
-            format.interleaved = format.interleaved || !format.suffix.empty();
             (format.point ? format.fraction : format.integer) += c;
             started = true;
             break;
@@ -163,19 +169,42 @@ std::optional<Format> Format::Compile(const std::string& text)
             break;
         case '%':
             format.percent = true;
-            literals += c;
+            literal(c);
             break;
         case '\\':
             if (++i == text.size())
                 return std::nullopt;
-            literals += text[i];
+            literal(text[i]);
             break;
-        default: literals += c;
+        default: literal(c);
         }
     }
     if (format.integer.empty() && format.fraction.empty())
         return std::nullopt;
     return format;
+}
+
+// The integer digits from the right, each literal before the placeholders behind it, the sign before the first digit.
+std::string Format::IntegerText(const std::string& digits, bool negative, char group) const
+{
+    std::string reversed;
+    auto next = inner.rbegin();
+    for (size_t done = 0; done < digits.size() || done < integer.size(); ++done) {
+        if (done == digits.size() && negative)
+            reversed += '-';
+        for (; next != inner.rend() && integer.size() - next->before <= done; ++next)
+            reversed += next->literal;
+        if (done >= digits.size())
+            continue;
+        if (grouped && done != 0 && done % 3 == 0)
+            reversed += group;
+        reversed += digits[digits.size() - 1 - done];
+    }
+    if (negative && digits.size() >= integer.size())
+        reversed += '-';
+    for (; next != inner.rend(); ++next)
+        reversed += next->literal;
+    return {reversed.rbegin(), reversed.rend()};
 }
 
 std::string Render(const Format& format, const Number& number, const Separators& separators)
@@ -200,13 +229,10 @@ std::string Render(const Format& format, const Number& number, const Separators&
            format.fraction.find('0', fraction.size() - 1) == std::string::npos)
         fraction.pop_back();
 
-    std::string text = format.prefix;
-    if (number.negative && !zero)
-        text += '-';
-    text += format.grouped ? Grouped(integer, separators.group) : integer;
+    std::string text = format.prefix + format.IntegerText(integer, number.negative && !zero, separators.group);
     if (format.point)
         text += separators.point;
-    return text + fraction + format.suffix;
+    return text + format.middle + fraction + format.suffix;
 }
 
 bool IsNumber(const std::string& text, char point)

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace model {
 
@@ -19,9 +20,16 @@ struct Number {
     Number TimesPowerOfTen(int power) const;
 };
 
-// What a display format says, once read. Literals between two placeholders count as suffix.
+// What a display format says, once read. Literals stand where the format has them, between placeholders too.
 struct Format {
+    struct Inner {
+        size_t before;  // placeholders of the integer part before it
+        char literal;
+    };
+
     std::string prefix;
+    std::vector<Inner> inner;  // in the integer part and behind it
+    std::string middle;        // between the point and the fraction
     std::string suffix;
     std::string integer;
     std::string fraction;
@@ -29,7 +37,8 @@ struct Format {
     bool grouped = false;
     bool percent = false;
     bool general = false;
-    bool interleaved = false;  // literals between the digits, whose place the model does not know
+
+    std::string IntegerText(const std::string& digits, bool negative, char group) const;
 
     static std::optional<Format> Compile(const std::string& text);
 };

@@ -1,7 +1,9 @@
-// The model's spin: ranges, code tables, and the step of a number, a date field or a code table.
+// The model's spin: ranges, and the step of a number or a date field.
 // A step reads the value shown, changes it and shows it again.
 #include "model_control.h"
+#include "model_text.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cmath>
 #include <cstdlib>
@@ -98,38 +100,6 @@ bool StepInRange(T& value, T step, T min, const T* max, bool up, bool raiseToMin
 
 }  // namespace
 
-std::vector<CodeEntry> CycleOfCodeTable(const std::string& text)
-{
-    std::vector<CodeEntry> cycle;
-    CodeEntry entry;
-    std::string buffer;
-    bool isValue = false;
-    const auto close = [&] {
-        if (isValue)
-            cycle.push_back({entry.display, buffer.substr(0, 255)});
-        entry = {};
-        buffer.clear();
-        isValue = false;
-    };
-    size_t i = text.compare(0, 1, "/") == 0 && text.compare(0, 2, "//") != 0 ? 1 : 0;
-    for (; i < text.size(); ++i) {
-        const char c = text[i];
-        const bool literal = c == '/' && i + 1 < text.size() && text[i + 1] == '/';
-        if (c == '\t') {
-            entry.display = buffer.substr(0, 255);
-            buffer.clear();
-            isValue = true;
-        } else if (c == '/' && !literal)
-            close();
-        else
-            buffer += c;
-        i += literal ? 1 : 0;
-    }
-    if (!buffer.empty() || isValue)
-        close();
-    return cycle;
-}
-
 void Control::SetSpin(unsigned increment, const char* range, const char* codeTable, bool pick, bool codes, Type type)
 {
     type_ = type;
@@ -150,29 +120,9 @@ void Control::SetSpin(unsigned increment, const char* range, const char* codeTab
     codeSpin_ = codes;
 }
 
-void Control::TypeAhead(char c)
-{
-    if (!hasTable_)
-        return;
-    const int count = static_cast<int>(cycle_.size());
-    const auto search = [&](int from) {
-        for (int i = from; i < count; ++i)
-            if (!cycle_[static_cast<size_t>(i)].display.empty() && cycle_[static_cast<size_t>(i)].display[0] == c)
-                return i;
-        return -1;
-    };
-    int found = positioned_ || cursor_ >= 0 ? search(cursor_ + 1) : -1;
-    if (found < 0)
-        found = search(0);
-    if (found < 0)
-        return;
-    cursor_ = found;
-    edit_.SetText(cycle_[static_cast<size_t>(found)].display);
-}
-
 void Control::SpinStep(bool up)
 {
-    carried_.clear();
+    ForgetTyping();
     if (increment_ == 0 || (!hasTable_ && codeSpin_))
         return;
     spun_ = true;
@@ -183,20 +133,6 @@ void Control::SpinStep(bool up)
     else if (IsTemporal())
         SpinDate(up);
     ++changes_;
-}
-
-void Control::SpinCodeTable(bool up)
-{
-    const int count = static_cast<int>(cycle_.size());
-    if (!positioned_)
-        cursor_ = up ? 0 : count - 1;
-    else
-        cursor_ = up ? cursor_ + 1 : cursor_ - 1;
-    positioned_ = true;
-    if (count == 0)
-        return;
-    cursor_ = (cursor_ + count) % count;
-    edit_.SetText(cycle_[static_cast<size_t>(cursor_)].display);
 }
 
 void Control::SpinNumber(bool up)
@@ -288,7 +224,7 @@ void Control::SpinDate(bool up)
         minutes = minutes || std::toupper(static_cast<unsigned char>(mask_[static_cast<size_t>(i)])) == 'H';
     const Stamp original = value;
     bool whole = false;
-    bool refused = InsideAmPm(caret);
+    bool refused = false;
     const auto toEnd = [&](const Stamp& end, bool withTime) {
         if (end.HasDate()) {
             value.year = std::min(end.year, kLastYear);
@@ -309,16 +245,14 @@ void Control::SpinDate(bool up)
     const auto known = [&](const Stamp& end) { return dateField ? end.HasDate() : end.HasTime(); };
     const auto above = [&] { return known(max) && OutOfOrder(value, max); };
     const auto below = [&] { return known(min) && OutOfOrder(min, value); };
-    // A control whose blank value is meant starts from an end of the range; today is not modelled.
+    // A control whose blank value is meant starts from an end of the range, or from today.
     if ((value.year == -1900 || value.year == kLastYear) && value.month == 0 && value.day == 1) {
         if (up && min.HasDate())
             toMin();
         else if (!up && max.HasDate())
             toMax();
-        else {
-            fromClock_ = true;
-            return;
-        }
+        else
+            value = Today();
     } else {
         bool wrapped = false;
         const auto turn = [&](int current, int low, int high) {
@@ -329,7 +263,7 @@ void Control::SpinDate(bool up)
         const int calendar = CalendarYear(value.year);
         bool handled = true;
         const int length = DaysOfMonth(calendar, value.month);
-        switch (refused ? '\0' : letter) {
+        switch (InsideAmPm(caret) ? '\0' : letter) {
         case 'Y': {
             const int next = value.year + (up ? 1 : -1) * static_cast<int>(increment_);
             if ((up && !max.HasDate() && next > 1099) || (!up && !min.HasDate() && next < -100))
@@ -411,7 +345,8 @@ void Control::SpinDate(bool up)
     const std::string shown = Format(Value::OfStamp(value)).text;
     if (whole)
         edit_.SetText(shown);
-    else {
+    // A position of every type is no field: what was typed there stays.
+    else if (letter != 'X' && letter != '!' && letter != '^') {
         edit_.Select(caret - before, caret + after + 1);
         edit_.Replace(shown.substr(static_cast<size_t>(caret - before), static_cast<size_t>(n)));
     }

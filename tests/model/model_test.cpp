@@ -77,6 +77,20 @@ TEST(ModelNumbers, RoundHalfAwayFromZeroInDecimal)
     EXPECT_EQ(Shows("[GENERAL]", 0.1 + 0.2), "0.3");
     EXPECT_EQ(Shows("[GENERAL]", 1e10), "10000000000");
     EXPECT_EQ(Shows("[GENERAL]", -2.5), "-2.5");
+    EXPECT_EQ(Shows("[GENERAL]", 4407264050546050.0), "4.40726405054605E+15");
+    EXPECT_EQ(Shows("[GENERAL]", 1e-15), "0.000000000000001");
+    EXPECT_EQ(Shows("[GENERAL]", 1.5e-17), "1.5E-17");
+}
+
+TEST(ModelNumbers, LiteralsStandWhereTheFormatHasThem)
+{
+    EXPECT_EQ(Shows("# ##0", 5), " 5");
+    EXPECT_EQ(Shows("# ##0", -5), " -5");
+    EXPECT_EQ(Shows("# ##0", -1234567), "-1234 567");
+    EXPECT_EQ(Shows("# # 0", 123), "1 2 3");
+    EXPECT_EQ(Shows("0 0 ", 5), "0 5 ");
+    EXPECT_EQ(Shows("0%.", -0.05), "-5%.");
+    EXPECT_EQ(Shows(".x#", -0.5), "-.x5");
 }
 
 TEST(ModelNumbers, BadFormatsDoNotCompile)

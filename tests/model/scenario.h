@@ -1,52 +1,26 @@
-// A scenario: one mask under one regional setting, and the steps of a user, played on the library and on the model at once.
+// A scenario: one control under one regional setting, and the steps of a user, played on the library and on the model.
 // After each step the two are compared; the first difference ends the scenario.
 #ifndef TESTS_MODEL_SCENARIO_H
 #define TESTS_MODEL_SCENARIO_H
 
-#include "model_control.h"
-#include "tests/support/beeps.h"
-#include "tests/support/form.h"
-#include "tests/support/profile.h"
+#include "script.h"
+#include "subject.h"
 
 #include <string>
 #include <vector>
 
 namespace model {
 
-enum class StepKind {
-    Char,
-    Key,
-    Select,
-    Data,
-    Paste,
-    Click,
-    Read,
-    Autoskip,
-    Mask,
-};
-
-struct Step {
-    StepKind kind = StepKind::Char;
-    int a = 0;  // character, key, or start of a selection
-    int b = 0;  // shift, or end of a selection
-    std::string text;
-};
-
 struct Setting {
     const char* name;
     Regional regional;
-    zttest::RegionalSet profile;
 };
 
 const std::vector<Setting>& Settings();
 
 struct Scenario {
     const Setting* setting = nullptr;
-    std::string mask;
-    Type type = kString;
-    bool autoskip = false;
-    unsigned increment = 0;  // with a spin when above 0
-    std::string range;
+    Config config;
     std::vector<Step> steps;
 };
 
@@ -58,14 +32,29 @@ struct Difference {
     std::string got;
 };
 
-Difference Play(const Scenario& scenario, zttest::Form& form, zttest::BeepCounter& beeps);
+// The library and the model, and the setting under which both now stand.
+class Pair {
+public:
+    void Use(const Setting& setting);
+
+    Subject& Library() { return *library_; }
+    Subject& Model() { return *model_; }
+
+private:
+    std::unique_ptr<Subject> library_ = MakeLibrary();
+    std::unique_ptr<Subject> model_ = MakeModel();
+    const Setting* setting_ = nullptr;
+};
+
+Difference Play(const Scenario& scenario, Pair& pair);
 
 // The scenario without the steps that the difference does not need.
-Scenario Shortest(Scenario scenario, zttest::Form& form, zttest::BeepCounter& beeps);
+Scenario Shortest(Scenario scenario, Pair& pair);
 
+// The scenario as a row of a table of scenarios, and what differs.
+std::string Row(const Scenario& scenario);
 std::string Describe(const Scenario& scenario, const Difference& difference);
 std::string ShowValue(const Value& value, Type type);
-std::string ShowBlock(void* block, Type type);
 
 }  // namespace model
 

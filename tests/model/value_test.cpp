@@ -10,7 +10,6 @@
 namespace model {
 namespace {
 
-constexpr int kControlId = 9;
 constexpr int kMostReports = 12;
 
 class Values : public testing::Test {
@@ -105,62 +104,59 @@ protected:
     }
     bool TooMany() const { return reports_ > kMostReports; }
 
+    void Start(const Setting& setting, const Config& config)
+    {
+        pair_.Use(setting);
+        pair_.Model().Make(config);
+        pair_.Library().Make(config);
+    }
+
+    bool SameValue(const std::string& what, const std::string& text, Type type);
+
     int times_ = 1;
     int reports_ = 0;
     std::mt19937 engine_{5};
-    zttest::Form form_;
+    Pair pair_;
 };
-
-// DLL memory that must be given back.
-std::string TakeBlock(const zttest::Control& control, void* block, Type type)
-{
-    const std::string shown = ShowBlock(block, type);
-    SharedHeapFree(control.heap(), block);
-    return shown;
-}
 
 std::string Place(const std::string& setting, const std::string& mask, Type type)
 {
     return "setting " + setting + " mask \"" + mask + "\" type " + std::to_string(type);
 }
 
+// Sets a text on both, and compares what is shown and read back.
+bool Values::SameValue(const std::string& what, const std::string& text, Type type)
+{
+    Subject& model = pair_.Model();
+    Subject& library = pair_.Library();
+    model.SetData(text.c_str());
+    library.SetData(text.c_str());
+    const State expected = model.Look();
+    const State got = library.Look();
+    return Same(what + " set", expected.text, got.text) &&
+           Same(what + " caret", std::to_string(expected.start), std::to_string(got.start)) &&
+           Same(what + " read", ShowValue(model.Read(), type), ShowValue(library.Read(), type)) &&
+           Same(what + " unformat", ShowValue(model.Unformat(text), type), ShowValue(library.Unformat(text), type));
+}
+
 TEST_F(Values, RandomMasksAreTakenAndShown)
 {
-    for (const Setting& setting : Settings()) {
-        const zttest::Regional regional(setting.profile);
-        for (int type = kString; type <= kDecimal; ++type)
+    for (const Setting& setting : Settings())
+        for (int code = kString; code <= kDecimal; ++code)
             for (int i = 0; i < 40 * times_ && !TooMany(); ++i) {
-                const auto kind = static_cast<Type>(type);
-                zttest::Config config;
-                config.type = type;
-                zttest::Control real(form_.hwnd(), kControlId, config);
-                Control model(setting.regional);
-                model.SetMask(nullptr, kind);
-                const std::string mask = RandomMask(kind);
-                const std::string what = Place(setting.name, mask, kind);
-                const int expected = model.SetMask(mask.c_str(), kind);
-                const int got = ZTE_FmtSetMask(real.hwnd(), mask.c_str(), type);
-                if (model.Interleaved()) {
-                    real.AcceptHeap();
-                    continue;
-                }
-                bool same = Same(what, "result " + std::to_string(expected) + " " + model.Text(),
-                                 "result " + std::to_string(got) + " " + real.Text());
+                const auto type = static_cast<Type>(code);
+                Start(setting, {"", type});
+                const std::string mask = RandomMask(type);
+                const std::string what = Place(setting.name, mask, type);
+                const int expected = pair_.Model().SetMask(mask.c_str(), type);
+                const int got = pair_.Library().SetMask(mask.c_str(), type);
+                bool same = Same(what, "result " + std::to_string(expected) + " " + pair_.Model().Look().text,
+                                 "result " + std::to_string(got) + " " + pair_.Library().Look().text);
                 for (int n = 0; n < 4 && same; ++n) {
-                    const std::string text = RandomText(kind, setting.regional);
-                    model.SetDataString(text);
-                    ZTE_FmtSetDataString(real.hwnd(), text.c_str());
-                    same = Same(what + " set \"" + text + "\"", model.Text(), real.Text()) &&
-                           Same(what + " set \"" + text + "\" caret", std::to_string(model.Start()),
-                                std::to_string(real.CaretStart())) &&
-                           Same(what + " read of \"" + model.Text() + "\"", ShowValue(model.GetData(), kind),
-                                TakeBlock(real, ZTE_FmtGetData(real.hwnd()), kind)) &&
-                           Same(what + " unformat \"" + text + "\"", ShowValue(model.Unformat(text), kind),
-                                TakeBlock(real, ZTE_FmtUnformatData(real.hwnd(), text.c_str()), kind));
+                    const std::string text = RandomText(type, setting.regional);
+                    same = SameValue(what + " \"" + text + "\"", text, type);
                 }
-                real.AcceptHeap();
             }
-    }
 }
 
 std::string Shown(const Stamp& stamp)
@@ -168,25 +164,9 @@ std::string Shown(const Stamp& stamp)
     return ShowValue(Value::OfStamp(stamp), kDateTime);
 }
 
-DateTimeValue Raw(const Stamp& stamp)
-{
-    DateTimeValue raw = {};
-    raw.microsecond = static_cast<uint32_t>(stamp.microsecond);
-    raw.year = static_cast<int16_t>(stamp.year);
-    raw.month = static_cast<int8_t>(stamp.month);
-    raw.day = static_cast<int8_t>(stamp.day);
-    raw.hour = static_cast<int8_t>(stamp.hour);
-    raw.minute = static_cast<int8_t>(stamp.minute);
-    raw.second = static_cast<int8_t>(stamp.second);
-    return raw;
-}
-
 TEST_F(Values, RangeEndsAreReadAndOrdered)
 {
-    constexpr struct {
-        const char* mask;
-        Type type;
-    } rows[] = {
+    const Config rows[] = {
         {"MM/DD/YY",             kDate    },
         {"DD.MM.YYYY",           kDate    },
         {"YYYY-MM-DD",           kDate    },
@@ -199,31 +179,23 @@ TEST_F(Values, RangeEndsAreReadAndOrdered)
         {"MM/DD/YY HH:MM AM/PM", kDateTime}
     };
     const Setting& setting = Settings()[0];
-    for (const auto& row : rows) {
-        zttest::Config config;
-        config.mask = row.mask;
-        config.type = row.type;
-        zttest::Control real(form_.hwnd(), kControlId, config);
-        Control model(setting.regional);
-        model.SetMask(row.mask, row.type);
+    for (const Config& row : rows) {
+        Start(setting, row);
         for (int i = 0; i < 40 * times_ && !TooMany(); ++i) {
-            const std::string texts[] = {RandomText(row.type, setting.regional),
-                                         RandomText(row.type, setting.regional)};
+            const std::string where = Place(setting.name, row.mask, row.type);
             Stamp ends[2];
-            bool same = true;
-            for (int n = 0; n < 2; ++n) {
-                DateTimeValue value = {};
-                const bool good = model.SpinDateRange(ends[n], texts[n]);
-                const bool gotGood = ZTE_SpinDateRange(real.hwnd(), &value, texts[n].c_str()) == 0;
-                const std::string what = Place(setting.name, row.mask, row.type) + " end \"" + texts[n] + "\"";
-                same = same && Same(what, good ? "read" : "refused", gotGood ? "read" : "refused") &&
-                       (!good || Same(what, Shown(ends[n]), ShowBlock(&value, kDateTime)));
+            for (Stamp& end : ends) {
+                const std::string text = RandomText(row.type, setting.regional);
+                Stamp got;
+                const bool good = pair_.Model().ReadRangeEnd(text, end);
+                const bool gotGood = pair_.Library().ReadRangeEnd(text, got);
+                const std::string what = where + " end \"" + text + "\"";
+                if (Same(what, good ? "read" : "refused", gotGood ? "read" : "refused") && good)
+                    Same(what, Shown(end), Shown(got));
             }
-            const DateTimeValue first = Raw(ends[0]);
-            const DateTimeValue second = Raw(ends[1]);
-            Same(Place(setting.name, row.mask, row.type) + " order of " + Shown(ends[0]) + " and " + Shown(ends[1]),
-                 std::to_string(model.OutOfOrder(ends[0], ends[1])),
-                 std::to_string(ZTE_SpinRangeCompare(real.hwnd(), &first, &second)));
+            Same(where + " order of " + Shown(ends[0]) + " and " + Shown(ends[1]),
+                 std::to_string(pair_.Model().OutOfOrder(ends[0], ends[1])),
+                 std::to_string(pair_.Library().OutOfOrder(ends[0], ends[1])));
         }
     }
 }

@@ -1,0 +1,271 @@
+// The model's keys: caret movement, deletion, paste and clicks.
+// The plain edit underneath does what is passed on to it.
+#include "model_control.h"
+#include "model_text.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace model {
+
+void Control::KeyDown(int key, bool shift)
+{
+    shift_ = shift;
+    const bool navigation = key >= 0x21 && key <= 0x28;
+    if (navigation || key == kBackspace || key == kDelete || key == kInsert) {
+        ForgetTyping();
+        numericBackspaceDone_ = false;
+    }
+    const bool deletes = key == kBackspace || key == kDelete;
+    // The plain edit underneath takes it for granted that a disabled window gets no keys.
+    const bool refuses = readOnly_ || (!enabled_ && !mask_.empty());
+    if (refuses && deletes)
+        return;
+    const bool steps = key == kUp || key == kDown;
+    const std::string before = Text();
+    if (mask_.empty() || (refuses && steps) || !HandleKeyDown(key, shift, true))
+        edit_.Key(key, shift);
+    NoteChange(before);
+}
+
+bool Control::HandleKeyDown(int key, bool shift, bool byUser)
+{
+    switch (key) {
+    case kBackspace:
+    case kDelete: return IsNumeric() ? NumericDeletion(key, shift) : PositionalDeletion(key, shift);
+    case kLeft:
+    case kRight:
+        if (shift || (IsNumeric() && !charwise_))
+            return false;
+        MoveCaret(key, shift, byUser);
+        return true;
+    case kUp:
+    case kDown:
+        if (increment_ == 0)
+            return false;
+        SpinStep(key == kUp);
+        return true;
+    default: return false;
+    }
+}
+
+bool Control::NumericDeletion(int key, bool shift)
+{
+    if (DeleteSelection(false)) {
+        numericBackspaceDone_ = key == kBackspace;
+        if (percent_)
+            Reformat(nullptr);
+        return true;
+    }
+    const int position = edit_.Start();
+    if (key == kDelete) {
+        if (position == edit_.Length() || !Editable(Text(), position))
+            return true;
+        charwise_ = false;
+        edit_.Key(kDelete, shift);
+        Reformat(nullptr);
+        PlaceCaret(position);
+        return true;
+    }
+    numericBackspaceDone_ = true;
+    if (position == 0)
+        return true;
+    if (position < edit_.Length() && !Editable(Text(), position - 1)) {
+        const int steps = StepsToEditable(position - 1, false);
+        if (steps == 0)
+            return true;
+        for (int i = 0; i < steps; ++i)
+            edit_.Key(kLeft, shift);
+    }
+    numericBackspaceDone_ = false;
+    deletePending_ = true;
+    charwise_ = false;
+    return true;
+}
+
+bool Control::PositionalDeletion(int key, bool shift)
+{
+    if ((formatFlags_ & 0x4000) == 0) {
+        deletePending_ = true;
+        return false;
+    }
+    if (DeleteSelection(false)) {
+        if (key == kBackspace)
+            backspaceDone_ = true;
+        return true;
+    }
+    if (key == kBackspace) {
+        MoveCaret(kBackspace, shift, true);
+        backspaceDone_ = true;
+        return true;
+    }
+    const int position = edit_.Start();
+    if (position == edit_.Length() || !Editable(Text(), position))
+        return true;
+    edit_.Select(position, position + 1);
+    edit_.Replace(type_ == kString ? " " : "0");
+    PlaceCaret(position);
+    return true;
+}
+
+void Control::MoveCaret(int key, bool shift, bool byUser)
+{
+    const int step = key == kLeft ? -1 : 1;
+    const int length = edit_.Length();
+    int position = edit_.Start();
+    int n = 0;
+    bool move = false;
+    for (;;) {
+        position += step;
+        ++n;
+        if (key == kRight && position >= length) {
+            const int point = PointPos(Text());
+            if (decimalPlaces_ != 0 && point < position && point + decimalPlaces_ + 1 > position)
+                move = true;
+            else {
+                if (autoskip_)
+                    ++autoskips_;
+                move = position == length && byUser;
+            }
+            break;
+        }
+        if (key == kLeft && position < 0) {
+            move = true;
+            break;
+        }
+        if (shift || key == kBackspace) {
+            shift = true;
+            key = kLeft;
+            move = true;
+            break;
+        }
+        if (CharAt(Text(), position).c == '\0')
+            break;
+        if (OnAmPm(position) || Editable(Text(), position)) {
+            move = true;
+            break;
+        }
+    }
+    for (int i = 0; move && i < n; ++i)
+        edit_.Key(key, shift);
+}
+
+int Control::StepsToEditable(int position, bool forward) const
+{
+    const int step = forward ? 1 : -1;
+    for (int n = 1;; ++n) {
+        position += step;
+        if (forward ? position > displayLength_ - 1 : position < 0)
+            return 0;
+        if (CharAt(Text(), position).c == '\0' || OnAmPm(position) || Editable(Text(), position))
+            return n;
+    }
+}
+
+bool Control::DeleteSelection(bool typing)
+{
+    const int start = edit_.Start();
+    const int end = edit_.End();
+    if (start == end)
+        return false;
+    if (IsNumeric()) {
+        DeleteNumericSelection(typing);
+        return true;
+    }
+    std::string blank = Format(Value::None()).text;
+    if (blank.empty())
+        edit_.Replace("");
+    else {
+        // The AM/PM field changes by its letters only.
+        if (ampm_ && (type_ == kTime || type_ == kDateTime))
+            for (int i = ampmPos_; i < edit_.Length() && i < static_cast<int>(blank.size()) && InsideAmPm(i); ++i)
+                blank[static_cast<size_t>(i)] = Text()[static_cast<size_t>(i)];
+        edit_.Replace(static_cast<int>(blank.size()) <= start
+                          ? std::string()
+                          : blank.substr(static_cast<size_t>(start), static_cast<size_t>(end - start)));
+    }
+    PlaceCaret(start);
+    return true;
+}
+
+void Control::DeleteNumericSelection(bool typing)
+{
+    const int start = std::max(edit_.Start(), firstField_);
+    const int end = edit_.End();
+    charwise_ = false;
+    typing_ = typing_ || typing;
+    const int point = PointPos(Text());
+    edit_.Replace("");
+    const std::string rest = Text();
+    if (decimalPlaces_ != 0) {
+        if (start <= point && point <= end) {
+            if (!rest.empty() || !typing) {
+                std::string laid = rest;
+                if (decimalPlaces_ + 1 >= static_cast<int>(rest.size()) && CharOf(rest, 0) != Point())
+                    laid.insert(laid.begin(), Point());
+                Reformat(&laid);
+            }
+        } else if (!typing)
+            Reformat(nullptr);
+    } else if (!rest.empty() && !typing)
+        Reformat(&rest);
+    PlaceCaret(start);
+}
+
+void Control::SetSelection(int start, int end)
+{
+    if (start != end || start != edit_.Start() || start != edit_.End())
+        ForgetTyping();
+    edit_.Select(start, end);
+}
+
+void Control::Paste(const std::string& clipboard)
+{
+    if (Refuses())
+        return;
+    const std::string before = Text();
+    PasteText(clipboard);
+    NoteChange(before);
+}
+
+void Control::PasteText(const std::string& clipboard)
+{
+    const Value data = Unformat(clipboard);
+    if (data.none)
+        return;
+    ForgetTyping();
+    if (!IsNumeric())
+        return SetData(data);
+    std::string text = data.text;
+    if (!IsNumber(text, Point()))
+        return Beep();
+    for (char& c : text)
+        c = c == Point() ? '.' : c;
+    if (type_ == kNumber)
+        SetData(Value::OfNumber(Number::FromDouble(std::atof(text.c_str()) * (percent_ ? 0.01 : 1.0))));
+    else
+        SetData(Value::OfNumber(Number::FromText(text).TimesPowerOfTen(percent_ ? -2 : 0)));
+}
+
+void Control::Click(int position)
+{
+    shift_ = false;
+    ForgetTyping();
+    PlaceCaret(position);
+    if (ThroughCodes() && positioned_ && !codePick_) {
+        positioned_ = false;
+        return;
+    }
+    if (mask_.empty() || (IsNumeric() && !charwise_) || Text().empty())
+        return;
+    const int point = PointPos(Text());
+    if ((decimalPlaces_ != 0 && point < position && point + decimalPlaces_ + 1 > position) || OnAmPm(position) ||
+        position == edit_.Length() || Editable(Text(), position))
+        return;
+    const int right = StepsToEditable(position, true);
+    const int left = StepsToEditable(position, false);
+    if (left != 0)
+        MoveCaret(right == 0 || left < right ? kLeft : kRight, shift_, false);
+}
+
+}  // namespace model
