@@ -26,12 +26,12 @@ struct KeyCase {
 };
 
 constexpr KeyCase kCases[] = {
-    {"date",       "MM/DD/YY",       DT_DATE,   "070495"    },
-    {"month_name", "DD-MMM-YYYY",    DT_DATE,   "04jul1995" },
-    {"time",       "HH:MM:SS",       DT_TIME,   "140709"    },
-    {"string",     "(###) ###-####", DT_STRING, "5551234567"},
-    {"number",     "#,###,##0.00",   DT_NUMBER, "123456.78" },
-    {"decimal",    "#,###,##0.00",   DT_DECIMAL, "123456.78"},
+    {"date",       "MM/DD/YY",       DT_DATE,    "070495"    },
+    {"month_name", "DD-MMM-YYYY",    DT_DATE,    "04jul1995" },
+    {"time",       "HH:MM:SS",       DT_TIME,    "140709"    },
+    {"string",     "(###) ###-####", DT_STRING,  "5551234567"},
+    {"number",     "#,###,##0.00",   DT_NUMBER,  "123456.78" },
+    {"decimal",    "#,###,##0.00",   DT_DECIMAL, "123456.78" },
 };
 
 DateTimeValue NoClock()
@@ -42,7 +42,10 @@ DateTimeValue NoClock()
 class Player {
 public:
     explicit Player(const KeyCase& row)
-        : keys_(row.keys), mask_(FromAscii(row.mask)), settings_(StandardSettings()), control_(Setup(row), settings_, NoClock)
+        : keys_(row.keys),
+          mask_(FromAscii(row.mask)),
+          settings_(StandardSettings()),
+          control_(Setup(row), settings_, NoClock)
     {
     }
 

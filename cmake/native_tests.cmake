@@ -44,5 +44,13 @@ list(TRANSFORM zt_unit_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
 zt_add_native_tests(units ${zt_unit_sources} ${zt_unit_support})
 target_precompile_headers(test_units PRIVATE ${zt_common_headers})
 
+# The engine against an independent reading of its rules, over a million random keys, pastes, values and steps.
+file(GLOB zt_model_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/model/*.cpp)
+list(FILTER zt_model_sources EXCLUDE REGEX "/live_")
+zt_add_native_tests(model ${zt_model_sources} ${CMAKE_SOURCE_DIR}/tests/support/keyboard.cpp)
+target_link_libraries(test_model PRIVATE gtest_main)
+target_compile_options(test_model PRIVATE -O1)
+
 add_test(NAME includes COMMAND ${CMAKE_COMMAND} -DSOURCE_DIR=${CMAKE_SOURCE_DIR}
     -P ${CMAKE_SOURCE_DIR}/cmake/check_includes.cmake)
+add_test(NAME lines COMMAND ${CMAKE_SOURCE_DIR}/tools/check_lines.sh WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})

@@ -30,6 +30,7 @@ endfunction()
 # it brings its own gtest_main, with tests/support.
 function(zt_add_test_program folder)
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/tests/${folder}/*.rc)
+    list(FILTER sources EXCLUDE REGEX "/native_")
     if(NOT sources)
         return()
     endif()

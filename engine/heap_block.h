@@ -52,8 +52,8 @@ void FreeBlock(const EditInstance& edit, T*& block)
 inline Char* Duplicate(const EditInstance& edit, const Text& text)
 {
     const size_t count = text.size() + 1;
-    auto* copy = static_cast<Char*>(
-        services::Allocate(edit.heap, static_cast<uint32_t>(count * sizeof(Char)), edit.heapFlags));
+    auto* copy =
+        static_cast<Char*>(services::Allocate(edit.heap, static_cast<uint32_t>(count * sizeof(Char)), edit.heapFlags));
     std::char_traits<Char>::copy(copy, text.c_str(), count);
     return copy;
 }

@@ -43,8 +43,8 @@ public:
     // What stands there.
     virtual Text ReadText() const = 0;
     virtual Selection ReadSelection() const = 0;
-    virtual bool IsHeld(Key key) const = 0;  // whether a key is down
-    virtual bool RefusesInput() const = 0;                   // read-only or disabled
+    virtual bool IsHeld(Key key) const = 0;                 // whether a key is down
+    virtual bool RefusesInput() const = 0;                  // read-only or disabled
     virtual std::optional<Text> ReadClipboard() const = 0;  // none when it is busy or holds no text
 
     // The caret is brought into view, then the range is selected. Ends behind the text are brought into it.
@@ -77,7 +77,7 @@ public:
     virtual void SetModified() = 0;
 
     virtual void Beep() = 0;
-    virtual void NotifyFull() = 0;     // the last position was filled, or the end reached by Right: the focus may move on
+    virtual void NotifyFull() = 0;  // the last position was filled, or the end reached by Right: the focus may move on
     virtual void NotifyStepped() = 0;  // the spin has made a step
 
 protected:

@@ -33,8 +33,6 @@ namespace zte {
 
 namespace {
 
-constexpr int32_t kRenderedSize = 1024;  // the largest double has 309 digits, 102 separators and a mask's worth of literals
-
 // Without memory there is nothing to go on with: callers never see null.
 void* OrEnd(void* block)
 {
@@ -63,8 +61,8 @@ OwnBlock& BlockOf(void* contents)
 
 Text Render(const services::NumberFormat& format, const DecimalDigits& number, const Settings& settings)
 {
-    Char buffer[kRenderedSize];
-    Writer output(buffer, kRenderedSize);
+    Char buffer[services::kRenderedSize];
+    Writer output(buffer, services::kRenderedSize);
     RenderNumber(output, format.compiled, number, settings);
     return {buffer, static_cast<size_t>(output.Length())};
 }

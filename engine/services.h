@@ -40,6 +40,8 @@ Char ToLower(Char c, const Settings& settings);
 struct NumberFormat {
     Char compiled[SHARED_FORMAT_SIZE];
 };
+// Room for any number shown: the largest double has 309 digits, 102 separators and a mask's worth of literals.
+constexpr int32_t kRenderedSize = 1024;
 bool CompileFormat(NumberFormat& format, const Text& text);  // false: text is no valid format
 Text FormatDouble(const NumberFormat& format, double value, const Settings& settings);
 Text FormatDecimal(const NumberFormat& format, const DecimalValue& value, const Settings& settings);

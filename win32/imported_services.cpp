@@ -5,12 +5,6 @@
 
 namespace zte::services {
 
-namespace {
-
-constexpr int32_t kRenderedSize = 1024;  // the largest double has 309 digits, 102 separators and a mask's worth of literals
-
-}  // namespace
-
 void* Allocate(SharedHeap heap, uint32_t size, uint32_t flags)
 {
     return SharedHeapAlloc(heap, size, flags);

@@ -43,8 +43,7 @@ Verdict ValidateNumberDigit(const Entry& entry)
     if (At(entry.text, entry.position) == '-')
         return Verdict::Placing(entry.typed);
     const bool full = IsIntegerFull(entry, point);
-    Verdict verdict =
-        full || Has(edit, CHARWISE) ? Verdict::Placing(entry.typed) : Verdict::Inserting(entry.typed);
+    Verdict verdict = full || Has(edit, CHARWISE) ? Verdict::Placing(entry.typed) : Verdict::Inserting(entry.typed);
     verdict.charwise = full || (edit.decimalPlaces == 0 && Length(entry.text) >= edit.displayLength - 1);
     return verdict;
 }

@@ -258,12 +258,8 @@ void EnterNumericChar(EditInstance& edit, Char typed, KeyData keyData)
 {
     edit.field->KeepLayout();
     ForgetVerdict(edit);
-    NumericEntry entry{typed,
-                       keyData,
-                       Caret(edit),
-                       edit.field->ReadText(),
-                       TakeCarriedOver(edit),
-                       edit.settings->decimalChar};
+    NumericEntry entry{
+        typed, keyData, Caret(edit), edit.field->ReadText(), TakeCarriedOver(edit), edit.settings->decimalChar};
     if (IsFull(edit, entry))
         return;
     const Verdict verdict = ValidateNumberDigit({edit, entry.text, entry.position, typed});

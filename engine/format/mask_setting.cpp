@@ -13,7 +13,7 @@ namespace {
 
 FieldLayout LayoutOf(const EditInstance& edit)
 {
-    return {edit.yearDigits, edit.ampmPos, edit.monthPos,    edit.dayPos,     edit.minutePos,
+    return {edit.yearDigits, edit.ampmPos, edit.monthPos,    edit.dayPos,      edit.minutePos,
             edit.secondPos,  edit.hourPos, edit.fractionPos, edit.fractionLen, false};
 }
 

@@ -141,8 +141,8 @@ private:
 
 bool HasWholeTime(const FieldWalk& walk)
 {
-    return walk.Requires(FieldKind::Fraction, FieldKind::Second) && walk.Requires(FieldKind::Second, FieldKind::Minute) &&
-           walk.Requires(FieldKind::Minute, FieldKind::Hour);
+    return walk.Requires(FieldKind::Fraction, FieldKind::Second) &&
+           walk.Requires(FieldKind::Second, FieldKind::Minute) && walk.Requires(FieldKind::Minute, FieldKind::Hour);
 }
 
 bool HasWhatItNeeds(const FieldWalk& walk, int32_t dataType)

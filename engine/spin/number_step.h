@@ -12,7 +12,8 @@ struct StepRange {
     Number minimum;
     Number maximum;  // counts only when hasMaximum
     bool hasMaximum;
-    bool raisesWithoutMaximum;  // an upward step that stays below the minimum goes to it, also where there is no maximum
+    // An upward step that stays below the minimum goes to it, also where there is no maximum.
+    bool raisesWithoutMaximum;
 };
 
 // The value after a step down; none when it stays. A value below the range goes to the top; a step that would leave the

@@ -9,7 +9,7 @@
 namespace zte {
 
 struct MonthRow {
-    int32_t index;   // 0..11
+    int32_t index;  // 0..11
     int32_t daysBefore;
     int32_t days;
 };

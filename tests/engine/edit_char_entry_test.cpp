@@ -48,7 +48,7 @@ const KeyCase kSteps[] = {
     {"PmLetterFromTheHour",                          "HH:MM AM/PM", DT_TIME,   "|02:30 AM",         "P",       "02:30 P|M",    0},
     {"AmLetterFromTheHour",                          "HH:MM AM/PM", DT_TIME,   "|02:30 PM",         "A",       "02:30 A|M",    0},
     {"PmLetterFromTheMinute",                        "HH:MM AM/PM", DT_TIME,   "02:3|0 AM",         "P",       "02:30 P|M",    0},
-    {"PmLetterInADateTime",                          "MM/DD/YY HH:MM AM/PM", DT_DATETIME, "|07/04/95 02:30 AM", "P",       "07/04/95 02:30 P|M", 0},
+    {"PmLetterInADateTime", "MM/DD/YY HH:MM AM/PM", DT_DATETIME, "|07/04/95 02:30 AM", "P", "07/04/95 02:30 P|M", 0},
     {"PmLetterInLowerCaseIsRefused",                 "HH:MM AM/PM", DT_TIME,   "|02:30 AM",         "p",       "|02:30 AM",    1},
     {"ADigitOnTheAmPmFieldBeeps",                    "HH:MM AM/PM", DT_TIME,   "02:30 |AM",         "1",       "02:30 |AM",    1},
     {"ADigitInsideTheAmPmFieldBeeps",                "HH:MM AM/PM", DT_TIME,   "02:30 A|M",         "1",       "02:30 A|M",    1},

@@ -10,7 +10,7 @@ const KeyCase kDeletions[] = {
     {"BackspaceRestoresTheBlank",                 "MM/DD/YY",    DT_DATE,   "07|/04/95",    "{Back}",       "0|0/04/95",    0},
     {"BackspaceAtTheEnd",                         "MM/DD/YY",    DT_DATE,   "07/04/95|",    "{Back}",       "07/04/9|0",    0},
     {"BackspaceAtTheStartDoesNothing",            "MM/DD/YY",    DT_DATE,   "|07/04/95",    "{Back}",       "|07/04/95",    0},
-    {"BackspaceThroughTheWholeDate",              "MM/DD/YY",    DT_DATE,   "07/04/95|",    "{Back}{Back}{Back}{Back}{Back}{Back}{Back}{Back}", "|00/00/00",    0},
+    {"BackspaceThroughTheWholeDate", "MM/DD/YY", DT_DATE, "07/04/95|", "{Back}{Back}{Back}{Back}{Back}{Back}{Back}{Back}", "|00/00/00", 0},
     {"BackspaceOnASelectionBlanksIt",             "MM/DD/YY",    DT_DATE,   "[07/0]4/95",   "{Back}",       "|00/04/95",    0},
     {"BackspaceOnTheWholeText",                   "MM/DD/YY",    DT_DATE,   "[07/04/95]",   "{Back}",       "|00/00/00",    0},
     {"BackspaceOnAStringDigit",                   "##-##",       DT_STRING, "12-3|4",       "{Back}",       "12-| 4",       0},

@@ -156,9 +156,10 @@ public:
 
     Text Next()
     {
-        constexpr const char* kPieces[] = {"MM",  "DD", "YY", "YYYY", "JJJ", "HH", "SS", "F", "FFF", "AM/PM", "am/pm", "mm", "M",
-                                           "MMM", "#",  "0",  "A",    "X",   "!",  "^",  ",", ".",   "%",     "/",     ":",  "~",
-                                           "~M",  "~H", "-",  "a",    "x",   " ",  "$",  "h", "~~",  "~A",    "\xE9",  "##"};
+        constexpr const char* kPieces[] = {"MM",    "DD", "YY", "YYYY", "JJJ", "HH", "SS",   "F",  "FFF", "AM/PM",
+                                           "am/pm", "mm", "M",  "MMM",  "#",   "0",  "A",    "X",  "!",   "^",
+                                           ",",     ".",  "%",  "/",    ":",   "~",  "~M",   "~H", "-",   "a",
+                                           "x",     " ",  "$",  "h",    "~~",  "~A", "\xE9", "##"};
         Text mask;
         for (uint32_t pieces = Below(10); pieces > 0; --pieces)
             for (const char* c = kPieces[Below(std::size(kPieces))]; *c; ++c)
