@@ -7,8 +7,6 @@ add_subdirectory(${ZT_GOOGLETEST_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FRO
 
 add_library(zt_native_test_flags INTERFACE)
 target_link_libraries(zt_native_test_flags INTERFACE zt_engine gtest)
-# The engine is compiled without type information, which this check would ask its classes for.
-target_compile_options(zt_native_test_flags INTERFACE -fno-sanitize=vptr)
 target_include_directories(zt_native_test_flags INTERFACE ${CMAKE_SOURCE_DIR}/tests)
 target_compile_definitions(zt_native_test_flags INTERFACE ZTE_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
 
@@ -44,6 +42,7 @@ file(GLOB zt_unit_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/units/*.cp
 set(zt_unit_support profile.cpp values.cpp native/main.cpp native/profile_store.cpp)
 list(TRANSFORM zt_unit_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
 zt_add_native_tests(units ${zt_unit_sources} ${zt_unit_support})
+target_precompile_headers(test_units PRIVATE ${zt_common_headers})
 
 # The engine against an independent reading of its rules, over a million random keys, pastes, values and steps.
 file(GLOB zt_model_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/model/*.cpp)

@@ -1,4 +1,5 @@
-// The examples of docs/masks.md: every row of its tables with a mask, a keyword or a default in it comes out as written.
+// The examples of docs/masks.md: every row of its tables with a mask, a keyword or a default in it comes out as
+// written.
 #include "tests/support/documents.h"
 #include "tests/support/engine_test.h"
 
@@ -47,8 +48,8 @@ TEST_P(DocumentedData, IsShownAsWritten)
     EXPECT_EQ(ShownFor(GetParam()["data"]), GetParam()["shown"]);
 }
 
-// Keywords expand, and the empty mask stands for the default, which a string has not; every other mask is in force as it
-// is written.
+// Keywords expand, and the empty mask stands for the default, which a string has not; every other mask is in force as
+// it is written.
 TEST_P(DocumentedData, LeavesItsMaskInForce)
 {
     InstallIt();

@@ -88,8 +88,8 @@ TEST_F(MaskRecord, DecimalPlacesAreCountedBehindThePlainPointInGermanToo)
     EXPECT_EQ(After("##0.000", DT_NUMBER).decimalPlaces, 3);
 }
 
-// Positions of fields, in the order month, day, hour, minute, second, fraction, AM/PM; -1 where the mask has no such field
-// and the record may hold anything.
+// Positions of fields, in the order month, day, hour, minute, second, fraction, AM/PM; -1 where the mask has no such
+// field and the record may hold anything.
 struct PositionCase {
     const char* name;
     const char* mask;

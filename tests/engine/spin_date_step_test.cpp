@@ -6,7 +6,8 @@
 namespace zttest {
 namespace {
 
-// Under a mask, from a text with the caret in it, steps up (+) and down (-) lead to another text with the field selected.
+// Under a mask, from a text with the caret in it, steps up (+) and down (-) lead to another text with the field
+// selected.
 struct DateStep {
     const char* name;
     const char* mask;

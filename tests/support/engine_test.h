@@ -1,5 +1,6 @@
-// The fixtures of tests that run on a live window and on a field in memory alike: Given a mask and a text with the caret
-// in it, Type or Play, and compare what is Shown; Install a mask, hand values in and Read them back; MakeSpin and Step.
+// The fixtures of tests that run on a live window and on a field in memory alike: Given a mask and a text with the
+// caret in it, Type or Play, and compare what is Shown; Install a mask, hand values in and Read them back; MakeSpin and
+// Step.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
-// One row of a keystroke table: under a mask, from a text with the caret in it, the keys lead to another text and caret.
+// One row of a keystroke table: under a mask, from a text with the caret in it, the keys lead to another text and
+// caret.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -83,7 +83,8 @@ public:
     MaskedEdit(const MaskedEdit&) = delete;
     MaskedEdit& operator=(const MaskedEdit&) = delete;
 
-    // Reports a failure when editing has left blocks of the control's heap behind, or the record does not go back to it.
+    // Reports a failure when editing has left blocks of the control's heap behind, or the record does not go back to
+    // it.
     ~MaskedEdit();
 
     // The functions of the library, under their own names. data points to a value of the control's type, or is null.
@@ -99,8 +100,8 @@ public:
     bool ReadRangeEnd(DateTimeValue* value, const char* text) const;  // true: text is an end of a range
     bool IsOutOfOrder(const void* first, const void* second) const;
 
-    // The value read back, or read from a text: strings and numbers as they are, dates and times as canonical text, which
-    // is empty for the empty value; kNullResult for a null pointer.
+    // The value read back, or read from a text: strings and numbers as they are, dates and times as canonical text,
+    // which is empty for the empty value; kNullResult for a null pointer.
     std::string Read() const;
     std::string Unformat(const char* text) const;
 
@@ -138,8 +139,8 @@ public:
     RecordView Record() const;
     std::optional<CodeTableView> CodeTable() const;
 
-    // Live blocks of the control's heap. AcceptBlocks takes those as what the control owns, after a call that is meant to
-    // change them (SetSpin).
+    // Live blocks of the control's heap. AcceptBlocks takes those as what the control owns, after a call that is meant
+    // to change them (SetSpin).
     uint32_t Blocks() const;
     void AcceptBlocks();
 
@@ -148,8 +149,8 @@ private:
     std::unique_ptr<Implementation> it_;
 };
 
-// What fields are told while it lives, in order: "redraw off", "redraw on", and "text" where text is put into the place of
-// another one. One at a time.
+// What fields are told while it lives, in order: "redraw off", "redraw on", and "text" where text is put into the place
+// of another one. One at a time.
 class FieldRecorder {
 public:
     FieldRecorder();

@@ -22,8 +22,8 @@ constexpr bool IsDateOrTime(int32_t type)
 // "2024-03-05 14:07:09:000250", without the part that the value does not have.
 std::string Canonical(const DateTimeValue& value);
 
-// The value of a canonical text: "2024-03-05", "14:07", "14:07:09", "14:07:09:000250", a date and a time, or "" for the empty
-// value.
+// The value of a canonical text: "2024-03-05", "14:07", "14:07:09", "14:07:09:000250", a date and a time, or "" for the
+// empty value.
 DateTimeValue ValueOf(const std::string& canonical);
 
 // The value of plain digits, with a sign and a point where wanted; at most 28 digits.

@@ -1,5 +1,5 @@
-// The mask read position by position: what stands at each place of the display, runs of equal characters, and the table of
-// mask characters.
+// The mask read position by position: what stands at each place of the display, runs of equal characters, and the table
+// of mask characters.
 #include "engine/mask/mask_positions.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-// What editing does that only a window can show: keys left to the system's own control, key messages of odd kinds, and whom
-// a notification names.
+// What editing does that only a window can show: keys left to the system's own control, key messages of odd kinds, and
+// whom a notification names.
 #include "tests/support/live/window_test.h"
 
 namespace zttest {

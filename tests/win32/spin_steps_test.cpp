@@ -1,5 +1,5 @@
-// Stepping as only a spin's window can do it: by the mouse on its arrows, by its timer, and beside a window that moves; and
-// the exports for its width and colour.
+// Stepping as only a spin's window can do it: by the mouse on its arrows, by its timer, and beside a window that moves;
+// and the exports for its width and colour.
 #include "tests/support/live/base_recorder.h"
 #include "tests/support/live/spin_window_test.h"
 

@@ -1,4 +1,5 @@
-// The fixture of the tests of the spin's window: a control with a spin, stepped by its keys and by the mouse on its arrows.
+// The fixture of the tests of the spin's window: a control with a spin, stepped by its keys and by the mouse on its
+// arrows.
 #pragma once
 
 #include <string>
@@ -12,7 +13,8 @@ namespace zttest {
 
 class SpinWindowTest : public WindowTest {
 protected:
-    // A control made with a spin. shown: a text with the caret in it, put there as display text; null for the empty value.
+    // A control made with a spin. shown: a text with the caret in it, put there as display text; null for the empty
+    // value.
     void MakeSpin(const char* mask, int32_t type, const char* range, uint32_t increment, const char* data);
 
     // The same with its spin set up by ZTE_SetSpin afterwards.
