@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "tests/support/clipboard.h"
-#include "tests/support/edit_test.h"
+#include "tests/support/live/window_test.h"
 #include "tests/support/profile.h"
 
 namespace zttest {
@@ -24,7 +24,7 @@ bool HeapsAreSound()
     return std::all_of(heaps.begin(), heaps.end(), [](HANDLE heap) { return HeapValidate(heap, 0, nullptr); });
 }
 
-class Hostile : public EditTest {
+class Hostile : public WindowTest {
 protected:
     void TearDown() override { EXPECT_TRUE(HeapsAreSound()); }
 

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <memory>
 
-#include "tests/support/edit_test.h"
+#include "tests/support/live/window_test.h"
 
 namespace zttest {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "tests/support/edit_test.h"
+#include "tests/support/live/window_test.h"
 
 namespace zttest {
 namespace {
@@ -18,7 +18,7 @@ void PrintTo(const SpinText& row, std::ostream* out)
     *out << row.name;
 }
 
-class SpinTextTest : public EditTest, public testing::WithParamInterface<SpinText> {
+class SpinTextTest : public WindowTest, public testing::WithParamInterface<SpinText> {
 protected:
     void MakeSpin(int32_t type, const char* mask)
     {
@@ -128,7 +128,7 @@ const SpinText kCodeTables[] = {
 // clang-format on
 INSTANTIATE_TEST_SUITE_P(Texts, CodeTableText, testing::ValuesIn(kCodeTables), RowName<SpinText>);
 
-TEST_F(EditTest, SettingTheSpinAgainAndAgainGivesTheRangeBack)
+TEST_F(WindowTest, SettingTheSpinAgainAndAgainGivesTheRangeBack)
 {
     Config config;
     config.mask = "####";

@@ -1,6 +1,6 @@
 // The regional settings as controls follow them: every key of the profile section "intl", its default, and what a
 // change does to open controls.
-#include "tests/format/value_test.h"
+#include "tests/support/live/window_value_test.h"
 
 namespace zttest {
 namespace {
@@ -34,7 +34,7 @@ void PrintTo(const IntlKeyCase& row, std::ostream* out)
     *out << row.key << '=' << (row.value ? row.value : "(absent)");
 }
 
-class IntlKey : public ValueTest, public testing::WithParamInterface<IntlKeyCase> {};
+class IntlKey : public WindowValueTest, public testing::WithParamInterface<IntlKeyCase> {};
 
 TEST_P(IntlKey, IsFollowed)
 {
@@ -84,7 +84,7 @@ const IntlKeyCase kKeyRows[] = {
 };
 INSTANTIATE_TEST_SUITE_P(, IntlKey, testing::ValuesIn(kKeyRows), RowName<IntlKeyCase>);
 
-class Intl : public ValueTest {};
+class Intl : public WindowValueTest {};
 
 TEST_F(Intl, AMissingSectionHasDefaultsForNumbers)
 {

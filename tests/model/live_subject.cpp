@@ -1,12 +1,12 @@
 // The library's control as a window of a form: keys, clicks and the clipboard are those of the system.
 #include "subject.h"
 
-#include "tests/support/beeps.h"
+#include "tests/support/live/beeps.h"
 #include "tests/support/clipboard.h"
-#include "tests/support/form.h"
-#include "tests/support/import_patch.h"
+#include "tests/support/live/form.h"
+#include "tests/support/live/import_patch.h"
 #include "tests/support/profile.h"
-#include "tests/support/typist.h"
+#include "tests/support/live/typist.h"
 
 #include <list>
 

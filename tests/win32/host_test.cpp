@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/edit_test.h"
+#include "tests/support/live/window_test.h"
 #include "tests/support/profile.h"
 
 namespace zttest {
@@ -166,7 +166,7 @@ void PrintTo(const DoomedKey& row, std::ostream* out)
     *out << row.name;
 }
 
-class DestroyedInItsNotification : public EditTest, public testing::WithParamInterface<DoomedKey> {
+class DestroyedInItsNotification : public WindowTest, public testing::WithParamInterface<DoomedKey> {
 protected:
     void MakeDoomed(const DoomedKey& row)
     {
@@ -216,7 +216,7 @@ constexpr DoomedKey kDoomedKeys[] = {
 // clang-format on
 INSTANTIATE_TEST_SUITE_P(Keys, DestroyedInItsNotification, testing::ValuesIn(kDoomedKeys), RowName<DoomedKey>);
 
-class SettingsChange : public EditTest {};
+class SettingsChange : public WindowTest {};
 
 TEST_F(SettingsChange, ReachesOpenControls)
 {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/edit_test.h"
+#include "tests/support/live/window_test.h"
 
 namespace zttest {
 namespace {
@@ -21,7 +21,7 @@ Config DateConfig()
     return config;
 }
 
-class CreationWay : public EditTest, public testing::WithParamInterface<Creation> {};
+class CreationWay : public WindowTest, public testing::WithParamInterface<Creation> {};
 
 TEST_P(CreationWay, ShowsTheInitialData)
 {
@@ -93,7 +93,7 @@ std::string CreationName(const testing::TestParamInfo<Creation>& info)
 INSTANTIATE_TEST_SUITE_P(Ways, CreationWay,
                          testing::Values(Creation::ByClass, Creation::ByInit, Creation::BySubclassing), CreationName);
 
-class Record : public EditTest {};
+class Record : public WindowTest {};
 
 TEST_F(Record, GoesWithTheWindow)
 {
@@ -302,7 +302,7 @@ std::vector<HWND> Windows()
     return windows;
 }
 
-class ExportWithoutAControl : public EditTest, public testing::WithParamInterface<ExportCase> {
+class ExportWithoutAControl : public WindowTest, public testing::WithParamInterface<ExportCase> {
 protected:
     // The call gives its result, sends nothing to the host, and makes or removes no window.
     void ExpectNothingDone(HWND hwnd)

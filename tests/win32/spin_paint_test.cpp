@@ -4,8 +4,8 @@
 
 #include <initializer_list>
 
-#include "tests/spin/spin_test.h"
-#include "tests/support/import_patch.h"
+#include "tests/support/live/spin_window_test.h"
+#include "tests/support/live/import_patch.h"
 
 namespace zttest {
 namespace {
@@ -192,7 +192,7 @@ std::string Difference(const Canvas& canvas, const Expected& picture)
     return "";
 }
 
-class SpinPaint : public SpinTest {
+class SpinPaint : public SpinWindowTest {
 protected:
     static constexpr int kSide = 80;
     static constexpr RECT RectOfHeight(int height) { return {7, 9, 53, 9 + height}; }

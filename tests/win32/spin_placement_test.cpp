@@ -3,13 +3,13 @@
 
 #include <vector>
 
-#include "tests/support/base_recorder.h"
-#include "tests/support/edit_test.h"
+#include "tests/support/live/base_recorder.h"
+#include "tests/support/live/window_test.h"
 
 namespace zttest {
 namespace {
 
-class SpinPlacement : public EditTest {
+class SpinPlacement : public WindowTest {
 protected:
     HWND MakeWithSpin(int height, Creation creation = Creation::ByClass)
     {

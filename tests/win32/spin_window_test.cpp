@@ -4,9 +4,9 @@
 #include <algorithm>
 
 #include "engine/format/code_table.h"
-#include "tests/spin/spin_test.h"
-#include "tests/support/base_recorder.h"
-#include "tests/support/import_patch.h"
+#include "tests/support/live/spin_window_test.h"
+#include "tests/support/live/base_recorder.h"
+#include "tests/support/live/import_patch.h"
 
 namespace zttest {
 namespace {
@@ -50,7 +50,7 @@ private:
     ImportPatch kill_{"user32.dll", "KillTimer", reinterpret_cast<void*>(RecordKillTimer)};
 };
 
-class SpinWindow : public SpinTest {
+class SpinWindow : public SpinWindowTest {
 protected:
     RECT PlaceOf(HWND window) const
     {

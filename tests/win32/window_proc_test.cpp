@@ -3,14 +3,14 @@
 
 #include <string>
 
-#include "tests/support/base_recorder.h"
+#include "tests/support/live/base_recorder.h"
 #include "tests/support/clipboard.h"
-#include "tests/support/edit_test.h"
+#include "tests/support/live/window_test.h"
 
 namespace zttest {
 namespace {
 
-class WindowProc : public EditTest {
+class WindowProc : public WindowTest {
 protected:
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
     {

@@ -1,4 +1,0 @@
-// Where the window tests still look for it.
-#pragma once
-
-#include "tests/support/live/beeps.h"
