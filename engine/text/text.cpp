@@ -38,12 +38,6 @@ Text FromAscii(const char* ascii)
     return {ascii, ascii + std::strlen(ascii)};
 }
 
-void Append(Text& text, const char* ascii)
-{
-    for (; *ascii; ++ascii)
-        text += static_cast<Char>(*ascii);
-}
-
 bool Equals(const Text& text, const char* ascii)
 {
     return BeginsWith(text.c_str(), ascii) && text.size() == std::strlen(ascii);

@@ -46,7 +46,6 @@ int32_t Find(const Char* text, Char character);
 
 // ASCII literals as texts.
 Text FromAscii(const char* ascii);
-void Append(Text& text, const char* ascii);
 bool Equals(const Text& text, const char* ascii);
 
 // Whether a text begins with another one, which may be an ASCII literal.
