@@ -151,6 +151,7 @@ private:
 
     // mask
     static bool InTable(char c, Type type);
+    static bool MinuteAt(const std::string& mask, size_t index, Type type);
     MaskChar CharAt(const std::string& text, int position) const;
     static MaskChar PositionalCharAt(const std::string& mask, int position);
     int RunAfter(int position) const;
@@ -168,7 +169,7 @@ private:
     void FormatNumber(const Number& number, Shown& shown) const;
     void FormatFields(const Value& value, Shown& shown) const;
     int WalkDate(Stamp& stamp, const std::string& text, const std::string& markerText);
-    int ParseField(Stamp& stamp, const std::string& text, int position, const MaskChar& at, bool& hour, bool& year,
+    int ParseField(Stamp& stamp, const std::string& text, int position, const MaskChar& at, bool& year,
                    const std::string& markerText);
     bool DisplayToStamp(Stamp& stamp, const std::string& text);
     bool ShowsMarker(const std::string& text) const;

@@ -16,6 +16,13 @@ bool SameText(const std::string& a, const std::string& b)
            std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Upper(x) == Upper(y); });
 }
 
+// The position at which the character of an offset in the mask is shown.
+int DisplayOf(const std::string& mask, size_t offset)
+{
+    const auto escapes = std::count(mask.begin(), mask.begin() + static_cast<std::ptrdiff_t>(offset), '~');
+    return static_cast<int>(offset) - static_cast<int>(escapes);
+}
+
 const char* DefaultMask(Type type)
 {
     switch (type) {
@@ -45,6 +52,15 @@ bool Control::InTable(char c, Type type)
     case kDateTime: letters = "YMDJHSF"; break;
     }
     return upper != '\0' && std::strchr(letters, upper) != nullptr;
+}
+
+// An "M" is a minute always in times, behind an hour in date-times, never in dates.
+bool Control::MinuteAt(const std::string& mask, size_t index, Type type)
+{
+    bool hour = false;
+    for (size_t i = 0; i < index && type == kDateTime; i += mask[i] == '~' ? 2 : 1)
+        hour = hour || Upper(mask[i]) == 'H';
+    return hour || type == kTime;
 }
 
 Control::MaskChar Control::PositionalCharAt(const std::string& mask, int position)
@@ -204,7 +220,6 @@ bool Control::CheckFields(const std::string& mask, Type type)
     bool second = false;
     bool fraction = false;
     bool marker = false;
-    int display = 0;
     const bool dates = type != kTime;
     const bool times = type != kDate;
     const auto claim = [](bool& seen) {
@@ -219,13 +234,12 @@ bool Control::CheckFields(const std::string& mask, Type type)
             if (i + 1 >= mask.size() || mask[i + 1] == '~')
                 return false;
             i += 2;
-            display += type == kDate ? 0 : 1;
             continue;
         }
         if (letter == 'A' && times && (mask.compare(i, 5, "AM/PM") == 0 || mask.compare(i, 5, "am/pm") == 0)) {
             if (!claim(marker))
                 return false;
-            ampmPos_ = display;
+            ampmPos_ = DisplayOf(mask, i);
             i += 5;
             continue;
         }
@@ -233,7 +247,6 @@ bool Control::CheckFields(const std::string& mask, Type type)
             (dates && std::strchr("DMYJ", letter) != nullptr) || (times && std::strchr("HMSF", letter) != nullptr);
         if (!field) {
             ++i;
-            ++display;
             continue;
         }
         // The run is measured at the display position of that number: escapes in front shift it.
@@ -244,13 +257,11 @@ bool Control::CheckFields(const std::string& mask, Type type)
                    mask[static_cast<size_t>(at.index + run)] == at.c)
                 ++run;
         bool good = false;
-        bool counts = true;
         switch (letter) {
         case 'D': good = run == 2 && !julian && claim(day); break;
         case 'J': good = run == 3 && !day && !month && claim(julian); break;
         case 'Y':
             good = (run == 2 || run == 4) && claim(year);
-            counts = type != kDate;
             if (good)
                 yearDigits_ = run;
             break;
@@ -258,7 +269,7 @@ bool Control::CheckFields(const std::string& mask, Type type)
         case 'S': good = run == 2 && claim(second); break;
         case 'F': good = run <= 6 && claim(fraction); break;
         default:
-            if (!dates || hour)
+            if (MinuteAt(mask, i, type))
                 good = run == 2 && claim(minute);
             else
                 good = (run == 2 || run == 3) && !julian && claim(month);
@@ -266,7 +277,6 @@ bool Control::CheckFields(const std::string& mask, Type type)
         if (!good)
             return false;
         i += static_cast<size_t>(run);
-        display += counts ? run : 0;
     }
     if (type == kDate && (!year || (day && !month)))
         return false;
@@ -328,8 +338,11 @@ int Control::SetMask(const char* mask, Type type)
                 expansion = built;
         }
     }
-    if (expansion)
+    if (expansion) {
+        // Taken as it is: the check only tells where its fields stand.
+        CheckMask(*expansion, type);
         mask_ = *expansion;
+    }
     else if (CheckMask(given, type))
         mask_ = given;
     else {

@@ -219,9 +219,8 @@ void Control::SpinDate(bool up)
     const int after = RunAfter(caret);
     const int n = before + 1 + after;
     const char letter = static_cast<char>(std::toupper(static_cast<unsigned char>(CharAt(Text(), caret).c)));
-    bool minutes = false;
-    for (int i = 0; i < CharAt(Text(), caret).index; ++i)
-        minutes = minutes || std::toupper(static_cast<unsigned char>(mask_[static_cast<size_t>(i)])) == 'H';
+    const int index = CharAt(Text(), caret).index;
+    const bool minutes = index >= 0 && MinuteAt(mask_, static_cast<size_t>(index), type_);
     const Stamp original = value;
     bool whole = false;
     bool refused = false;
