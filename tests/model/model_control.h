@@ -137,6 +137,13 @@ private:
         int ampmPos = -1;
         int yearDigits = 0;
     };
+    // A place among the digits of a number: in the fraction behind so many, before the point in front of so many.
+    struct Place {
+        bool fraction;
+        int digits;
+
+        bool operator==(const Place& other) const { return fraction == other.fraction && digits == other.digits; }
+    };
     enum class Verdict {
         Refused,
         Accepted,
@@ -200,11 +207,13 @@ private:
     void OverwriteNumber(int position, const std::string& before, char under);
     void RefuseNumeric();
     std::string LeadingEscapes() const;
-    int CaretAfterGrowth(const std::string& before, int position, int grown) const;
-    int CaretAfterShrinking(const std::string& before, int position, char typed) const;
-    int EndOfInteger() const;
-    static int DigitsBefore(const std::string& text, int position);
-    int BehindDigits(int digits, int otherwise) const;
+    int CaretBehindInserted(const std::string& before, int position, int grown, char typed, bool emptied) const;
+    int CaretBehindSign(const std::string& placed, int position, char typed) const;
+    int EndOfInteger(const std::string& text) const;
+    static int DigitsBetween(const std::string& text, int from, int to);
+    int IntegerDigits(const std::string& text) const { return DigitsBetween(text, 0, EndOfInteger(text)); }
+    Place PlaceOf(const std::string& text, int position) const;
+    int AtPlace(const std::string& text, const Place& place) const;
     void FinishNumeric(int position, bool lastFraction);
     bool SkipLiterals(int position, bool remember);
     int FindLiteralAhead(const std::string& text, int position, char c) const;
@@ -222,7 +231,7 @@ private:
     void ForgetTyping()
     {
         carried_.clear();
-        behindTyped_ = false;
+        typedTo_ = 0;
     }
     void Beep() { ++beeps_; }
     void PlaceCaret(int position) { edit_.Select(position, position); }
@@ -275,7 +284,7 @@ private:
     bool readOnly_ = false;
     bool enabled_ = true;
     bool modified_ = false;     // by the user
-    bool behindTyped_ = false;  // the caret stands behind a digit that has just been typed
+    int typedTo_ = 0;           // the place behind a character that has just been inserted into a number
     int autoskips_ = 0;
     int changes_ = 0;
     int beeps_ = 0;

@@ -279,7 +279,7 @@ Value Control::GetData()
             model::Format general;
             general.general = true;
             fields =
-                Render(general, Number::FromDouble(std::atof(fields.c_str()) * 0.01), {Point(), regional_->thousand});
+                Render(general, Number::FromDouble(std::atof(fields.c_str()) / 100.0), {Point(), regional_->thousand});
         }
         return Value::OfText(fields);
     }
