@@ -57,10 +57,16 @@ void Control::EnterNumericChar(char c)
         } else if (mask != '.' && mask != ',' && !(behindTyped && !typedFraction_.empty()))
             return Beep();
     }
+    // The point is never overwritten: a digit goes to the first fraction position, a sign before the point.
+    if (!typed_.empty() && CharOf(text, position) == Point()) {
+        if (!IsDigit(c))
+            typedFraction_.swap(typed_);
+        else if (++position; decimalPlaces_ == 0 && !IsDigit(CharOf(text, position)))
+            return Beep();
+    }
     if (c == '-') {
         if (!typed_.empty()) {
-            const bool onPoint = CharOf(text, position) == Point();
-            edit_.Select(position, position + (onPoint ? 0 : 1));
+            edit_.Select(position, position + 1);
             edit_.Replace(typed_);
             return;
         }
@@ -72,12 +78,6 @@ void Control::EnterNumericChar(char c)
     }
     bool lastFraction = false;
     if (!typed_.empty()) {
-        // The point is never overwritten: its digit goes to the first fraction position.
-        if (CharOf(text, position) == Point()) {
-            ++position;
-            if (c == '+')
-                return PlaceCaret(position);
-        }
         lastFraction = decimalPlaces_ != 0 && position == point + decimalPlaces_;
         edit_.Select(position, position + static_cast<int>(typed_.size()));
         edit_.Replace(typed_);
@@ -169,7 +169,8 @@ int Control::CaretBehindInserted(const std::string& before, int position, int gr
     if (!IsDigit(typed) || PlaceOf(Text(), along) == place)
         return along;
     const bool zeroDropped = IntegerDigits(Text()) < IntegerDigits(before);
-    return zeroDropped && grown == 0 && !place.fraction ? along : AtPlace(Text(), place);
+    const bool noDigits = DigitsBetween(Text(), 0, edit_.Length()) == 0;
+    return zeroDropped && (noDigits || (grown == 0 && !place.fraction)) ? along : AtPlace(Text(), place);
 }
 
 // The caret behind a character that has taken the sign's place.
