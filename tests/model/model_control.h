@@ -82,6 +82,8 @@ struct Picture {
 };
 
 Picture PictureToMask(const Regional& regional, int size, int kind);
+// Such fields do not stand in the display where the mask has them: the AM or PM shown is shorter than its field.
+bool HasFieldBehindAmPm(const std::string& mask, Type type);
 std::string CurrencyMask(const Regional& regional, int totalDigits);
 bool ParseCanonical(Stamp& stamp, const std::string& text, Type type, const Regional& regional);
 int DaysOfMonth(int calendarYear, int month);
@@ -126,6 +128,8 @@ public:
     bool Charwise() const { return charwise_; }
     int FirstField() const { return firstField_; }
 
+    static bool InTable(char c, Type type);
+
 private:
     struct MaskChar {
         char c = '\0';
@@ -157,7 +161,6 @@ private:
     char Point() const { return regional_->Point(); }
 
     // mask
-    static bool InTable(char c, Type type);
     static bool MinuteAt(const std::string& mask, size_t index, Type type);
     MaskChar CharAt(const std::string& text, int position) const;
     static MaskChar PositionalCharAt(const std::string& mask, int position);
@@ -165,6 +168,7 @@ private:
     int RunBefore(int position) const;
     bool OnAmPm(int position) const;
     bool InsideAmPm(int position) const;
+    int AmPmWidth() const;
     bool Editable(const std::string& text, int position) const;
     bool CheckMask(const std::string& mask, Type type);
     bool CheckNumberMask(const std::string& mask) const;

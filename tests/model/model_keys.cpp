@@ -244,7 +244,7 @@ void Control::PasteText(const std::string& clipboard)
     for (char& c : text)
         c = c == Point() ? '.' : c;
     if (type_ == kNumber)
-        SetData(Value::OfNumber(Number::FromDouble(std::atof(text.c_str()) / (percent_ ? 100.0 : 1.0))));
+        SetData(Value::OfNumber(Number::FromDouble(ToDouble(text) / (percent_ ? 100.0 : 1.0))));
     else
         SetData(Value::OfNumber(Number::FromText(text).TimesPowerOfTen(percent_ ? -2 : 0)));
 }

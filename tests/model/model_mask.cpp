@@ -10,6 +10,8 @@
 namespace model {
 namespace {
 
+constexpr int kAmPmLength = 5;
+
 bool SameText(const std::string& a, const std::string& b)
 {
     return a.size() == b.size() &&
@@ -36,6 +38,19 @@ const char* DefaultMask(Type type)
 }
 
 }  // namespace
+
+bool HasFieldBehindAmPm(const std::string& mask, Type type)
+{
+    bool behind = false;
+    for (size_t i = 0; i < mask.size() && (type == kTime || type == kDateTime); i += mask[i] == '~' ? 2 : 1) {
+        if (mask.compare(i, kAmPmLength, "AM/PM") == 0 || mask.compare(i, kAmPmLength, "am/pm") == 0) {
+            behind = true;
+            i += kAmPmLength - 1;
+        } else if (behind && Control::InTable(mask[i], type))
+            return true;
+    }
+    return false;
+}
 
 bool Control::InTable(char c, Type type)
 {
@@ -84,8 +99,10 @@ Control::MaskChar Control::CharAt(const std::string& text, int position) const
 {
     const size_t point = mask_.find('.');
     const bool escapedPoint = point != std::string::npos && point > 0 && mask_[point - 1] == '~';
-    if (!IsNumeric() || escapedPoint)
-        return PositionalCharAt(mask_, position);
+    if (!IsNumeric() || escapedPoint) {
+        const bool behind = ampm_ && position >= ampmPos_ + AmPmWidth();
+        return PositionalCharAt(mask_, behind ? position + kAmPmLength - AmPmWidth() : position);
+    }
     const auto at = static_cast<size_t>(position);
     const char c = position >= 0 && at < text.size() ? text[at] : '\0';
     const bool digit = c >= '0' && c <= '9';
@@ -120,6 +137,12 @@ int Control::RunBefore(int position) const
     return n;
 }
 
+// With fields behind it, they are typed and read where they are shown.
+int Control::AmPmWidth() const
+{
+    return HasFieldBehindAmPm(mask_, type_) ? static_cast<int>(regional_->am.size()) : kAmPmLength;
+}
+
 bool Control::OnAmPm(int position) const
 {
     return ampm_ && (type_ == kTime || type_ == kDateTime) && position == ampmPos_;
@@ -127,7 +150,7 @@ bool Control::OnAmPm(int position) const
 
 bool Control::InsideAmPm(int position) const
 {
-    return ampm_ && (type_ == kTime || type_ == kDateTime) && position >= ampmPos_ && position < ampmPos_ + 5;
+    return ampm_ && (type_ == kTime || type_ == kDateTime) && position >= ampmPos_ && position < ampmPos_ + AmPmWidth();
 }
 
 bool Control::Editable(const std::string& text, int position) const
@@ -363,6 +386,7 @@ int Control::SetMask(const char* mask, Type type)
     displayLength_ = 0;
     for (const char c : mask_)
         displayLength_ += c == '~' ? 0 : 1;
+    displayLength_ -= ampm_ ? kAmPmLength - AmPmWidth() : 0;
     if (!codeSpin_) {
         if (type == kString)
             SetData(Value::OfText(mask_.empty() ? std::string() : std::string(255, ' ')));

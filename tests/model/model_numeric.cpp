@@ -242,7 +242,7 @@ int Control::Reformat(const std::string* given)
     }
     Number value;
     if (type_ == kNumber)
-        value = Number::FromDouble(std::atof(number.c_str()) / (percent_ ? 100.0 : 1.0));
+        value = Number::FromDouble(ToDouble(number) / (percent_ ? 100.0 : 1.0));
     else
         value = Number::FromText(number).TimesPowerOfTen(percent_ ? -2 : 0);
     edit_.SetText(Format(Value::OfNumber(value)).text);

@@ -231,7 +231,7 @@ void Control::SetData(const Value& value)
 void Control::SetDataString(const std::string& text)
 {
     if (type_ == kNumber)
-        SetData(Value::OfNumber(Number::FromDouble(std::atof(text.c_str()))));
+        SetData(Value::OfNumber(Number::FromDouble(ToDouble(text))));
     else if (type_ == kDecimal)
         SetData(Value::OfNumber(Number::FromText(text)));
     else if (IsTemporal()) {
@@ -279,7 +279,7 @@ Value Control::GetData()
             model::Format general;
             general.general = true;
             fields =
-                Render(general, Number::FromDouble(std::atof(fields.c_str()) / 100.0), {Point(), regional_->thousand});
+                Render(general, Number::FromDouble(ToDouble(fields) / 100.0), {Point(), regional_->thousand});
         }
         return Value::OfText(fields);
     }
