@@ -82,6 +82,8 @@ struct Picture {
 };
 
 Picture PictureToMask(const Regional& regional, int size, int kind);
+// Such fields do not stand in the display where the mask has them: the AM or PM shown is shorter than its field.
+bool HasFieldBehindAmPm(const std::string& mask, Type type);
 std::string CurrencyMask(const Regional& regional, int totalDigits);
 bool ParseCanonical(Stamp& stamp, const std::string& text, Type type, const Regional& regional);
 int DaysOfMonth(int calendarYear, int month);
@@ -126,6 +128,8 @@ public:
     bool Charwise() const { return charwise_; }
     int FirstField() const { return firstField_; }
 
+    static bool InTable(char c, Type type);
+
 private:
     struct MaskChar {
         char c = '\0';
@@ -136,6 +140,13 @@ private:
         bool ampm = false;
         int ampmPos = -1;
         int yearDigits = 0;
+    };
+    // A place among the digits of a number: in the fraction behind so many, before the point in front of so many.
+    struct Place {
+        bool fraction;
+        int digits;
+
+        bool operator==(const Place& other) const { return fraction == other.fraction && digits == other.digits; }
     };
     enum class Verdict {
         Refused,
@@ -150,13 +161,14 @@ private:
     char Point() const { return regional_->Point(); }
 
     // mask
-    static bool InTable(char c, Type type);
+    static bool MinuteAt(const std::string& mask, size_t index, Type type);
     MaskChar CharAt(const std::string& text, int position) const;
     static MaskChar PositionalCharAt(const std::string& mask, int position);
     int RunAfter(int position) const;
     int RunBefore(int position) const;
     bool OnAmPm(int position) const;
     bool InsideAmPm(int position) const;
+    int AmPmWidth() const;
     bool Editable(const std::string& text, int position) const;
     bool CheckMask(const std::string& mask, Type type);
     bool CheckNumberMask(const std::string& mask) const;
@@ -168,7 +180,7 @@ private:
     void FormatNumber(const Number& number, Shown& shown) const;
     void FormatFields(const Value& value, Shown& shown) const;
     int WalkDate(Stamp& stamp, const std::string& text, const std::string& markerText);
-    int ParseField(Stamp& stamp, const std::string& text, int position, const MaskChar& at, bool& hour, bool& year,
+    int ParseField(Stamp& stamp, const std::string& text, int position, const MaskChar& at, bool& year,
                    const std::string& markerText);
     bool DisplayToStamp(Stamp& stamp, const std::string& text);
     bool ShowsMarker(const std::string& text) const;
@@ -199,11 +211,13 @@ private:
     void OverwriteNumber(int position, const std::string& before, char under);
     void RefuseNumeric();
     std::string LeadingEscapes() const;
-    int CaretAfterGrowth(const std::string& before, int position, int grown) const;
-    int CaretAfterShrinking(const std::string& before, int position, char typed) const;
-    int EndOfInteger() const;
-    static int DigitsBefore(const std::string& text, int position);
-    int BehindDigits(int digits, int otherwise) const;
+    int CaretBehindInserted(const std::string& before, int position, int grown, char typed, bool emptied) const;
+    int CaretBehindSign(const std::string& placed, int position, char typed) const;
+    int EndOfInteger(const std::string& text) const;
+    static int DigitsBetween(const std::string& text, int from, int to);
+    int IntegerDigits(const std::string& text) const { return DigitsBetween(text, 0, EndOfInteger(text)); }
+    Place PlaceOf(const std::string& text, int position) const;
+    int AtPlace(const std::string& text, const Place& place) const;
     void FinishNumeric(int position, bool lastFraction);
     bool SkipLiterals(int position, bool remember);
     int FindLiteralAhead(const std::string& text, int position, char c) const;
@@ -221,7 +235,7 @@ private:
     void ForgetTyping()
     {
         carried_.clear();
-        behindTyped_ = false;
+        typedTo_ = 0;
     }
     void Beep() { ++beeps_; }
     void PlaceCaret(int position) { edit_.Select(position, position); }
@@ -274,7 +288,7 @@ private:
     bool readOnly_ = false;
     bool enabled_ = true;
     bool modified_ = false;     // by the user
-    bool behindTyped_ = false;  // the caret stands behind a digit that has just been typed
+    int typedTo_ = 0;           // the place behind a character that has just been inserted into a number
     int autoskips_ = 0;
     int changes_ = 0;
     int beeps_ = 0;

@@ -205,7 +205,7 @@ bool Control::ShowsMarker(const std::string& text) const
 }
 
 // Positions that the field at `position` spans, or -1 when its text cannot be read.
-int Control::ParseField(Stamp& stamp, const std::string& text, int position, const MaskChar& at, bool& hour, bool& year,
+int Control::ParseField(Stamp& stamp, const std::string& text, int position, const MaskChar& at, bool& year,
                         const std::string& markerText)
 {
     int run = 1;
@@ -214,7 +214,8 @@ int Control::ParseField(Stamp& stamp, const std::string& text, int position, con
     const char letter = static_cast<char>(std::toupper(static_cast<unsigned char>(at.c)));
     if (std::strchr("DHMSFYJ", letter) == nullptr)
         return run;
-    if (letter == 'M' && !hour && run != 2) {
+    const bool minute = MinuteAt(mask_, static_cast<size_t>(at.index), type_);
+    if (letter == 'M' && !minute && run != 2) {
         stamp.month = MonthFromName(At(text, position, 3));
         if (stamp.month >= 0)
             return run;
@@ -230,7 +231,6 @@ int Control::ParseField(Stamp& stamp, const std::string& text, int position, con
     case 'D': stamp.day = number; break;
     case 'H':
         stamp.hour = number;
-        hour = true;
         if (ampm_) {
             const bool evening = At(markerText, ampmPos_, static_cast<int>(regional_->pm.size())) == regional_->pm;
             if (evening && number < 12)
@@ -239,7 +239,7 @@ int Control::ParseField(Stamp& stamp, const std::string& text, int position, con
                 stamp.hour = 0;
         }
         break;
-    case 'M': (hour ? stamp.minute : stamp.month) = hour || number == 0 ? number : number - 1; break;
+    case 'M': (minute ? stamp.minute : stamp.month) = minute || number == 0 ? number : number - 1; break;
     case 'S': stamp.second = number; break;
     case 'F':
         stamp.microsecond = number;
@@ -265,7 +265,6 @@ int Control::ParseField(Stamp& stamp, const std::string& text, int position, con
 // 0 when the whole text was read, -1 at the first field that could not be.
 int Control::WalkDate(Stamp& stamp, const std::string& text, const std::string& markerText)
 {
-    bool hour = false;
     bool year = false;
     for (int position = 0; position < static_cast<int>(text.size());) {
         const MaskChar at = CharAt(text, position);
@@ -273,7 +272,7 @@ int Control::WalkDate(Stamp& stamp, const std::string& text, const std::string& 
             ++position;
             continue;
         }
-        const int taken = ParseField(stamp, text, position, at, hour, year, markerText);
+        const int taken = ParseField(stamp, text, position, at, year, markerText);
         if (taken < 0)
             return -1;
         position += taken;

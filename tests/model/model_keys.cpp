@@ -214,9 +214,11 @@ void Control::DeleteNumericSelection(bool typing)
 
 void Control::SetSelection(int start, int end)
 {
-    if (start != end || start != edit_.Start() || start != edit_.End())
-        ForgetTyping();
+    const int caret = edit_.Start();
+    const bool wasCaret = caret == edit_.End();
     edit_.Select(start, end);
+    if (!wasCaret || edit_.Start() != caret || edit_.End() != caret)
+        carried_.clear();
 }
 
 void Control::Paste(const std::string& clipboard)
@@ -242,7 +244,7 @@ void Control::PasteText(const std::string& clipboard)
     for (char& c : text)
         c = c == Point() ? '.' : c;
     if (type_ == kNumber)
-        SetData(Value::OfNumber(Number::FromDouble(std::atof(text.c_str()) * (percent_ ? 0.01 : 1.0))));
+        SetData(Value::OfNumber(Number::FromDouble(ToDouble(text) / (percent_ ? 100.0 : 1.0))));
     else
         SetData(Value::OfNumber(Number::FromText(text).TimesPowerOfTen(percent_ ? -2 : 0)));
 }

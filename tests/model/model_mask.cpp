@@ -10,10 +10,19 @@
 namespace model {
 namespace {
 
+constexpr int kAmPmLength = 5;
+
 bool SameText(const std::string& a, const std::string& b)
 {
     return a.size() == b.size() &&
            std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Upper(x) == Upper(y); });
+}
+
+// The position at which the character of an offset in the mask is shown.
+int DisplayOf(const std::string& mask, size_t offset)
+{
+    const auto escapes = std::count(mask.begin(), mask.begin() + static_cast<std::ptrdiff_t>(offset), '~');
+    return static_cast<int>(offset) - static_cast<int>(escapes);
 }
 
 const char* DefaultMask(Type type)
@@ -30,6 +39,19 @@ const char* DefaultMask(Type type)
 
 }  // namespace
 
+bool HasFieldBehindAmPm(const std::string& mask, Type type)
+{
+    bool behind = false;
+    for (size_t i = 0; i < mask.size() && (type == kTime || type == kDateTime); i += mask[i] == '~' ? 2 : 1) {
+        if (mask.compare(i, kAmPmLength, "AM/PM") == 0 || mask.compare(i, kAmPmLength, "am/pm") == 0) {
+            behind = true;
+            i += kAmPmLength - 1;
+        } else if (behind && Control::InTable(mask[i], type))
+            return true;
+    }
+    return false;
+}
+
 bool Control::InTable(char c, Type type)
 {
     const char upper = Upper(c);
@@ -45,6 +67,15 @@ bool Control::InTable(char c, Type type)
     case kDateTime: letters = "YMDJHSF"; break;
     }
     return upper != '\0' && std::strchr(letters, upper) != nullptr;
+}
+
+// An "M" is a minute always in times, behind an hour in date-times, never in dates.
+bool Control::MinuteAt(const std::string& mask, size_t index, Type type)
+{
+    bool hour = false;
+    for (size_t i = 0; i < index && type == kDateTime; i += mask[i] == '~' ? 2 : 1)
+        hour = hour || Upper(mask[i]) == 'H';
+    return hour || type == kTime;
 }
 
 Control::MaskChar Control::PositionalCharAt(const std::string& mask, int position)
@@ -68,8 +99,10 @@ Control::MaskChar Control::CharAt(const std::string& text, int position) const
 {
     const size_t point = mask_.find('.');
     const bool escapedPoint = point != std::string::npos && point > 0 && mask_[point - 1] == '~';
-    if (!IsNumeric() || escapedPoint)
-        return PositionalCharAt(mask_, position);
+    if (!IsNumeric() || escapedPoint) {
+        const bool behind = ampm_ && position >= ampmPos_ + AmPmWidth();
+        return PositionalCharAt(mask_, behind ? position + kAmPmLength - AmPmWidth() : position);
+    }
     const auto at = static_cast<size_t>(position);
     const char c = position >= 0 && at < text.size() ? text[at] : '\0';
     const bool digit = c >= '0' && c <= '9';
@@ -104,6 +137,12 @@ int Control::RunBefore(int position) const
     return n;
 }
 
+// With fields behind it, they are typed and read where they are shown.
+int Control::AmPmWidth() const
+{
+    return HasFieldBehindAmPm(mask_, type_) ? static_cast<int>(regional_->am.size()) : kAmPmLength;
+}
+
 bool Control::OnAmPm(int position) const
 {
     return ampm_ && (type_ == kTime || type_ == kDateTime) && position == ampmPos_;
@@ -111,7 +150,7 @@ bool Control::OnAmPm(int position) const
 
 bool Control::InsideAmPm(int position) const
 {
-    return ampm_ && (type_ == kTime || type_ == kDateTime) && position >= ampmPos_ && position < ampmPos_ + 5;
+    return ampm_ && (type_ == kTime || type_ == kDateTime) && position >= ampmPos_ && position < ampmPos_ + AmPmWidth();
 }
 
 bool Control::Editable(const std::string& text, int position) const
@@ -204,7 +243,6 @@ bool Control::CheckFields(const std::string& mask, Type type)
     bool second = false;
     bool fraction = false;
     bool marker = false;
-    int display = 0;
     const bool dates = type != kTime;
     const bool times = type != kDate;
     const auto claim = [](bool& seen) {
@@ -219,13 +257,12 @@ bool Control::CheckFields(const std::string& mask, Type type)
             if (i + 1 >= mask.size() || mask[i + 1] == '~')
                 return false;
             i += 2;
-            display += type == kDate ? 0 : 1;
             continue;
         }
         if (letter == 'A' && times && (mask.compare(i, 5, "AM/PM") == 0 || mask.compare(i, 5, "am/pm") == 0)) {
             if (!claim(marker))
                 return false;
-            ampmPos_ = display;
+            ampmPos_ = DisplayOf(mask, i);
             i += 5;
             continue;
         }
@@ -233,7 +270,6 @@ bool Control::CheckFields(const std::string& mask, Type type)
             (dates && std::strchr("DMYJ", letter) != nullptr) || (times && std::strchr("HMSF", letter) != nullptr);
         if (!field) {
             ++i;
-            ++display;
             continue;
         }
         // The run is measured at the display position of that number: escapes in front shift it.
@@ -244,13 +280,11 @@ bool Control::CheckFields(const std::string& mask, Type type)
                    mask[static_cast<size_t>(at.index + run)] == at.c)
                 ++run;
         bool good = false;
-        bool counts = true;
         switch (letter) {
         case 'D': good = run == 2 && !julian && claim(day); break;
         case 'J': good = run == 3 && !day && !month && claim(julian); break;
         case 'Y':
             good = (run == 2 || run == 4) && claim(year);
-            counts = type != kDate;
             if (good)
                 yearDigits_ = run;
             break;
@@ -258,7 +292,7 @@ bool Control::CheckFields(const std::string& mask, Type type)
         case 'S': good = run == 2 && claim(second); break;
         case 'F': good = run <= 6 && claim(fraction); break;
         default:
-            if (!dates || hour)
+            if (MinuteAt(mask, i, type))
                 good = run == 2 && claim(minute);
             else
                 good = (run == 2 || run == 3) && !julian && claim(month);
@@ -266,7 +300,6 @@ bool Control::CheckFields(const std::string& mask, Type type)
         if (!good)
             return false;
         i += static_cast<size_t>(run);
-        display += counts ? run : 0;
     }
     if (type == kDate && (!year || (day && !month)))
         return false;
@@ -328,8 +361,11 @@ int Control::SetMask(const char* mask, Type type)
                 expansion = built;
         }
     }
-    if (expansion)
+    if (expansion) {
+        // Taken as it is: the check only tells where its fields stand.
+        CheckMask(*expansion, type);
         mask_ = *expansion;
+    }
     else if (CheckMask(given, type))
         mask_ = given;
     else {
@@ -350,6 +386,7 @@ int Control::SetMask(const char* mask, Type type)
     displayLength_ = 0;
     for (const char c : mask_)
         displayLength_ += c == '~' ? 0 : 1;
+    displayLength_ -= ampm_ ? kAmPmLength - AmPmWidth() : 0;
     if (!codeSpin_) {
         if (type == kString)
             SetData(Value::OfText(mask_.empty() ? std::string() : std::string(255, ' ')));

@@ -235,6 +235,13 @@ std::string Render(const Format& format, const Number& number, const Separators&
     return text + format.middle + fraction + format.suffix;
 }
 
+double ToDouble(const std::string& text)
+{
+    const size_t start = text.find_first_not_of(" \t");
+    const size_t end = start == std::string::npos ? start : text.find_first_not_of("+-.0123456789eE", start);
+    return std::atof(text.substr(0, end).c_str());
+}
+
 bool IsNumber(const std::string& text, char point)
 {
     const auto first = text.find_first_not_of(' ');

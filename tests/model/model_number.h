@@ -50,6 +50,7 @@ struct Separators {
 
 std::string Render(const Format& format, const Number& number, const Separators& separators);
 bool IsNumber(const std::string& text, char point);
+double ToDouble(const std::string& text);  // as far as it is a decimal number
 
 }  // namespace model
 

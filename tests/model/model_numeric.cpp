@@ -13,7 +13,7 @@ void Control::EnterNumericChar(char c)
     typed_.clear();
     typedFraction_.clear();
     const std::string carried = carried_;
-    const bool behindTyped = behindTyped_ && IsDigit(CharOf(Text(), edit_.Start() - 1));
+    const bool behindTyped = typedTo_ != 0 && typedTo_ == edit_.Start();
     ForgetTyping();
     int position = edit_.Start();
     if (static_cast<unsigned>(position) > static_cast<unsigned>(displayLength_ - 1))
@@ -54,13 +54,19 @@ void Control::EnterNumericChar(char c)
         if (position < firstField_) {
             position = firstField_;
             PlaceCaret(position);
-        } else if (mask != '.' && mask != ',' && !(behindTyped && IsDigit(c) && !typedFraction_.empty()))
+        } else if (mask != '.' && mask != ',' && !(behindTyped && !typedFraction_.empty()))
+            return Beep();
+    }
+    // The point is never overwritten: a digit goes to the first fraction position, a sign before the point.
+    if (!typed_.empty() && CharOf(text, position) == Point()) {
+        if (!IsDigit(c))
+            typedFraction_.swap(typed_);
+        else if (++position; decimalPlaces_ == 0 && !IsDigit(CharOf(text, position)))
             return Beep();
     }
     if (c == '-') {
         if (!typed_.empty()) {
-            const bool onPoint = CharOf(text, position) == Point();
-            edit_.Select(position, position + (onPoint ? 0 : 1));
+            edit_.Select(position, position + 1);
             edit_.Replace(typed_);
             return;
         }
@@ -72,16 +78,12 @@ void Control::EnterNumericChar(char c)
     }
     bool lastFraction = false;
     if (!typed_.empty()) {
-        // The point is never overwritten: its digit goes to the first fraction position.
-        if (CharOf(text, position) == Point()) {
-            ++position;
-            if (c == '+')
-                return PlaceCaret(position);
-        }
         lastFraction = decimalPlaces_ != 0 && position == point + decimalPlaces_;
         edit_.Select(position, position + static_cast<int>(typed_.size()));
         edit_.Replace(typed_);
         position = edit_.Start();
+        const std::string placed = Text();
+        const int behind = position;
         if (decimalPlaces_ != 0) {
             if (!charwise_ && position < point) {
                 if (Reformat(nullptr) != 0)
@@ -93,37 +95,24 @@ void Control::EnterNumericChar(char c)
                 edit_.SetText(std::string(Text()));
                 PlaceCaret(position);
             }
-            if (under == '-' && c == '+')
-                PlaceCaret(1);
-            else if (under == '-')
-                PlaceCaret(c != '0' || charwise_ || CharOf(Text(), firstField_) == '0' ? firstField_ + 1
-                                                                                       : std::max(1, firstField_));
+            if (under == '-')
+                PlaceCaret(CaretBehindSign(placed, behind, c));
         }
     } else if (!typedFraction_.empty()) {
         edit_.Char(typedFraction_[0]);
         position = edit_.Start();
         const std::string inserted = Text();
-        if (text.empty()) {
-            // The digit stands alone: the literals in front of a number are not part of it.
-            const std::string whole = LeadingEscapes() + inserted;
-            Reformat(&whole);
-        } else if (const int grown = Reformat(nullptr); grown != 0)
-            position = CaretAfterGrowth(inserted, position, grown);
-        else if (inserted != Text())
-            position = CaretAfterShrinking(inserted, position, c);
-        if (text.empty()) {
-            // The only digit stands last before the point, behind the zeros that the mask forces.
-            const size_t pointAt = decimalPlaces_ != 0 ? Text().find(Point()) : std::string::npos;
-            const size_t digit = Text().find_last_of("0123456789", pointAt);
-            if (decimalPlaces_ != 0 && (digit == std::string::npos || !IsDigit(c)))
-                position = firstField_;
-            else
-                position = static_cast<int>(digit + 1);
-        }
+        // A digit alone: the literals in front of a number are not part of it.
+        const std::string whole = text.empty() ? LeadingEscapes() + inserted : inserted;
+        const int grown = Reformat(&whole);
+        if (text.empty() && decimalPlaces_ != 0 && !IsDigit(c))
+            position = firstField_;
+        else
+            position = CaretBehindInserted(inserted, position, grown, c, text.empty() || loneSign);
+        typedTo_ = position;
         PlaceCaret(position);
         lastFraction = decimalPlaces_ != 0 && edit_.Start() > PointPos(Text()) + decimalPlaces_;
     }
-    behindTyped_ = true;
     FinishNumeric(position, lastFraction);
 }
 
@@ -155,35 +144,10 @@ void Control::RefuseNumeric()
 {
     Beep();
     const std::string before = Text();
-    const int caret = edit_.Start();
-    Reformat(nullptr);
-    if (before == Text())
-        return PlaceCaret(caret);
-    const size_t oldPoint = decimalPlaces_ != 0 ? before.find(Point()) : std::string::npos;
-    if (oldPoint != std::string::npos && caret > static_cast<int>(oldPoint))
-        return PlaceCaret(PointPos(Text()) + caret - static_cast<int>(oldPoint));
-    const bool letters = ThroughCodes() && before != "-" && before != "+";
-    const int allDigits = DigitsBefore(before, static_cast<int>(before.size()));
-    if (DigitsBefore(Text(), edit_.Length()) == 0) {
-        const bool amongLetters = letters && caret > 0 && allDigits == DigitsBefore(before, caret);
-        return PlaceCaret(amongLetters ? caret + edit_.Length() - static_cast<int>(before.size()) : 0);
-    }
-    if (decimalPlaces_ != 0 && caret > 0 && allDigits == 0 && letters)
-        return PlaceCaret(PointPos(Text()) + 1);
-    if (caret == static_cast<int>(before.size()) && caret > 0 && before.back() == '%' && decimalPlaces_ == 0)
-        return PlaceCaret(edit_.Length());
-    int behind = 0;  // digits between the caret and the point or the end
-    for (size_t i = static_cast<size_t>(caret); i < before.size() && i < oldPoint; ++i)
-        behind += IsDigit(before[i]) ? 1 : 0;
-    int at = decimalPlaces_ != 0 ? PointPos(Text()) : static_cast<int>(Text().find_last_of("0123456789") + 1);
-    while (at > 0 && behind > 0)
-        behind -= IsDigit(Text()[static_cast<size_t>(--at)]) ? 1 : 0;
-    // Beside a separator: as far on as the text has grown.
-    const int grown = std::max(0, edit_.Length() - static_cast<int>(before.size()));
-    const int moved = std::min(caret + grown, EndOfInteger());
-    if (behind == 0 && DigitsBefore(Text(), moved) == DigitsBefore(Text(), at))
-        at = moved;
-    PlaceCaret(at);
+    const Place place = PlaceOf(before, edit_.Start());
+    const int along = edit_.Start() + Reformat(nullptr);
+    const bool stays = !before.empty() && PlaceOf(Text(), along) == place;
+    PlaceCaret(stays ? along : AtPlace(Text(), place));
 }
 
 std::string Control::LeadingEscapes() const
@@ -194,74 +158,68 @@ std::string Control::LeadingEscapes() const
     return literals;
 }
 
-// The caret for a text that has grown: as far as it grew, unless that carries it over digits that stood behind it.
-int Control::CaretAfterGrowth(const std::string& before, int position, int grown) const
+// The caret behind a character inserted into `before`, which was laid out anew: along with the text as it grew, unless
+// that is another place among the digits than behind the one typed.
+int Control::CaretBehindInserted(const std::string& before, int position, int grown, char typed, bool emptied) const
 {
-    const std::string& text = Text();
-    if (DigitsBefore(text, edit_.Length()) == 0)
-        return position + grown;
-    const size_t oldPoint = decimalPlaces_ != 0 ? before.find(Point()) : std::string::npos;
-    const bool inFraction = oldPoint != std::string::npos && static_cast<size_t>(position) > oldPoint;
-    const int end = EndOfInteger();
-    int behind = end;  // the place behind the digit typed
-    if (inFraction)
-        behind += position - static_cast<int>(oldPoint);
-    else {
-        int digits = 0;
-        for (size_t i = static_cast<size_t>(position); i < before.size() && i < oldPoint; ++i)
-            digits += IsDigit(before[i]) ? 1 : 0;
-        while (behind > 0 && digits > 0)
-            digits -= IsDigit(text[static_cast<size_t>(--behind)]) ? 1 : 0;
-        while (behind > 0 && !IsDigit(text[static_cast<size_t>(behind) - 1]))
-            --behind;
-    }
-    if (decimalPlaces_ != 0 && oldPoint == std::string::npos)
-        return behind;
-    int moved = position + grown;
-    if (!inFraction)
-        moved = std::min(moved, end);
-    for (int i = behind; i < moved; ++i)
-        if (IsDigit(CharOf(text, i)))
-            return behind;
-    return std::max(behind, moved);
+    const Place place = PlaceOf(before, position);
+    const int along = position + grown;
+    if (emptied)
+        return AtPlace(Text(), place);
+    if (!IsDigit(typed) || PlaceOf(Text(), along) == place)
+        return along;
+    const bool zeroDropped = IntegerDigits(Text()) < IntegerDigits(before);
+    const bool noDigits = DigitsBetween(Text(), 0, edit_.Length()) == 0;
+    return zeroDropped && (noDigits || (grown == 0 && !place.fraction)) ? along : AtPlace(Text(), place);
 }
 
-// The caret for a text that has not grown: behind the same digits, unless a leading zero was dropped. A fraction keeps its
-// place behind the point.
-int Control::CaretAfterShrinking(const std::string& before, int position, char typed) const
+// The caret behind a character that has taken the sign's place.
+int Control::CaretBehindSign(const std::string& placed, int position, char typed) const
 {
     if (!IsDigit(typed))
-        return position;
-    const size_t oldPoint = decimalPlaces_ != 0 ? before.find(Point()) : std::string::npos;
-    if (oldPoint != std::string::npos && position > static_cast<int>(oldPoint))
-        return std::min(position + std::max(0, PointPos(Text()) - static_cast<int>(oldPoint)), edit_.Length());
-    const int all = DigitsBefore(before, static_cast<int>(before.size()));
-    if (all > DigitsBefore(Text(), edit_.Length()))
-        return position;  // a leading zero was dropped
-    const int digits = DigitsBefore(before, position);
-    const int kept = std::min(position, EndOfInteger());
-    return DigitsBefore(Text(), kept) == digits ? kept : BehindDigits(digits, position);
+        return 1;
+    if (typed == '0' && CharOf(Text(), firstField_) == '0')
+        return firstField_ + 1;
+    return std::max(1, AtPlace(Text(), PlaceOf(placed, position)));
 }
 
-// The point, or behind the last digit of a number without fraction.
-int Control::EndOfInteger() const
+// The point, or the place behind the last digit or sign where there is none.
+int Control::EndOfInteger(const std::string& text) const
 {
-    const size_t point = decimalPlaces_ != 0 ? Text().find(Point()) : std::string::npos;
-    return static_cast<int>(point != std::string::npos ? point : Text().find_last_of("0123456789") + 1);
+    const size_t point = text.find(Point());
+    return static_cast<int>(point != std::string::npos ? point : text.find_last_of("0123456789+-") + 1);
 }
 
-int Control::DigitsBefore(const std::string& text, int position)
+int Control::DigitsBetween(const std::string& text, int from, int to)
 {
-    return static_cast<int>(std::count_if(text.begin(), text.begin() + position, IsDigit));
+    int digits = 0;
+    for (int i = from; i < to; ++i)
+        digits += IsDigit(CharOf(text, i)) ? 1 : 0;
+    return digits;
 }
 
-// The place behind the nth digit, or another one when the text has fewer.
-int Control::BehindDigits(int digits, int otherwise) const
+Control::Place Control::PlaceOf(const std::string& text, int position) const
 {
-    int at = 0;
-    for (; at < edit_.Length() && digits > 0; ++at)
-        digits -= IsDigit(Text()[static_cast<size_t>(at)]) ? 1 : 0;
-    return digits > 0 ? otherwise : at;
+    const int end = EndOfInteger(text);
+    return position > end ? Place{true, DigitsBetween(text, end, position)}
+                          : Place{false, DigitsBetween(text, position, end)};
+}
+
+// In the integer part directly behind a digit, where there is one left of the place.
+int Control::AtPlace(const std::string& text, const Place& place) const
+{
+    const int end = EndOfInteger(text);
+    if (place.fraction) {
+        int at = end + 1;
+        while (at < static_cast<int>(text.size()) && DigitsBetween(text, end, at) < place.digits)
+            ++at;
+        return at;
+    }
+    int at = end;
+    while (at > 0 && DigitsBetween(text, at, end) < place.digits)
+        --at;
+    const size_t digit = at > 0 ? text.find_last_of("0123456789", static_cast<size_t>(at) - 1) : std::string::npos;
+    return digit != std::string::npos ? static_cast<int>(digit) + 1 : at;
 }
 
 // Lays the number text through the mask again; characters by which the text grew.
@@ -284,7 +242,7 @@ int Control::Reformat(const std::string* given)
     }
     Number value;
     if (type_ == kNumber)
-        value = Number::FromDouble(std::atof(number.c_str()) * (percent_ ? 0.01 : 1.0));
+        value = Number::FromDouble(ToDouble(number) / (percent_ ? 100.0 : 1.0));
     else
         value = Number::FromText(number).TimesPowerOfTen(percent_ ? -2 : 0);
     edit_.SetText(Format(Value::OfNumber(value)).text);

@@ -108,8 +108,8 @@ void Control::SetSpin(unsigned increment, const char* range, const char* codeTab
         range_ = range;
         if (!IsTemporal()) {
             const size_t tilde = range_->find('~');
-            spinMin_ = std::atof(range_->substr(0, tilde).c_str());
-            spinMax_ = tilde == std::string::npos ? 0.0 : std::atof(range_->c_str() + tilde + 1);
+            spinMin_ = ToDouble(range_->substr(0, tilde));
+            spinMax_ = tilde == std::string::npos ? 0.0 : ToDouble(range_->substr(tilde + 1));
         }
     }
     hasTable_ = codeTable != nullptr;
@@ -144,7 +144,7 @@ void Control::SpinNumber(bool up)
     Value next;
     bool changed = false;
     if (type_ == kNumber) {
-        double value = std::atof(text.c_str());
+        double value = ToDouble(text);
         const double step = static_cast<double>(increment_);
         const double max = spinMax_;
         changed = StepInRange(
@@ -219,9 +219,8 @@ void Control::SpinDate(bool up)
     const int after = RunAfter(caret);
     const int n = before + 1 + after;
     const char letter = static_cast<char>(std::toupper(static_cast<unsigned char>(CharAt(Text(), caret).c)));
-    bool minutes = false;
-    for (int i = 0; i < CharAt(Text(), caret).index; ++i)
-        minutes = minutes || std::toupper(static_cast<unsigned char>(mask_[static_cast<size_t>(i)])) == 'H';
+    const int index = CharAt(Text(), caret).index;
+    const bool minutes = index >= 0 && MinuteAt(mask_, static_cast<size_t>(index), type_);
     const Stamp original = value;
     bool whole = false;
     bool refused = false;

@@ -105,13 +105,8 @@ Control::Verdict Control::ValidateMonth(char c, int position)
 {
     const int index = RunBefore(position);
     const int width = index + 1 + RunAfter(position);
-    for (int i = CharAt(Text(), position).index - index - 1; i >= 0; --i) {
-        if (Upper(mask_[static_cast<size_t>(i)]) != 'H')
-            continue;
-        if (i == 0 || mask_[static_cast<size_t>(i) - 1] != '~')
-            return ValidateMinute(c, position);
-        break;
-    }
+    if (MinuteAt(mask_, static_cast<size_t>(CharAt(Text(), position).index), type_))
+        return ValidateMinute(c, position);
     if (width == 3)
         return ValidateMonthName(c, position);
     if (!IsDigit(c))

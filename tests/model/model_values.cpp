@@ -101,7 +101,6 @@ void Control::FormatFields(const Value& value, Shown& shown) const
     Buffer out;
     const Stamp stamp = value.none ? Stamp() : value.stamp;
     const bool noText = value.none || value.text.empty();
-    bool hourSeen = false;
     bool fieldSeen = false;
     int cursor = 0;  // characters of the string laid out so far
     for (size_t i = 0; i < mask_.size();) {
@@ -122,11 +121,12 @@ void Control::FormatFields(const Value& value, Shown& shown) const
         if (!fieldSeen)
             shown.first = static_cast<int>(out.used);
         fieldSeen = true;
-        if (marker && hourSeen) {
+        if (marker) {
             out.Write(stamp.hour < 12 ? regional_->am : regional_->pm);
             i += 5;
             continue;
         }
+        const size_t first = i;
         size_t run = 1;
         while (i + run < mask_.size() && mask_[i + run] == c)
             ++run;
@@ -154,7 +154,7 @@ void Control::FormatFields(const Value& value, Shown& shown) const
                 text = text.substr(text.size() - 2);
             break;
         case 'M':
-            if (hourSeen)
+            if (MinuteAt(mask_, first, type_))
                 text = stamp.HasTime() ? Padded(stamp.minute, 2) : "00";
             else if (run == 2)
                 text = stamp.HasDate() ? Padded(stamp.month + 1, 2) : "00";
@@ -170,7 +170,6 @@ void Control::FormatFields(const Value& value, Shown& shown) const
             break;
         }
         case 'H': {
-            hourSeen = true;
             int hour = stamp.hour;
             if (ampm_)
                 hour = hour > 12 ? hour - 12 : hour == 0 ? 12 : hour;
@@ -179,7 +178,7 @@ void Control::FormatFields(const Value& value, Shown& shown) const
         }
         case 'S': text = stamp.HasTime() ? Padded(stamp.second, 2) : "00"; break;
         case 'F': text = stamp.HasTime() ? Padded(stamp.microsecond, 6) : "000000"; break;
-        default: text.assign(marker ? 0 : run, ' '); break;
+        default: text.assign(run, ' '); break;
         }
         // What a field writes beyond its run stays until something is written over it.
         const size_t at = out.used;
@@ -232,7 +231,7 @@ void Control::SetData(const Value& value)
 void Control::SetDataString(const std::string& text)
 {
     if (type_ == kNumber)
-        SetData(Value::OfNumber(Number::FromDouble(std::atof(text.c_str()))));
+        SetData(Value::OfNumber(Number::FromDouble(ToDouble(text))));
     else if (type_ == kDecimal)
         SetData(Value::OfNumber(Number::FromText(text)));
     else if (IsTemporal()) {
@@ -280,7 +279,7 @@ Value Control::GetData()
             model::Format general;
             general.general = true;
             fields =
-                Render(general, Number::FromDouble(std::atof(fields.c_str()) * 0.01), {Point(), regional_->thousand});
+                Render(general, Number::FromDouble(ToDouble(fields) / 100.0), {Point(), regional_->thousand});
         }
         return Value::OfText(fields);
     }

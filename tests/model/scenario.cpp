@@ -1,6 +1,8 @@
 // Plays scenarios on the library and on the model.
 #include "scenario.h"
 
+#include "known_differences.h"
+
 #include <algorithm>
 #include <cstdio>
 
@@ -66,6 +68,11 @@ std::string Show(const State& state, const Answer& answer, const Step& step, Typ
     else if (answer.given)
         text += " result " + std::to_string(answer.number);
     return text;
+}
+
+std::string Compared(const State& before, const std::string& expected, const std::string& got)
+{
+    return "\n  before    " + Marked(before) + "\n  expected  " + expected + "\n  got       " + got;
 }
 
 }  // namespace
@@ -134,6 +141,19 @@ std::string ShowValue(const Value& value, Type type)
     return text;
 }
 
+Scenario ScenarioOf(const ScenarioRow& row)
+{
+    Scenario scenario;
+    for (const Setting& setting : Settings())
+        if (std::string(setting.name) == row.setting)
+            scenario.setting = &setting;
+    scenario.config = {row.mask, row.type, row.autoskip, row.increment, row.range, {}, row.codeDisplay, row.codePick};
+    if (row.codes != nullptr)
+        scenario.config.codes = row.codes;
+    scenario.steps = StepsOf(row.script);
+    return scenario;
+}
+
 Difference Play(const Scenario& scenario, Pair& pair)
 {
     pair.Use(*scenario.setting);
@@ -144,7 +164,7 @@ Difference Play(const Scenario& scenario, Pair& pair)
     model.Make(scenario.config);
     State before = library.Look();
     if (const State expected = model.Look(); !(expected == before))
-        return {true, 0, "(just made)", Show(expected, {}, {}, type), Show(before, {}, {}, type)};
+        return {true, 0, before, expected, before, Compared(before, Show(expected, {}, {}, type), "(just made)")};
     for (size_t i = 0; i < scenario.steps.size(); ++i) {
         const Step& step = scenario.steps[i];
         const Answer expectedAnswer = Do(step, model);
@@ -157,8 +177,8 @@ Difference Play(const Scenario& scenario, Pair& pair)
         if (!kComparesModified || expected.text == before.text)
             expected.modified = got.modified;
         if (!(expected == got) || !Same(expectedAnswer, gotAnswer))
-            return {true, i, Marked(before), Show(expected, expectedAnswer, step, type),
-                    Show(got, gotAnswer, step, type)};
+            return {true, i, before, expected, got,
+                    Compared(before, Show(expected, expectedAnswer, step, type), Show(got, gotAnswer, step, type))};
         before = got;
     }
     return {};
@@ -175,7 +195,7 @@ Scenario Shortest(Scenario scenario, Pair& pair)
             const auto begin = shorter.steps.begin();
             shorter.steps.erase(begin + static_cast<std::ptrdiff_t>(from), begin + static_cast<std::ptrdiff_t>(to));
             const Difference difference = Play(shorter, pair);
-            if (difference.found) {
+            if (difference.found && !IsKnown(shorter, difference)) {
                 shorter.steps.resize(difference.step + 1);
                 scenario = shorter;
             } else
@@ -197,8 +217,7 @@ std::string Row(const Scenario& scenario)
 
 std::string Describe(const Scenario& scenario, const Difference& difference)
 {
-    return Row(scenario) + "\n  before    " + difference.before + "\n  expected  " + difference.expected +
-           "\n  got       " + difference.got;
+    return Row(scenario) + difference.description;
 }
 
 }  // namespace model

@@ -18,18 +18,34 @@ struct Setting {
 
 const std::vector<Setting>& Settings();
 
+struct ScenarioRow {
+    const char* setting;
+    const char* mask;
+    Type type;
+    bool autoskip;
+    unsigned increment;
+    const char* range;
+    const char* codes;
+    bool codeDisplay;
+    bool codePick;
+    const char* script;
+};
+
 struct Scenario {
     const Setting* setting = nullptr;
     Config config;
     std::vector<Step> steps;
 };
 
+Scenario ScenarioOf(const ScenarioRow& row);
+
 struct Difference {
     bool found = false;
     size_t step = 0;  // index of the step behind which the two differ
-    std::string before;
-    std::string expected;
-    std::string got;
+    State before;     // the library's
+    State expected;   // the model's
+    State got;
+    std::string description;
 };
 
 // The library and the model, and the setting under which both now stand.
@@ -39,6 +55,7 @@ public:
 
     Subject& Library() { return *library_; }
     Subject& Model() { return *model_; }
+    char Point() const { return setting_->regional.Point(); }
 
 private:
     std::unique_ptr<Subject> library_ = MakeLibrary();
@@ -48,7 +65,7 @@ private:
 
 Difference Play(const Scenario& scenario, Pair& pair);
 
-// The scenario without the steps that the difference does not need.
+// The scenario without the steps that the difference does not need. What is known does not count as one.
 Scenario Shortest(Scenario scenario, Pair& pair);
 
 // The scenario as a row of a table of scenarios, and what differs.

@@ -1,0 +1,162 @@
+// The table of known differences, and the signs that tell them.
+// When one is mended its scenario differs no longer: its rows move to the scenarios that both play alike.
+#include "known_differences.h"
+
+#include "model_text.h"
+
+#include <algorithm>
+
+namespace model {
+namespace {
+
+bool IsCharStep(const Scenario& scenario, const Difference& difference)
+{
+    return scenario.steps[difference.step].kind == StepKind::Char;
+}
+
+char Typed(const Scenario& scenario, const Difference& difference)
+{
+    return static_cast<char>(scenario.steps[difference.step].a);
+}
+
+int PointOf(const Scenario& scenario, const std::string& text)
+{
+    const size_t point = text.find(scenario.setting->regional.Point());
+    return static_cast<int>(point != std::string::npos ? point : text.find_last_of("0123456789") + 1);
+}
+
+int IntegerDigits(const Scenario& scenario, const std::string& text)
+{
+    return static_cast<int>(std::count_if(text.begin(), text.begin() + PointOf(scenario, text), IsDigit));
+}
+
+// A digit after which both show the same text, and differ in the caret and the notifications at most.
+bool DiffersInCaretOnly(const Scenario& scenario, const Difference& difference)
+{
+    State expected = difference.expected;
+    expected.start = difference.got.start;
+    expected.end = difference.got.end;
+    expected.autoskips = difference.got.autoskips;
+    return IsCharStep(scenario, difference) && IsDigit(Typed(scenario, difference)) && expected == difference.got;
+}
+
+bool LosesLeadingZero(const Scenario& scenario, const Difference& difference)
+{
+    if (!DiffersInCaretOnly(scenario, difference))
+        return false;
+    const State& before = difference.before;
+    std::string whole = before.text;
+    whole.erase(static_cast<size_t>(before.start), static_cast<size_t>(before.end - before.start));
+    const size_t number = std::min(before.text.find_first_of("+-0123456789"), before.text.size());
+    const int at = before.text.size() > number ? std::max(before.start, static_cast<int>(number)) : before.start;
+    const bool inFraction = at > PointOf(scenario, whole);
+    whole.insert(std::min(static_cast<size_t>(at), whole.size()), 1, Typed(scenario, difference));
+    const std::string& text = difference.got.text;
+    const size_t first = whole.find_first_of("0123456789");
+    return whole[first] == '0' && IntegerDigits(scenario, text) < IntegerDigits(scenario, whole) &&
+           (inFraction || text.size() > whole.size());
+}
+
+bool PutsZeroForSign(const Scenario& scenario, const Difference& difference)
+{
+    const State& got = difference.got;
+    return DiffersInCaretOnly(scenario, difference) && Typed(scenario, difference) == '0' &&
+           CharOf(difference.before.text, difference.before.start) == '-' && CharOf(got.text, got.start) == '0' &&
+           difference.expected.start == got.start + 1 && difference.expected.autoskips == got.autoskips;
+}
+
+bool SkipsNotAtLastFractionDigit(const Scenario& scenario, const Difference& difference)
+{
+    const State& before = difference.before;
+    const bool last = before.start > PointOf(scenario, before.text) && CharOf(before.text, before.start + 1) == '%';
+    return DiffersInCaretOnly(scenario, difference) && difference.expected.start == difference.got.start && last &&
+           difference.got.text.size() == before.text.size() + 1 &&
+           difference.expected.autoskips == difference.got.autoskips + 1;
+}
+
+// Steps by which nobody types or moves the caret by keys.
+bool LeavesCaret(StepKind kind)
+{
+    return kind == StepKind::Select || kind == StepKind::Read || kind == StepKind::Autoskip ||
+           kind == StepKind::ReadOnly || kind == StepKind::Enable;
+}
+
+// The caret was put elsewhere and back since it was carried, and the library did nothing at all.
+bool RemembersCarriedLiteral(const Scenario& scenario, const Difference& difference)
+{
+    int selections = 0;
+    for (size_t i = difference.step; i-- > 0 && LeavesCaret(scenario.steps[i].kind);)
+        selections += scenario.steps[i].kind == StepKind::Select ? 1 : 0;
+    return IsCharStep(scenario, difference) && selections >= 2 && difference.got == difference.before;
+}
+
+bool BeginsBehindPoint(const Scenario& scenario, const Difference& difference)
+{
+    return StartsBehindPoint(difference.expected, difference.got, scenario.setting->regional.Point());
+}
+
+bool ShiftsFieldsBehindAmPm(const Scenario& scenario, const Difference& difference)
+{
+    std::string mask = scenario.config.mask;
+    Type type = scenario.config.type;
+    for (size_t i = 0; i <= difference.step; ++i)
+        if (scenario.steps[i].kind == StepKind::Mask) {
+            mask = scenario.steps[i].text;
+            type = static_cast<Type>(scenario.steps[i].a);
+        }
+    return HasFieldBehindAmPm(mask, type);
+}
+
+}  // namespace
+
+bool StartsBehindPoint(const State& expected, const State& got, char point)
+{
+    return expected.text == got.text && got.text.find_first_of("0123456789") == std::string::npos &&
+           CharOf(got.text, expected.start) == point && got.start == expected.start + 1;
+}
+
+// clang-format off
+const std::vector<KnownDifference>& KnownDifferences()
+{
+    static const std::vector<KnownDifference> table = {
+        {"a digit typed while a leading 0 is dropped: the caret belongs behind that digit, or before the point when it "
+         "is the 0 itself, and only the last fraction digit lets the focus move on", LosesLeadingZero, {
+            {"swiss", "#,#.00", kDecimal, false, 0, "", nullptr, false, false, "{data 747.410}0{sel 4 9}4"},
+            {"french", "#,#.00", kNumber, true, 0, "", nullptr, false, false, "{data 589.6}0555{Shift+Left}2"},
+            {"german", "#.##", kNumber, true, 0, "", nullptr, false, false, "45{click 0}0{Shift+End}3"},
+            {"swiss", "[currency(8)]", kNumber, true, 0, "", nullptr, false, false, "10{sel 3 0}{Back}3{sel 5 0}1"},
+            {"german", "[currency(6)]", kDecimal, false, 0, "", nullptr, false, false, "3{sel 5 11}1{Home}0"},
+        }},
+        {"a 0 typed on the sign takes the place of the 0 that the mask forces: the caret belongs behind it",
+         PutsZeroForSign, {
+            {"us", "$#,##0.00", kNumber, false, 0, "", nullptr, false, false, "{data -0.1708}0"},
+        }},
+        {"the last fraction digit was typed and the number grew before it: the focus moves on all the same",
+         SkipsNotAtLastFractionDigit, {
+            {"us", "0.0%", kNumber, true, 0, "", nullptr, false, false, "-6{Back}4"},
+        }},
+        {"the program has put the caret elsewhere and back: nobody has just typed up to the literal before it",
+         RemembersCarriedLiteral, {
+            {"french", "HH:MM:SS", kTime, true, 1, "", nullptr, false, false, "7{sel 0 0}{sel 3 3}:"},
+            {"swiss", "#.##", kNumber, false, 0, "", nullptr, false, false, "8{sel 0 255}{sel 2 2}."},
+        }},
+        {"a number of which literals and the point show, but no digit, is entered on its point", BeginsBehindPoint, {
+            {"us", "~x.##", kNumber, false, 0, "", nullptr, false, false, "{data 0}"},
+        }},
+        {"fields behind an AM/PM field are read, and typed into, where they are shown", ShiftsFieldsBehindAmPm, {
+            {"us", "AM/PM HH:MM", kTime, false, 0, "", nullptr, false, false, "{data 13:30}{read}"},
+            {"us", "AM/PM HH:MM", kTime, false, 0, "", nullptr, false, false, "{sel 3 3}0"},
+        }},
+    };
+    return table;
+}
+// clang-format on
+
+bool IsKnown(const Scenario& scenario, const Difference& difference)
+{
+    const std::vector<KnownDifference>& table = KnownDifferences();
+    return std::any_of(table.begin(), table.end(),
+                       [&](const KnownDifference& known) { return known.shows(scenario, difference); });
+}
+
+}  // namespace model
