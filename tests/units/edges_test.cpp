@@ -112,17 +112,20 @@ TEST_P(DecimalEdge, IsReadAs)
 
 // clang-format off
 const DecimalRow kDecimalRows[] = {
-    {"TheLargest",                          "79228162514264337593543950335",    0, UINT64_MAX, UINT32_MAX, 0 },
-    {"OneMoreIsTheLargest",                 "79228162514264337593543950336",    0, UINT64_MAX, UINT32_MAX, 0 },
-    {"AVeryLongNumberIsTheLargest",         "1000000000000000000000000000000000000000000000000000000000000000000000001", 0, UINT64_MAX, UINT32_MAX, 0},
-    {"ATieGoesToTheEvenDigitBelow",         "0.00000000000000000000000000025",  0, 2, 0, 28},
-    {"ATieGoesToTheEvenDigitAbove",         "0.00000000000000000000000000035",  0, 4, 0, 28},
-    {"AboveATieGoesUp",                     "0.000000000000000000000000000251", 0, 3, 0, 28},
-    {"TooSmallIsZero",                      "1e-200",                           0, 0, 0, 28},
-    {"ZeroWithALargeExponentIsZero",        "0e50",                             0, 0, 0, 0 },
-    {"ManyFractionDigitsDecideTheRounding", "0.1000000000000000000000000000000000000000000000000000000000000000000001", 2, 11515845246265065472u, 0x33B2E3C, 28},
-    {"TheScaleWantedIsGivenWhereItFits",    "5",                                2, 500, 0, 2 },
-    {"TheScaleWantedStopsWhereItDoesNot",   "79228162514264337593543950335",    2, UINT64_MAX, UINT32_MAX, 0 },
+    {"TheLargest", "79228162514264337593543950335", 0, UINT64_MAX, UINT32_MAX, 0},
+    {"OneMoreIsTheLargest", "79228162514264337593543950336", 0, UINT64_MAX, UINT32_MAX, 0},
+    {"AVeryLongNumberIsTheLargest", "1000000000000000000000000000000000000000000000000000000000000000000000001", 0, UINT64_MAX, UINT32_MAX,
+     0},
+    {"ATieGoesToTheEvenDigitBelow", "0.00000000000000000000000000025", 0, 2, 0, 28},
+    {"ATieGoesToTheEvenDigitAbove", "0.00000000000000000000000000035", 0, 4, 0, 28},
+    {"AboveATieGoesUp", "0.000000000000000000000000000251", 0, 3, 0, 28},
+    {"TooSmallIsZero", "1e-200", 0, 0, 0, 28},
+    {"ZeroWithALargeExponentIsZero", "0e50", 0, 0, 0, 0},
+    {"ManyFractionDigitsDecideTheRounding", "0.1000000000000000000000000000000000000000000000000000000000000000000001",
+     2, 11515845246265065472u, 0x33B2E3C,
+     28},
+    {"TheScaleWantedIsGivenWhereItFits", "5", 2, 500, 0, 2},
+    {"TheScaleWantedStopsWhereItDoesNot", "79228162514264337593543950335", 2, UINT64_MAX, UINT32_MAX, 0},
 };
 // clang-format on
 INSTANTIATE_TEST_SUITE_P(Rows, DecimalEdge, testing::ValuesIn(kDecimalRows),
