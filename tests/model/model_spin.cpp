@@ -254,8 +254,8 @@ void Control::SpinDate(bool up)
         bool wrapped = false;
         const auto turn = [&](int current, int low, int high) {
             int next = current + (up ? 1 : -1);
-            wrapped = next > high || next < low;
-            return next > high ? low : next < low ? high : next;
+            wrapped = up ? next > high : next < low;
+            return !wrapped ? next : up ? low : high;
         };
         const int calendar = CalendarYear(value.year);
         bool handled = true;

@@ -59,9 +59,9 @@ void Control::TakeChar(char c)
             spun_ = false;
         }
     }
+    spun_ = false;
     if (c == '\t' || c == '\n' || c == 27)
         return finish();
-    spun_ = false;
     if (IsNumeric()) {
         if (!deletePending_ || c != '\b')
             EnterNumericChar(c);
