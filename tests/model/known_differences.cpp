@@ -40,21 +40,35 @@ bool DiffersInCaretOnly(const Scenario& scenario, const Difference& difference)
     return IsCharStep(scenario, difference) && IsDigit(Typed(scenario, difference)) && expected == difference.got;
 }
 
+// The number as it was typed, before it was laid out anew.
+struct Entered {
+    std::string text;
+    bool inFraction;
+};
+
+Entered EnteredBy(const Scenario& scenario, const Difference& difference)
+{
+    const State& before = difference.before;
+    const std::string number = std::string("0123456789+-") + scenario.setting->regional.Point();
+    std::string text = before.text;
+    text.erase(static_cast<size_t>(before.start), static_cast<size_t>(before.end - before.start));
+    const size_t first = difference.got.text.find_first_of(number);
+    const size_t at = std::min(std::max(static_cast<size_t>(before.start), first), text.size());
+    const bool inFraction = static_cast<int>(at) > PointOf(scenario, text);
+    const bool overwrites = inFraction && before.start == before.end && at < text.size();
+    text.replace(at, overwrites ? 1 : 0, 1, Typed(scenario, difference));
+    return {text, inFraction};
+}
+
 bool LosesLeadingZero(const Scenario& scenario, const Difference& difference)
 {
     if (!DiffersInCaretOnly(scenario, difference))
         return false;
-    const State& before = difference.before;
-    std::string whole = before.text;
-    whole.erase(static_cast<size_t>(before.start), static_cast<size_t>(before.end - before.start));
-    const size_t number = std::min(before.text.find_first_of("+-0123456789"), before.text.size());
-    const int at = before.text.size() > number ? std::max(before.start, static_cast<int>(number)) : before.start;
-    const bool inFraction = at > PointOf(scenario, whole);
-    whole.insert(std::min(static_cast<size_t>(at), whole.size()), 1, Typed(scenario, difference));
+    const Entered entered = EnteredBy(scenario, difference);
     const std::string& text = difference.got.text;
-    const size_t first = whole.find_first_of("0123456789");
-    return whole[first] == '0' && IntegerDigits(scenario, text) < IntegerDigits(scenario, whole) &&
-           (inFraction || text.size() > whole.size());
+    return CharOf(entered.text, static_cast<int>(entered.text.find_first_of("0123456789"))) == '0' &&
+           IntegerDigits(scenario, text) < IntegerDigits(scenario, entered.text) &&
+           (entered.inFraction || text.size() > entered.text.size());
 }
 
 bool PutsZeroForSign(const Scenario& scenario, const Difference& difference)
@@ -65,13 +79,16 @@ bool PutsZeroForSign(const Scenario& scenario, const Difference& difference)
            difference.expected.start == got.start + 1 && difference.expected.autoskips == got.autoskips;
 }
 
-bool SkipsNotAtLastFractionDigit(const Scenario& scenario, const Difference& difference)
+// The caret is the same, but it was held for the end of the fraction, or not, by where it stood before the text moved.
+bool TellsEndByOldPlace(const Scenario& scenario, const Difference& difference)
 {
-    const State& before = difference.before;
-    const bool last = before.start > PointOf(scenario, before.text) && CharOf(before.text, before.start + 1) == '%';
-    return DiffersInCaretOnly(scenario, difference) && difference.expected.start == difference.got.start && last &&
-           difference.got.text.size() == before.text.size() + 1 &&
-           difference.expected.autoskips == difference.got.autoskips + 1;
+    const State& got = difference.got;
+    if (!DiffersInCaretOnly(scenario, difference) || difference.expected.start != got.start)
+        return false;
+    const Entered entered = EnteredBy(scenario, difference);
+    const bool early = got.autoskips > difference.expected.autoskips && got.text.size() < entered.text.size();
+    const bool missed = got.autoskips < difference.expected.autoskips && got.text.size() > entered.text.size();
+    return entered.inFraction && (early || missed);
 }
 
 // Steps by which nobody types or moves the caret by keys.
@@ -126,14 +143,17 @@ const std::vector<KnownDifference>& KnownDifferences()
             {"german", "#.##", kNumber, true, 0, "", nullptr, false, false, "45{click 0}0{Shift+End}3"},
             {"swiss", "[currency(8)]", kNumber, true, 0, "", nullptr, false, false, "10{sel 3 0}{Back}3{sel 5 0}1"},
             {"german", "[currency(6)]", kDecimal, false, 0, "", nullptr, false, false, "3{sel 5 11}1{Home}0"},
+            {"us", "DM #,##0.0", kNumber, false, 0, "", nullptr, false, false, "{Shift+Home}0{Left}{Shift+Home}4"},
         }},
         {"a 0 typed on the sign takes the place of the 0 that the mask forces: the caret belongs behind it",
          PutsZeroForSign, {
             {"us", "$#,##0.00", kNumber, false, 0, "", nullptr, false, false, "{data -0.1708}0"},
         }},
-        {"the last fraction digit was typed and the number grew before it: the focus moves on all the same",
-         SkipsNotAtLastFractionDigit, {
+        {"only the last fraction digit lets the focus move on, and it always does, whatever moved before it",
+         TellsEndByOldPlace, {
             {"us", "0.0%", kNumber, true, 0, "", nullptr, false, false, "-6{Back}4"},
+            {"german", "##0.00%", kNumber, true, 0, "", nullptr, false, false, "-{sel 3 3}0"},
+            {"us", "#.##", kNumber, true, 0, "", nullptr, false, false, "3{Home}+9{sel 2 7}9"},
         }},
         {"the program has put the caret elsewhere and back: nobody has just typed up to the literal before it",
          RemembersCarriedLiteral, {

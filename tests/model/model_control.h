@@ -287,8 +287,8 @@ private:
     std::string carried_;  // literals over which typing has just carried the caret
     bool readOnly_ = false;
     bool enabled_ = true;
-    bool modified_ = false;     // by the user
-    int typedTo_ = 0;           // the place behind a character that has just been inserted into a number
+    bool modified_ = false;  // by the user
+    int typedTo_ = 0;        // the place behind a character that has just been inserted into a number
     int autoskips_ = 0;
     int changes_ = 0;
     int beeps_ = 0;

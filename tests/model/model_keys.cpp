@@ -235,7 +235,6 @@ void Control::PasteText(const std::string& clipboard)
     const Value data = Unformat(clipboard);
     if (data.none)
         return;
-    ForgetTyping();
     if (!IsNumeric())
         return SetData(data);
     std::string text = data.text;

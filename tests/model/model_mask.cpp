@@ -365,8 +365,7 @@ int Control::SetMask(const char* mask, Type type)
         // Taken as it is: the check only tells where its fields stand.
         CheckMask(*expansion, type);
         mask_ = *expansion;
-    }
-    else if (CheckMask(given, type))
+    } else if (CheckMask(given, type))
         mask_ = given;
     else {
         result = 0;

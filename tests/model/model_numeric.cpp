@@ -97,6 +97,8 @@ void Control::EnterNumericChar(char c)
             }
             if (under == '-')
                 PlaceCaret(CaretBehindSign(placed, behind, c));
+            if (text.find(Point()) == std::string::npos)
+                lastFraction = position > PointPos(Text()) + decimalPlaces_;
         }
     } else if (!typedFraction_.empty()) {
         edit_.Char(typedFraction_[0]);

@@ -7,53 +7,50 @@
 #include <cctype>
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 namespace model {
 namespace {
 
 constexpr int kLastYear = 1100;  // the year 3000, the highest that a step writes
 
-// Exact comparison and sum of decimals of few digits, as integers of a common scale.
-struct Exact {
-    long long value = 0;
-    int scale = 0;
-};
-
-Exact ToExact(const Number& number)
+// Both to the same scale and the same count of digits.
+void Align(Number& a, Number& b)
 {
-    Exact exact{number.digits.empty() ? 0 : std::atoll(number.digits.c_str()), number.scale};
-    if (number.negative)
-        exact.value = -exact.value;
-    for (; exact.scale < 0; ++exact.scale)
-        exact.value *= 10;
-    return exact;
+    const int scale = std::max(a.scale, b.scale);
+    for (Number* number : {&a, &b}) {
+        number->digits.append(static_cast<size_t>(scale - number->scale), '0');
+        number->scale = scale;
+    }
+    const size_t length = std::max(a.digits.size(), b.digits.size());
+    for (Number* number : {&a, &b})
+        number->digits.insert(0, length - number->digits.size(), '0');
 }
 
-Number FromExact(const Exact& exact)
-{
-    Number number = Number::FromText(std::to_string(exact.value));
-    number.scale = exact.scale;
-    return number;
-}
-
-void Align(Exact& a, Exact& b)
-{
-    for (; a.scale < b.scale; ++a.scale)
-        a.value *= 10;
-    for (; b.scale < a.scale; ++b.scale)
-        b.value *= 10;
-}
-
-Exact Sum(Exact a, Exact b)
+// Digit by digit, of any length.
+Number Sum(Number a, Number b)
 {
     Align(a, b);
-    return {a.value + b.value, a.scale};
+    if (a.digits < b.digits)
+        std::swap(a, b);
+    const int sign = a.negative == b.negative ? 1 : -1;
+    int carry = 0;
+    for (size_t i = a.digits.size(); i-- > 0;) {
+        const int sum = (a.digits[i] - '0') + sign * (b.digits[i] - '0') + carry;
+        carry = sum > 9 ? 1 : sum < 0 ? -1 : 0;
+        a.digits[i] = static_cast<char>('0' + sum - 10 * carry);
+    }
+    if (carry > 0)
+        a.digits.insert(0, 1, '1');
+    a.digits.erase(0, std::min(a.digits.find_first_not_of('0'), a.digits.size()));
+    a.negative = a.negative && !a.digits.empty();
+    return a;
 }
 
-bool Less(Exact a, Exact b)
+bool Less(const Number& a, Number b)
 {
-    Align(a, b);
-    return a.value < b.value;
+    b.negative = !b.negative;
+    return Sum(a, b).negative;
 }
 
 int CompareDates(const Stamp& a, const Stamp& b)
@@ -152,14 +149,15 @@ void Control::SpinNumber(bool up)
             [](double a, double b) { return a < b; }, [](double a, double b) { return a + b; });
         next = Value::OfNumber(Number::FromDouble(value));
     } else {
-        Exact value = ToExact(Number::FromText(text));
-        const Exact step{up ? static_cast<long long>(increment_) : -static_cast<long long>(increment_), 0};
+        Number value = Number::FromText(text);
+        Number step = Number::FromText(std::to_string(increment_));
+        step.negative = !up;
         const size_t tilde = range_ ? range_->find('~') : std::string::npos;
-        const Exact min = ToExact(Number::FromText(range_ ? range_->substr(0, tilde) : ""));
+        const Number min = Number::FromText(range_ ? range_->substr(0, tilde) : "");
         const bool hasMax = tilde != std::string::npos && tilde + 1 < range_->size();
-        const Exact max = hasMax ? ToExact(Number::FromText(range_->substr(tilde + 1))) : Exact();
+        const Number max = Number::FromText(hasMax ? range_->substr(tilde + 1) : "");
         changed = StepInRange(value, step, min, hasMax ? &max : nullptr, up, hasMax, Less, Sum);
-        next = Value::OfNumber(FromExact(value));
+        next = Value::OfNumber(value);
     }
     if (changed)
         SetData(next);
@@ -256,8 +254,8 @@ void Control::SpinDate(bool up)
         bool wrapped = false;
         const auto turn = [&](int current, int low, int high) {
             int next = current + (up ? 1 : -1);
-            wrapped = next > high || next < low;
-            return next > high ? low : next < low ? high : next;
+            wrapped = up ? next > high : next < low;
+            return !wrapped ? next : up ? low : high;
         };
         const int calendar = CalendarYear(value.year);
         bool handled = true;

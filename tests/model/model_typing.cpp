@@ -59,9 +59,9 @@ void Control::TakeChar(char c)
             spun_ = false;
         }
     }
+    spun_ = false;
     if (c == '\t' || c == '\n' || c == 27)
         return finish();
-    spun_ = false;
     if (IsNumeric()) {
         if (!deletePending_ || c != '\b')
             EnterNumericChar(c);
@@ -155,7 +155,7 @@ void Control::EnterChar(char c)
 
 int Control::FindLiteralAhead(const std::string& text, int position, char c) const
 {
-    for (int i = position + 1; i < static_cast<int>(text.size()); ++i) {
+    for (int i = position + 1; i < std::min(static_cast<int>(text.size()), displayLength_); ++i) {
         const MaskChar at = CharAt(text, i);
         if (text[static_cast<size_t>(i)] == c && at.c != '~' && !InsideAmPm(i) && !InTable(at.c, type_))
             return i;

@@ -184,8 +184,8 @@ Control::Verdict Control::ValidateJulian(char c, int position)
     const int index = RunBefore(position);
     const int limit = DaysInMonth(YearFromText(), 1) == 29 ? 366 : 365;
     std::string candidate = Text().substr(static_cast<size_t>(std::min(position - index, edit_.Length())), 3);
-    if (static_cast<size_t>(index) < candidate.size())
-        candidate[static_cast<size_t>(index)] = c;
+    candidate.resize(std::max(candidate.size(), static_cast<size_t>(index) + 1));
+    candidate[static_cast<size_t>(index)] = c;
     typed_ = c;
     if (std::atoi(candidate.c_str()) <= limit)
         return Verdict::Accepted;

@@ -278,8 +278,7 @@ Value Control::GetData()
                 c = c == Point() ? '.' : c;
             model::Format general;
             general.general = true;
-            fields =
-                Render(general, Number::FromDouble(ToDouble(fields) / 100.0), {Point(), regional_->thousand});
+            fields = Render(general, Number::FromDouble(ToDouble(fields) / 100.0), {Point(), regional_->thousand});
         }
         return Value::OfText(fields);
     }

@@ -177,8 +177,10 @@ Difference Play(const Scenario& scenario, Pair& pair)
         if (!kComparesModified || expected.text == before.text)
             expected.modified = got.modified;
         if (!(expected == got) || !Same(expectedAnswer, gotAnswer))
-            return {true, i, before, expected, got,
-                    Compared(before, Show(expected, expectedAnswer, step, type), Show(got, gotAnswer, step, type))};
+            return {
+                true,   i,
+                before, expected,
+                got,    Compared(before, Show(expected, expectedAnswer, step, type), Show(got, gotAnswer, step, type))};
         before = got;
     }
     return {};
