@@ -31,10 +31,12 @@ else()
     # The engine throws nothing and asks no object for its type; a build without either says so. (In the library a field may
     # unwind through it.)
     target_compile_options(zt_engine PRIVATE -fno-exceptions -fno-rtti)
-    # The same sources over whole code points: no character is taken for a byte.
-    add_library(zt_engine_wide OBJECT ${zt_engine_sources})
-    target_link_libraries(zt_engine_wide PRIVATE zt_build_flags)
-    target_compile_definitions(zt_engine_wide PRIVATE ZT_WIDE_CHARACTERS)
+    # The same sources over whole code points: no character is taken for a byte. Once is enough.
+    if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+        add_library(zt_engine_wide OBJECT ${zt_engine_sources})
+        target_link_libraries(zt_engine_wide PRIVATE zt_build_flags)
+        target_compile_definitions(zt_engine_wide PRIVATE ZT_WIDE_CHARACTERS)
+    endif()
     # Only the engine is watched; the tests around it build in half the time without.
     if(ZT_SANITIZE)
         target_compile_options(zt_engine PRIVATE -O1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
