@@ -16,7 +16,8 @@ target_link_options(zt_test_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wl,--fatal
 target_compile_options(zt_test_flags INTERFACE -O0)
 add_library(zt_test_support OBJECT ${zt_support_sources})
 target_link_libraries(zt_test_support PUBLIC zt_test_flags)
-target_precompile_headers(zt_test_support PRIVATE <gtest/gtest.h> <memory> <ostream> <string> <vector>)
+target_precompile_headers(zt_test_support PRIVATE <windows.h> <gtest/gtest.h> <memory> <ostream> <string> <vector>)
+target_compile_options(gtest PRIVATE -O0)
 
 # zt_add_test(<name> COMMAND <program> [<argument>...]): an entry of ctest, run once under Wine with a time limit.
 function(zt_add_test name)
