@@ -24,7 +24,10 @@ packages=(
     fonts-liberation:/usr/share/fonts/truetype/liberation
 )
 case ${1:-} in
---clang) packages+=(clang:clang++ clang-format:clang-format clang-tidy:clang-tidy) ;;
+--clang)
+    packages+=(clang:clang++ clang-format:clang-format clang-tidy:clang-tidy)
+    packages+=(libclang-rt-14-dev:/usr/lib/llvm-14/lib/clang/14.0.6/lib/linux/libclang_rt.asan-x86_64.a)
+    ;;
 --bench) packages+=(libbenchmark-dev:/usr/include/benchmark/benchmark.h valgrind:valgrind) ;;
 --coverage) packages+=(gcovr:gcovr) ;;
 esac
