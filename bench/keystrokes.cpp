@@ -13,6 +13,7 @@
 #include "engine/format/read_back.h"
 #include "engine/memory_control.h"
 #include "engine/services.h"
+#include "engine/text/ascii.h"
 
 namespace {
 
@@ -39,6 +40,15 @@ DateTimeValue NoClock()
     return {};
 }
 
+// The key of an American keyboard that makes a character: digits and letters have their own numbers.
+int32_t KeyOf(char character)
+{
+    constexpr int32_t kPeriod = 0xBE;
+    if (character == '.')
+        return kPeriod;
+    return AsciiUpper(static_cast<Char>(character));
+}
+
 class Player {
 public:
     explicit Player(const KeyCase& row)
@@ -54,9 +64,9 @@ public:
         SetData(control_.Record(), nullptr);
         control_.Edit().SetSelection(0, 0);
         for (const char* key = keys_; *key; ++key) {
-            control_.KeyDown(*key);
+            control_.KeyDown(KeyOf(*key));
             control_.Type(static_cast<unsigned char>(*key));
-            control_.KeyUp(*key);
+            control_.KeyUp(KeyOf(*key));
         }
     }
     size_t KeyCount() const { return std::strlen(keys_); }
