@@ -31,7 +31,7 @@ void ReadFirstChar(zte::Char& character, const char* key)
 {
     const std::string value = RegionalValue(key);
     if (!value.empty())
-        character = static_cast<unsigned char>(value[0]);
+        character = static_cast<zte::Char>(value[0]);
 }
 
 void ReadInteger(int32_t& number, const char* key)
