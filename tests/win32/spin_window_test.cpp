@@ -2,11 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <initializer_list>
 
 #include "engine/format/code_table.h"
-#include "tests/support/live/spin_window_test.h"
 #include "tests/support/live/base_recorder.h"
 #include "tests/support/live/import_patch.h"
+#include "tests/support/live/spin_window_test.h"
 
 namespace zttest {
 namespace {
@@ -455,7 +456,8 @@ TEST_F(SpinMouse, RedrawingOnHidesTheSpin)
 
 TEST_F(SpinMouse, HandledMessagesGiveZero)
 {
-    for (const UINT message : {WM_PAINT, WM_TIMER, WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP})
+    for (const UINT message :
+         std::initializer_list<UINT>{WM_PAINT, WM_TIMER, WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP})
         EXPECT_EQ(SendMessageA(Spin(), message, 0, 0), 0) << message;
 }
 
@@ -736,7 +738,7 @@ TEST_F(SpinDestruction, TheProcedureWithoutARecordIsThatOfAnyWindow)
 {
     SetWindowTextA(form_.hwnd(), "caption");
     EXPECT_EQ(ZTE_SpinWndProc(form_.hwnd(), WM_GETTEXTLENGTH, 0, 0), 7);
-    for (const UINT message : {WM_TIMER, WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP})
+    for (const UINT message : std::initializer_list<UINT>{WM_TIMER, WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP})
         EXPECT_EQ(ZTE_SpinWndProc(form_.hwnd(), message, 0, 0), 0);
 }
 
