@@ -18,8 +18,11 @@ execute_process(
     OUTPUT_STRIP_TRAILING_WHITESPACE)
 get_filename_component(zt_gcc_folder ${zt_libstdcxx} DIRECTORY)
 set(zt_cxx_headers ${zt_gcc_folder}/include/c++)
+# Of its own accord clang would look into the headers of the machine that builds, too.
+set(zt_c_headers "-nostdlibinc -isystem /usr/${ZT_TOOL_PREFIX}/include")
+set(CMAKE_C_FLAGS_INIT "${zt_c_headers}")
 set(CMAKE_CXX_FLAGS_INIT
-    "-isystem ${zt_cxx_headers} -isystem ${zt_cxx_headers}/${ZT_TOOL_PREFIX} -isystem ${zt_cxx_headers}/backward")
+    "-isystem ${zt_cxx_headers} -isystem ${zt_cxx_headers}/${ZT_TOOL_PREFIX} -isystem ${zt_cxx_headers}/backward ${zt_c_headers}")
 foreach(kind EXE SHARED MODULE)
     set(CMAKE_${kind}_LINKER_FLAGS_INIT "-pthread -L${zt_gcc_folder}")
 endforeach()
