@@ -53,7 +53,7 @@ void MemoryControl::KeyDown(int32_t key)
 
 void MemoryControl::Type(uint32_t character)
 {
-    if (!OnChar(record_, character, kFromKeyboard).kept)
+    if (!OnChar(record_, character).kept)
         field_.Type(static_cast<Char>(character));
 }
 

@@ -179,7 +179,7 @@ bool ParseDateTime(DateTimeValue& value, const Char* text, int32_t kind, const S
 
 bool IsNumber(const Char* text, const Settings& settings)
 {
-    return IsNumberText(text, settings);
+    return IsNumberText(text, settings.decimalChar);
 }
 
 Char ToUpper(Char c, const Settings& settings)

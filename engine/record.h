@@ -45,7 +45,7 @@ struct EditInstance {
     uint32_t heapFlags;
     int32_t dataType;
     Char typedChar[10];          // text accepted by the last validator, to be placed
-    Char typedFractionChar[10];  // text accepted by the number validator, to be inserted
+    Char typedFractionChar[10];  // not used: numbers are laid digit by digit
     void* hwnd;
     void* hwndParent;
     uint32_t controlId;
@@ -80,6 +80,7 @@ struct EditInstance {
     const MaskTable* table;  // the mask compiled; stands in the mask's block
     int32_t carriedFrom;     // typing has just carried the caret over the literals from here ...
     int32_t carriedTo;       // ... to here; 0: it has not
+    int32_t spelled;         // of the literals before a number, the characters that were typed directly before
     bool swallowBackspace;   // the character of a Backspace already carried out in a number is to come
 };
 

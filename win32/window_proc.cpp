@@ -32,7 +32,7 @@ bool Dispatch(UINT message, WPARAM wParam, LPARAM lParam, Handler&& handle)
     case WM_SETFONT: return handle([=](EditInstance& edit) { return OnSetFont(edit, wParam, lParam); });
     case WM_KEYDOWN: return handle([=](EditInstance& edit) { return OnKeyDown(edit, number, lParam); });
     case WM_KEYUP: return handle([=](EditInstance& edit) { return OnKeyUp(edit, number); });
-    case WM_CHAR: return handle([=](EditInstance& edit) { return OnChar(edit, number, lParam); });
+    case WM_CHAR: return handle([=](EditInstance& edit) { return OnChar(edit, number); });
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK: return handle([](EditInstance& edit) { return OnButtonDown(edit); });
     case WM_LBUTTONUP: return handle([=](EditInstance& edit) { return OnButtonUp(edit, wParam, lParam); });

@@ -32,5 +32,5 @@ int32_t WINAPI SharedCharConvertTwo(int32_t character)
 
 int32_t WINAPI SharedIsNumber(const char* text)
 {
-    return text && zte::IsNumberText(text, shared::Conventions());
+    return text && zte::IsNumberText(text, shared::Conventions().decimalChar);
 }

@@ -2,7 +2,6 @@
 #include "engine/edit/caret.h"
 
 #include "engine/mask/mask_table.h"
-#include "engine/values/number_layout.h"
 
 namespace zte {
 
@@ -47,7 +46,10 @@ LiteralRun LiteralsAt(const EditInstance& edit, const Text& text, int32_t positi
 
 bool IsInFraction(const EditInstance& edit, const Text& text, int32_t position)
 {
-    return IsInFraction(text, position, edit.decimalPlaces, edit.settings->decimalChar);
+    if (edit.decimalPlaces == 0)
+        return false;
+    const int32_t point = ShownNumber(edit.table->number, *edit.settings, text).Point();
+    return point >= 0 && position > point && position <= point + edit.decimalPlaces;
 }
 
 int32_t StepsToEditable(const EditInstance& edit, const Text& text, int32_t position, Direction direction)

@@ -3,10 +3,9 @@
 
 #include <algorithm>
 
+#include "engine/edit/numeric_entry.h"
 #include "engine/format/display.h"
-#include "engine/format/reformat_number.h"
 #include "engine/mask/mask_table.h"
-#include "engine/values/number_layout.h"
 
 namespace zte {
 
@@ -31,41 +30,15 @@ void DeletePositions(EditInstance& edit, Selection selection)
     PlaceCaret(edit, selection.start);
 }
 
-// The number that is left when the decimal character went with the selection: few digits are taken as fraction digits.
-Text WithoutPoint(const EditInstance& edit, const Text& text)
-{
-    const Char decimalChar = edit.settings->decimalChar;
-    const bool isFraction = edit.decimalPlaces + 1 >= Length(text);
-    return isFraction && At(text, 0) != decimalChar ? decimalChar + text : text;
-}
-
-void DeleteDigits(EditInstance& edit, Selection selection, bool typing)
-{
-    const int32_t start = std::max(selection.start, edit.firstFieldPos);
-    SetFlag(edit, CHARWISE, false);
-    if (typing)
-        edit.flags |= TYPING;
-    const int32_t point = DecimalCharPos(edit.field->ReadText(), edit.settings->decimalChar);
-    edit.field->ReplaceSelection(Text().c_str());
-
-    const Text left = edit.field->ReadText();
-    const bool pointDeleted = edit.decimalPlaces != 0 && start <= point && point <= selection.end;
-    if (pointDeleted && (!typing || !left.empty()))
-        ReformatNumber(edit, WithoutPoint(edit, left));
-    else if (!typing && (edit.decimalPlaces != 0 || !left.empty()))
-        ReformatNumber(edit, left);
-    PlaceCaret(edit, start);
-}
-
 }  // namespace
 
-bool DeleteSelection(EditInstance& edit, Selection selection, bool typing)
+bool DeleteSelection(EditInstance& edit, Selection selection)
 {
     if (selection.IsEmpty())
         return false;
     edit.carriedTo = 0;
     if (IsNumeric(edit.dataType))
-        DeleteDigits(edit, selection, typing);
+        DeleteInNumber(edit, selection);
     else
         DeletePositions(edit, selection);
     return true;

@@ -5,8 +5,7 @@
 
 namespace zte {
 
-// Clears the selection back to the blank display (a number is laid anew); false when nothing is selected. typing: on
-// behalf of a typed character, which then takes the place.
-bool DeleteSelection(EditInstance& edit, Selection selection, bool typing);
+// Clears the selection back to the blank display (a number is laid anew); false when nothing is selected.
+bool DeleteSelection(EditInstance& edit, Selection selection);
 
 }  // namespace zte

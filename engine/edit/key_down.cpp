@@ -3,8 +3,8 @@
 
 #include "engine/edit/caret.h"
 #include "engine/edit/deletion.h"
+#include "engine/edit/numeric_entry.h"
 #include "engine/edit/paste.h"
-#include "engine/format/reformat_number.h"
 #include "engine/mask/mask_table.h"
 #include "engine/spin/step.h"
 
@@ -17,63 +17,22 @@ bool IsNumericMode(const EditInstance& edit)
     return IsNumeric(edit.dataType) && edit.maskJustSet != 0;
 }
 
-// The key-down did all that its Backspace does in a number; the character that follows has nothing left to do.
-bool FinishNumberKey(EditInstance& edit, Key key)
-{
-    edit.swallowBackspace = key == KEY_BACKSPACE;
-    return true;
-}
-
-// Brings the caret behind a digit, over the separators left of it; false when there is no digit to delete.
-bool ReachDigitLeft(EditInstance& edit, const Text& text, int32_t caret, KeyData keyData)
-{
-    if (caret == Length(text))
-        return true;
-    if (!PositionAt(edit, text, caret - 1).exists)
-        return false;
-    if (IsEditable(edit, text, caret - 1))
-        return true;
-    const int32_t steps = StepsToEditable(edit, text, caret - 1, Direction::Backward);
-    edit.field->PressArrow(KEY_LEFT, keyData, steps);
-    return steps != 0;
-}
-
 // Never the decimal character or a literal.
 bool CanDeleteAt(const EditInstance& edit, const Text& text, int32_t caret)
 {
     return caret != Length(text) && IsEditable(edit, text, caret);
 }
 
-bool CanDelete(EditInstance& edit, Key key, const Text& text, int32_t caret, KeyData keyData)
-{
-    if (key == KEY_DELETE)
-        return CanDeleteAt(edit, text, caret);
-    return caret > 0 && ReachDigitLeft(edit, text, caret, keyData);
-}
-
-// The digit goes by the edit control underneath, the number is laid anew. A Backspace is carried out by its character.
-bool DeleteInNumber(EditInstance& edit, Key key, KeyData keyData)
+// A Backspace is carried out by its character, unless something is selected: then the character that follows has nothing left to do.
+void HandleNumberDeletion(EditInstance& edit, Key key)
 {
     const Selection selection = edit.field->ReadSelection();
-    if (DeleteSelection(edit, selection, false)) {
-        if (Has(edit, PERCENT))
-            ReformatNumber(edit);
-        return FinishNumberKey(edit, key);
+    if (key == KEY_BACKSPACE && selection.IsEmpty()) {
+        edit.deletePending = 1;
+        return;
     }
-    const int32_t caret = selection.start;
-    if (!CanDelete(edit, key, edit.field->ReadText(), caret, keyData))
-        return FinishNumberKey(edit, key);
-    edit.deletePending = 1;
-    SetFlag(edit, CHARWISE, false);
-    if (key == KEY_DELETE)
-        edit.field->SetRedraw(false);
-    edit.field->PressDown(key, keyData);
-    if (key == KEY_DELETE) {
-        ReformatNumber(edit);
-        PlaceCaret(edit, caret);
-        edit.deletePending = 0;
-    }
-    return true;
+    DeleteInNumber(edit, selection);
+    edit.swallowBackspace = key == KEY_BACKSPACE;
 }
 
 void BlankCharAt(EditInstance& edit, int32_t caret)
@@ -92,7 +51,7 @@ bool DeleteAtPosition(EditInstance& edit, Key key, KeyData keyData)
         return false;
     }
     const Selection selection = edit.field->ReadSelection();
-    const bool deleted = DeleteSelection(edit, selection, false);
+    const bool deleted = DeleteSelection(edit, selection);
     if (key == KEY_BACKSPACE) {
         if (!deleted)
             MoveCaret(edit, KEY_BACKSPACE, keyData, edit.field->IsHeld(KEY_SHIFT));
@@ -107,7 +66,10 @@ bool HandleDeletion(EditInstance& edit, Key key, KeyData keyData)
 {
     if (edit.field->RefusesInput())
         return true;
-    return IsNumericMode(edit) ? DeleteInNumber(edit, key, keyData) : DeleteAtPosition(edit, key, keyData);
+    if (!IsNumericMode(edit))
+        return DeleteAtPosition(edit, key, keyData);
+    HandleNumberDeletion(edit, key);
+    return true;
 }
 
 bool HandleArrow(EditInstance& edit, Key key, KeyData keyData)

@@ -1,8 +1,6 @@
 // Key and character messages, routed to the code table, the number entry or the position-by-position entry.
 #include "engine/edit/keyboard.h"
 
-#include <algorithm>
-
 #include "engine/edit/char_entry.h"
 #include "engine/edit/deletion.h"
 #include "engine/edit/key_down.h"
@@ -10,8 +8,6 @@
 #include "engine/edit/paste.h"
 #include "engine/edit/type_ahead.h"
 #include "engine/format/data.h"
-#include "engine/format/reformat_number.h"
-#include "engine/mask/mask_table.h"
 
 namespace zte {
 
@@ -62,28 +58,12 @@ bool EndSpunText(EditInstance& edit)
     return ended;
 }
 
-// The character of a Backspace whose key-down was left to the base: a forced digit becomes 0, any other goes.
-void BackspaceInNumber(EditInstance& edit, int32_t caret, KeyData keyData)
+void EnterNumber(EditInstance& edit, uint32_t typed, Selection selection)
 {
-    const int32_t position = std::max(caret - 1, 0);
-    Text text = edit.field->ReadText();
-    if (PositionAt(edit, text, position).character == '0') {
-        text[static_cast<size_t>(position)] = '0';
-        edit.field->SetText(text.c_str());
-    } else {
-        edit.field->SetRedraw(false);
-        edit.field->TypeChar(static_cast<Char>(kBackspace), keyData);
-        ReformatNumber(edit);
-    }
-    PlaceCaret(edit, position);
-}
-
-void EnterNumber(EditInstance& edit, uint32_t typed, int32_t caret, KeyData keyData)
-{
-    if (edit.deletePending && typed == kBackspace)
-        BackspaceInNumber(edit, caret, keyData);
+    if (typed == kBackspace && (edit.deletePending || !selection.IsEmpty()))
+        BackspaceInNumber(edit, selection);
     else
-        EnterNumericChar(edit, static_cast<Char>(typed), caret, keyData);
+        EnterNumericChar(edit, static_cast<Char>(typed), selection);
 }
 
 Reply Finish(EditInstance& edit, Reply reply)
@@ -93,8 +73,8 @@ Reply Finish(EditInstance& edit, Reply reply)
     return reply;
 }
 
-// caret: where it stands before the character.
-Reply Enter(EditInstance& edit, uint32_t typed, int32_t caret, KeyData keyData)
+// selection: before the character; the caret where one was deleted.
+Reply Enter(EditInstance& edit, uint32_t typed, Selection selection)
 {
     if (!HasMask(edit) && !Has(edit, CODE_SPIN)) {
         SetFlag(edit, SPUN, false);
@@ -110,7 +90,7 @@ Reply Enter(EditInstance& edit, uint32_t typed, int32_t caret, KeyData keyData)
         return kPassOn;
     }
     if (EndSpunText(edit))
-        caret = Caret(edit);
+        selection = edit.field->ReadSelection();
     if (IsLeftToTheForm(typed))
         return Keep(0);
     if (typed == kCtrlV) {
@@ -118,12 +98,12 @@ Reply Enter(EditInstance& edit, uint32_t typed, int32_t caret, KeyData keyData)
         return Keep();
     }
     if (IsNumeric(edit.dataType)) {
-        EnterNumber(edit, typed, caret, keyData);
+        EnterNumber(edit, typed, selection);
         return Keep();
     }
     if (edit.deletePending && typed == kBackspace)
         return kPassOn;
-    EnterChar(edit, static_cast<Char>(typed), caret);
+    EnterChar(edit, static_cast<Char>(typed), selection.start);
     return Keep();
 }
 
@@ -135,12 +115,20 @@ Reply RefuseChar(EditInstance& edit, uint32_t typed)
     return Keep(IsLeftToTheForm(typed) ? 0 : 1);
 }
 
+// Its character never came.
+void ForgetBackspace(EditInstance& edit)
+{
+    edit.deletePending = 0;
+    edit.swallowBackspace = false;
+}
+
 }  // namespace
 
 // A key message whose upper half is the Tab key's number is kept from the edit control underneath: hosts that steer the focus
 // themselves mark a Tab in this way.
 Reply OnKeyDown(EditInstance& edit, uint32_t key, KeyData keyData)
 {
+    ForgetBackspace(edit);
     if (key >> 16 == KEY_TAB)
         return Keep(0);
     if (!HasMask(edit))
@@ -156,7 +144,7 @@ Reply OnKeyUp(EditInstance& edit, uint32_t key)
     return kPassOn;
 }
 
-Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData)
+Reply OnChar(EditInstance& edit, uint32_t typed)
 {
     if (IsCopy(typed))
         return kPassOn;
@@ -166,15 +154,16 @@ Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData)
         edit.swallowBackspace = false;
         return Keep();
     }
+    // A number is changed at once: what is selected goes together with what takes its place.
     const Selection selection = edit.field->ReadSelection();
-    const bool deleted = DeleteSelection(edit, selection, true);
+    const bool deleted = !IsNumeric(edit.dataType) && DeleteSelection(edit, selection);
     if (typed == kBackspace && Has(edit, BACKSPACE_DONE)) {
         FinishBackspace(edit);
         return Keep();
     }
     if (deleted && typed == kBackspace)
         return Finish(edit, Keep());
-    return Finish(edit, Enter(edit, typed, deleted ? Caret(edit) : selection.start, keyData));
+    return Finish(edit, Enter(edit, typed, deleted ? edit.field->ReadSelection() : selection));
 }
 
 }  // namespace zte

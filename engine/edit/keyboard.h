@@ -19,6 +19,6 @@ constexpr Reply Keep(intptr_t result = 1)
 // key and typed as the messages carry them: more than a key's or a character's number counts.
 Reply OnKeyDown(EditInstance& edit, uint32_t key, KeyData keyData);
 Reply OnKeyUp(EditInstance& edit, uint32_t key);
-Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData);
+Reply OnChar(EditInstance& edit, uint32_t typed);
 
 }  // namespace zte

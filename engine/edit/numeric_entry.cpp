@@ -2,271 +2,311 @@
 #include "engine/edit/numeric_entry.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "engine/edit/caret.h"
-#include "engine/edit/validators.h"
+#include "engine/edit/number_deletion.h"
+#include "engine/edit/number_edit.h"
 #include "engine/format/data.h"
-#include "engine/format/reformat_number.h"
 #include "engine/text/ascii.h"
-#include "engine/values/number_layout.h"
 
 namespace zte {
 
 namespace {
 
-// One character typed into a number, and the number as it stood before.
-struct NumericEntry {
-    Char typed;
-    KeyData keyData;
-    int32_t position;
-    Text text;
-    CarriedOver carried;
-    Char decimalChar;
-
-    Char Under() const { return At(text, position); }
-    int32_t Point() const { return DecimalCharPos(text, decimalChar); }
-    // Emptied, but for a sign that was typed since.
-    bool IsEmptied() const { return text.empty() || (text.size() == 1 && IsSign(text[0])); }
-    bool IsDigitTyped() const { return IsDigit(typed); }
+enum class Outcome {
+    Taken,
+    Filled,   // the last position was typed: the focus may move on
+    Dropped,  // nothing is left to fill: without a beep
+    Refused,
 };
 
-int32_t PointOf(const EditInstance& edit, const Text& text)
+// One character typed into a number.
+struct NumericKey {
+    Char typed;
+    CarriedOver carried;
+    int32_t spelled;            // characters of the literals before the number that were typed directly before
+    bool insertsIntoFraction;  // it takes the place of a selection there: what stood behind the selection stays behind it
+};
+
+bool IsDecimalChar(const EditInstance& edit, Char typed)
 {
-    return DecimalCharPos(text, edit.settings->decimalChar);
+    return typed == edit.settings->decimalChar && edit.decimalPlaces != 0;
 }
 
-// The caret among the same digits as before the text was laid anew: it goes along with the text's growth, unless that would
-// be another place.
-int32_t SamePlace(const NumericEntry& entry, const Text& after, int32_t growth)
+// A full number is edited position by position: arrow keys pass its separators.
+void MarkWhenFull(EditInstance& edit, const NumberEdit& number)
 {
-    const DigitPlace place = DigitPlaceOf(entry.text, entry.position, entry.decimalChar);
-    const int32_t moved = entry.position + growth;
-    const bool stays = !entry.text.empty() && DigitPlaceOf(after, moved, entry.decimalChar) == place;
-    return stays ? moved : PositionOf(after, place, entry.decimalChar);
-}
-
-void Refuse(EditInstance& edit, const NumericEntry& entry)
-{
-    const int32_t growth = ReformatNumber(edit);
-    PlaceCaret(edit, SamePlace(entry, edit.field->ReadText(), growth));
-    edit.field->Beep();
-}
-
-void ChooseCharwiseByPoint(EditInstance& edit, const Text& text)
-{
-    if (edit.table->point == PointOf(edit, text))
+    if (!number.FitsOneMore())
         edit.flags |= CHARWISE;
 }
 
-// The point typed inside the integer part: the digits between the caret and the point go.
-void CutToPoint(EditInstance& edit, const NumericEntry& entry)
+// ---- the literals around the number
+
+// What is typed into an empty field may begin with the literals before the number, as they are shown. A digit, a sign or a decimal
+// character begins the number instead.
+bool IsSpelled(const EditInstance& edit, const NumberEdit& number, const NumericKey& key)
 {
-    Text cut = entry.text;
-    cut.erase(static_cast<size_t>(entry.position), static_cast<size_t>(entry.Point() - entry.position));
-    ReformatNumber(edit, cut);
-    PlaceCaret(edit, PointOf(edit, edit.field->ReadText()) + 1);
-    ChooseEditMode(edit);
+    const MaskLiterals& before = number.Mask().before;
+    const bool beginsNumber = IsDigit(key.typed) || IsSign(key.typed) || IsDecimalChar(edit, key.typed);
+    if (!number.IsBlank() || key.spelled >= before.length || (key.spelled == 0 && beginsNumber))
+        return false;
+    const bool placed = number.Caret() == key.spelled || number.Caret() == number.Shown().Start();
+    return placed && before.text[key.spelled] == key.typed;
 }
 
-void EnterPoint(EditInstance& edit, const NumericEntry& entry)
+void PassSpelled(EditInstance& edit, NumberEdit& number, int32_t spelled)
 {
-    const int32_t point = entry.Point();
-    if (entry.position < point)
-        return CutToPoint(edit, entry);
-    if (entry.position > point)
-        return Refuse(edit, entry);
-    PlaceCaret(edit, point + 1);
-    ChooseCharwiseByPoint(edit, entry.text);
+    edit.spelled = spelled + 1;
+    if (number.Caret() < number.Shown().Start())
+        number.MoveTo(number.Caret() + 1);
+    number.CarryTo(number.Caret());
 }
 
-// A separator over which the caret has just been carried is taken as typed: 123.45 may be typed as it is read.
-void EnterRefused(EditInstance& edit, const NumericEntry& entry)
+// A character that is no digit and stands at the caret is passed. The sign's own key, and the point's before the number, mean more.
+bool IsShownAtCaret(const EditInstance& edit, const NumberEdit& number, Char typed)
 {
-    if (IsCarriedLiteral(edit, entry.text, entry.carried, entry.position, entry.typed))
-        return;
-    if (entry.typed == entry.decimalChar && edit.decimalPlaces != 0)
-        EnterPoint(edit, entry);
+    if (typed == Char{} || typed != number.Under() || IsDigit(typed) || IsSign(typed))
+        return false;
+    const ShownNumber& shown = number.Shown();
+    const bool onLiteral = number.Caret() < shown.Start() || number.Caret() >= shown.End();
+    return !IsDecimalChar(edit, typed) || number.Caret() == shown.Point() || (onLiteral && number.Caret() > 0);
+}
+
+// ---- digits
+
+void LeaveLiterals(NumberEdit& number)
+{
+    const ShownNumber& shown = number.Shown();
+    if (shown.Sign() >= 0 && number.Caret() <= shown.Sign() && number.Caret() >= shown.Start()) {
+        TypedNumber unsigned_ = number.Digits();
+        unsigned_.negative = false;
+        return number.LayOut(unsigned_, shown.Front());
+    }
+    number.MoveTo(std::clamp(number.Caret(), shown.Start(), std::max(shown.End(), shown.Start())));
+}
+
+Outcome TypeIntoFraction(NumberEdit& number, const NumericKey& key, int32_t index)
+{
+    const int32_t places = number.Mask().shape.fractionPlaces;
+    if (index >= places)
+        return Outcome::Dropped;
+    TypedNumber typed = number.Digits();
+    const auto at = static_cast<size_t>(index);
+    if (key.insertsIntoFraction || index >= Length(typed.fraction))
+        typed.fraction.insert(std::min(at, typed.fraction.size()), 1, key.typed);
     else
-        Refuse(edit, entry);
+        typed.fraction[at] = key.typed;
+    typed.fraction.resize(std::min(typed.fraction.size(), static_cast<size_t>(places)));
+    number.LayOut(typed, {true, index + 1});
+    return index + 1 == places ? Outcome::Filled : Outcome::Taken;
 }
 
-// Directly behind a digit just typed before a percent sign the next digit belongs to the number.
-bool IsBehindInserted(const EditInstance& edit, const NumericEntry& entry)
+// Behind an integer digit that was placed with right digits behind it: from a full part the caret goes on over the separators, and over
+// the point where there is a fraction.
+Outcome GoOn(EditInstance& edit, NumberEdit& number, int32_t right)
 {
-    const CarriedOver& last = entry.carried;
-    return edit.typedFractionChar[0] && last.to != 0 && last.to == entry.position && last.from == last.to;
+    if (number.Mask().Grows() && number.FitsOneMore())
+        return Outcome::Taken;
+    edit.flags |= CHARWISE;
+    const ShownNumber& shown = number.Shown();
+    if (right == 0 && edit.decimalPlaces == 0)
+        return Outcome::Filled;
+    const int32_t next = right == 0 ? shown.Point() + 1 : shown.NextDigit(number.Caret());
+    if (next != number.Caret())
+        number.CarryTo(next);
+    return Outcome::Taken;
 }
 
-// On a literal: before the number the character goes to its start, on a separator it goes to the digits there, anywhere
-// else it is refused.
-bool LeaveLiteral(EditInstance& edit, NumericEntry& entry)
+// right: integer digits behind the place. Zeros in front that nobody typed hold no place, and one that is typed there is dropped.
+Outcome InsertDigit(EditInstance& edit, NumberEdit& number, Char digit, int32_t right)
 {
-    const MaskPosition mask = PositionAt(edit, entry.text, entry.position);
-    if (mask.IsEditable())
-        return true;
-    if (entry.position < edit.firstFieldPos) {
-        entry.position = edit.firstFieldPos;
-        PlaceCaret(edit, entry.position);
-        return true;
+    TypedNumber typed = number.Digits();
+    typed.integer = number.HeldInteger();
+    const int32_t behind = std::min(right, Length(typed.integer));
+    if (digit != '0' || behind < Length(typed.integer))
+        typed.integer.insert(typed.integer.size() - static_cast<size_t>(behind), 1, digit);
+    number.LayOut(typed, {false, behind});
+    return GoOn(edit, number, behind);
+}
+
+Outcome OverwriteDigit(EditInstance& edit, NumberEdit& number, const NumericKey& key, int32_t right)
+{
+    TypedNumber typed = number.Digits();
+    if (right == 0) {
+        if (number.Mask().shape.room == 0 && key.typed == '0')
+            return Outcome::Taken;  // 0.5 may be typed where only .5 is shown
+        return edit.decimalPlaces != 0 ? TypeIntoFraction(number, key, 0) : Outcome::Refused;
     }
-    const bool separator = !mask.escaped && (mask.character == '.' || mask.character == ',');
-    return separator || IsBehindInserted(edit, entry);
+    typed.integer[typed.integer.size() - static_cast<size_t>(right)] = key.typed;
+    number.LayOut(typed, {false, right - 1});
+    return GoOn(edit, number, right - 1);
 }
 
-// The decimal character is never overwritten: a digit goes to the first fraction digit, a sign is inserted before it.
-// False when the number has no fraction digit to go to.
-bool SparePoint(EditInstance& edit, NumericEntry& entry)
+Outcome TypeDigit(EditInstance& edit, NumberEdit& number, const NumericKey& key)
 {
-    if (!edit.typedChar[0] || entry.Under() != entry.decimalChar)
-        return true;
-    if (!entry.IsDigitTyped()) {
-        std::copy(std::begin(edit.typedChar), std::end(edit.typedChar), std::begin(edit.typedFractionChar));
-        edit.typedChar[0] = Char{};
-        return true;
+    LeaveLiterals(number);
+    const DigitPlace place = number.Shown().PlaceAt(number.Caret());
+    if (place.inFraction)
+        return TypeIntoFraction(number, key, place.digits);
+    if (number.Mask().Grows() && number.FitsOneMore())
+        return InsertDigit(edit, number, key.typed, place.digits);
+    return OverwriteDigit(edit, number, key, place.digits);
+}
+
+// ---- sign and point
+
+Outcome TypeSign(NumberEdit& number, Char typed)
+{
+    if (!number.Shown().IsAtFront(number.Caret()))
+        return Outcome::Refused;
+    TypedNumber digits = number.Digits();
+    if (typed == '+' && !digits.negative)
+        return Outcome::Taken;  // not shown
+    digits.negative = typed == '-';
+    number.LayOut(digits, number.Shown().Front());
+    return Outcome::Taken;
+}
+
+// Typed inside the integer part it drops the digits between the caret and the point.
+Outcome TypePoint(EditInstance& edit, NumberEdit& number)
+{
+    const ShownNumber& shown = number.Shown();
+    if (shown.IsInFraction(number.Caret()))
+        return Outcome::Refused;
+    TypedNumber typed = number.Digits();
+    if (number.Mask().Grows())
+        typed.integer = number.HeldInteger();
+    const int32_t dropped = std::min(shown.PlaceAt(number.Caret()).digits, Length(typed.integer));
+    typed.integer.resize(typed.integer.size() - static_cast<size_t>(dropped));
+    number.LayOut(typed, {true, 0});
+    ChooseEditMode(edit);
+    MarkWhenFull(edit, number);
+    return Outcome::Taken;
+}
+
+// ---- one key
+
+// Nothing is left to fill behind the caret.
+bool IsBehindNumber(const EditInstance& edit, const NumberEdit& number)
+{
+    const ShownNumber& shown = number.Shown();
+    if (edit.decimalPlaces != 0)
+        return shown.IsInFraction(number.Caret()) && shown.PlaceAt(number.Caret()).digits >= edit.decimalPlaces;
+    return number.IsBehindText() && !(number.Mask().Grows() && number.FitsOneMore());
+}
+
+// The number laid anew, with the caret among the same digits.
+void Relay(NumberEdit& number)
+{
+    TypedNumber digits = number.Digits();
+    if (number.Mask().Grows())
+        digits.integer.erase(0, std::min(digits.integer.find_first_not_of(Char{'0'}), digits.integer.size()));
+    const int32_t caret = number.Caret();
+    const Text before = number.Shown().Shown();
+    number.LayOut(digits, number.Shown().PlaceAt(caret));
+    if (number.Shown().Shown() == before)
+        number.MoveTo(caret);
+}
+
+Outcome Enter(EditInstance& edit, NumberEdit& number, const NumericKey& key)
+{
+    if (IsSpelled(edit, number, key)) {
+        PassSpelled(edit, number, key.spelled);
+        return Outcome::Taken;
     }
-    ++entry.position;
-    return edit.decimalPlaces != 0 || IsDigit(entry.Under());
-}
-
-void EnterMinus(EditInstance& edit, const NumericEntry& entry)
-{
-    if (edit.typedChar[0]) {
-        edit.field->Select(entry.position, entry.position + 1);
-        edit.field->ReplaceSelection(edit.typedChar);
-        PlaceCaret(edit, Caret(edit));
-    } else if (edit.typedFractionChar[0]) {
-        edit.field->TypeChar(entry.typed, entry.keyData);
-        PlaceCaret(edit, entry.position + 1);
+    if (IsShownAtCaret(edit, number, key.typed)) {
+        number.MoveTo(number.Caret() + 1);
+        return Outcome::Taken;
     }
+    if (IsBehindNumber(edit, number))
+        return Outcome::Dropped;
+    if (IsDigit(key.typed))
+        return TypeDigit(edit, number, key);
+    if (IsSign(key.typed))
+        return TypeSign(number, key.typed);
+    return IsDecimalChar(edit, key.typed) ? TypePoint(edit, number) : Outcome::Refused;
 }
 
-// An overwritten integer digit makes the number be laid anew, an overwritten fraction digit only be painted. Returns where
-// the caret stands.
-int32_t LayOverwritten(EditInstance& edit, const NumericEntry& entry, int32_t caret)
+void Finish(EditInstance& edit, NumberEdit& number, Outcome outcome)
 {
-    if (caret < entry.Point()) {
-        if (ReformatNumber(edit) != 0)
-            caret = PointOf(edit, edit.field->ReadText()) + 1;
-    } else {
-        edit.field->SetRedraw(true);
-        if (Has(edit, PERCENT))
-            ReformatNumber(edit);
-        edit.field->SetText(edit.field->ReadText().c_str());
-        edit.field->KeepLayout();
-    }
-    PlaceCaret(edit, caret);
-    return caret;
-}
-
-// Behind the digit that has taken the sign's place, or else behind where the sign was.
-void PlaceBehindSign(const EditInstance& edit, const NumericEntry& entry, const Text& placed, int32_t behind)
-{
-    const DigitPlace place = DigitPlaceOf(placed, behind, entry.decimalChar);
-    const int32_t caret = PositionOf(edit.field->ReadText(), place, entry.decimalChar);
-    PlaceCaret(edit, entry.IsDigitTyped() && caret > 0 ? caret : 1);
-}
-
-// Returns the position from which the caret passes separators.
-int32_t Overwrite(EditInstance& edit, const NumericEntry& entry)
-{
-    const bool layAnew = edit.decimalPlaces != 0 && !Has(edit, CHARWISE);
-    if (layAnew)
-        edit.field->SetRedraw(false);
-    edit.field->Select(entry.position, entry.position + static_cast<int32_t>(TextLength(edit.typedChar)));
-    edit.field->ReplaceSelection(edit.typedChar);
-    const int32_t behind = Caret(edit);
-    if (edit.decimalPlaces == 0)
-        return behind;
-    const bool tookSign = entry.Under() == '-';
-    const Text placed = tookSign ? edit.field->ReadText() : Text();
-    const int32_t caret = layAnew ? LayOverwritten(edit, entry, behind) : behind;
-    if (tookSign)
-        PlaceBehindSign(edit, entry, placed, behind);
-    return caret;
-}
-
-// Where the caret goes after the number was laid anew around an inserted character: by as much as the text has grown, and
-// behind the digit just placed where that would be another place. A leading 0 that was dropped again is no digit placed.
-int32_t BehindInserted(const EditInstance& edit, const NumericEntry& entry, const Text& inserted, int32_t behind,
-                       int32_t growth)
-{
-    if (entry.text.empty() && !entry.IsDigitTyped() && edit.decimalPlaces != 0)
-        return edit.firstFieldPos;
-    const Text text = edit.field->ReadText();
-    const auto placeIn = [&](const Text& shown, int32_t at) { return DigitPlaceOf(shown, at, entry.decimalChar); };
-    const DigitPlace place = placeIn(inserted, behind);
-    const bool dropped = placeIn(text, 0).digits < placeIn(inserted, 0).digits;
-    const bool moved = entry.IsDigitTyped() && !dropped && !(placeIn(text, behind + growth) == place);
-    return entry.IsEmptied() || moved ? PositionOf(text, place, entry.decimalChar) : behind + growth;
-}
-
-// Inserts before the point and lays the number anew; the caret stays behind the digit just placed.
-int32_t Insert(EditInstance& edit, const NumericEntry& entry)
-{
-    edit.field->SetRedraw(false);
-    for (const Char* c = edit.typedFractionChar; *c; ++c)
-        edit.field->TypeChar(*c, entry.keyData);
-    const int32_t behind = Caret(edit);
-    const Text inserted = edit.field->ReadText();
-    const int32_t growth = ReformatNumber(edit, entry.text.empty() ? LeadingEscapes(edit) + inserted : inserted);
-    const int32_t caret = BehindInserted(edit, entry, inserted, behind, growth);
-    PlaceCaret(edit, caret);
-    edit.carriedFrom = edit.carriedTo = caret;
-    return caret;
-}
-
-// With the integer part full the caret passes separators; at the end of the field the focus may move on.
-void GoOn(EditInstance& edit, int32_t caret)
-{
-    const Text text = edit.field->ReadText();
-    if (edit.decimalPlaces != 0) {
-        ChooseCharwiseByPoint(edit, text);
-        if (caret >= PointOf(edit, text) + edit.decimalPlaces + 1)
-            return MoveOnWhenFull(edit);
-    } else if (edit.displayLength == Length(text)) {
-        edit.flags |= CHARWISE;
-    }
-    if (Has(edit, CHARWISE) && !SkipLiterals(edit, text, caret))
+    if (outcome == Outcome::Refused)
+        Relay(number);
+    number.Show();
+    if (outcome == Outcome::Refused)
+        edit.field->Beep();
+    else if (outcome == Outcome::Filled)
         MoveOnWhenFull(edit);
 }
 
-void EnterAccepted(EditInstance& edit, NumericEntry& entry)
+bool IsTypedInto(const EditInstance& edit)
 {
-    if (!LeaveLiteral(edit, entry) || !SparePoint(edit, entry))
-        return edit.field->Beep();
-    if (entry.typed == '-')
-        return EnterMinus(edit, entry);
-    int32_t caret = entry.position;
-    if (edit.typedChar[0])
-        caret = Overwrite(edit, entry);
-    else if (edit.typedFractionChar[0])
-        caret = Insert(edit, entry);
-    GoOn(edit, caret);
-}
-
-// Behind the last position, or behind the last fraction digit: characters are dropped without a beep.
-bool IsFull(const EditInstance& edit, const NumericEntry& entry)
-{
-    if (entry.position > edit.displayLength - 1)
-        return true;
-    return edit.decimalPlaces != 0 && entry.position >= entry.Point() + edit.decimalPlaces + 1;
+    return !edit.table->number.isGeneral;
 }
 
 }  // namespace
 
-void EnterNumericChar(EditInstance& edit, Char typed, int32_t caret, KeyData keyData)
+// A separator over which typing has just carried the caret is taken as typed: 123.45 may be typed as it is read.
+void EnterNumericChar(EditInstance& edit, Char typed, Selection selection)
 {
     edit.field->KeepLayout();
-    ForgetVerdict(edit);
-    NumericEntry entry{
-        typed, keyData, caret, edit.field->ReadText(), TakeCarriedOver(edit), edit.settings->decimalChar};
-    if (IsFull(edit, entry))
+    const CarriedOver carried = TakeCarriedOver(edit);
+    const int32_t spelled = std::exchange(edit.spelled, 0);
+    if (!IsTypedInto(edit) || (IsControl(typed) && !selection.IsEmpty()))
+        return edit.field->Beep();
+    NumberEdit number(edit, selection.start);
+    NumericKey key = {typed, carried, 0, false};
+    if (!selection.IsEmpty()) {
+        key.insertsIntoFraction = number.Mask().Grows() && number.Shown().IsInFraction(selection.start);
+        SetFlag(edit, CHARWISE, false);
+        DeleteSelected(number, selection);
+    } else if (carried.to != 0 && carried.to == selection.start) {
+        key.spelled = spelled;
+        if (IsCarriedLiteral(edit, number.Shown().Shown(), carried, selection.start, typed))
+            return;
+    }
+    Finish(edit, number, Enter(edit, number, key));
+}
+
+void BackspaceInNumber(EditInstance& edit, Selection selection)
+{
+    if (!IsTypedInto(edit))
         return;
-    const Verdict verdict = ValidateNumberDigit({edit, entry.text, entry.position, typed});
-    if (!verdict.accepted)
-        return EnterRefused(edit, entry);
-    KeepVerdict(edit, verdict);
-    EnterAccepted(edit, entry);
+    SetFlag(edit, CHARWISE, false);
+    NumberEdit number(edit, selection.start);
+    if (selection.IsEmpty())
+        DeleteDigitBefore(number);
+    else
+        DeleteSelected(number, selection);
+    number.Show();
+}
+
+void DeleteInNumber(EditInstance& edit, Selection selection)
+{
+    if (!IsTypedInto(edit))
+        return;
+    SetFlag(edit, CHARWISE, false);
+    NumberEdit number(edit, selection.start);
+    if (selection.IsEmpty())
+        DeleteDigitAt(number);
+    else
+        DeleteSelected(number, selection);
+    number.Show();
+}
+
+void CompleteNumber(EditInstance& edit)
+{
+    if (!IsNumeric(edit.dataType) || !HasMask(edit) || !IsTypedInto(edit))
+        return;
+    const Selection selection = edit.field->ReadSelection();
+    NumberEdit number(edit, selection.start);
+    TypedNumber digits = number.Digits();
+    if (!std::exchange(digits.negative, false))
+        return;
+    const DigitPlace place = number.Shown().PlaceAt(selection.start);
+    number.LayOut(digits, place);
+    if (number.IsBlank())
+        number.Show();
 }
 
 }  // namespace zte

@@ -38,7 +38,7 @@ bool SetFromText(EditInstance& edit, const Text& text)
         SetData(edit, data.c_str());
         return true;
     }
-    if (!services::IsNumber(data.c_str(), *edit.settings))
+    if (!IsNumberOf(edit, data))
         return false;
     if (edit.dataType == DT_NUMBER)
         SetNumber(edit, data);

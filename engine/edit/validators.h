@@ -5,12 +5,9 @@
 
 namespace zte {
 
-// The verdict of the kind of position that the entry stands at; refused on literals and for control characters. Numbers have a
-// validator of their own, ValidateNumberDigit.
+// The verdict of the kind of position that the entry stands at; refused on literals and for control characters. Numbers are typed
+// digit by digit instead (numeric_entry.h).
 Verdict Validate(const Entry& entry);
-
-// Numbers and decimals (number_validator.cpp).
-Verdict ValidateNumberDigit(const Entry& entry);
 
 // Date fields (date_validators.cpp).
 Verdict ValidateYear(const Entry& entry);

@@ -28,8 +28,6 @@ struct Verdict {
 
     bool accepted = false;
     bool padded = false;    // a padded digit or the rest of a month name: two or more positions at once
-    bool inserts = false;   // the text is inserted into the number, which is then laid anew, instead of overwriting
-    bool charwise = false;  // from here on the number is edited position by position
     Char placed[kRoom] = {};
 
     static Verdict Refused() { return {}; }
@@ -46,12 +44,6 @@ struct Verdict {
     {
         Verdict verdict = Placing(text);
         verdict.padded = true;
-        return verdict;
-    }
-    static Verdict Inserting(Char c)
-    {
-        Verdict verdict = Placing(c);
-        verdict.inserts = true;
         return verdict;
     }
 };

@@ -4,6 +4,7 @@
 #include "engine/format/code_table.h"
 #include "engine/format/date_text.h"
 #include "engine/format/display.h"
+#include "engine/format/number_value.h"
 #include "engine/mask/mask_table.h"
 #include "engine/values/number_text.h"
 
@@ -81,11 +82,11 @@ int32_t SetDataString(EditInstance& edit, const Char* text)
     if (!text)
         return SetData(edit, nullptr);
     if (edit.dataType == DT_NUMBER) {
-        const double number = NumberFromPlainText(text);
+        const double number = NumberFromPlainText(PlainNumberOf(edit, text).c_str());
         return SetData(edit, &number);
     }
     if (edit.dataType == DT_DECIMAL) {
-        const DecimalValue decimal = services::DecimalOf(text, edit.decimalPlaces);
+        const DecimalValue decimal = services::DecimalOf(PlainNumberOf(edit, text).c_str(), edit.decimalPlaces);
         return SetData(edit, &decimal);
     }
     if (IsDateOrTime(edit.dataType) && edit.mask) {
@@ -98,7 +99,7 @@ int32_t SetDataString(EditInstance& edit, const Char* text)
 void ChooseEditMode(EditInstance& edit)
 {
     const bool hasLiterals = (edit.formatFlags & FORMAT_HAS_LITERALS) != 0;
-    SetFlag(edit, CHARWISE, hasLiterals || !IsNumeric(edit.dataType) || !edit.table->hasHash);
+    SetFlag(edit, CHARWISE, hasLiterals || !IsNumeric(edit.dataType) || !edit.table->number.Grows());
 }
 
 }  // namespace zte

@@ -4,7 +4,6 @@
 #include "engine/format/data.h"
 #include "engine/mask/mask_choice.h"
 #include "engine/mask/mask_table.h"
-#include "engine/mask/number_mask.h"
 #include "engine/values/date_time.h"
 
 namespace zte {
@@ -51,9 +50,9 @@ int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
     FieldLayout layout = LayoutOf(edit);
     const ChosenMask chosen = ChooseMask(mask ? mask : Text(), dataType, *edit.settings, layout);
     KeepLayout(edit, layout);
-    InstallMask(edit, chosen.text);
-    edit.decimalPlaces = IsNumeric(dataType) ? CountDecimalPlaces(chosen.text) : 0;
-    SetFlag(edit, PERCENT, IsNumeric(dataType) && Find(chosen.text, '%') >= 0);
+    InstallMask(edit, chosen.text, chosen.unitsForced);
+    edit.decimalPlaces = edit.table->number.shape.fractionPlaces;
+    SetFlag(edit, PERCENT, edit.table->number.shape.percent);
     SetFlag(edit, SPUN, false);
     edit.maskJustSet = 1;
     edit.carriedTo = 0;

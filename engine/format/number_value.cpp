@@ -1,10 +1,191 @@
 // Number texts with the regional decimal character, and the values that they stand for; percentages.
 #include "engine/format/number_value.h"
 
+#include <algorithm>
+
+#include "engine/mask/mask_table.h"
 #include "engine/services.h"
+#include "engine/text/ascii.h"
 #include "engine/values/number_text.h"
 
 namespace zte {
+
+namespace {
+
+constexpr size_t kGroupSize = 3;
+constexpr size_t kPercentDigits = 2;
+
+bool IsGeneral(const EditInstance& edit)
+{
+    return edit.table && edit.table->number.isGeneral;
+}
+
+bool IsExponentSign(const EditInstance& edit, Char c)
+{
+    return IsGeneral(edit) && AsciiUpper(c) == 'E';
+}
+
+// Digits, signs and decimal characters. Where the separators are equal there is no grouping.
+Text Kept(const EditInstance& edit, const Text& text, int32_t from, int32_t to)
+{
+    Text kept;
+    for (int32_t i = from; i < to; ++i) {
+        const Char c = At(text, i);
+        if (IsDigit(c) || IsSign(c) || c == edit.settings->decimalChar || IsExponentSign(edit, c))
+            kept += c;
+    }
+    return kept;
+}
+
+bool IsZero(const Text& number)
+{
+    return std::none_of(number.begin(), number.end(), [](Char c) { return IsDigit(c) && c != '0'; });
+}
+
+bool IsLoneSign(const Text& number)
+{
+    return number.size() == 1 && IsSign(number[0]);
+}
+
+// Zero has no sign, also while one is being typed before it.
+Text WithoutSignOfZero(const Text& number)
+{
+    return !number.empty() && number[0] == '-' && IsZero(number) ? number.substr(1) : number;
+}
+
+// The point moved two digits to the left, in the plain form: digits only, so that not one is lost.
+Text Hundredth(const Text& percentage, Char decimalChar)
+{
+    const bool negative = !percentage.empty() && percentage[0] == '-';
+    Text integer = percentage.substr(!percentage.empty() && IsSign(percentage[0]) ? 1 : 0);
+    Text fraction;
+    const int32_t point = Find(integer, decimalChar);
+    if (point >= 0) {
+        fraction = integer.substr(static_cast<size_t>(point) + 1);
+        integer.resize(static_cast<size_t>(point));
+    }
+    integer.insert(0, kPercentDigits, '0');
+    fraction.insert(0, integer, integer.size() - kPercentDigits, kPercentDigits);
+    integer.resize(integer.size() - kPercentDigits);
+    integer.erase(0, std::min(integer.find_first_not_of(Char{'0'}), integer.size()));
+    fraction.resize(fraction.find_last_not_of(Char{'0'}) + 1);
+
+    Text value = negative && !(integer.empty() && fraction.empty()) ? FromAscii("-") : Text();
+    value += integer.empty() ? FromAscii("0") : integer;
+    return fraction.empty() ? value : value + decimalChar + fraction;
+}
+
+Text WithoutSymbol(Text text, const Settings& settings)
+{
+    const Text symbol = settings.currencySymbol;
+    const size_t at = symbol.empty() ? Text::npos : text.find(symbol);
+    return at == Text::npos ? text : text.erase(at, symbol.size());
+}
+
+// ---- texts handed in
+
+// Reads a number as it is shown, character by character.
+class ShownReader {
+public:
+    explicit ShownReader(const EditInstance& edit, const Text& text) : edit_(edit), at_(text.c_str()) {}
+
+    // False when the text is none, or more.
+    bool Read()
+    {
+        TakeSign();
+        if (!TakeInteger())
+            return false;
+        if (*at_ == edit_.settings->decimalChar)
+            TakeFraction();
+        if (digits_ == 0)
+            return false;
+        TakeExponent();
+        percentage_ = *at_ == '%';
+        at_ += percentage_ ? 1 : 0;
+        return *at_ == Char{};
+    }
+
+    const Text& Plain() const { return plain_; }
+    bool IsPercentage() const { return percentage_; }
+
+private:
+    void TakeSign()
+    {
+        if (!IsSign(*at_))
+            return;
+        if (*at_ == '-')
+            plain_ += *at_;
+        ++at_;
+    }
+
+    size_t TakeDigits()
+    {
+        const Char* from = at_;
+        while (IsDigit(*at_))
+            plain_ += *at_++;
+        digits_ += static_cast<size_t>(at_ - from);
+        return static_cast<size_t>(at_ - from);
+    }
+
+    // Groups of three from the first separator on, or none.
+    bool TakeInteger()
+    {
+        const size_t first = TakeDigits();
+        const Char separator = edit_.settings->thousandChar;
+        if (separator == edit_.settings->decimalChar || first == 0 || first > kGroupSize)
+            return true;
+        while (*at_ == separator) {
+            ++at_;
+            if (TakeDigits() != kGroupSize)
+                return false;
+        }
+        return true;
+    }
+
+    void TakeFraction()
+    {
+        plain_ += Char{'.'};
+        ++at_;
+        TakeDigits();
+    }
+
+    void TakeExponent()
+    {
+        if (!IsExponentSign(edit_, *at_))
+            return;
+        plain_ += *at_++;
+        if (IsSign(*at_))
+            plain_ += *at_++;
+        while (IsDigit(*at_))
+            plain_ += *at_++;
+    }
+
+    const EditInstance& edit_;
+    const Char* at_;
+    Text plain_;
+    size_t digits_ = 0;
+    bool percentage_ = false;
+};
+
+// The text without the literals that the mask, or the settings, put around a number; a sign may stand before a symbol.
+Text Bare(const EditInstance& edit, const Text& text)
+{
+    const NumberMask& mask = edit.table->number;
+    const ShownNumber shown(mask, *edit.settings, text);
+    const bool percentage = At(text, Length(text) - 1) == '%';
+    Text bare = Slice(text, shown.Start(), shown.End() - shown.Start());
+    bare = WithoutSymbol(bare, *edit.settings);
+    if (percentage && (bare.empty() || bare.back() != '%'))
+        bare += Char{'%'};
+    return bare;
+}
+
+bool IsCanonical(const Text& text)
+{
+    return IsNumberText(text.c_str(), Char{'.'});
+}
+
+}  // namespace
 
 double NumberFromText(const EditInstance& edit, const Text& text)
 {
@@ -24,6 +205,41 @@ double FromPercentage(double percentage)
 DecimalValue FromPercentage(const DecimalValue& percentage)
 {
     return services::Divide(percentage, services::DecimalOf(100));
+}
+
+Text NumberShown(const EditInstance& edit, const Text& text)
+{
+    const ShownNumber shown(edit.table->number, *edit.settings, text);
+    const Text kept = Kept(edit, text, shown.Start(), shown.End());
+    if (IsLoneSign(kept) && shown.Start() == 0 && shown.End() == 1)
+        return FromAscii("0");
+    const Text number = WithoutSignOfZero(kept);
+    return Has(edit, PERCENT) ? Hundredth(number, edit.settings->decimalChar) : number;
+}
+
+Text NumberIn(const EditInstance& edit, const Text& text)
+{
+    const Text bare = Bare(edit, text);
+    return Kept(edit, bare, 0, Length(bare));
+}
+
+bool IsNumberOf(const EditInstance& edit, const Text& text)
+{
+    if (services::IsNumber(text.c_str(), *edit.settings))
+        return true;
+    ShownReader reader(edit, text);
+    return IsGeneral(edit) && reader.Read() && !reader.IsPercentage();
+}
+
+Text PlainNumberOf(const EditInstance& edit, const Text& text)
+{
+    if (!edit.table || IsCanonical(text))
+        return text;
+    const Text bare = Bare(edit, text);
+    ShownReader reader(edit, bare);
+    if (!reader.Read() || (reader.IsPercentage() && !Has(edit, PERCENT)))
+        return text;
+    return reader.IsPercentage() ? Hundredth(reader.Plain(), Char{'.'}) : reader.Plain();
 }
 
 }  // namespace zte

@@ -9,7 +9,6 @@
 #include "engine/format/number_value.h"
 #include "engine/heap_block.h"
 #include "engine/mask/mask_table.h"
-#include "engine/text/ascii.h"
 
 namespace zte {
 
@@ -18,40 +17,26 @@ namespace {
 constexpr int16_t kYear2000 = 100;
 constexpr int16_t kYearZero = -kFirstYear;
 
-// Whether the text comes from the caller (only '.' positions are kept beside the fields) or from the window.
+// Whether the text comes from the caller or from the window.
 enum class Source { Caller, Window };
 
-bool IsKept(const EditInstance& edit, Char shown, const MaskPosition& mask, Source source)
-{
-    if (mask.escaped)
-        return false;
-    if (IsNumeric(edit.dataType)) {
-        if (source == Source::Window && shown == edit.settings->thousandChar)
-            return false;
-        if (mask.character == '.' || (source == Source::Window && mask.character == ',' && IsDigit(shown)))
-            return true;
-    }
-    return mask.IsEditable();
-}
-
 // The characters at field positions, without the literals; the whole text where there is no mask.
-Text FieldCharacters(const EditInstance& edit, const Text& text, Source source)
+Text FieldCharacters(const EditInstance& edit, const Text& text)
 {
     if (!HasMask(edit))
         return text;
     Text kept;
     for (int32_t i = 0; i < Length(text); ++i)
-        if (IsKept(edit, At(text, i), PositionAt(edit, text, i), source))
+        if (PositionOf(edit, i).IsEditable())
             kept += At(text, i);
     return kept;
 }
 
-// A percentage as the fraction it stands for, in the plain form.
-Text FractionText(const EditInstance& edit, const Text& percentage)
+Text Characters(const EditInstance& edit, const Text& text, Source source)
 {
-    services::NumberFormat general;
-    services::CompileFormat(general, FromAscii("[GENERAL]"));
-    return services::FormatDouble(general, FromPercentage(NumberFromText(edit, percentage)), *edit.settings);
+    if (!IsNumeric(edit.dataType))
+        return FieldCharacters(edit, text);
+    return source == Source::Window ? NumberShown(edit, text) : NumberIn(edit, text);
 }
 
 // The data value of the code-table entry shown, or null.
@@ -159,8 +144,7 @@ Text ReadShownText(const EditInstance& edit, const Text& text)
 {
     if (const Char* code = CodeValue(edit, text))
         return code;
-    const Text kept = FieldCharacters(edit, text, Source::Window);
-    return IsNumeric(edit.dataType) && Has(edit, PERCENT) ? FractionText(edit, kept) : kept;
+    return Characters(edit, text, Source::Window);
 }
 
 void* GetData(const EditInstance& edit)
@@ -188,7 +172,7 @@ Text UnformatText(const EditInstance& edit, const Text& text)
 {
     if (const Char* code = CodeValue(edit, text))
         return code;
-    return FieldCharacters(edit, text, Source::Caller);
+    return Characters(edit, text, Source::Caller);
 }
 
 // Dates and times are read as canonical text only: what is pasted comes in that form.
@@ -200,7 +184,7 @@ void* UnformatData(const EditInstance& edit, const Char* text)
         return DuplicateCode(edit, code);
     if (IsDateOrTime(edit.dataType))
         return NewDateTime(edit, CanonicalValue(edit, text));
-    return Duplicate(edit, FieldCharacters(edit, text, Source::Caller));
+    return Duplicate(edit, Characters(edit, text, Source::Caller));
 }
 
 }  // namespace zte

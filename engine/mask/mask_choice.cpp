@@ -105,14 +105,15 @@ ChosenMask ChooseMask(const Text& mask, int32_t dataType, const Settings& settin
     layout.hasAmPm = false;
     if (const Expansion expansion = ExpandKeyword(mask, settings)) {
         CheckMask(*expansion, dataType, settings, layout);
-        return {*expansion, true};
+        const bool isCurrency = !FindKeyword(mask.c_str());
+        return {*expansion, true, isCurrency && settings.currencyDigits == 0};
     }
     if (IsAcceptable(mask, dataType, settings, layout))
-        return {mask, true};
+        return {mask, true, false};
     if (dataType == DT_DATE || dataType == DT_DATETIME)
         layout.yearDigits = 2;
     layout.hasAmPm = false;
-    return {FromAscii(DefaultMask(dataType)), false};
+    return {FromAscii(DefaultMask(dataType)), false, false};
 }
 
 bool IsPictureKeyword(const Char* mask)

@@ -10,6 +10,7 @@ namespace zte {
 struct ChosenMask {
     Text text;
     bool asGiven;  // false: the mask was refused for its type, and the type's default stands in
+    bool unitsForced;  // an amount of a currency without fractions: nothing is shown as 0
 };
 
 // Expands keywords and checks the mask. What the checks see of date and time fields is written into layout.

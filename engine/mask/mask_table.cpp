@@ -15,23 +15,14 @@ namespace {
 
 constexpr char kDefaultFormat[] = "#,#.00";
 
-// The mask character that stands for what a number shows at a position.
-Char NumericMaskChar(const EditInstance& edit, Char shown, int32_t position)
+// What a number shows at a position: digits do not stand under their placeholders. At the end of the text a digit may follow.
+MaskPosition NumberPositionAt(const EditInstance& edit, const Text& text, int32_t position)
 {
-    if (shown == Char{} || IsSign(shown))
-        return '#';
-    if (IsDigit(shown))
-        return position < edit.table->textLength && edit.mask[position] == '0' ? Char{'0'} : Char{'#'};
-    if (shown == edit.settings->decimalChar)
-        return '.';
-    return shown == edit.settings->thousandChar ? Char{','} : shown;
-}
-
-// The digits of a number do not stand under their placeholders, unless its point is escaped.
-bool FollowsDigits(const Text& mask, int32_t dataType)
-{
-    const int32_t point = Find(mask, '.');
-    return IsNumeric(dataType) && !(point > 0 && At(mask, point - 1) == '~');
+    const ShownNumber shown(edit.table->number, *edit.settings, text);
+    const Char character = At(text, position);
+    const bool inNumber = position >= shown.Start() && (position < shown.End() || position >= Length(text));
+    const bool editable = inNumber && (character == Char{} || IsSign(character) || IsDigit(character));
+    return {character, editable ? FieldKind::NumberDigit : FieldKind::Literal, false, true, 0, 0};
 }
 
 // The first run of a letter, in either case, that is not escaped.
@@ -54,68 +45,101 @@ int32_t CountShown(const Text& mask)
     return static_cast<int32_t>(std::count_if(mask.begin(), mask.end(), [](Char c) { return c != '~'; }));
 }
 
-// Where the parts of a mask's block stand, in bytes.
-struct BlockLayout {
-    size_t table;
-    size_t positions;
-    size_t format;
-    size_t size;
+// Lays the parts of a mask's block out, one behind the other.
+class BlockLayout {
+public:
+    template <typename T>
+    size_t Take(size_t count)
+    {
+        const size_t at = (size_ + alignof(T) - 1) / alignof(T) * alignof(T);
+        size_ = at + count * sizeof(T);
+        return at;
+    }
+    size_t Size() const { return size_; }
+
+private:
+    size_t size_ = 0;
 };
 
-constexpr size_t AlignUp(size_t size, size_t alignment)
-{
-    return (size + alignment - 1) / alignment * alignment;
-}
-
-BlockLayout LayOutBlock(const Text& mask, size_t positions, bool isNumber)
-{
-    BlockLayout layout{};
-    layout.table = AlignUp((mask.size() + 1) * sizeof(Char), alignof(MaskTable));
-    layout.positions = AlignUp(layout.table + sizeof(MaskTable), alignof(MaskPosition));
-    layout.format = AlignUp(layout.positions + positions * sizeof(MaskPosition), alignof(services::NumberFormat));
-    layout.size = layout.format + (isNumber ? sizeof(services::NumberFormat) : 0);
-    return layout;
-}
+// What a number's mask is compiled into, before it has a place.
+struct NumberParts {
+    services::NumberFormat compiled;
+    Text format;
+    Text before;
+    Text behind;
+};
 
 // A mask that is no format (it came from a keyword) is shown by the default one.
-void CompileNumber(const EditInstance& edit, const Text& mask, services::NumberFormat& format, MaskTable& table)
+NumberParts CompileNumber(const Text& mask, bool unitsForced, const Settings& settings)
 {
-    if (!services::CompileFormat(format, DisplayFormatText(mask, edit.dataType)))
-        services::CompileFormat(format, FromAscii(kDefaultFormat));
-    table.format = &format;
-    table.hasLiterals = HasLiterals(mask, edit.dataType, *edit.settings);
-    table.firstPlaceholder = FirstPlaceholderPos(mask, edit.dataType);
+    NumberParts parts;
+    parts.format = DisplayFormatText(mask, settings);
+    if (unitsForced)
+        parts.format = WithUnitsForced(parts.format);
+    if (!services::CompileFormat(parts.compiled, parts.format)) {
+        parts.format = FromAscii(kDefaultFormat);
+        services::CompileFormat(parts.compiled, parts.format);
+    }
+    if (!IsGeneralFormat(parts.format.c_str())) {
+        parts.before = LiteralsBefore(parts.format.c_str());
+        parts.behind = LiteralsBehind(parts.format.c_str());
+    }
+    return parts;
 }
 
-}  // namespace
-
-MaskPosition PositionAt(const EditInstance& edit, const Text& text, int32_t position)
+const Char* Place(char* block, size_t offset, const Text& text)
 {
-    if (!edit.table->followsDigits)
-        return PositionOf(edit, position);
-    const Char character = NumericMaskChar(edit, At(text, position), position);
-    return {character, KindOf(character, edit.dataType), false, true, 0, 0};
+    auto* placed = reinterpret_cast<Char*>(block + offset);
+    std::char_traits<Char>::copy(placed, text.c_str(), text.size() + 1);
+    return placed;
 }
 
-const MaskPosition& PositionOf(const EditInstance& edit, int32_t position)
+MaskTable* NewMaskBlock(EditInstance& edit, const Text& mask, const BlockLayout& layout, size_t tableAt)
 {
-    const MaskTable& table = *edit.table;
-    if (position < 0 || table.followsDigits)
-        return kNoPosition;
-    return position < table.count ? table.positions[position] : table.beyond;
+    auto* block = static_cast<char*>(services::Allocate(edit.heap, static_cast<uint32_t>(layout.Size()), edit.heapFlags));
+    Place(block, 0, mask);
+    edit.mask = reinterpret_cast<Char*>(block);
+    auto* table = new (block + tableAt) MaskTable{};
+    edit.table = table;
+    edit.displayLength = CountShown(mask);
+    return table;
 }
 
-void InstallMask(EditInstance& edit, const Text& mask)
+void InstallNumberMask(EditInstance& edit, const Text& mask, bool unitsForced)
 {
-    DropMask(edit);
-    const bool isNumber = IsNumeric(edit.dataType);
+    const NumberParts parts = CompileNumber(mask, unitsForced, *edit.settings);
+    BlockLayout layout;
+    layout.Take<Char>(mask.size() + 1);
+    const size_t tableAt = layout.Take<MaskTable>(1);
+    const size_t compiledAt = layout.Take<services::NumberFormat>(1);
+    const size_t formatAt = layout.Take<Char>(parts.format.size() + 1);
+    const size_t beforeAt = layout.Take<Char>(parts.before.size() + 1);
+    const size_t behindAt = layout.Take<Char>(parts.behind.size() + 1);
+
+    MaskTable* table = NewMaskBlock(edit, mask, layout, tableAt);
+    auto* block = reinterpret_cast<char*>(edit.mask);
+    table->compiled = new (block + compiledAt) services::NumberFormat(parts.compiled);
+    table->hasLiterals = HasLiterals(mask, edit.dataType, *edit.settings);
+    NumberMask& number = table->number;
+    number.format = Place(block, formatAt, parts.format);
+    number.isGeneral = IsGeneralFormat(number.format);
+    if (!number.isGeneral)
+        number.shape = ReadShape(number.format);
+    number.before = {Place(block, beforeAt, parts.before), Length(parts.before)};
+    number.behind = {Place(block, behindAt, parts.behind), Length(parts.behind)};
+}
+
+void InstallFieldMask(EditInstance& edit, const Text& mask)
+{
     MaskPositions positions(mask, edit.dataType);
     const int32_t ampmPosition = Has(edit, AMPM) ? positions.MarkAmPm() : -1;
-    const BlockLayout layout = LayOutBlock(mask, positions.All().size(), isNumber);
+    BlockLayout layout;
+    layout.Take<Char>(mask.size() + 1);
+    const size_t tableAt = layout.Take<MaskTable>(1);
+    const size_t positionsAt = layout.Take<MaskPosition>(positions.All().size());
 
-    auto* block = static_cast<char*>(services::Allocate(edit.heap, static_cast<uint32_t>(layout.size), edit.heapFlags));
-    auto* table = new (block + layout.table) MaskTable{};
-    auto* placed = reinterpret_cast<MaskPosition*>(block + layout.positions);
+    MaskTable* table = NewMaskBlock(edit, mask, layout, tableAt);
+    auto* placed = reinterpret_cast<MaskPosition*>(reinterpret_cast<char*>(edit.mask) + positionsAt);
     std::copy(positions.All().begin(), positions.All().end(), placed);
     table->positions = placed;
     table->count = static_cast<int32_t>(positions.All().size());
@@ -123,17 +147,30 @@ void InstallMask(EditInstance& edit, const Text& mask)
     table->ampmPosition = ampmPosition;
     table->year = FindSpan(mask, 'Y');
     table->month = FindSpan(mask, 'M');
-    table->textLength = Length(mask);
-    table->point = Find(mask, '.');
-    table->followsDigits = FollowsDigits(mask, edit.dataType);
-    table->hasHash = Find(mask, '#') >= 0;
+}
 
-    edit.mask = reinterpret_cast<Char*>(block);
-    std::char_traits<Char>::copy(edit.mask, mask.c_str(), mask.size() + 1);
-    edit.table = table;
-    edit.displayLength = CountShown(mask);
-    if (isNumber)
-        CompileNumber(edit, mask, *new (block + layout.format) services::NumberFormat, *table);
+}  // namespace
+
+MaskPosition PositionAt(const EditInstance& edit, const Text& text, int32_t position)
+{
+    return edit.table->number.format ? NumberPositionAt(edit, text, position) : PositionOf(edit, position);
+}
+
+const MaskPosition& PositionOf(const EditInstance& edit, int32_t position)
+{
+    const MaskTable& table = *edit.table;
+    if (position < 0)
+        return kNoPosition;
+    return position < table.count ? table.positions[position] : table.beyond;
+}
+
+void InstallMask(EditInstance& edit, const Text& mask, bool unitsForced)
+{
+    DropMask(edit);
+    if (IsNumeric(edit.dataType))
+        InstallNumberMask(edit, mask, unitsForced);
+    else
+        InstallFieldMask(edit, mask);
 }
 
 void DropMask(EditInstance& edit)

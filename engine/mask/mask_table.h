@@ -3,6 +3,7 @@
 #pragma once
 
 #include "engine/mask/mask_positions.h"
+#include "engine/mask/shown_number.h"
 #include "engine/record.h"
 #include "engine/services.h"
 
@@ -23,13 +24,8 @@ struct MaskTable {
     MaskSpan year;
     MaskSpan month;
 
-    // Numbers. The digits of most do not stand under their placeholders: positions follow the digits shown.
-    const services::NumberFormat* format;  // null for other types
-    int32_t textLength;                    // of the mask
-    int32_t point;                         // offset of the first '.' in the mask; -1
-    int32_t firstPlaceholder;              // display position of the first digit placeholder
-    bool followsDigits;
-    bool hasHash;      // a '#', which alone lets a number grow from its point
+    NumberMask number;  // of numbers, which have no positions: what stands at one follows the digits shown
+    const services::NumberFormat* compiled;  // null for other types
     bool hasLiterals;  // the currency symbol alone, separators and '%' do not count
 };
 
@@ -62,8 +58,9 @@ inline bool MayTypeAt(const EditInstance& edit, const Text& text, int32_t positi
     return IsAmPmPosition(edit, position) || IsEditable(edit, text, position);
 }
 
-// Gives the control a mask: its text, the table, and displayLength. The mask before it is freed.
-void InstallMask(EditInstance& edit, const Text& mask);
+// Gives the control a mask: its text, the table, and displayLength. The mask before it is freed. unitsForced: a number shows its
+// units even where the mask would leave them out.
+void InstallMask(EditInstance& edit, const Text& mask, bool unitsForced = false);
 
 // Frees the mask.
 void DropMask(EditInstance& edit);

@@ -64,10 +64,10 @@ private:
     bool percent_ = false;
 };
 
-bool CanBeRendered(const Text& mask)
+bool CanBeRendered(const Text& mask, const Settings& settings)
 {
     services::NumberFormat format;
-    return services::CompileFormat(format, DisplayFormatText(mask, DT_NUMBER));
+    return services::CompileFormat(format, DisplayFormatText(mask, settings));
 }
 
 bool IsSeparator(Char c)
@@ -75,11 +75,57 @@ bool IsSeparator(Char c)
     return c == '.' || c == ',' || c == '%';
 }
 
-const Char* EndOfLiterals(const Char* mask, int32_t dataType)
+bool IsPlaceholder(Char c)
 {
-    while (*mask && !IsMaskItem(*mask, dataType))
-        ++mask;
-    return mask;
+    return c == '#' || c == '0';
+}
+
+// A symbol of nothing but placeholders is no symbol: it could not be told from the number.
+bool IsSymbol(const Text& symbol)
+{
+    for (const Char c : symbol)
+        if (!IsPlaceholder(c))
+            return true;
+    return false;
+}
+
+int32_t FindSymbolBefore(const Text& mask, const Text& symbol)
+{
+    for (int32_t at = 0; at < Length(mask); ++at) {
+        if (BeginsWith(mask.c_str() + at, symbol.c_str()))
+            return at;
+        if (IsPlaceholder(At(mask, at)))
+            return -1;
+        at += At(mask, at) == '~' ? 1 : 0;
+    }
+    return -1;
+}
+
+int32_t FindSymbolBehind(const Text& mask, const Text& symbol)
+{
+    const int32_t at = Length(mask) - Length(symbol);
+    return at > 0 && At(mask, at - 1) != '~' && BeginsWith(mask.c_str() + at, symbol.c_str()) ? at : -1;
+}
+
+// Where the currency symbol stands in a mask, before the number or behind it; -1 when it does not.
+int32_t FindSymbol(const Text& mask, const Text& symbol)
+{
+    if (!IsSymbol(symbol))
+        return -1;
+    const int32_t before = FindSymbolBefore(mask, symbol);
+    return before >= 0 ? before : FindSymbolBehind(mask, symbol);
+}
+
+// Literal to the renderer whatever the characters are.
+Text EscapedText(const Text& literal)
+{
+    Text escaped;
+    for (const Char c : literal) {
+        if (IsPlaceholder(c) || IsSeparator(c) || c == '\\')
+            escaped += Char{'\\'};
+        escaped += c;
+    }
+    return escaped;
 }
 
 const Char* BehindEscape(const Char* mask)
@@ -99,61 +145,53 @@ bool CheckNumberMask(const Text& mask, const Settings& settings)
         if (!at)
             return false;
     }
-    return CanBeRendered(mask);
+    return CanBeRendered(mask, settings);
 }
 
-Text DisplayFormatText(const Text& mask, int32_t dataType)
+Text DisplayFormatText(const Text& mask, const Settings& settings)
 {
+    const Text symbol = settings.currencySymbol;
+    const Char* symbolAt = mask.c_str() + FindSymbol(mask, symbol);
     Text format;
     for (const Char* at = mask.c_str(); *at;) {
-        if (*at == '~') {
+        if (at == symbolAt) {
+            format += EscapedText(symbol);
+            at += symbol.size();
+        } else if (*at == '~') {
             format += Char{'\\'};
             format.append(at + 1, BehindEscape(at));
             at = BehindEscape(at);
-        } else if (IsSeparator(*at) || IsMaskItem(*at, dataType)) {
-            format += *at++;
         } else {
-            const Char* end = EndOfLiterals(at, dataType);
-            format.append(at, end);
-            at = end;
+            format += *at++;
         }
+    }
+    return format;
+}
+
+Text WithUnitsForced(Text format)
+{
+    for (int32_t at = Length(format) - 1; at >= 0; --at) {
+        if (At(format, at) != '#' || At(format, at - 1) == '\\')
+            continue;
+        format[static_cast<size_t>(at)] = '0';
+        break;
     }
     return format;
 }
 
 bool HasLiterals(const Text& mask, int32_t dataType, const Settings& settings)
 {
-    const size_t symbol = TextLength(settings.currencySymbol);
+    const Text symbol = settings.currencySymbol;
+    const Char* symbolAt = mask.c_str() + FindSymbol(mask, symbol);
     for (const Char* at = mask.c_str(); *at;) {
-        if (*at == '~')
-            return true;
-        if (IsSeparator(*at) || IsMaskItem(*at, dataType))
+        if (at == symbolAt)
+            at += symbol.size();
+        else if (IsSeparator(*at) || IsMaskItem(*at, dataType))
             ++at;
-        else if (symbol > 0 && BeginsWith(at, settings.currencySymbol))
-            at += symbol;
         else
             return true;
     }
     return false;
-}
-
-int32_t FirstPlaceholderPos(const Text& mask, int32_t dataType)
-{
-    int32_t position = 0;
-    for (const Char* at = mask.c_str(); *at && !IsMaskItem(*at, dataType); ++position)
-        at = *at == '~' ? BehindEscape(at) : at + 1;
-    return position;
-}
-
-int32_t CountDecimalPlaces(const Text& mask)
-{
-    const int32_t point = Find(mask, '.');
-    if (point < 0)
-        return 0;
-    int32_t places = 0;
-    while (At(mask, point + 1 + places) == '0' || At(mask, point + 1 + places) == '#')
-        ++places;
-    return places;
 }
 
 }  // namespace zte

@@ -8,17 +8,14 @@ namespace zte {
 
 bool CheckNumberMask(const Text& mask, const Settings& settings);
 
-// The format text: "~x" becomes "\x", the rest stands as it is. A run of literals reaches to the next placeholder, separators
-// and escapes inside it included; kept, the checks and the display agree on it.
-Text DisplayFormatText(const Text& mask, int32_t dataType);
+// The format text: "~x" becomes "\x", the characters of the currency symbol are escaped where they would mean something else, and the
+// rest stands as it is.
+Text DisplayFormatText(const Text& mask, const Settings& settings);
+
+// The same format with its last optional digit always shown, so that 0 is seen.
+Text WithUnitsForced(Text format);
 
 // Whether the display holds literals; the currency symbol alone, separators and '%' do not count.
 bool HasLiterals(const Text& mask, int32_t dataType, const Settings& settings);
-
-// Display position of the mask's first digit placeholder.
-int32_t FirstPlaceholderPos(const Text& mask, int32_t dataType);
-
-// How many digits the mask gives the fraction: counted behind the plain '.', whatever the regional decimal character is; kept.
-int32_t CountDecimalPlaces(const Text& mask);
 
 }  // namespace zte

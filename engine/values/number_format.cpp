@@ -22,6 +22,7 @@ class ShapeReader {
 public:
     void Take(TokenKind kind)
     {
+        CountRoom(kind);
         if (IsPlaceholder(kind))
             TakePlaceholder(kind == TokenKind::Digit);
         else if (kind == TokenKind::Point)
@@ -42,8 +43,26 @@ public:
     }
 
 private:
+    // Literals count only where another placeholder or the point follows: the others stand behind the number.
+    void CountRoom(TokenKind kind)
+    {
+        if (shape_.point)
+            return;
+        if (kind == TokenKind::Literal) {
+            literalsPending_ += shape_.room > 0 ? 1 : 0;
+            return;
+        }
+        const bool place = IsPlaceholder(kind) || kind == TokenKind::Group;
+        if (!place && kind != TokenKind::Point)
+            return;
+        shape_.literalsInside += literalsPending_;
+        shape_.room += literalsPending_ + (place ? 1 : 0);
+        literalsPending_ = 0;
+    }
+
     void TakePlaceholder(bool forced)
     {
+        shape_.optional = shape_.optional || !forced;
         if (shape_.percent)
             shape_.valid = false;
         if (shape_.point) {
@@ -74,6 +93,7 @@ private:
     }
 
     FormatShape shape_;
+    int32_t literalsPending_ = 0;
     bool groupPending_ = false;
 };
 

@@ -31,9 +31,12 @@ struct FormatShape {
     int32_t forcedInteger = 0;   // integer digits that are always shown
     int32_t fractionPlaces = 0;  // placeholders behind the point
     int32_t forcedFraction = 0;  // fraction digits that are always shown
+    int32_t room = 0;            // characters that the format has before the point, from its first placeholder or ',' on
+    int32_t literalsInside = 0;  // of these, literals
     bool point = false;
     bool grouped = false;
     bool percent = false;
+    bool optional = false;  // some placeholder shows significant digits only
     bool valid = true;
 };
 
@@ -45,7 +48,12 @@ bool IsGeneralFormat(const Char* format);
 // needs no release.
 bool IsValidFormat(const Char* format);
 
-// Lays a number through a compiled format, with the settings' separators.
+// Lays a number through a compiled format, with the settings' separators. Where the two are equal there is no grouping.
 void RenderNumber(Writer& output, const Char* compiled, const DecimalDigits& number, const Settings& settings);
+
+inline bool IsGrouped(const FormatShape& shape, const Settings& settings)
+{
+    return shape.grouped && settings.thousandChar != settings.decimalChar;
+}
 
 }  // namespace zte

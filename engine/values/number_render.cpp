@@ -1,6 +1,7 @@
 // Lays decimal digits through a number format: the one renderer behind doubles and decimals.
 #include "engine/text/ascii.h"
 #include "engine/values/number_format.h"
+#include "engine/values/typed_number.h"
 
 namespace zte {
 
@@ -9,17 +10,56 @@ namespace {
 constexpr int32_t kGroupSize = 3;
 constexpr int32_t kGeneralDigits = 15;  // significant digits, and zeros in front of them, that the plain form may have
 
+// The digits of a value, rounded to what the format shows of them.
+class ValueDigits {
+public:
+    ValueDigits(const DecimalDigits& number, const FormatShape& shape) : number_(number)
+    {
+        if (shape.percent)
+            number_.MultiplyByPowerOfTen(2);
+        number_.RoundToFractionDigits(shape.fractionPlaces);
+    }
+
+    bool IsNegative() const { return number_.IsNegative(); }
+    int32_t IntegerDigits() const { return number_.PointPos(); }
+    int32_t FractionDigits() const { return number_.FractionDigits(); }
+    Char IntegerDigit(int32_t fromPoint) const { return number_.At(number_.PointPos() - fromPoint - 1); }
+    Char FractionDigit(int32_t index) const { return number_.At(number_.PointPos() + index); }
+
+private:
+    DecimalDigits number_;
+};
+
+// The digits of a number that is being typed, as they are.
+class TypedDigits {
+public:
+    explicit TypedDigits(const TypedNumber& number) : number_(number) {}
+
+    bool IsNegative() const { return number_.negative; }
+    int32_t IntegerDigits() const { return Length(number_.integer); }
+    int32_t FractionDigits() const { return Length(number_.fraction); }
+    Char IntegerDigit(int32_t fromPoint) const { return DigitOf(number_.integer, IntegerDigits() - fromPoint - 1); }
+    Char FractionDigit(int32_t index) const { return DigitOf(number_.fraction, index); }
+
+private:
+    static Char DigitOf(const Text& digits, int32_t index)
+    {
+        const Char digit = At(digits, index);
+        return digit == Char{} ? Char{'0'} : digit;
+    }
+
+    const TypedNumber& number_;
+};
+
 // One number on its way through one format.
+template <typename Digits>
 class Rendering {
 public:
-    Rendering(Writer& output, const Char* format, const DecimalDigits& number, const Settings& settings)
-        : output_(output), format_(format), shape_(ReadShape(format)), number_(number), settings_(settings)
+    Rendering(Writer& output, const Char* format, const FormatShape& shape, const Digits& digits, const Settings& settings)
+        : output_(output), format_(format), shape_(shape), digits_(digits), settings_(settings)
     {
-        if (shape_.percent)
-            number_.MultiplyByPowerOfTen(2);
-        number_.RoundToFractionDigits(shape_.fractionPlaces);
-        integerDigits_ = Larger(number_.PointPos(), shape_.forcedInteger);
-        fractionDigits_ = Larger(number_.FractionDigits(), shape_.forcedFraction);
+        integerDigits_ = Larger(digits_.IntegerDigits(), shape_.forcedInteger);
+        fractionDigits_ = Larger(digits_.FractionDigits(), shape_.forcedFraction);
         placesLeft_ = shape_.integerPlaces;
         digitsLeft_ = integerDigits_;
     }
@@ -51,6 +91,8 @@ private:
         }
         --placesLeft_;
         ShowIntegerDigits(placesLeft_);
+        if (placesLeft_ == 0 && !shape_.point)
+            ShowSign();  // of a number that is being typed and has no digit yet
     }
 
     // Digits until only those of the places to the right are left; the first place takes all that are too many.
@@ -59,8 +101,8 @@ private:
         while (digitsLeft_ > remaining) {
             ShowSign();
             --digitsLeft_;
-            output_.Put(number_.At(number_.PointPos() - digitsLeft_ - 1));
-            if (shape_.grouped && digitsLeft_ > 0 && digitsLeft_ % kGroupSize == 0)
+            output_.Put(digits_.IntegerDigit(digitsLeft_));
+            if (IsGrouped(shape_, settings_) && digitsLeft_ > 0 && digitsLeft_ % kGroupSize == 0)
                 output_.Put(settings_.thousandChar);
         }
     }
@@ -77,22 +119,22 @@ private:
     {
         if (fractionShown_ == fractionDigits_)
             return;
-        output_.Put(number_.At(number_.PointPos() + fractionShown_));
+        output_.Put(digits_.FractionDigit(fractionShown_));
         ++fractionShown_;
     }
 
     // Directly before the first digit or the point, whichever comes first.
     void ShowSign()
     {
-        if (number_.IsNegative() && !signShown_)
+        if (digits_.IsNegative() && !signShown_)
             output_.Put(Char{'-'});
         signShown_ = true;
     }
 
     Writer& output_;
     const Char* format_;
-    FormatShape shape_;
-    DecimalDigits number_;
+    const FormatShape& shape_;
+    const Digits& digits_;
     const Settings& settings_;
     int32_t integerDigits_ = 0;
     int32_t fractionDigits_ = 0;
@@ -148,9 +190,17 @@ void RenderGeneral(Writer& output, DecimalDigits number, const Settings& setting
 void RenderNumber(Writer& output, const Char* compiled, const DecimalDigits& number, const Settings& settings)
 {
     if (IsGeneralFormat(compiled))
-        RenderGeneral(output, number, settings);
-    else
-        Rendering(output, compiled, number, settings).Run();
+        return RenderGeneral(output, number, settings);
+    const FormatShape shape = ReadShape(compiled);
+    Rendering(output, compiled, shape, ValueDigits(number, shape), settings).Run();
+}
+
+Text LayOutDigits(const Char* compiled, const FormatShape& shape, const TypedNumber& number, const Settings& settings)
+{
+    Char laid[kLongestLaidNumber + 1];
+    Writer output(laid, kLongestLaidNumber + 1);
+    Rendering(output, compiled, shape, TypedDigits(number), settings).Run();
+    return Text(laid, static_cast<size_t>(output.Length()));
 }
 
 }  // namespace zte

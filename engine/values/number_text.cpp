@@ -52,14 +52,14 @@ const Char* SkipBlanks(const Char* text)
 }
 
 // The end of the digits and the point at text; null unless there is a digit and at most one point.
-const Char* SkipDigitsAndPoint(const Char* text, const Settings& settings)
+const Char* SkipDigitsAndPoint(const Char* text, Char decimalChar)
 {
     bool digit = false;
     int32_t points = 0;
     for (; *text; ++text) {
         if (IsDigit(*text))
             digit = true;
-        else if (*text == '.' || *text == settings.decimalChar)
+        else if (*text == '.' || *text == decimalChar)
             ++points;
         else
             break;
@@ -93,12 +93,12 @@ Text WithPlainPoint(Text text, const Settings& settings)
     return text;
 }
 
-bool IsNumberText(const Char* text, const Settings& settings)
+bool IsNumberText(const Char* text, Char decimalChar)
 {
     const Char* start = SkipBlanks(text);
     if (IsSign(*start))
         ++start;
-    const Char* end = SkipDigitsAndPoint(start, settings);
+    const Char* end = SkipDigitsAndPoint(start, decimalChar);
     return end && *SkipBlanks(end) == Char{};
 }
 

@@ -12,7 +12,7 @@ double NumberFromPlainText(const Char* text);
 Text WithPlainPoint(Text text, const Settings& settings);
 
 // Whether the text is one number and nothing else: surrounding blanks, an optional sign, digits with at most one point ('.' or
-// the regional one).
-bool IsNumberText(const Char* text, const Settings& settings);
+// the decimal character).
+bool IsNumberText(const Char* text, Char decimalChar);
 
 }  // namespace zte

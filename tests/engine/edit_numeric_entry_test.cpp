@@ -37,11 +37,11 @@ const KeyCase kNumberRows[] = {
     {"TypingOverTheWholeNumberWithAFraction",          "#,##0.00",      DT_NUMBER,  "[123.45]",  "5.25",       "5.25|",         0},
     {"TypingOverOneDigit",                             "#,##0.00",      DT_NUMBER,  "1[2]3.45",  "7",          "17|3.45",       0},
     {"TypingOverTheFraction",                          "#,##0.00",      DT_NUMBER,  "12.[50]",   "75",         "12.75|",        0},
-    {"TypingAfterEmptying",                            "#,##0.00",      DT_NUMBER,  "[123.45]",  "{Del}53",    "53|0.00",       0},
+    {"TypingAfterEmptying",                            "#,##0.00",      DT_NUMBER,  "[123.45]",  "{Del}53",    "53|.00",        0},
 
     {"ZeroMaskOverwrites",                             "000",           DT_NUMBER,  "|000",      "5",          "5|00",          0},
     {"ZeroMaskFills",                                  "000",           DT_NUMBER,  "|000",      "123",        "123|",          0},
-    {"ZeroMaskTakesASignAtTheFront",                   "000",           DT_NUMBER,  "|000",      "-",          "-|00",          0},
+    {"ZeroMaskTakesASignAtTheFront",                   "000",           DT_NUMBER,  "|000",      "-",          "-|000",         0},
     {"ZeroMaskWithFraction",                           "0.00",          DT_NUMBER,  "|0.00",     "5.25",       "5.25|",         0},
     {"ThePointOfAZeroMaskIsNotOverwritten",            "00.00",         DT_NUMBER,  "12|.34",    "5",          "12.5|4",        0},
 

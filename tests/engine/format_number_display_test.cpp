@@ -312,7 +312,8 @@ TEST_F(NumberFormatResult, AMaskTheRendererCannotReadShowsThroughTheDefault)
 struct NumberTextCase {
     const char* name;
     const char* data;
-    const char* shown;
+    const char* shown;   // under "#,##0.00##"
+    const char* german;  // under "[GENERAL]"
 };
 void PrintTo(const NumberTextCase& row, std::ostream* out)
 {
@@ -333,35 +334,37 @@ TEST_P(NumberDataText, IsReadAlikeForADecimal)
     EXPECT_EQ(ShownFor(GetParam().data), GetParam().shown);
 }
 
-TEST_P(NumberDataText, KnowsNoRegionalSeparators)
+TEST_P(NumberDataText, IsCanonicalBeforeItIsRegional)
 {
     const Regional settings(kGerman);
     Install("[GENERAL]", DT_NUMBER);
-    const std::string german = ShownFor(GetParam().data);
-    const Regional plain(kUnitedStates);
-    Install("[GENERAL]", DT_NUMBER);
-    std::string expected = ShownFor(GetParam().data);
-    for (char& c : expected)
-        c = c == '.' ? ',' : c;
-    EXPECT_EQ(german, expected);
+    EXPECT_EQ(ShownFor(GetParam().data), GetParam().german);
 }
 
 const NumberTextCase kNumberTextRows[] = {
-    {"AWholeNumber",          "12",    "12.00"   },
-    {"AFraction",             "12.5",  "12.50"   },
-    {"LeadingBlanks",         "  12",  "12.00"   },
-    {"APlusSign",             "+12",   "12.00"   },
-    {"AMinusSign",            "-12",   "-12.00"  },
-    {"APointFirst",           ".25",   "0.25"    },
-    {"AnExponent",            "1.5e3", "1,500.00"},
-    {"ANegativeExponent",     "25e-2", "0.25"    },
-    {"TrailingText",          "12abc", "12.00"   },
-    {"AThousandsCommaEndsIt", "1,234", "1.00"    },
-    {"ADecimalCommaEndsIt",   "3,5",   "3.00"    },
-    {"ASecondPointEndsIt",    "1.2.3", "1.20"    },
-    {"NoNumber",              "abc",   "0.00"    },
-    {"Empty",                 "",      "0.00"    },
-    {"ASignAlone",            "-",     "0.00"    },
+    {"AWholeNumber",            "12",        "12.00",       "12"      },
+    {"AFraction",               "12.5",      "12.50",       "12,5"    },
+    {"LeadingBlanks",           "  12",      "12.00",       "12"      },
+    {"APlusSign",               "+12",       "12.00",       "12"      },
+    {"AMinusSign",              "-12",       "-12.00",      "-12"     },
+    {"APointFirst",             ".25",       "0.25",        "0,25"    },
+    {"AnExponent",              "1.5e3",     "1,500.00",    "1500"    },
+    {"ANegativeExponent",       "25e-2",     "0.25",        "0,25"    },
+    {"TrailingText",            "12abc",     "12.00",       "12"      },
+    {"GroupedAsShown",          "1,234",     "1,234.00",    "1,234"   },
+    {"GroupedTwice",            "1,234,567", "1,234,567.00", "1"      },
+    {"GroupsOfTwoEndIt",        "12,34",     "12.00",       "12,34"   },
+    {"AGroupOfFourEndsIt",      "1,2345",    "1.00",        "1,2345"  },
+    {"FourDigitsBeforeAGroup",  "1234,567",  "1,234.00",    "1234,567"},
+    {"AnAmountAsShown",         "1,234.50",  "1,234.50",    "1"       },
+    {"AnAmountShownInGerman",   "1.234,50",  "1.234",       "1234,5"  },
+    {"AFractionShownInGerman",  "98,70",     "98.00",       "98,7"    },
+    {"ANegativeShownInGerman",  "-1.234,50", "-1.234",      "-1234,5" },
+    {"APointThatIsCanonical",   "1.234",     "1.234",       "1,234"   },
+    {"ASecondPointEndsIt",      "1.2.3",     "1.20",        "1,2"     },
+    {"NoNumber",                "abc",       "0.00",        "0"       },
+    {"Empty",                   "",          "0.00",        "0"       },
+    {"ASignAlone",              "-",         "0.00",        "0"       },
 };
 INSTANTIATE_TEST_SUITE_P(, NumberDataText, testing::ValuesIn(kNumberTextRows), RowName<NumberTextCase>);
 

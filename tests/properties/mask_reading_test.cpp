@@ -206,7 +206,8 @@ DateTimeValue NoClock()
     return {};
 }
 
-// The table that a control carries is the same reading, with the AM/PM field marked where the mask was accepted with one.
+// The table that a control carries is the same reading, with the AM/PM field marked where the mask was accepted with one. Numbers
+// have none: what stands at a position follows the digits shown.
 TEST(MaskReading, AControlCarriesTheSameTable)
 {
     const Settings settings = StandardSettings();
@@ -218,6 +219,10 @@ TEST(MaskReading, AControlCarriesTheSameTable)
         setup.dataType = static_cast<int32_t>(DT_STRING + random.Below(DT_DECIMAL));
         const MemoryControl control(setup, settings, NoClock);
         const EditInstance& edit = control.Record();
+        if (IsNumeric(setup.dataType)) {
+            ASSERT_EQ(edit.table->count, 0);
+            continue;
+        }
         const MaskPositions table(edit.mask, setup.dataType);
         ASSERT_EQ(edit.table->count, static_cast<int32_t>(table.All().size()));
         for (int32_t position = 0; position < edit.table->count; ++position) {

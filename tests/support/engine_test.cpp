@@ -21,11 +21,18 @@ Config ConfigOf(const char* mask, int32_t type, uint32_t options)
     return config;
 }
 
+std::string WithoutSymbol(std::string shown)
+{
+    const std::string symbol = RegionalValue("sCurrency");
+    const size_t at = symbol.empty() ? std::string::npos : shown.find(symbol);
+    return at == std::string::npos ? shown : shown.erase(at, symbol.size());
+}
+
 // What is handed in so that a text is shown.
 std::string DataOf(const MaskedEdit& control, const std::string& shown)
 {
     if (IsNumber(control.DataType()))
-        return DataOfNumberShown(shown, DecimalCharInForce());
+        return DataOfNumberShown(WithoutSymbol(shown), DecimalCharInForce());
     if (control.DataType() != DT_STRING)
         return shown;
     const std::string data = control.Unformat(shown.c_str());

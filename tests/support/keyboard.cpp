@@ -201,6 +201,13 @@ void Keyboard::KeyDown(int key, int modifiers)
         SendChar(static_cast<char>(character), key);
 }
 
+void Keyboard::KeyDownAlone(int key)
+{
+    Hold(key, true);
+    SendKeyDown(key);
+    Hold(key, false);
+}
+
 void Keyboard::KeyUp(int key, int modifiers)
 {
     Hold(key, false);

@@ -25,6 +25,9 @@ public:
     void KeyDown(int key, int modifiers = kPlain);
     void KeyUp(int key, int modifiers = kPlain);
 
+    // A key going down whose character never comes: taken out of the queue by a filter of the program, say.
+    void KeyDownAlone(int key);
+
     // The same for the key of a character.
     void KeyDownOf(char character);
     void KeyUpOf(char character);

@@ -218,15 +218,6 @@ TEST_F(Edges, ALiteralIsNoPlaceForAValidator)
     EXPECT_TRUE(Validate({control.Record(), text, 3, '1'}).accepted);
 }
 
-TEST_F(Edges, ANumberWithoutAMaskYetOverwrites)
-{
-    MemoryControl& control = Make("#,#.00", DT_NUMBER);
-    control.Record().maskJustSet = 0;
-    const Verdict verdict = ValidateNumberDigit({control.Record(), control.Edit().Shown(), 0, '5'});
-    EXPECT_TRUE(verdict.accepted);
-    EXPECT_FALSE(verdict.inserts);
-}
-
 TEST_F(Edges, PositionsThatFollowDigitsAreNotToldByTheMaskAlone)
 {
     EXPECT_FALSE(PositionOf(Make("#,#.00", DT_NUMBER).Record(), 0).exists);

@@ -7,7 +7,6 @@
 #include <ostream>
 
 #include "engine/format/data.h"
-#include "engine/format/reformat_number.h"
 #include "engine/memory_control.h"
 #include "tests/support/key_case.h"
 #include "tests/support/native/profile_store.h"
@@ -81,69 +80,61 @@ const CurrentCase kCurrentRows[] = {
 };
 INSTANTIATE_TEST_SUITE_P(, CurrentData, testing::ValuesIn(kCurrentRows), RowName<CurrentCase>);
 
-struct ReformatCase {
+struct ForeignCase {
     const char* name;
     const RegionalSet* settings;
     const char* mask;
     int32_t type;
     const char* text;
     const char* shown;
-    int32_t grown;
 };
-void PrintTo(const ReformatCase& row, std::ostream* out)
+void PrintTo(const ForeignCase& row, std::ostream* out)
 {
     *out << '"' << row.text << "\" under " << row.mask;
 }
 
-class Reformat : public EditedText, public testing::WithParamInterface<ReformatCase> {};
+class ForeignText : public EditedText, public testing::WithParamInterface<ForeignCase> {};
 
-TEST_P(Reformat, LaysATextGivenThroughTheMask)
-{
-    const Regional settings(*GetParam().settings);
-    Install(GetParam().mask, GetParam().type);
-    EXPECT_EQ(zte::ReformatNumber(Live(), GetParam().text), GetParam().grown);
-    EXPECT_EQ(Text(), GetParam().shown);
-}
-
-TEST_P(Reformat, LaysTheTextShownThroughTheMask)
+// A number that the program has set as any text is laid through the mask as soon as a key is refused.
+TEST_P(ForeignText, IsLaidThroughTheMask)
 {
     const Regional settings(*GetParam().settings);
     Install(GetParam().mask, GetParam().type);
     SetText(GetParam().text);
-    EXPECT_EQ(zte::ReformatNumber(Live()), GetParam().grown);
+    control_->Type('x');
     EXPECT_EQ(Text(), GetParam().shown);
 }
 
-const ReformatCase kReformatRows[] = {
-    {"GroupsAndFills",           &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1234.5",                  "1,234.50",                      2},
-    {"LeavesWhatIsRight",        &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1,234.50",                "1,234.50",                      0},
-    {"DropsOtherCharacters",     &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1a2b3",                   "123.00",                        1},
-    {"KeepsTheSign",             &kUnitedStates, "$#,##0.00",   DT_NUMBER,  "$-5.00",                  "$-5.00",                        0},
-    {"ShrinkingCountsAsNothing", &kUnitedStates, "#,##0",       DT_NUMBER,  "0000012",                 "12",                            0},
-    {"EmptyIsZero",              &kUnitedStates, "#,##0.00",    DT_NUMBER,  "",                        "0.00",                          4},
-    {"EmptyDecimalIsZero",       &kUnitedStates, "#,##0.00",    DT_DECIMAL, "",                        "0.00",                          4},
-    {"PercentIsAPercentage",     &kUnitedStates, "##0.0%",      DT_NUMBER,  "12.5%",                   "12.5%",                         0},
-    {"PercentOfADecimal",        &kUnitedStates, "##0.0%",      DT_DECIMAL, "12.5%",                   "12.5%",                         0},
-    {"PercentWithoutItsSign",    &kUnitedStates, "##0%",        DT_NUMBER,  "50",                      "50%",                           1},
-    {"ALeadingEscapeIsNoDigit",  &kUnitedStates, "~1##0",       DT_NUMBER,  "15",                      "15",                            0},
-    {"TwoLeadingEscapes",        &kUnitedStates, "~1~2##0",     DT_NUMBER,  "125",                     "125",                           0},
-    {"ALiteralPrefix",           &kUnitedStates, "Total #,##0", DT_NUMBER,  "Total 1234",              "Total 1,234",                   1},
-    {"ALongDecimal",             &kUnitedStates, "#,##0.00",    DT_DECIMAL, "12345678901234567890.12", "12,345,678,901,234,567,890.12",
-     6                                                                                                                                   },
-    {"German",                   &kGerman,       nullptr,       DT_NUMBER,  "1.234,5",                 "1.234,50",                      1},
-    {"GermanDecimal",            &kGerman,       nullptr,       DT_DECIMAL, "1234,5",                  "1.234,50",                      2},
-    {"GermanPercent",            &kGerman,       "##0.0%",      DT_NUMBER,  "12,5%",                   "12,5%",                         0},
-    {"GermanDecimalPercent",     &kGerman,       "##0.0%",      DT_DECIMAL, "12,5%",                   "12,5%",                         0},
-    {"French",                   &kFrench,       nullptr,       DT_NUMBER,  "1234,5",                  "1 234,50",                      2},
+const ForeignCase kForeignRows[] = {
+    {"GroupsAndFills",           &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1234.5",                  "1,234.50"},
+    {"LeavesWhatIsRight",        &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1,234.50",                "1,234.50"},
+    {"DropsOtherCharacters",     &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1a2b3",                   "123.00"},
+    {"KeepsTheSign",             &kUnitedStates, "$#,##0.00",   DT_NUMBER,  "$-5.00",                  "$-5.00"},
+    {"ShrinkingCountsAsNothing", &kUnitedStates, "#,##0",       DT_NUMBER,  "0000012",                 "12"},
+    {"EmptyIsZero",              &kUnitedStates, "#,##0.00",    DT_NUMBER,  "",                        "0.00"},
+    {"EmptyDecimalIsZero",       &kUnitedStates, "#,##0.00",    DT_DECIMAL, "",                        "0.00"},
+    {"PercentIsAPercentage",     &kUnitedStates, "##0.0%",      DT_NUMBER,  "12.5%",                   "12.5%"},
+    {"PercentOfADecimal",        &kUnitedStates, "##0.0%",      DT_DECIMAL, "12.5%",                   "12.5%"},
+    {"PercentWithoutItsSign",    &kUnitedStates, "##0%",        DT_NUMBER,  "50",                      "50%"},
+    {"ALeadingEscapeIsNoDigit",  &kUnitedStates, "~1##0",       DT_NUMBER,  "15",                      "15"},
+    {"TwoLeadingEscapes",        &kUnitedStates, "~1~2##0",     DT_NUMBER,  "125",                     "125"},
+    {"ALiteralPrefix",           &kUnitedStates, "Total #,##0", DT_NUMBER,  "Total 1234",              "Total 1,234"},
+    {"ALongDecimal",             &kUnitedStates, "#,##0.00",    DT_DECIMAL, "12345678901234567890.12", "12,345,678,901,234,567,890.12"},
+    {"German",                   &kGerman,       nullptr,       DT_NUMBER,  "1.234,5",                 "1.234,50"},
+    {"GermanDecimal",            &kGerman,       nullptr,       DT_DECIMAL, "1234,5",                  "1.234,50"},
+    {"GermanPercent",            &kGerman,       "##0.0%",      DT_NUMBER,  "12,5%",                   "12,5%"},
+    {"GermanDecimalPercent",     &kGerman,       "##0.0%",      DT_DECIMAL, "12,5%",                   "12,5%"},
+    {"French",                   &kFrench,       nullptr,       DT_NUMBER,  "1234,5",                  "1 234,50"},
 };
-INSTANTIATE_TEST_SUITE_P(, Reformat, testing::ValuesIn(kReformatRows), RowName<ReformatCase>);
+INSTANTIATE_TEST_SUITE_P(, ForeignText, testing::ValuesIn(kForeignRows), RowName<ForeignCase>);
 
-TEST_F(EditedText, ATextOf255CharactersIsNotReformatted)
+TEST_F(EditedText, ATextThatIsTooLongForANumberStays)
 {
     Install("#,##0", DT_NUMBER);
-    zte::SetDataString(Live(), "7");
-    EXPECT_EQ(zte::ReformatNumber(Live(), zte::Text(255, '1')), 0);
-    EXPECT_EQ(Text(), "7");
+    const std::string digits(255, '1');
+    SetText(digits.c_str());
+    control_->Type('x');
+    EXPECT_EQ(Text(), digits);
 }
 
 }  // namespace

@@ -134,7 +134,7 @@ struct FormatCase {
     const char* mask;
     const char* format;
     bool literals;
-    int32_t firstPlaceholder;
+    int32_t before;
 };
 void PrintTo(const FormatCase& row, std::ostream* out)
 {
@@ -145,7 +145,7 @@ class FormatTexts : public testing::TestWithParam<FormatCase> {};
 
 TEST_P(FormatTexts, AreTheMaskWithItsEscapes)
 {
-    EXPECT_EQ(DisplayFormatText(GetParam().mask, DT_NUMBER), GetParam().format);
+    EXPECT_EQ(DisplayFormatText(GetParam().mask, SettingsInForce()), GetParam().format);
 }
 
 TEST_P(FormatTexts, TellOfLiterals)
@@ -153,9 +153,9 @@ TEST_P(FormatTexts, TellOfLiterals)
     EXPECT_EQ(HasLiterals(GetParam().mask, DT_NUMBER, SettingsInForce()), GetParam().literals);
 }
 
-TEST_P(FormatTexts, TellTheFirstPlaceholder)
+TEST_P(FormatTexts, TellTheLiteralsBeforeTheNumber)
 {
-    EXPECT_EQ(FirstPlaceholderPos(GetParam().mask, DT_DECIMAL), GetParam().firstPlaceholder);
+    EXPECT_EQ(Length(LiteralsBefore(DisplayFormatText(GetParam().mask, SettingsInForce()).c_str())), GetParam().before);
 }
 
 const FormatCase kFormatRows[] = {

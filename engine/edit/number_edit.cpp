@@ -1,0 +1,101 @@
+// A number under edit.
+#include "engine/edit/number_edit.h"
+
+#include <algorithm>
+
+#include "engine/text/ascii.h"
+
+namespace zte {
+
+namespace {
+
+constexpr int32_t kGroupSize = 3;
+constexpr int32_t kMostDigits = 254;
+
+bool IsZeros(const Text& digits)
+{
+    return digits.find_first_not_of(Char{'0'}) == Text::npos;
+}
+
+// How many characters the digits take before the point, as the number shows them.
+int32_t ShownLength(const FormatShape& shape, const Settings& settings, int32_t digits)
+{
+    const int32_t shown = std::max(digits, shape.forcedInteger);
+    const int32_t separators = IsGrouped(shape, settings) ? (shown - 1) / kGroupSize : 0;
+    return shown + separators + shape.literalsInside;
+}
+
+}  // namespace
+
+NumberEdit::NumberEdit(EditInstance& edit, int32_t caret)
+    : edit_(edit), shownBefore_(edit.field->ReadText()), text_(shownBefore_), caret_(caret)
+{
+    TakeApart();
+    const FormatShape& shape = Mask().shape;
+    const bool isShort = !Mask().Grows() && Length(digits_.integer) < shape.forcedInteger;
+    if (isShort || Length(digits_.fraction) > shape.fractionPlaces)
+        LayOutForeign(isShort ? DigitPlace{false, shape.forcedInteger} : shown_->PlaceAt(caret));
+}
+
+// A text from outside that the mask would not have shown.
+void NumberEdit::LayOutForeign(DigitPlace place)
+{
+    TypedNumber digits = digits_;
+    RoundToPlaces(digits, Mask().shape.fractionPlaces);
+    LayOut(digits, place);
+}
+
+void NumberEdit::TakeApart()
+{
+    shown_.emplace(Mask(), *edit_.settings, text_);
+    digits_ = shown_->Digits();
+}
+
+// More digits than the mask forces were typed, zeros in front too: typed over a full number.
+Text NumberEdit::HeldInteger() const
+{
+    if (Length(digits_.integer) > Mask().shape.forcedInteger)
+        return digits_.integer;
+    return digits_.integer.substr(std::min(digits_.integer.find_first_not_of(Char{'0'}), digits_.integer.size()));
+}
+
+bool NumberEdit::FitsOneMore() const
+{
+    const FormatShape& shape = Mask().shape;
+    return ShownLength(shape, *edit_.settings, Length(HeldInteger()) + 1) <= shape.room;
+}
+
+bool NumberEdit::IsBlank() const
+{
+    return !digits_.negative && IsZeros(digits_.integer) && IsZeros(digits_.fraction);
+}
+
+void NumberEdit::CarryTo(int32_t caret)
+{
+    carriedFrom_ = caret_;
+    carriedTo_ = caret_ = caret;
+}
+
+// A text from outside that is too long to be a number stays as it is, until enough of it is deleted.
+void NumberEdit::LayOut(const TypedNumber& digits, DigitPlace place)
+{
+    if (Length(digits.integer) + Length(digits.fraction) > kMostDigits)
+        return;
+    text_ = LayOutDigits(Mask().format, Mask().shape, digits, *edit_.settings);
+    TakeApart();
+    caret_ = shown_->PositionOf(place);
+}
+
+void NumberEdit::Show()
+{
+    if (text_ != shownBefore_) {
+        edit_.field->SetText(text_.c_str());
+        edit_.field->KeepLayout();
+        edit_.field->SetModified();
+    }
+    PlaceCaret(edit_, caret_);
+    edit_.carriedFrom = carriedFrom_;
+    edit_.carriedTo = carriedTo_;
+}
+
+}  // namespace zte

@@ -1,0 +1,55 @@
+// A number under edit: its digits as they are shown, changed in memory, and shown again at once.
+#pragma once
+
+#include <optional>
+
+#include "engine/mask/mask_table.h"
+#include "engine/record.h"
+
+namespace zte {
+
+class NumberEdit {
+public:
+    // Takes what is shown apart; the caret stands at a position of it.
+    NumberEdit(EditInstance& edit, int32_t caret);
+    NumberEdit(const NumberEdit&) = delete;
+    NumberEdit& operator=(const NumberEdit&) = delete;
+
+    const NumberMask& Mask() const { return edit_.table->number; }
+    const ShownNumber& Shown() const { return *shown_; }
+    const TypedNumber& Digits() const { return digits_; }
+    int32_t Caret() const { return caret_; }
+    Char Under() const { return At(text_, caret_); }  // the character at the caret
+    bool IsBehindText() const { return caret_ >= Length(text_); }
+
+    // The integer digits that hold a place: without the zeros in front that the mask forces.
+    Text HeldInteger() const;
+    // Whether the room before the point takes one more digit.
+    bool FitsOneMore() const;
+    // No digit but zeros, and no sign: nothing that somebody typed.
+    bool IsBlank() const;
+
+    void MoveTo(int32_t caret) { caret_ = caret; }
+    // Moves the caret over literals, any of which may be typed next.
+    void CarryTo(int32_t caret);
+    // Lays other digits out, with the caret at a place among them.
+    void LayOut(const TypedNumber& digits, DigitPlace place);
+
+    // Shows the text where it has changed, and puts the caret.
+    void Show();
+
+private:
+    void TakeApart();
+    void LayOutForeign(DigitPlace place);
+
+    EditInstance& edit_;
+    Text shownBefore_;
+    Text text_;
+    std::optional<ShownNumber> shown_;  // of text_
+    TypedNumber digits_;
+    int32_t caret_;
+    int32_t carriedFrom_ = 0;
+    int32_t carriedTo_ = 0;
+};
+
+}  // namespace zte
