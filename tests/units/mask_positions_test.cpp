@@ -59,72 +59,54 @@ const PositionCase kPositionalRows[] = {
 
 INSTANTIATE_TEST_SUITE_P(, MaskCharacter, testing::ValuesIn(kPositionalRows), RowName<PositionCase>);
 
-// Under most masks of numbers the positions follow the digits shown.
+// Under masks of numbers the positions follow the digits shown: an 'x' marks where a digit or a sign may be typed at.
 struct NumberCase {
     const char* name;
+    const RegionalSet* settings;
     const char* mask;
     const char* text;
-    int32_t type;
-    int32_t position;
-    char character;
+    const char* typed;  // one longer than the text: a digit may follow at its end
 };
 void PrintTo(const NumberCase& row, std::ostream* out)
 {
-    *out << row.mask << " over " << row.text << " at " << row.position;
+    *out << row.mask << " over " << row.text;
 }
 
-class NumberCharacter : public testing::TestWithParam<NumberCase> {
-protected:
-    static Char CharacterAt(const char* mask, int32_t type, const char* text, int32_t position)
-    {
-        ControlSetup setup;
-        setup.mask = mask;
-        setup.dataType = type;
-        const MemoryControl control(setup, SettingsInForce(), nullptr);
-        return PositionAt(control.Record(), text, position).character;
-    }
-};
+class NumberPositions : public testing::TestWithParam<NumberCase> {};
 
-TEST_P(NumberCharacter, StandsAtThePositionOfTheDigit)
+TEST_P(NumberPositions, FollowTheDigits)
 {
     const NumberCase& row = GetParam();
-    EXPECT_EQ(CharacterAt(row.mask, row.type, row.text, row.position), row.character);
+    const Regional settings(*row.settings);
+    for (const int32_t type : {DT_NUMBER, DT_DECIMAL}) {
+        ControlSetup setup;
+        setup.mask = row.mask;
+        setup.dataType = type;
+        const MemoryControl control(setup, SettingsInForce(), nullptr);
+        std::string typed;
+        for (int32_t i = 0; i <= Length(row.text); ++i)
+            typed += PositionAt(control.Record(), row.text, i).IsEditable() ? 'x' : '.';
+        EXPECT_EQ(typed, row.typed);
+    }
 }
 
 const NumberCase kNumericRows[] = {
-    {"ADigitIsAHash",                   "#,##0.00", "1,234.50", DT_NUMBER,  0, '#'},
-    {"TheSeparatorIsAComma",            "#,##0.00", "1,234.50", DT_NUMBER,  1, ','},
-    {"ADigitOverAZeroOfTheMask",        "#,##0.00", "1,234.50", DT_NUMBER,  4, '0'},
-    {"ThePointIsAPoint",                "#,##0.00", "1,234.50", DT_NUMBER,  5, '.'},
-    {"OnlyTheIndexInTheMaskCounts",     "#,##0.00", "123.45",   DT_NUMBER,  4, '0'},
-    {"BeyondTheMaskADigitIsAHash",      "#.00",     "12345.60", DT_NUMBER,  7, '#'},
-    {"PastTheTextIsAHash",              "#.00",     "1.50",     DT_NUMBER,  4, '#'},
-    {"AnEmptyTextIsAHash",              "#.00",     "",         DT_NUMBER,  0, '#'},
-    {"AMinusIsAHash",                   "000",      "-12",      DT_NUMBER,  0, '#'},
-    {"APlusIsAHash",                    "000",      "+12",      DT_NUMBER,  0, '#'},
-    {"AnotherCharacterIsItself",        "$#.00",    "$1.50",    DT_NUMBER,  0, '$'},
-    {"APercentSignIsItself",            "#%",       "5%",       DT_NUMBER,  1, '%'},
-    {"DecimalsAreTheSame",              "#,##0.00", "1,234.50", DT_DECIMAL, 1, ','},
-    {"AnEscapedPointMakesItPositional", "~.##0",    ".12",      DT_NUMBER,  0, '.'},
-    {"ASecondPointDoesNotCount",        "~.##0.00", ".12.34",   DT_NUMBER,  1, '#'},
+    {"SeparatorsAreLiterals",        &kUnitedStates, "#,##0.00", "1,234.50", "x.xxx.xxx"},
+    {"LongerThanTheMask",            &kUnitedStates, "#.00",     "12345.60", "xxxxx.xxx"},
+    {"AnEmptyText",                  &kUnitedStates, "#.00",     "",         "x"        },
+    {"AMinus",                       &kUnitedStates, "000",      "-12",      "xxxx"     },
+    {"APlus",                        &kUnitedStates, "000",      "+12",      "xxxx"     },
+    {"TheSymbol",                    &kUnitedStates, "$#.00",    "$1.50",    ".x.xxx"   },
+    {"APercentSign",                 &kUnitedStates, "#%",       "5%",       "x.x"      },
+    {"AnEscapedPoint",               &kUnitedStates, "~.##0",    ".12",      ".xxx"     },
+    {"AnEscapedPointAndAPoint",      &kUnitedStates, "~.##0.00", ".12.34",   ".xx.xxx"  },
+    {"AnEscapedDigit",               &kUnitedStates, "~5##0",    "512",      ".xxx"     },
+    {"LettersThatOtherTypesRead",    &kUnitedStates, "X##0",     "X12",      ".xxx"     },
+    {"GermanSeparatorsAreLiterals",  &kGerman,       "#,#.00",   "1.234,50", "x.xxx.xxx"},
+    {"APointUnderADecimalComma",     &kGerman,       "##0.00",   "1234,50",  "xxxx.xxx" },
 };
 
-INSTANTIATE_TEST_SUITE_P(, NumberCharacter, testing::ValuesIn(kNumericRows), RowName<NumberCase>);
-
-class RegionalNumberCharacter : public NumberCharacter {};
-
-TEST_P(RegionalNumberCharacter, FollowsTheSeparators)
-{
-    const Regional settings(kGerman);
-    const NumberCase& row = GetParam();
-    EXPECT_EQ(CharacterAt(row.mask, row.type, row.text, row.position), row.character);
-}
-
-const NumberCase kGermanRows[] = {
-    {"AGroup",   "#,##0",  "1.234,50", DT_NUMBER, 1, ','},
-    {"ThePoint", "##0.00", "1234,50",  DT_NUMBER, 4, '.'},
-};
-INSTANTIATE_TEST_SUITE_P(, RegionalNumberCharacter, testing::ValuesIn(kGermanRows), RowName<NumberCase>);
+INSTANTIATE_TEST_SUITE_P(, NumberPositions, testing::ValuesIn(kNumericRows), RowName<NumberCase>);
 
 struct LengthCase {
     const char* name;
