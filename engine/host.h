@@ -56,10 +56,8 @@ public:
     // Sets the whole text; the caret stands before it. Leaves no undo step.
     virtual void SetText(const Char* text) = 0;
 
-    // As the field's own keys: an arrow pressed and released as often as told; Backspace or Delete pressed; a character typed.
+    // As the field's own key: an arrow pressed and released as often as told.
     virtual void PressArrow(Key key, KeyData keyData, int32_t times) = 0;
-    virtual void PressDown(Key key, KeyData keyData) = 0;
-    virtual void TypeChar(Char character, KeyData keyData) = 0;
 
     // Makes the Shift key count as held down, or as released.
     virtual void HoldShift(bool down) = 0;

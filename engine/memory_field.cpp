@@ -254,7 +254,7 @@ struct MemoryField::EditKey {
     void (MemoryField::*act)();
 };
 
-void MemoryField::PressDown(Key key, KeyData)
+void MemoryField::Press(Key key)
 {
     static constexpr EditKey kEditKeys[] = {
         {KEY_DELETE, false, false, &MemoryField::DeleteForward },
@@ -288,10 +288,10 @@ int32_t MemoryField::Destination(Key key) const
     }
 }
 
-void MemoryField::PressArrow(Key key, KeyData keyData, int32_t times)
+void MemoryField::PressArrow(Key key, KeyData, int32_t times)
 {
     for (; times > 0; --times)
-        PressDown(key, keyData);
+        Press(key);
 }
 
 void MemoryField::Press(Key key, bool shift, bool control)
@@ -300,7 +300,7 @@ void MemoryField::Press(Key key, bool shift, bool control)
     const bool controlBefore = controlHeld_;
     shiftHeld_ = shift;
     controlHeld_ = control;
-    PressDown(key, 0);
+    Press(key);
     shiftHeld_ = shiftBefore;
     controlHeld_ = controlBefore;
 }
@@ -339,7 +339,7 @@ void MemoryField::CutOrBackspace()
 
 // ---- characters
 
-void MemoryField::TypeChar(Char character, KeyData)
+void MemoryField::Type(Char character)
 {
     switch (character) {
     case CHAR_BACKSPACE:
@@ -359,7 +359,7 @@ void MemoryField::TypeChar(Char character, KeyData)
 void MemoryField::Type(const Text& characters)
 {
     for (const Char character : characters)
-        TypeChar(character, 0);
+        Type(character);
 }
 
 // ---- mouse

@@ -70,8 +70,6 @@ public:
     void ReplaceSelection(const Char* text) override;
     void SetText(const Char* text) override;
     void PressArrow(Key key, KeyData keyData, int32_t times) override;
-    void PressDown(Key key, KeyData keyData) override;
-    void TypeChar(Char character, KeyData keyData) override;
     void HoldShift(bool down) override { shiftHeld_ = down; }
     void SetRedraw(bool on) override;
     void KeepLayout() override { Tell(FieldEvent::Layout); }
@@ -85,9 +83,9 @@ public:
     // The user's side: what the control itself does on a key-down, a character, a mouse button.
     void HoldControl(bool down) { controlHeld_ = down; }
     void HoldRight(bool down) { rightHeld_ = down; }
-    void Press(Key key) { PressDown(key, 0); }  // under the keys that are held
+    void Press(Key key);  // under the keys that are held
     void Press(Key key, bool shift, bool control);
-    void Type(Char character) { TypeChar(character, 0); }
+    void Type(Char character);
     void Type(const Text& characters);
     void Click(int32_t position, bool shift = false);
     void DoubleClick(int32_t position);

@@ -28,7 +28,7 @@ enum : uint32_t {
     CODE_SPIN = 0x800,         // data is shown through the code table
     CODE_POSITIONED = 0x1000,  // the code-table cursor stands on the entry shown
     BACKSPACE_DONE = 0x2000,   // the character of a Backspace already carried out is to be swallowed
-    TYPING = 0x4000,           // a typed character is being processed
+    TYPING = 0x4000,           // not used: a selection and what takes its place are changed at once
     SPIN_BORDER = 0x8000,      // spin painting draws two border lines; nothing in the library sets it
     SPUN = 0x10000,            // the text shown was put there by the spin or the code table
     DOY_PENDING = 0x20000,     // not used: a day of the year waits for its year within one reading only

@@ -161,16 +161,6 @@ void StandardField::PressArrow(Key key, KeyData keyData, int32_t times)
     }
 }
 
-void StandardField::PressDown(Key key, KeyData keyData)
-{
-    ToBase(WM_KEYDOWN, static_cast<WPARAM>(key), keyData);
-}
-
-void StandardField::TypeChar(Char character, KeyData keyData)
-{
-    ToBase(WM_CHAR, static_cast<unsigned char>(character), keyData);
-}
-
 void StandardField::SetModified()
 {
     CallBaseEdit(Window(), EM_SETMODIFY, TRUE, 0);

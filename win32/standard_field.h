@@ -31,8 +31,6 @@ public:
     // To the standard edit control alone.
     void ReplaceSelection(const Char* text) override;
     void PressArrow(Key key, KeyData keyData, int32_t times) override;
-    void PressDown(Key key, KeyData keyData) override;
-    void TypeChar(Char character, KeyData keyData) override;
     void SetModified() override;
 
     void HoldShift(bool down) override;

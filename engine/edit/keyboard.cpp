@@ -36,7 +36,7 @@ bool IsLeftToTheForm(uint32_t typed)
 // The key-down has selected the character left of the caret, the deletion has blanked it.
 void FinishBackspace(EditInstance& edit)
 {
-    SetFlag(edit, BACKSPACE_DONE | TYPING, false);
+    SetFlag(edit, BACKSPACE_DONE, false);
     edit.field->HoldShift(false);
     PlaceCaret(edit, Caret(edit));
 }
@@ -68,7 +68,6 @@ void EnterNumber(EditInstance& edit, uint32_t typed, Selection selection)
 
 Reply Finish(EditInstance& edit, Reply reply)
 {
-    SetFlag(edit, TYPING, false);
     edit.field->SetRedraw(true);
     return reply;
 }
