@@ -24,7 +24,9 @@ endfunction()
 set(zt_common_headers <gtest/gtest.h> <memory> <ostream> <string> <vector>)
 
 file(GLOB zt_property_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/properties/*.cpp)
-zt_add_native_tests(properties ${zt_property_sources})
+set(zt_property_support currencies.cpp keyboard.cpp number_law.cpp profile.cpp native/profile_store.cpp)
+list(TRANSFORM zt_property_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
+zt_add_native_tests(properties ${zt_property_sources} ${zt_property_support})
 target_link_libraries(test_properties PRIVATE gtest_main)
 target_compile_options(test_properties PRIVATE -O1)
 
