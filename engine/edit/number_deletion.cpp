@@ -9,28 +9,21 @@ namespace zte {
 
 namespace {
 
-bool IsZeros(const Text& digits)
+void MoveToFront(NumberEdit& number)
 {
-    return digits.find_first_not_of(Char{'0'}) == Text::npos;
+    number.MoveTo(number.Shown().PositionOf(number.Shown().Front()));
 }
 
 // Lays out what a deletion has left. Zeros in front that nobody typed hold no place; where nothing else is left the caret goes before
-// the last zeros of them.
-void ShowLeft(NumberEdit& number, TypedNumber left, DigitPlace place, int32_t zerosBehindCaret)
+// them. A mask of '0' alone fills up with zeros in front.
+void ShowLeft(NumberEdit& number, TypedNumber left, DigitPlace place)
 {
-    if (number.Mask().Grows())
-        left.integer.erase(0, std::min(left.integer.find_first_not_of(Char{'0'}), left.integer.size()));
-    if (!place.inFraction && IsZeros(left.integer))
-        place.digits = std::max(place.digits, std::min(zerosBehindCaret, number.Mask().shape.forcedInteger));
+    if (!number.Mask().Grows())
+        return number.LayOut(left, place);
+    left.integer.erase(0, std::min(left.integer.find_first_not_of(Char{'0'}), left.integer.size()));
     number.LayOut(left, place);
-}
-
-// A mask of '0' alone is filled from its first position again once nothing but zeros is left.
-void ShowZeroed(NumberEdit& number, const TypedNumber& left, DigitPlace place)
-{
-    number.LayOut(left, place);
-    if (number.IsBlank())
-        number.MoveTo(number.Shown().PositionOf(number.Shown().Front()));
+    if (!place.inFraction && left.integer.empty())
+        MoveToFront(number);
 }
 
 Text KeptDigits(const ShownNumber& shown, int32_t from, int32_t to, Selection deleted, bool zeroed)
@@ -48,8 +41,6 @@ Text KeptDigits(const ShownNumber& shown, int32_t from, int32_t to, Selection de
     return kept;
 }
 
-constexpr int32_t kAllZeros = INT32_MAX;
-
 void DeleteInFraction(NumberEdit& number, int32_t index, bool zeroed)
 {
     TypedNumber left = number.Digits();
@@ -57,11 +48,7 @@ void DeleteInFraction(NumberEdit& number, int32_t index, bool zeroed)
         left.fraction[static_cast<size_t>(index)] = '0';
     else
         left.fraction.erase(static_cast<size_t>(index), 1);
-    const DigitPlace place = {true, index};
-    if (number.Mask().Grows())
-        number.LayOut(left, place);
-    else
-        ShowZeroed(number, left, place);
+    number.LayOut(left, {true, index});
 }
 
 void DeleteSign(NumberEdit& number)
@@ -72,19 +59,18 @@ void DeleteSign(NumberEdit& number)
 }
 
 // right: integer digits right of the one that goes.
-void DeleteBeforePoint(NumberEdit& number, int32_t right, bool zeroed, int32_t zerosBehindCaret)
+void ZeroBeforePoint(NumberEdit& number, int32_t right)
 {
     TypedNumber left = number.Digits();
-    const auto index = left.integer.size() - static_cast<size_t>(right) - 1;
-    if (zeroed) {
-        left.integer[index] = '0';
-        return ShowZeroed(number, left, {false, right + 1});
-    }
-    left.integer.erase(index, 1);
-    if (number.Mask().Grows())
-        ShowLeft(number, left, {false, right}, zerosBehindCaret);
-    else
-        ShowZeroed(number, left, {false, right});
+    left.integer[left.integer.size() - static_cast<size_t>(right) - 1] = '0';
+    number.LayOut(left, {false, right + 1});
+}
+
+void DeleteBeforePoint(NumberEdit& number, int32_t right)
+{
+    TypedNumber left = number.Digits();
+    left.integer.erase(left.integer.size() - static_cast<size_t>(right) - 1, 1);
+    ShowLeft(number, left, {false, right});
 }
 
 }  // namespace
@@ -103,9 +89,9 @@ void DeleteSelected(NumberEdit& number, Selection selection)
     const DigitPlace place =
         shown.PlaceAt(!grows || shown.IsInFraction(start) ? start : std::max(start, std::min(selection.end, point)));
     if (grows)
-        ShowLeft(number, left, place, kAllZeros);
+        ShowLeft(number, left, place);
     else
-        ShowZeroed(number, left, place);
+        number.LayOut(left, place);
 }
 
 void DeleteDigitBefore(NumberEdit& number)
@@ -117,9 +103,11 @@ void DeleteDigitBefore(NumberEdit& number)
         return DeleteInFraction(number, place.digits - 1, place.digits <= number.Mask().shape.forcedFraction);
     const int32_t right = place.inFraction ? 0 : place.digits;
     if (right < Length(number.Digits().integer))
-        return DeleteBeforePoint(number, right, !grows, 1);
+        return grows ? DeleteBeforePoint(number, right) : ZeroBeforePoint(number, right);
     if (shown.Sign() >= 0 && number.Caret() > shown.Sign())
-        DeleteSign(number);
+        return DeleteSign(number);
+    if (place.inFraction)
+        number.MoveTo(shown.Point());
 }
 
 void DeleteDigitAt(NumberEdit& number)
@@ -129,11 +117,17 @@ void DeleteDigitAt(NumberEdit& number)
         return DeleteSign(number);
     if (!shown.IsDigitAt(number.Caret()))
         return;
-    const DigitPlace place = shown.PlaceAt(number.Caret());
+    const Text before = shown.Shown();
+    const int32_t caret = number.Caret();
+    const DigitPlace place = shown.PlaceAt(caret);
     if (place.inFraction)
         DeleteInFraction(number, place.digits, false);
     else
-        DeleteBeforePoint(number, place.digits - 1, false, kAllZeros);
+        DeleteBeforePoint(number, place.digits - 1);
+    if (number.Shown().Shown() == before)
+        number.MoveTo(caret);  // a zero that the mask forces: nothing has gone
+    else if (!number.Mask().Grows() && number.IsBlank())
+        MoveToFront(number);
 }
 
 }  // namespace zte

@@ -25,8 +25,9 @@ enum class Outcome {
 struct NumericKey {
     Char typed;
     CarriedOver carried;
-    int32_t spelled;            // characters of the literals before the number that were typed directly before
-    bool insertsIntoFraction;  // it takes the place of a selection there: what stood behind the selection stays behind it
+    int32_t spelled;  // characters of the literals before the number that were typed directly before
+    bool
+        insertsIntoFraction;  // it takes the place of a selection there: what stood behind the selection stays behind it
 };
 
 bool IsDecimalChar(const EditInstance& edit, Char typed)

@@ -96,7 +96,8 @@ const Char* Place(char* block, size_t offset, const Text& text)
 
 MaskTable* NewMaskBlock(EditInstance& edit, const Text& mask, const BlockLayout& layout, size_t tableAt)
 {
-    auto* block = static_cast<char*>(services::Allocate(edit.heap, static_cast<uint32_t>(layout.Size()), edit.heapFlags));
+    auto* block =
+        static_cast<char*>(services::Allocate(edit.heap, static_cast<uint32_t>(layout.Size()), edit.heapFlags));
     Place(block, 0, mask);
     edit.mask = reinterpret_cast<Char*>(block);
     auto* table = new (block + tableAt) MaskTable{};

@@ -26,7 +26,7 @@ struct MaskTable {
 
     NumberMask number;  // of numbers, which have no positions: what stands at one follows the digits shown
     const services::NumberFormat* compiled;  // null for other types
-    bool hasLiterals;  // the currency symbol alone, separators and '%' do not count
+    bool hasLiterals;                        // the currency symbol alone, separators and '%' do not count
 };
 
 // What stands at a position, under the text shown. Past the end see MaskPositions::Beyond.

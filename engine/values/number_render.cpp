@@ -55,7 +55,8 @@ private:
 template <typename Digits>
 class Rendering {
 public:
-    Rendering(Writer& output, const Char* format, const FormatShape& shape, const Digits& digits, const Settings& settings)
+    Rendering(Writer& output, const Char* format, const FormatShape& shape, const Digits& digits,
+              const Settings& settings)
         : output_(output), format_(format), shape_(shape), digits_(digits), settings_(settings)
     {
         integerDigits_ = Larger(digits_.IntegerDigits(), shape_.forcedInteger);
