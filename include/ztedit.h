@@ -88,7 +88,8 @@ void WINAPI ZTE_UtilSetFormatRect(HWND hwnd);
 /* Installs an edit mask and shows the type's empty value under it.
  *
  * mask      mask text or one of the keywords "[date]", "[time]", "[date] [time]", "[currency(n)]" (n digits, at most 16);
- *           null counts as empty. Borrowed for the call.
+ *           null counts as empty. Borrowed for the call. The part of a number's mask before its point is the room for what
+ *           may be typed there, separators included, a sign not: "#,#.00" takes 123, "#,##0.00" takes 9,999.
  * dataType  DT_STRING to DT_DECIMAL.
  *
  * Returns 1 when the mask was installed, 0 when it does not fit the type and the type's default stands in: none for
@@ -101,15 +102,18 @@ int32_t WINAPI ZTE_FmtSetMask(HWND hwnd, const char* mask, int32_t dataType);
  * numbers. The result carries no status; 0 for a window that is no control. */
 int32_t WINAPI ZTE_FmtSetData(HWND hwnd, const void* data);
 
-/* Shows a value given as text. Strings: as it stands. Numbers and decimals: '.' is the point whatever the settings ("1234.5").
- * Dates and times: the display text of the mask, or canonical text; a text that is neither shows the empty value. */
+/* Shows a value given as text. Strings: as it stands. Numbers and decimals: canonical text, '.' being the point whatever the
+ * settings ("1234.5"); any other text that the control shows or returns under the regional settings is the number that it
+ * shows ("1,234.50", "98,70", "12.5%"), so that what was read can be handed in again; of anything else what follows a number
+ * is no matter. Dates and times: the display text of the mask, or canonical text; a text that is neither shows the empty
+ * value. */
 int32_t WINAPI ZTE_FmtSetDataString(HWND hwnd, const char* text);
 
 /* Reads the value shown.
  *
  * Returns a block of the control's heap that the caller frees: for strings the text without literals; for numbers and
- * decimals the number as text, with the regional decimal character, a percentage as the fraction it stands for; for dates
- * and times a DateTimeValue. Null for a window that is no control and for the empty date; midnight reads as null in a
+ * decimals the number as text, with the regional decimal character, a percentage as the fraction it stands for, to the last
+ * digit; a number of zeros alone has no sign, also while one is shown; for dates and times a DateTimeValue. Null for a window that is no control and for the empty date; midnight reads as null in a
  * DT_TIME control, on purpose.
  */
 void* WINAPI ZTE_FmtGetData(HWND hwnd);

@@ -1,5 +1,6 @@
 // The examples of docs/masks.md: every row of its tables with a mask, a keyword or a default in it comes out as
 // written.
+#include "tests/support/clipboard.h"
 #include "tests/support/documents.h"
 #include "tests/support/engine_test.h"
 
@@ -75,6 +76,32 @@ TEST_P(DocumentedTyping, IsTaken)
 const std::vector<DocumentRow> kTypingRows = Rows({"mask", "type", "typed", "shown"});
 INSTANTIATE_TEST_SUITE_P(Masks, DocumentedTyping, testing::ValuesIn(kTypingRows), LineName);
 
+class DocumentedOvertyping : public DocumentedMask {};
+
+TEST_P(DocumentedOvertyping, Gives)
+{
+    Given(GetParam()["mask"].c_str(), TypeNamed(GetParam()["type"]), GetParam()["over"]);
+    SelectAll();
+    Type(GetParam()["keys"]);
+    EXPECT_EQ(Text(), GetParam()["gives"]);
+}
+
+const std::vector<DocumentRow> kOvertypingRows = Rows({"mask", "type", "over", "keys", "gives"});
+INSTANTIATE_TEST_SUITE_P(Masks, DocumentedOvertyping, testing::ValuesIn(kOvertypingRows), LineName);
+
+class DocumentedPaste : public DocumentedMask {};
+
+TEST_P(DocumentedPaste, Gives)
+{
+    Given(GetParam()["mask"].c_str(), TypeNamed(GetParam()["type"]), GetParam()["over"]);
+    CopyToClipboard(GetParam()["pasted"]);
+    control_->Paste();
+    EXPECT_EQ(Text(), GetParam()["gives"]);
+}
+
+const std::vector<DocumentRow> kPasteRows = Rows({"mask", "type", "over", "pasted", "gives"});
+INSTANTIATE_TEST_SUITE_P(Masks, DocumentedPaste, testing::ValuesIn(kPasteRows), LineName);
+
 class DocumentedKeyword : public DocumentedMask {};
 
 TEST_P(DocumentedKeyword, Expands)
@@ -113,7 +140,9 @@ INSTANTIATE_TEST_SUITE_P(Masks, DocumentedRefusal, testing::ValuesIn(kRefusedRow
 TEST(DocumentedMasks, AreFound)
 {
     EXPECT_GE(kDataRows.size(), 50u);
-    EXPECT_GE(kTypingRows.size(), 15u);
+    EXPECT_GE(kTypingRows.size(), 25u);
+    EXPECT_GE(kOvertypingRows.size(), 5u);
+    EXPECT_GE(kPasteRows.size(), 5u);
     EXPECT_GE(kKeywordRows.size(), 8u);
     EXPECT_GE(kDefaultRows.size(), 6u);
     EXPECT_GE(kRefusedRows.size(), 20u);
