@@ -718,6 +718,7 @@ private:
     {
         const std::string text = field_.Text();
         const int caret = field_.CaretStart();
+        const bool selected = field_.CaretEnd() != caret;
         const int beeps = field_.Beeps();
         field_.Keys().Type(std::string(1, key.character));
         if (key.kind == LawKey::TakenBack)
@@ -738,7 +739,8 @@ private:
             return "more than one beep";
         if (key.kind == LawKey::Refused && HoldsDigit(typed_) && field_.Text() != text)
             return "the refused key has changed the text";
-        if (key.kind == LawKey::Plain && typed_ == "+" && field_.Text() == text && field_.CaretStart() != caret)
+        const bool stays = !selected && field_.Text() == text;  // what was selected gives way to the place of its first digit
+        if (key.kind == LawKey::Plain && typed_ == "+" && stays && field_.CaretStart() != caret)
             return "the plus has moved the caret";
         return mask_.JudgeCaret(typed_, field_.Text(), field_.CaretStart(), field_.CaretEnd(), takenBack_);
     }
