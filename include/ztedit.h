@@ -113,8 +113,8 @@ int32_t WINAPI ZTE_FmtSetDataString(HWND hwnd, const char* text);
  *
  * Returns a block of the control's heap that the caller frees: for strings the text without literals; for numbers and
  * decimals the number as text, with the regional decimal character, a percentage as the fraction it stands for, to the last
- * digit; a number of zeros alone has no sign, also while one is shown; for dates and times a DateTimeValue. Null for a window that is no control and for the empty date; midnight reads as null in a
- * DT_TIME control, on purpose.
+ * digit; a number of zeros alone has no sign, also while one is shown; for dates and times a DateTimeValue. Null for a
+ * window that is no control and for the empty date; midnight reads as null in a DT_TIME control, on purpose.
  */
 void* WINAPI ZTE_FmtGetData(HWND hwnd);
 
