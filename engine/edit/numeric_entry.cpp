@@ -105,11 +105,10 @@ Outcome TypeIntoFraction(NumberEdit& number, const NumericKey& key, int32_t inde
 
 // Behind an integer digit that was placed with right digits behind it: from a full part the caret goes on over the separators, and over
 // the point where there is a fraction.
-Outcome GoOn(EditInstance& edit, NumberEdit& number, int32_t right)
+Outcome GoOn(const EditInstance& edit, NumberEdit& number, int32_t right)
 {
     if (number.Mask().Grows() && number.FitsOneMore())
         return Outcome::Taken;
-    edit.flags |= CHARWISE;
     const ShownNumber& shown = number.Shown();
     if (right == 0 && edit.decimalPlaces == 0)
         return Outcome::Filled;
@@ -120,7 +119,7 @@ Outcome GoOn(EditInstance& edit, NumberEdit& number, int32_t right)
 }
 
 // right: integer digits behind the place. Zeros in front that nobody typed hold no place, and one that is typed there is dropped.
-Outcome InsertDigit(EditInstance& edit, NumberEdit& number, Char digit, int32_t right)
+Outcome InsertDigit(const EditInstance& edit, NumberEdit& number, Char digit, int32_t right)
 {
     TypedNumber typed = number.Digits();
     typed.integer = number.HeldInteger();
@@ -131,7 +130,7 @@ Outcome InsertDigit(EditInstance& edit, NumberEdit& number, Char digit, int32_t 
     return GoOn(edit, number, behind);
 }
 
-Outcome OverwriteDigit(EditInstance& edit, NumberEdit& number, const NumericKey& key, int32_t right)
+Outcome OverwriteDigit(const EditInstance& edit, NumberEdit& number, const NumericKey& key, int32_t right)
 {
     TypedNumber typed = number.Digits();
     if (right == 0) {
@@ -144,15 +143,22 @@ Outcome OverwriteDigit(EditInstance& edit, NumberEdit& number, const NumericKey&
     return GoOn(edit, number, right - 1);
 }
 
-Outcome TypeDigit(EditInstance& edit, NumberEdit& number, const NumericKey& key)
+Outcome PlaceDigit(const EditInstance& edit, NumberEdit& number, const NumericKey& key)
 {
-    LeaveLiterals(number);
     const DigitPlace place = number.Shown().PlaceAt(number.Caret());
     if (place.inFraction)
         return TypeIntoFraction(number, key, place.digits);
     if (number.Mask().Grows() && number.FitsOneMore())
         return InsertDigit(edit, number, key.typed, place.digits);
     return OverwriteDigit(edit, number, key, place.digits);
+}
+
+Outcome TypeDigit(EditInstance& edit, NumberEdit& number, const NumericKey& key)
+{
+    LeaveLiterals(number);
+    const Outcome outcome = PlaceDigit(edit, number, key);
+    MarkWhenFull(edit, number);
+    return outcome;
 }
 
 // ---- sign and point
@@ -169,13 +175,14 @@ Outcome TypeSign(NumberEdit& number, Char typed)
     return Outcome::Taken;
 }
 
-// Typed inside the integer part it drops the digits between the caret and the point.
+// Typed inside the integer part it drops what stands between the caret and the point.
 Outcome TypePoint(EditInstance& edit, NumberEdit& number)
 {
     const ShownNumber& shown = number.Shown();
     if (shown.IsInFraction(number.Caret()))
         return Outcome::Refused;
     TypedNumber typed = number.Digits();
+    typed.negative = typed.negative && number.Caret() > shown.Sign();
     if (number.Mask().Grows())
         typed.integer = number.HeldInteger();
     const int32_t dropped = std::min(shown.PlaceAt(number.Caret()).digits, Length(typed.integer));

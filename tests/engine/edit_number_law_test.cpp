@@ -20,6 +20,7 @@ const KeyCase kLawRows[] = {
     {"EmptiedByBackspaces",                    "0000",         DT_NUMBER,  "1234|",          "{Back}{Back}{Back}{Back}5678", "5678|", 0},
     {"EmptiedByDeletes",                       "00.00",        DT_NUMBER,  "|12.00",         "{Del}{Del}56.78", "56.78|",         0},
     {"OneDigitOfAForcedNumber",                "0000",         DT_NUMBER,  "1[2]34",         "7",               "17|34",          0},
+    {"TheLastDigitOfForcedZeros",              "000",          DT_NUMBER,  "00[0]",          "9",               "009|",           0},
 
     // The point.
     {"AHalfOverANumber",                       "#,##0.00",     DT_NUMBER,  "[1,234.56]",     ".5",              "0.5|0",          0},
@@ -28,6 +29,8 @@ const KeyCase kLawRows[] = {
     {"APointInFrontOfTheFraction",             ".00",          DT_NUMBER,  "|.00",           "0.5",             ".5|0",           0},
     {"TypedZerosOfAnOpenFractionStay",         "#.##",         DT_NUMBER,  "|.",             ".05",             ".05|",           0},
     {"ARefusedKeyDropsNoTypedZero",            "#.##",         DT_NUMBER,  "|.",             ".0x5",            ".05|",           1},
+    {"APointBeforeTheSignTakesItAway",         "#,##0.00",     DT_NUMBER,  "|-3.80",         ".",               "0.|80",          0},
+    {"APointBehindTheSignLeavesIt",            "#,##0.00",     DT_NUMBER,  "-|3.80",         ".",               "-0.|80",         0},
     {"ASecondPointBeeps",                      "#,##0.00",     DT_NUMBER,  "[5.00]",         "1.2.3",           "1.23|",          1},
 
     // The minus.
