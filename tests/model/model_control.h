@@ -168,7 +168,8 @@ private:
     // mask
     bool SymbolAt(const std::string& mask, size_t index) const;
     std::string EscapedSymbol() const;
-    model::Format NumberFormat() const;
+    model::Format CompiledMask() const;
+    const model::Format& NumberFormat() const { return format_; }
     static bool MinuteAt(const std::string& mask, size_t index, Type type);
     MaskChar CharAt(const std::string& text, int position) const;
     static MaskChar PositionalCharAt(const std::string& mask, int position);
@@ -274,6 +275,7 @@ private:
     const Regional* regional_;
     PlainEdit edit_;
     std::string mask_;
+    model::Format format_;  // what the mask of a number says
     Type type_ = kString;
     unsigned formatFlags_ = 0;
     int displayLength_ = 0;

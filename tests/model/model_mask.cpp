@@ -171,7 +171,7 @@ std::string Control::EscapedSymbol() const
 }
 
 // A mask that can show no digit shows what the default mask shows.
-model::Format Control::NumberFormat() const
+model::Format Control::CompiledMask() const
 {
     int unused = 0;
     const auto format = model::Format::Compile(FormatTextOf(mask_, type_, false, unused));
@@ -397,7 +397,8 @@ int Control::SetMask(const char* mask, Type type)
         if (type == kDate || type == kDateTime)
             yearDigits_ = 2;
     }
-    percent_ = IsNumeric() && NumberFormat().percent;
+    format_ = IsNumeric() ? CompiledMask() : model::Format();
+    percent_ = format_.percent;
     if (IsNumeric())
         decimalPlaces_ = static_cast<int>(NumberFormat().Places());
     ChooseEditMode();

@@ -312,6 +312,8 @@ std::string Render(const Format& format, const Number& number, const Separators&
 
 std::string PlainText(const Number& number, char point)
 {
+    if (number.digits.empty())
+        return "0";
     std::string text = number.digits;
     if (number.scale < 0)
         text.append(static_cast<size_t>(-number.scale), '0');

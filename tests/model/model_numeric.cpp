@@ -30,7 +30,7 @@ std::string RightOf(const std::string& digits, size_t right)
 // A mask that grows shows no leading zero but those that it forces; the fraction has its forced zeros at the end.
 Digits Control::Settled(Digits digits) const
 {
-    const model::Format format = NumberFormat();
+    const model::Format& format = NumberFormat();
     const size_t least = format.Grows() ? format.ForcedInteger() : format.integer.size();
     if (format.Grows())
         digits.integer = Significant(digits.integer);
@@ -111,7 +111,7 @@ bool Control::IsDropped(const ShownNumber& shown) const
     const int position = edit_.Start();
     if (shown.InFraction(position))
         return shown.FractionBefore(position) >= decimalPlaces_;
-    const model::Format format = NumberFormat();
+    const model::Format& format = NumberFormat();
     const bool full = format.Grows() ? format.IsFull(Significant(shown.digits.integer).size(), Signs())
                                      : shown.digits.integer.size() >= format.integer.size();
     return decimalPlaces_ == 0 && position == edit_.Length() && full;
@@ -167,7 +167,7 @@ void Control::EnterDigit(char c, ShownNumber shown, bool replaces)
 
 void Control::EnterIntegerDigit(char c, Digits digits, int right, int position)
 {
-    const model::Format format = NumberFormat();
+    const model::Format& format = NumberFormat();
     const bool grows = format.Grows();
     const std::string significant = Significant(digits.integer);
     const bool full = !grows || format.IsFull(significant.size(), Signs());
@@ -227,7 +227,7 @@ void Control::EnterFractionDigit(char c, Digits digits, int place, bool inserts)
     digits = Settled(digits);
     LayOut(digits);
     CaretInFraction(place + 1);
-    const model::Format format = NumberFormat();
+    const model::Format& format = NumberFormat();
     charwise_ = charwise_ || !format.Grows() || format.IsFull(Significant(digits.integer).size(), Signs());
     if (place + 1 == decimalPlaces_)
         NotifyFull();
@@ -248,12 +248,15 @@ void Control::EnterPoint(const ShownNumber& shown)
 void Control::EnterSign(char c, const ShownNumber& shown)
 {
     const int position = edit_.Start();
-    const bool behindDigits =
-        shown.IntegerFrom(position) != static_cast<int>(shown.integerAt.size()) || shown.FractionBefore(position) != 0;
+    const int right = shown.IntegerFrom(position);
+    // A caret that Backspace has left between forced zeros stands before the number.
+    const bool amongZeros = NumberFormat().Grows() && right > 0 && Significant(shown.digits.integer).empty();
+    const bool behindDigits = (right != static_cast<int>(shown.integerAt.size()) && !amongZeros) ||
+                              shown.FractionBefore(position) != 0;
     const bool behindSign = shown.sign >= 0 && position > shown.sign;
     if (behindDigits || behindSign)
         return RefuseNumeric();
-    const model::Format format = NumberFormat();
+    const model::Format& format = NumberFormat();
     charwise_ = charwise_ || format.IsFull(Significant(shown.digits.integer).size(), Signs());
     Digits digits = shown.digits;
     digits.negative = c == '-';
@@ -324,7 +327,7 @@ void Control::DeleteInNumber()
     const int position = edit_.Start();
     const ShownNumber shown = Shows(Text());
     Digits digits = shown.digits;
-    const model::Format format = NumberFormat();
+    const model::Format& format = NumberFormat();
     const auto stands = [&](const std::vector<int>& at) { return std::count(at.begin(), at.end(), position) != 0; };
     const bool sign = position == shown.sign;
     const bool integer = stands(shown.integerAt);

@@ -91,7 +91,7 @@ bool Contains(const std::string& text, const std::string& part)
 // True when the sign of a percentage went with them.
 bool Control::WithoutLiterals(std::string& text) const
 {
-    const model::Format format = NumberFormat();
+    const model::Format& format = NumberFormat();
     const std::string& symbol = regional_->currency;
     const std::string tail = format.Tail();
     if (!DropFront(text, format.prefix) && Contains(format.prefix, symbol))
@@ -130,15 +130,16 @@ std::string Control::NumberIn(std::string text) const
     WithoutLiterals(text);
     std::string number;
     for (const char c : text)
-        if (IsDigit(c) || c == '+' || c == '-' || c == Point() || InTable(c, type_))
-            number += c == '#' ? "" : std::string(1, c);
+        if (IsDigit(c) || c == '+' || c == '-' || c == Point() || (c == '.' && c != regional_->thousand) ||
+            (c != '#' && InTable(c, type_)))
+            number += c;
     return number;
 }
 
 // The number shown, without a sign where it is zero.
 std::string Control::ReadNumber() const
 {
-    const model::Format format = NumberFormat();
+    const model::Format& format = NumberFormat();
     if (format.general)
         return Text();
     ShownNumber shown = Shows(Text());

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace model {
 namespace {
 
@@ -90,6 +92,15 @@ protected:
         regional_.currencyDigits = digits;
         regional_.decimal = decimal;
         regional_.thousand = thousand;
+    }
+
+    // Fraction places of a mask; the currency masks have those of the setting.
+    size_t PlacesOf(const std::string& mask) const
+    {
+        const size_t point = mask.find_last_of('.');
+        if (mask[0] == '[')
+            return static_cast<size_t>(regional_.currencyDigits);
+        return point == std::string::npos ? 0 : mask.find_last_of("#0") - point;
     }
 
     void Caret(int position) { control_.SetSelection(position, position); }
@@ -455,6 +466,60 @@ TEST_F(ModelTest, SymbolsAreLiteralsWhateverTheyHold)
     Check({{"[currency(6)]", "0x8.00", "12.5", "0x12.5|0", 0, "12.50"}});
 }
 // clang-format on
+
+// Digits of a value without the zeros that say nothing.
+std::string Plain(const std::string& value, size_t places)
+{
+    const Number number = Number::FromText(value);
+    const std::string text = PlainText(number, '.');
+    const size_t point = text.find('.');
+    return point == std::string::npos || text.size() - point - 1 <= places ? text : "";
+}
+
+// Every value that fits is typed from every start; what is read back is what was typed.
+TEST_F(ModelTest, EveryValueIsTypedUnderEveryMask)
+{
+    const std::string masks[] = {
+        "#,##0.00", "#,#.00", "###.##", "##0.0", "###.00", "#,###.00", "$#,##0.00", "$###.0", "#,#.00%", "###.0#",
+        "[currency(8)]", "[currency(5)]", "[currency(9)]", "#00.00", "###.0##", "US $##0.0", "~N~5 ##0.0", "##0%",
+        "###%", "###", "$###", "##0", "#,###"};
+    const std::string values[] = {"0", "5", "12", "123", "-5", "-123", "0.5", "-0.5", ".5", "-.5", "1.5", "00", "05", "012",
+                                  "-05", "0.0", "-0.0", "7.", "+5", "100", "101", "-100", "10", "9.9", "0.25", "-12.05"};
+    const std::string starts[] = {"", "{sel}", "{sel}{Del}", "{sel}{Back}",
+                                  "{End}{Back}{Back}{Back}{Back}{Back}{Back}{Back}{Back}", "{Home}{Del}{Del}"};
+    const char* const symbols[] = {"$", "kr.", "F", "MXN", "0x"};
+    int typed = 0;
+    for (int setting = 0; setting < 10; ++setting) {
+        Money(symbols[setting / 2], setting % 2, 2, setting % 4 < 2 ? '.' : ',', setting % 4 < 2 ? ',' : '.');
+        for (const std::string& mask : masks)
+            for (const std::string& start : starts)
+                for (const std::string& value : values) {
+                    const bool blank = start.empty() || start[1] == 'H';
+                    Given(mask.c_str(), kNumber, blank ? "0" : "87");
+                    const size_t places = std::min<size_t>(2, PlacesOf(mask));
+                    const std::string wanted = Plain(value, places);
+                    if (result_ == 0 || wanted.empty() || (places == 0 && value.find('.') != std::string::npos))
+                        continue;
+                    std::string script = start;
+                    if (script.compare(0, 5, "{sel}") == 0) {
+                        control_.SetSelection(0, 99);
+                        script.erase(0, 5);
+                    }
+                    std::string keys = value;
+                    std::replace(keys.begin(), keys.end(), '.', regional_.Point());
+                    Play(script + keys);
+                    std::string text = control_.GetData().text;
+                    std::replace(text.begin(), text.end(), regional_.Point(), '.');
+                    Number read = Number::FromText(text);
+                    if (mask.back() == '%')
+                        read = read.TimesPowerOfTen(2);
+                    EXPECT_EQ(PlainText(read, '.'), wanted) << mask << " " << regional_.currency << " " << start << value;
+                    EXPECT_EQ(control_.Beeps(), 0) << mask << " " << regional_.currency << " " << start << value;
+                    ++typed;
+                }
+    }
+    EXPECT_GT(typed, 10000);
+}
 
 TEST_F(ModelTest, BackspaceIsForgottenByTheNextKey)
 {

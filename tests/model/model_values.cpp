@@ -87,7 +87,7 @@ void Control::FormatNumber(const Number& number, Shown& shown) const
     if (literals)
         shown.flags |= 0x4000;
     FormatTextOf(mask_, type_, literals, shown.first);
-    const model::Format format = NumberFormat();
+    const model::Format& format = NumberFormat();
     shown.text = Render(format, number, Signs());
     if (format.general)
         return;

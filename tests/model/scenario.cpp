@@ -112,6 +112,7 @@ const std::vector<Setting>& Settings()
             regional.currencyDigits = digits;
             return regional;
         };
+        // clang-format off
         return std::vector<Setting>{
             {"us",        us                         },
             {"german",    german                     },
@@ -124,6 +125,7 @@ const std::vector<Setting>& Settings()
             {"african",   money(french, "XAF", 0, 0) },
             {"hex",       money(us, "0x", 0, 2)      },
         };
+        // clang-format on
     }();
     return settings;
 }
