@@ -19,9 +19,6 @@ const std::vector<KnownDifference>& KnownDifferences();
 
 bool IsKnown(const Scenario& scenario, const Difference& difference);
 
-// What one row of the table shows, told by what both show.
-bool StartsBehindPoint(const State& expected, const State& got, char point);
-
 }  // namespace model
 
 #endif

@@ -205,7 +205,7 @@ private:
 
 }  // namespace
 
-const unsigned kDefaultRounds = 3;
+const unsigned kDefaultRounds = 1;
 
 std::unique_ptr<Subject> MakeLibrary()
 {

@@ -112,7 +112,12 @@ public:
 
     // What a user does to it.
     void KeyDown(int key, bool shift);
-    void KeyUp() { deletePending_ = false; }
+    void KeyUp()
+    {
+        deletePending_ = false;
+        if (backspaceKey_ == BackspaceKey::Waits)
+            backspaceKey_ = BackspaceKey::None;
+    }
     void Char(char c, bool shift = false);
     void Paste(const std::string& clipboard);
     void Click(int position);
@@ -141,16 +146,15 @@ private:
         int ampmPos = -1;
         int yearDigits = 0;
     };
-    // A place among the digits of a number: in the fraction behind so many, before the point in front of so many.
-    struct Place {
-        bool fraction;
-        int digits;
-
-        bool operator==(const Place& other) const { return fraction == other.fraction && digits == other.digits; }
-    };
     enum class Verdict {
         Refused,
         Accepted,
+    };
+    // What the key-down of a Backspace in a number leaves to its character.
+    enum class BackspaceKey {
+        None,
+        Waits,  // the character is to do it
+        Done,   // the character is to be swallowed
     };
 
     bool Refuses() const { return readOnly_ || !enabled_; }
@@ -159,8 +163,13 @@ private:
     bool IsNumeric() const { return type_ == kNumber || type_ == kDecimal; }
     bool IsTemporal() const { return type_ == kDate || type_ == kTime || type_ == kDateTime; }
     char Point() const { return regional_->Point(); }
+    Separators Signs() const { return {Point(), regional_->thousand}; }
 
     // mask
+    bool SymbolAt(const std::string& mask, size_t index) const;
+    std::string EscapedSymbol() const;
+    model::Format CompiledMask() const;
+    const model::Format& NumberFormat() const { return format_; }
     static bool MinuteAt(const std::string& mask, size_t index, Type type);
     MaskChar CharAt(const std::string& text, int position) const;
     static MaskChar PositionalCharAt(const std::string& mask, int position);
@@ -185,8 +194,12 @@ private:
     bool DisplayToStamp(Stamp& stamp, const std::string& text);
     bool ShowsMarker(const std::string& text) const;
     Stamp ReadStamp(bool internal);
-    std::string ReadFields(const std::string& text, bool dropGroups) const;
-    int Reformat(const std::string* text);
+    std::string ReadFields(const std::string& text) const;
+    ShownNumber Shows(const std::string& text) const { return ReadShown(NumberFormat(), text, Signs()); }
+    std::string ReadNumber() const;
+    std::string NumberIn(std::string text) const;
+    Number NumberOf(const std::string& text) const;
+    bool WithoutLiterals(std::string& text) const;
     int CalendarYear(int year) const;
     int DaysInMonth(int year, int month) const;
     int YearFromText() const;
@@ -197,7 +210,6 @@ private:
 
     // typing
     Verdict Validate(char c, int position);
-    Verdict ValidateNumber(char c, int position);
     Verdict ValidateYear(char c, int position);
     Verdict ValidateMonth(char c, int position);
     Verdict ValidateMonthName(char c, int position);
@@ -207,35 +219,45 @@ private:
     Verdict ValidateMinute(char c, int position);
     void TakeChar(char c);
     void EnterChar(char c);
-    void EnterNumericChar(char c);
-    void OverwriteNumber(int position, const std::string& before, char under);
+    void TakeControlChar(char c);
+    void EnterNumericChar(char c, bool replaces);
+    void EnterDigit(char c, ShownNumber shown, bool replaces);
+    void EnterIntegerDigit(char c, Digits digits, int right, int position);
+    void EnterFractionDigit(char c, Digits digits, int place, bool inserts);
+    void OverwriteInteger(char c, Digits digits, int right);
+    void EnterPoint(const ShownNumber& shown);
+    void EnterSign(char c, const ShownNumber& shown);
+    bool BelongsToSymbol(char c, const ShownNumber& shown);
+    bool IsDropped(const ShownNumber& shown) const;
     void RefuseNumeric();
-    std::string LeadingEscapes() const;
-    int CaretBehindInserted(const std::string& before, int position, int grown, char typed, bool emptied) const;
-    int CaretBehindSign(const std::string& placed, int position, char typed) const;
-    int EndOfInteger(const std::string& text) const;
-    static int DigitsBetween(const std::string& text, int from, int to);
-    int IntegerDigits(const std::string& text) const { return DigitsBetween(text, 0, EndOfInteger(text)); }
-    Place PlaceOf(const std::string& text, int position) const;
-    int AtPlace(const std::string& text, const Place& place) const;
-    void FinishNumeric(int position, bool lastFraction);
+    Digits Settled(Digits digits) const;
+    void LayOut(const Digits& digits) { edit_.SetText(NumberFormat().Lay(digits, Signs())); }
+    void CaretBefore(int right);
+    void CaretInFraction(int place);
+    void CarryOver(int right);
+    void Carry(int from, int to);
+    void CaretToStart();
+    void NotifyFull();
+    void BackspaceInNumber();
+    void DeleteInNumber();
+    void EraseSelectedDigits(ShownNumber& shown, int start, int end) const;
     bool SkipLiterals(int position, bool remember);
     int FindLiteralAhead(const std::string& text, int position, char c) const;
     void PadFieldDigit(int position);
-    void NoteChange(const std::string& before) { modified_ = modified_ || before != Text(); }
+    void NoteChange(const std::string& before, bool wasModified) { modified_ = wasModified || before != Text(); }
     bool HandleKeyDown(int key, bool shift, bool byUser);
-    bool NumericDeletion(int key, bool shift);
+    bool NumericDeletion(int key);
     bool PositionalDeletion(int key, bool shift);
     void MoveCaret(int key, bool shift, bool byUser);
     int StepsToEditable(int position, bool forward) const;
-    bool DeleteSelection(bool typing);
-    void DeleteNumericSelection(bool typing);
+    bool DeleteSelection();
+    void DeleteNumericSelection();
     void PasteText(const std::string& clipboard);
     void TypeAhead(char c);
     void ForgetTyping()
     {
         carried_.clear();
-        typedTo_ = 0;
+        spelled_ = "";
     }
     void Beep() { ++beeps_; }
     void PlaceCaret(int position) { edit_.Select(position, position); }
@@ -253,6 +275,7 @@ private:
     const Regional* regional_;
     PlainEdit edit_;
     std::string mask_;
+    model::Format format_;  // what the mask of a number says
     Type type_ = kString;
     unsigned formatFlags_ = 0;
     int displayLength_ = 0;
@@ -265,10 +288,9 @@ private:
     bool percent_ = false;
     bool charwise_ = false;
     bool autoskip_ = false;
-    bool typing_ = false;
     bool deletePending_ = false;
     bool backspaceDone_ = false;
-    bool numericBackspaceDone_ = false;
+    BackspaceKey backspaceKey_ = BackspaceKey::None;
     bool spun_ = false;
     bool codeSpin_ = false;
     bool codePick_ = false;
@@ -283,12 +305,11 @@ private:
     double spinMax_ = 0.0;
     std::optional<std::string> range_;
     std::string typed_;
-    std::string typedFraction_;
-    std::string carried_;  // literals over which typing has just carried the caret
+    std::string carried_;                 // literals over which typing has just carried the caret
+    std::optional<std::string> spelled_;  // of the symbol, by the keys typed so far into an emptied number
     bool readOnly_ = false;
     bool enabled_ = true;
     bool modified_ = false;  // by the user
-    int typedTo_ = 0;        // the place behind a character that has just been inserted into a number
     int autoskips_ = 0;
     int changes_ = 0;
     int beeps_ = 0;

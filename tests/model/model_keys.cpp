@@ -11,11 +11,10 @@ namespace model {
 void Control::KeyDown(int key, bool shift)
 {
     shift_ = shift;
+    backspaceKey_ = BackspaceKey::None;
     const bool navigation = key >= 0x21 && key <= 0x28;
-    if (navigation || key == kBackspace || key == kDelete || key == kInsert) {
+    if (navigation || key == kBackspace || key == kDelete || key == kInsert)
         ForgetTyping();
-        numericBackspaceDone_ = false;
-    }
     const bool deletes = key == kBackspace || key == kDelete;
     // The plain edit underneath takes it for granted that a disabled window gets no keys.
     const bool refuses = readOnly_ || (!enabled_ && !mask_.empty());
@@ -23,16 +22,17 @@ void Control::KeyDown(int key, bool shift)
         return;
     const bool steps = key == kUp || key == kDown;
     const std::string before = Text();
+    const bool wasModified = modified_;
     if (mask_.empty() || (refuses && steps) || !HandleKeyDown(key, shift, true))
         edit_.Key(key, shift);
-    NoteChange(before);
+    NoteChange(before, wasModified);
 }
 
 bool Control::HandleKeyDown(int key, bool shift, bool byUser)
 {
     switch (key) {
     case kBackspace:
-    case kDelete: return IsNumeric() ? NumericDeletion(key, shift) : PositionalDeletion(key, shift);
+    case kDelete: return IsNumeric() ? NumericDeletion(key) : PositionalDeletion(key, shift);
     case kLeft:
     case kRight:
         if (shift || (IsNumeric() && !charwise_))
@@ -49,37 +49,16 @@ bool Control::HandleKeyDown(int key, bool shift, bool byUser)
     }
 }
 
-bool Control::NumericDeletion(int key, bool shift)
+// A Backspace that finds a selection is done at once; any other waits for its character.
+bool Control::NumericDeletion(int key)
 {
-    if (DeleteSelection(false)) {
-        numericBackspaceDone_ = key == kBackspace;
-        if (percent_)
-            Reformat(nullptr);
-        return true;
-    }
-    const int position = edit_.Start();
-    if (key == kDelete) {
-        if (position == edit_.Length() || !Editable(Text(), position))
-            return true;
-        charwise_ = false;
-        edit_.Key(kDelete, shift);
-        Reformat(nullptr);
-        PlaceCaret(position);
-        return true;
-    }
-    numericBackspaceDone_ = true;
-    if (position == 0)
-        return true;
-    if (position < edit_.Length() && !Editable(Text(), position - 1)) {
-        const int steps = StepsToEditable(position - 1, false);
-        if (steps == 0)
-            return true;
-        for (int i = 0; i < steps; ++i)
-            edit_.Key(kLeft, shift);
-    }
-    numericBackspaceDone_ = false;
-    deletePending_ = true;
-    charwise_ = false;
+    const bool backspace = key == kBackspace;
+    if (DeleteSelection())
+        backspaceKey_ = backspace ? BackspaceKey::Done : BackspaceKey::None;
+    else if (backspace)
+        backspaceKey_ = BackspaceKey::Waits;
+    else
+        DeleteInNumber();
     return true;
 }
 
@@ -89,7 +68,7 @@ bool Control::PositionalDeletion(int key, bool shift)
         deletePending_ = true;
         return false;
     }
-    if (DeleteSelection(false)) {
+    if (DeleteSelection()) {
         if (key == kBackspace)
             backspaceDone_ = true;
         return true;
@@ -162,14 +141,14 @@ int Control::StepsToEditable(int position, bool forward) const
     }
 }
 
-bool Control::DeleteSelection(bool typing)
+bool Control::DeleteSelection()
 {
     const int start = edit_.Start();
     const int end = edit_.End();
     if (start == end)
         return false;
     if (IsNumeric()) {
-        DeleteNumericSelection(typing);
+        DeleteNumericSelection();
         return true;
     }
     std::string blank = Format(Value::None()).text;
@@ -188,30 +167,6 @@ bool Control::DeleteSelection(bool typing)
     return true;
 }
 
-void Control::DeleteNumericSelection(bool typing)
-{
-    const int start = std::max(edit_.Start(), firstField_);
-    const int end = edit_.End();
-    charwise_ = false;
-    typing_ = typing_ || typing;
-    const int point = PointPos(Text());
-    edit_.Replace("");
-    const std::string rest = Text();
-    if (decimalPlaces_ != 0) {
-        if (start <= point && point <= end) {
-            if (!rest.empty() || !typing) {
-                std::string laid = rest;
-                if (decimalPlaces_ + 1 >= static_cast<int>(rest.size()) && CharOf(rest, 0) != Point())
-                    laid.insert(laid.begin(), Point());
-                Reformat(&laid);
-            }
-        } else if (!typing)
-            Reformat(nullptr);
-    } else if (!rest.empty() && !typing)
-        Reformat(&rest);
-    PlaceCaret(start);
-}
-
 void Control::SetSelection(int start, int end)
 {
     const int caret = edit_.Start();
@@ -226,8 +181,9 @@ void Control::Paste(const std::string& clipboard)
     if (Refuses())
         return;
     const std::string before = Text();
+    const bool wasModified = modified_;
     PasteText(clipboard);
-    NoteChange(before);
+    NoteChange(before, wasModified);
 }
 
 void Control::PasteText(const std::string& clipboard)
@@ -242,6 +198,7 @@ void Control::PasteText(const std::string& clipboard)
         return Beep();
     for (char& c : text)
         c = c == Point() ? '.' : c;
+    // A bare number is a percentage in a percent field.
     if (type_ == kNumber)
         SetData(Value::OfNumber(Number::FromDouble(ToDouble(text) / (percent_ ? 100.0 : 1.0))));
     else

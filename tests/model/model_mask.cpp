@@ -97,20 +97,18 @@ Control::MaskChar Control::PositionalCharAt(const std::string& mask, int positio
 
 Control::MaskChar Control::CharAt(const std::string& text, int position) const
 {
-    const size_t point = mask_.find('.');
-    const bool escapedPoint = point != std::string::npos && point > 0 && mask_[point - 1] == '~';
-    if (!IsNumeric() || escapedPoint) {
+    if (!IsNumeric()) {
         const bool behind = ampm_ && position >= ampmPos_ + AmPmWidth();
         return PositionalCharAt(mask_, behind ? position + kAmPmLength - AmPmWidth() : position);
     }
-    const auto at = static_cast<size_t>(position);
-    const char c = position >= 0 && at < text.size() ? text[at] : '\0';
-    const bool digit = c >= '0' && c <= '9';
-    if (c != '\0' && !digit && c != '-' && c != '+')
-        return {c == Point() ? '.' : c == regional_->thousand ? ',' : c, -1};
-    if (digit && at < mask_.size() && mask_[at] == '0')
-        return {'0', -1};
-    return {'#', -1};
+    // Digits and the sign are fields, and so is the place behind the text; a literal never is, whatever it is.
+    const ShownNumber shown = Shows(text);
+    const bool inside = position >= 0 && position < static_cast<int>(text.size());
+    const bool body = position >= shown.begin && position < shown.end;
+    const auto stands = [&](const std::vector<int>& at) { return std::count(at.begin(), at.end(), position) != 0; };
+    if (!inside || position == shown.sign || (body && (stands(shown.integerAt) || stands(shown.fractionAt))))
+        return {'#', -1};
+    return {position == shown.point ? '.' : '~', -1};
 }
 
 int Control::RunAfter(int position) const
@@ -158,6 +156,28 @@ bool Control::Editable(const std::string& text, int position) const
     return !InsideAmPm(position) && InTable(CharAt(text, position).c, type_);
 }
 
+bool Control::SymbolAt(const std::string& mask, size_t index) const
+{
+    const std::string& symbol = regional_->currency;
+    return !symbol.empty() && mask.compare(index, symbol.size(), symbol) == 0;
+}
+
+std::string Control::EscapedSymbol() const
+{
+    std::string escaped;
+    for (const char c : regional_->currency)
+        escaped += std::string("\\") + c;
+    return escaped;
+}
+
+// A mask that can show no digit shows what the default mask shows.
+model::Format Control::CompiledMask() const
+{
+    int unused = 0;
+    const auto format = model::Format::Compile(FormatTextOf(mask_, type_, false, unused));
+    return format ? *format : *model::Format::Compile(DefaultMask(kNumber));
+}
+
 std::string Control::FormatTextOf(const std::string& mask, Type type, bool literals, int& first) const
 {
     std::string text;
@@ -170,6 +190,9 @@ std::string Control::FormatTextOf(const std::string& mask, Type type, bool liter
             text += mask[i + 1];
             ++escapes;
             i += 2;
+        } else if (SymbolAt(mask, i)) {
+            text += EscapedSymbol();
+            i += regional_->currency.size();
         } else if (c == '.' || c == ',' || c == '%')
             text += mask[i++];
         else if (InTable(c, type)) {
@@ -180,7 +203,7 @@ std::string Control::FormatTextOf(const std::string& mask, Type type, bool liter
         } else
             do
                 text += mask[i++];
-            while (i < mask.size() && !InTable(mask[i], type));
+            while (i < mask.size() && !InTable(mask[i], type) && !SymbolAt(mask, i));
     }
     return text;
 }
@@ -193,7 +216,8 @@ bool Control::CheckNumberMask(const std::string& mask) const
     bool percent = false;
     for (size_t i = 0; i < mask.size();) {
         const char c = mask[i];
-        if (c == '#' || c == '0') {
+        const bool symbol = SymbolAt(mask, i);
+        if (!symbol && (c == '#' || c == '0')) {
             if (percent)
                 return false;
             body = true;
@@ -202,7 +226,7 @@ bool Control::CheckNumberMask(const std::string& mask) const
             if (body || i + 1 >= mask.size() || mask[i + 1] == '~')
                 return false;
             i += 2;
-        } else if (mask.compare(i, regional_->currency.size(), regional_->currency) == 0) {
+        } else if (symbol || regional_->currency.empty()) {
             if (currency || body)
                 return false;
             currency = body = true;
@@ -329,7 +353,7 @@ bool Control::CheckMask(const std::string& mask, Type type)
 
 void Control::ChooseEditMode()
 {
-    charwise_ = (formatFlags_ & 0x4000) != 0 || !IsNumeric() || mask_.find('#') == std::string::npos;
+    charwise_ = (formatFlags_ & 0x4000) != 0 || !IsNumeric() || !NumberFormat().Grows();
 }
 
 int Control::SetMask(const char* mask, Type type)
@@ -373,14 +397,10 @@ int Control::SetMask(const char* mask, Type type)
         if (type == kDate || type == kDateTime)
             yearDigits_ = 2;
     }
-    if (IsNumeric()) {
-        const size_t point = mask_.find('.');
-        for (size_t i = point + 1; point != std::string::npos && i < mask_.size(); ++i, ++decimalPlaces_)
-            if (mask_[i] != '0' && mask_[i] != '#')
-                break;
-        percent_ = mask_.find('%') != std::string::npos;
-    } else
-        percent_ = false;
+    format_ = IsNumeric() ? CompiledMask() : model::Format();
+    percent_ = format_.percent;
+    if (IsNumeric())
+        decimalPlaces_ = static_cast<int>(NumberFormat().Places());
     ChooseEditMode();
     displayLength_ = 0;
     for (const char c : mask_)

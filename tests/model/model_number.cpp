@@ -147,6 +147,9 @@ std::optional<Format> Format::Compile(const std::string& text)
             else
                 (!started ? format.prefix : format.fraction.empty() ? format.middle : format.suffix) += l;
         };
+        const bool placeholder = c == '0' || c == '#';
+        if (!format.point && (c == ',' || placeholder))
+            ++format.room;
         switch (c) {
         case '0':
         case '#':
@@ -184,55 +187,146 @@ std::optional<Format> Format::Compile(const std::string& text)
     return format;
 }
 
-// The integer digits from the right, each literal before the placeholders behind it, the sign before the first digit.
-std::string Format::IntegerText(const std::string& digits, bool negative, char group) const
+size_t Format::ForcedInteger() const
 {
+    const size_t forced = integer.find('0');
+    return forced == std::string::npos ? 0 : integer.size() - forced;
+}
+
+size_t Format::ForcedFraction() const
+{
+    return fraction.find_last_of('0') + 1;
+}
+
+std::string Format::Tail() const
+{
+    if (point)
+        return fraction.empty() ? middle : suffix;
+    std::string tail;
+    for (const Inner& literal : inner)
+        if (literal.before == integer.size())
+            tail += literal.literal;
+    return tail;
+}
+
+bool Format::IsFull(size_t significant, const Separators& separators) const
+{
+    const size_t shown = significant + 1 + (Groups(separators) ? significant / 3 : 0);
+    return shown > static_cast<size_t>(room);
+}
+
+// The integer digits from the right, each literal before the placeholders behind it, the sign before the first digit.
+std::string Format::Lay(const Digits& digits, const Separators& separators) const
+{
+    const size_t count = digits.integer.size();
     std::string reversed;
     auto next = inner.rbegin();
-    for (size_t done = 0; done < digits.size() || done < integer.size(); ++done) {
-        if (done == digits.size() && negative)
-            reversed += '-';
+    const auto literals = [&](size_t done) {
         for (; next != inner.rend() && integer.size() - next->before <= done; ++next)
             reversed += next->literal;
-        if (done >= digits.size())
+    };
+    literals(0);
+    for (size_t done = 0; done < count || done < integer.size(); ++done) {
+        if (done == count && digits.negative)
+            reversed += '-';
+        literals(done);
+        if (done >= count)
             continue;
-        if (grouped && done != 0 && done % 3 == 0)
-            reversed += group;
-        reversed += digits[digits.size() - 1 - done];
+        if (Groups(separators) && done != 0 && done % 3 == 0)
+            reversed += separators.group;
+        reversed += digits.integer[count - 1 - done];
     }
-    if (negative && digits.size() >= integer.size())
+    if (digits.negative && count >= integer.size())
         reversed += '-';
-    for (; next != inner.rend(); ++next)
-        reversed += next->literal;
-    return {reversed.rbegin(), reversed.rend()};
+    literals(integer.size());
+    std::string text = prefix + std::string(reversed.rbegin(), reversed.rend());
+    if (point)
+        text += separators.point;
+    return text + middle + digits.fraction + suffix;
+}
+
+int ShownNumber::IntegerFrom(int position) const
+{
+    return static_cast<int>(std::count_if(integerAt.begin(), integerAt.end(), [=](int at) { return at >= position; }));
+}
+
+int ShownNumber::FractionBefore(int position) const
+{
+    return static_cast<int>(std::count_if(fractionAt.begin(), fractionAt.end(), [=](int at) { return at < position; }));
+}
+
+int ShownNumber::First() const
+{
+    return sign >= 0 ? sign : !integerAt.empty() ? integerAt[0] : point >= 0 ? point : end;
+}
+
+ShownNumber ReadShown(const Format& format, const std::string& text, const Separators& separators)
+{
+    ShownNumber shown;
+    const std::string tail = format.Tail();
+    size_t begin = text.compare(0, format.prefix.size(), format.prefix) == 0 ? format.prefix.size() : 0;
+    size_t end = text.size();
+    if (end >= begin + tail.size() && text.compare(end - tail.size(), tail.size(), tail) == 0)
+        end -= tail.size();
+    shown.begin = static_cast<int>(begin);
+    shown.end = static_cast<int>(end);
+    for (size_t i = begin; i < end; ++i) {
+        const char c = text[i];
+        const int at = static_cast<int>(i);
+        if (IsDigit(c)) {
+            const bool fraction = shown.point >= 0;
+            (fraction ? shown.digits.fraction : shown.digits.integer) += c;
+            (fraction ? shown.fractionAt : shown.integerAt).push_back(at);
+        } else if (format.point && c == separators.point && shown.point < 0) {
+            shown.point = at;
+            if (text.compare(i + 1, format.middle.size(), format.middle) == 0)
+                i += format.middle.size();
+        } else if (c == '-' && shown.integerAt.empty() && shown.point < 0) {
+            shown.sign = at;
+            shown.digits.negative = true;
+        }
+    }
+    return shown;
 }
 
 std::string Render(const Format& format, const Number& number, const Separators& separators)
 {
     if (format.general)
         return General(number, separators);
-    const Number shown = format.percent ? number.TimesPowerOfTen(2) : number;
-    const auto places = format.fraction.size();
-    std::string digits = Rounded(shown, static_cast<int>(places));
+    const Number scaled = format.percent ? number.TimesPowerOfTen(2) : number;
+    const auto places = format.Places();
+    std::string digits = Rounded(scaled, static_cast<int>(places));
     digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size()));
-    const bool zero = digits.empty();
+    Digits shown;
+    shown.negative = number.negative && !digits.empty();
     if (digits.size() < places)
         digits.insert(0, places - digits.size(), '0');
-    std::string fraction = digits.substr(digits.size() - places);
-    std::string integer = digits.substr(0, digits.size() - places);
+    shown.fraction = digits.substr(digits.size() - places);
+    shown.integer = digits.substr(0, digits.size() - places);
+    if (shown.integer.size() < format.ForcedInteger())
+        shown.integer.insert(0, format.ForcedInteger() - shown.integer.size(), '0');
+    while (shown.fraction.size() > format.ForcedFraction() && shown.fraction.back() == '0')
+        shown.fraction.pop_back();
+    return format.Lay(shown, separators);
+}
 
-    const size_t forced = format.integer.find('0');
-    const size_t least = forced == std::string::npos ? 0 : format.integer.size() - forced;
-    if (integer.size() < least)
-        integer.insert(0, least - integer.size(), '0');
-    while (!fraction.empty() && fraction.back() == '0' &&
-           format.fraction.find('0', fraction.size() - 1) == std::string::npos)
-        fraction.pop_back();
-
-    std::string text = format.prefix + format.IntegerText(integer, number.negative && !zero, separators.group);
-    if (format.point)
-        text += separators.point;
-    return text + format.middle + fraction + format.suffix;
+std::string PlainText(const Number& number, char point)
+{
+    if (number.digits.empty())
+        return "0";
+    std::string text = number.digits;
+    if (number.scale < 0)
+        text.append(static_cast<size_t>(-number.scale), '0');
+    const auto scale = static_cast<size_t>(std::max(0, number.scale));
+    if (text.size() <= scale)
+        text.insert(0, scale + 1 - text.size(), '0');
+    if (scale > 0) {
+        text.insert(text.size() - scale, 1, point);
+        text.erase(text.find_last_not_of('0') + 1);
+        if (text.back() == point)
+            text.pop_back();
+    }
+    return (number.negative && text.find_first_not_of("0") != std::string::npos ? "-" : "") + text;
 }
 
 double ToDouble(const std::string& text)

@@ -20,6 +20,20 @@ struct Number {
     Number TimesPowerOfTen(int power) const;
 };
 
+struct Separators {
+    char point = '.';
+    char group = ',';
+};
+
+// The digits of a number as they are shown, and as they are typed.
+struct Digits {
+    bool negative = false;
+    std::string integer;
+    std::string fraction;
+
+    bool AreZero() const { return (integer + fraction).find_first_not_of('0') == std::string::npos; }
+};
+
 // What a display format says, once read. Literals stand where the format has them, between placeholders too.
 struct Format {
     struct Inner {
@@ -34,21 +48,43 @@ struct Format {
     std::string integer;
     std::string fraction;
     bool point = false;
+    int room = 0;  // characters of the integer part, separators included
     bool grouped = false;
     bool percent = false;
     bool general = false;
 
-    std::string IntegerText(const std::string& digits, bool negative, char group) const;
+    bool Grows() const { return (integer + fraction).find('#') != std::string::npos; }
+    size_t ForcedInteger() const;
+    size_t ForcedFraction() const;
+    size_t Places() const { return fraction.size(); }
+    bool Groups(const Separators& separators) const { return grouped && separators.group != separators.point; }
+    std::string Tail() const;  // the literals behind the number
+    std::string Lay(const Digits& digits, const Separators& separators) const;
+    bool IsFull(size_t significant, const Separators& separators) const;
 
     static std::optional<Format> Compile(const std::string& text);
 };
 
-struct Separators {
-    char point = '.';
-    char group = ',';
+// A number found in a text: its digits, and where they stand.
+struct ShownNumber {
+    Digits digits;
+    int begin = 0;  // behind the literals before it
+    int end = 0;    // where the literals behind it begin
+    int sign = -1;
+    int point = -1;
+    std::vector<int> integerAt;
+    std::vector<int> fractionAt;
+
+    bool InFraction(int position) const { return point >= 0 && position > point; }
+    int IntegerFrom(int position) const;     // integer digits there and behind
+    int FractionBefore(int position) const;  // fraction digits before it
+    int First() const;                       // the first position of the number
 };
 
+ShownNumber ReadShown(const Format& format, const std::string& text, const Separators& separators);
+
 std::string Render(const Format& format, const Number& number, const Separators& separators);
+std::string PlainText(const Number& number, char point);  // every digit
 bool IsNumber(const std::string& text, char point);
 double ToDouble(const std::string& text);  // as far as it is a decimal number
 

@@ -1,254 +1,402 @@
-// The model's typing into numbers: digits, signs and the point, and where the caret stands in a number laid anew.
-// The number is laid out after each key until its integer part is full.
+// The model's typing into numbers: whoever types a number gets that number.
+// Each key changes the digits as they are shown; the text is laid out from them, and the caret is put back among them.
 #include "model_control.h"
 #include "model_text.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <utility>
 
 namespace model {
+namespace {
 
-void Control::EnterNumericChar(char c)
+std::string Significant(const std::string& integer)
 {
-    typed_.clear();
-    typedFraction_.clear();
-    const std::string carried = carried_;
-    const bool behindTyped = typedTo_ != 0 && typedTo_ == edit_.Start();
-    ForgetTyping();
-    int position = edit_.Start();
-    if (static_cast<unsigned>(position) > static_cast<unsigned>(displayLength_ - 1))
+    return integer.substr(std::min(integer.find_first_not_of('0'), integer.size()));
+}
+
+// The digits in front of the last `right` ones.
+std::string LeftOf(const std::string& digits, size_t right)
+{
+    return digits.substr(0, digits.size() - right);
+}
+
+std::string RightOf(const std::string& digits, size_t right)
+{
+    return digits.substr(digits.size() - right);
+}
+
+}  // namespace
+
+// A mask that grows shows no leading zero but those that it forces; the fraction has its forced zeros at the end.
+Digits Control::Settled(Digits digits) const
+{
+    const model::Format& format = NumberFormat();
+    const size_t least = format.Grows() ? format.ForcedInteger() : format.integer.size();
+    if (format.Grows())
+        digits.integer = Significant(digits.integer);
+    digits.integer.insert(0, least - std::min(least, digits.integer.size()), '0');
+    digits.fraction.resize(std::min(digits.fraction.size(), format.Places()));
+    digits.fraction.resize(std::max(digits.fraction.size(), format.ForcedFraction()), '0');
+    return digits;
+}
+
+// Among the integer digits, with so many to the right of the caret: directly behind a digit or the sign.
+void Control::CaretBefore(int right)
+{
+    const ShownNumber shown = Shows(Text());
+    const int left = static_cast<int>(shown.integerAt.size()) - right;
+    if (left > 0)
+        PlaceCaret(shown.integerAt[static_cast<size_t>(left) - 1] + 1);
+    else
+        CaretToStart();
+}
+
+void Control::CaretToStart()
+{
+    const ShownNumber shown = Shows(Text());
+    PlaceCaret(shown.First() + (shown.sign >= 0 ? 1 : 0));
+}
+
+void Control::CaretInFraction(int place)
+{
+    const ShownNumber shown = Shows(Text());
+    if (place > 0)
+        PlaceCaret(shown.fractionAt[static_cast<size_t>(place) - 1] + 1);
+    else
+        PlaceCaret(!shown.fractionAt.empty() ? shown.fractionAt[0]
+                                             : shown.point + 1 + static_cast<int>(NumberFormat().middle.size()));
+}
+
+// Behind a digit with so many to its right, and over what stands before the next one. Never over what is behind a number.
+void Control::CarryOver(int right)
+{
+    const int typed = edit_.Start();
+    const ShownNumber shown = Shows(Text());
+    if (right > 0)
+        PlaceCaret(shown.integerAt[shown.integerAt.size() - static_cast<size_t>(right)]);
+    else if (decimalPlaces_ != 0)
+        CaretInFraction(0);
+    Carry(typed, edit_.Start());
+}
+
+void Control::Carry(int from, int to)
+{
+    carried_ = Text().substr(static_cast<size_t>(from), static_cast<size_t>(to - from));
+}
+
+void Control::NotifyFull()
+{
+    if (autoskip_)
+        ++autoskips_;
+}
+
+// The currency symbol, or the literals before the number, may be typed as they are read.
+bool Control::BelongsToSymbol(char c, const ShownNumber& shown)
+{
+    if (!spelled_ || shown.digits.negative || !shown.digits.AreZero())
+        return false;
+    const bool begins = IsDigit(c) || c == '-' || c == '+' || c == Point();
+    const std::string next = *spelled_ + c;
+    const auto spells = [&](const std::string& text) { return text.compare(0, next.size(), next) == 0; };
+    const bool symbol = mask_.find(regional_->currency) != std::string::npos && spells(regional_->currency);
+    if ((begins && spelled_->empty()) || (!symbol && !spells(NumberFormat().prefix)))
+        return false;
+    spelled_ = next;
+    return true;
+}
+
+// Behind the last place of the number nothing is taken and nothing is said.
+bool Control::IsDropped(const ShownNumber& shown) const
+{
+    const int position = edit_.Start();
+    if (shown.InFraction(position))
+        return shown.FractionBefore(position) >= decimalPlaces_;
+    const model::Format& format = NumberFormat();
+    const bool full = format.Grows() ? format.IsFull(Significant(shown.digits.integer).size(), Signs())
+                                     : shown.digits.integer.size() >= format.integer.size();
+    return decimalPlaces_ == 0 && position == edit_.Length() && full;
+}
+
+void Control::EnterNumericChar(char c, bool replaces)
+{
+    const std::string carried = std::exchange(carried_, "");
+    if (NumberFormat().general)
+        return Beep();
+    const int position = edit_.Start();
+    const ShownNumber shown = Shows(Text());
+    const bool symbol = BelongsToSymbol(c, shown);
+    const bool starts = c == '-' || c == '+' || c == Point();
+    const bool shows = CharOf(Text(), position) == c && !IsDigit(c) && (position >= shown.begin || !starts);
+    if (symbol) {
+        if (position < shown.begin && CharOf(Text(), position) == c)
+            PlaceCaret(position + 1);
         return;
+    }
+    spelled_.reset();
     const size_t over = carried.find(c);
     if (over != std::string::npos) {
         carried_ = carried.substr(over + 1);
         return;
     }
-    const std::string text = Text();
-    const char under = CharOf(text, position);
-    const int point = PointPos(text);
-    const bool loneSign = text == "-" || text == "+";
-    if (decimalPlaces_ != 0 && !loneSign && position >= point + decimalPlaces_ + 1)
+    if (shows)
+        return PlaceCaret(position + 1);
+    if (IsDropped(shown))
         return;
-    const bool onField = Editable(text, position);
-    if (Validate(c, position) == Verdict::Refused) {
-        if (c != Point() || decimalPlaces_ == 0) {
-            RefuseNumeric();
-            return;
-        }
-        if (position < point) {
-            const std::string cut =
-                text.substr(0, static_cast<size_t>(position)) + text.substr(static_cast<size_t>(point));
-            Reformat(&cut);
-            PlaceCaret(PointPos(Text()) + 1);
-            ChooseEditMode();
-            return;
-        }
-        if (position > point) {
-            RefuseNumeric();
-            return;
-        }
-        position = point + 1;
-        PlaceCaret(position);
-    } else if (!onField) {
-        const char mask = CharAt(text, position).c;
-        if (position < firstField_) {
-            position = firstField_;
-            PlaceCaret(position);
-        } else if (mask != '.' && mask != ',' && !(behindTyped && !typedFraction_.empty()))
-            return Beep();
-    }
-    // The point is never overwritten: a digit goes to the first fraction position, a sign before the point.
-    if (!typed_.empty() && CharOf(text, position) == Point()) {
-        if (!IsDigit(c))
-            typedFraction_.swap(typed_);
-        else if (++position; decimalPlaces_ == 0 && !IsDigit(CharOf(text, position)))
-            return Beep();
-    }
-    if (c == '-') {
-        if (!typed_.empty()) {
-            edit_.Select(position, position + 1);
-            edit_.Replace(typed_);
-            return;
-        }
-        if (typedFraction_.empty())
-            return;
-        edit_.Char(c);
-        PlaceCaret(position + 1);
-        return;
-    }
-    bool lastFraction = false;
-    if (!typed_.empty()) {
-        lastFraction = decimalPlaces_ != 0 && position == point + decimalPlaces_;
-        edit_.Select(position, position + static_cast<int>(typed_.size()));
-        edit_.Replace(typed_);
-        position = edit_.Start();
-        const std::string placed = Text();
-        const int behind = position;
-        if (decimalPlaces_ != 0) {
-            if (!charwise_ && position < point) {
-                if (Reformat(nullptr) != 0)
-                    position = PointPos(Text()) + 1;
-                PlaceCaret(position);
-            } else if (!charwise_) {
-                if (percent_)
-                    Reformat(nullptr);
-                edit_.SetText(std::string(Text()));
-                PlaceCaret(position);
-            }
-            if (under == '-')
-                PlaceCaret(CaretBehindSign(placed, behind, c));
-            if (text.find(Point()) == std::string::npos)
-                lastFraction = position > PointPos(Text()) + decimalPlaces_;
-        }
-    } else if (!typedFraction_.empty()) {
-        edit_.Char(typedFraction_[0]);
-        position = edit_.Start();
-        const std::string inserted = Text();
-        // A digit alone: the literals in front of a number are not part of it.
-        const std::string whole = text.empty() ? LeadingEscapes() + inserted : inserted;
-        const int grown = Reformat(&whole);
-        if (text.empty() && decimalPlaces_ != 0 && !IsDigit(c))
-            position = firstField_;
-        else
-            position = CaretBehindInserted(inserted, position, grown, c, text.empty() || loneSign);
-        typedTo_ = position;
-        PlaceCaret(position);
-        lastFraction = decimalPlaces_ != 0 && edit_.Start() > PointPos(Text()) + decimalPlaces_;
-    }
-    FinishNumeric(position, lastFraction);
-}
-
-void Control::FinishNumeric(int position, bool lastFraction)
-{
-    const int point = PointPos(Text());
-    if (decimalPlaces_ != 0) {
-        if (static_cast<int>(mask_.find('.')) == point)
-            charwise_ = true;
-        if (lastFraction) {
-            if (autoskip_)
-                MoveCaret(kRight, shift_, false);
-            return;
-        }
-    } else if (displayLength_ == edit_.Length())
-        charwise_ = true;
-    if (!charwise_)
-        return;
-    if (SkipLiterals(position, true))
-        PlaceCaret(edit_.End());
-    else if (autoskip_)
-        MoveCaret(kRight, shift_, false);
+    if (IsDigit(c))
+        EnterDigit(c, shown, replaces);
+    else if (c == '-' || c == '+')
+        EnterSign(c, shown);
+    else if (c == Point() && decimalPlaces_ != 0 && !shown.InFraction(position))
+        EnterPoint(shown);
     else
-        PlaceCaret(edit_.Start());
+        RefuseNumeric();
 }
 
-// A character that no number takes: the number is laid out again, the caret stays at its digits.
+void Control::EnterDigit(char c, ShownNumber shown, bool replaces)
+{
+    const int position = edit_.Start();
+    Digits& digits = shown.digits;
+    digits.negative = digits.negative && position > shown.sign;
+    if (shown.InFraction(position))
+        return EnterFractionDigit(c, digits, shown.FractionBefore(position), replaces && NumberFormat().Grows());
+    int right = shown.IntegerFrom(position);
+    if (!NumberFormat().Grows() && digits.integer.empty())
+        right = static_cast<int>(Settled(digits).integer.size());
+    EnterIntegerDigit(c, digits, right, position);
+}
+
+void Control::EnterIntegerDigit(char c, Digits digits, int right, int position)
+{
+    const model::Format& format = NumberFormat();
+    const bool grows = format.Grows();
+    const std::string significant = Significant(digits.integer);
+    const bool full = !grows || format.IsFull(significant.size(), Signs());
+    if (grows)
+        right = std::min(right, static_cast<int>(significant.size()));
+    charwise_ = charwise_ || full;
+    if (full && right > 0)
+        return OverwriteInteger(c, digits, right);
+    const std::string left = LeftOf(significant, static_cast<size_t>(grows ? right : 0));
+    if ((grows || format.integer.empty()) && c == '0' && left.empty()) {
+        // Nobody counts on a leading zero: it changes nothing.
+        const bool signGone = digits.negative != Shows(Text()).digits.negative;
+        if (signGone || significant.empty())
+            LayOut(Settled(digits));
+        if (significant.empty())
+            CaretBefore(0);
+        else
+            PlaceCaret(signGone ? Shows(Text()).First() : position);
+        return;
+    }
+    if (full && decimalPlaces_ == 0)
+        return RefuseNumeric();
+    if (full)
+        return EnterFractionDigit(c, Settled(digits), 0, false);
+    digits.integer = left + c + RightOf(significant, static_cast<size_t>(right));
+    LayOut(Settled(digits));
+    CaretBefore(right);
+    if (!format.IsFull(significant.size() + 1, Signs()))
+        return;
+    charwise_ = true;
+    if (right > 0)
+        return;
+    CarryOver(0);
+    if (decimalPlaces_ == 0)
+        NotifyFull();
+}
+
+// A full number: the digit takes the place of the next one, and leading zeros stay as they stand.
+void Control::OverwriteInteger(char c, Digits digits, int right)
+{
+    const std::string least = Settled(digits).integer;
+    if (digits.integer.size() < least.size())
+        digits.integer = least;
+    const std::string integer = digits.integer;
+    digits.integer = LeftOf(integer, static_cast<size_t>(right)) + c + RightOf(integer, static_cast<size_t>(right) - 1);
+    LayOut(digits);
+    CaretBefore(right - 1);
+    CarryOver(right - 1);
+    if (right == 1 && decimalPlaces_ == 0)
+        NotifyFull();
+}
+
+void Control::EnterFractionDigit(char c, Digits digits, int place, bool inserts)
+{
+    const auto at = static_cast<size_t>(place);
+    digits.fraction.replace(at, inserts || at == digits.fraction.size() ? 0 : 1, 1, c);
+    digits = Settled(digits);
+    LayOut(digits);
+    CaretInFraction(place + 1);
+    const model::Format& format = NumberFormat();
+    charwise_ = charwise_ || !format.Grows() || format.IsFull(Significant(digits.integer).size(), Signs());
+    if (place + 1 == decimalPlaces_)
+        NotifyFull();
+}
+
+// The digits between the caret and the point go.
+void Control::EnterPoint(const ShownNumber& shown)
+{
+    Digits digits = shown.digits;
+    const int position = edit_.Start();
+    digits.negative = digits.negative && position > shown.sign;
+    digits.integer = LeftOf(digits.integer, static_cast<size_t>(shown.IntegerFrom(position)));
+    LayOut(Settled(digits));
+    CaretInFraction(0);
+    ChooseEditMode();
+}
+
+void Control::EnterSign(char c, const ShownNumber& shown)
+{
+    const int position = edit_.Start();
+    const int right = shown.IntegerFrom(position);
+    // A caret that Backspace has left between forced zeros stands before the number.
+    const bool amongZeros = NumberFormat().Grows() && right > 0 && Significant(shown.digits.integer).empty();
+    const bool behindDigits = (right != static_cast<int>(shown.integerAt.size()) && !amongZeros) ||
+                              shown.FractionBefore(position) != 0;
+    const bool behindSign = shown.sign >= 0 && position > shown.sign;
+    if (behindDigits || behindSign)
+        return RefuseNumeric();
+    const model::Format& format = NumberFormat();
+    charwise_ = charwise_ || format.IsFull(Significant(shown.digits.integer).size(), Signs());
+    Digits digits = shown.digits;
+    digits.negative = c == '-';
+    LayOut(Settled(digits));
+    if (digits.negative)
+        CaretToStart();
+    else
+        PlaceCaret(position);
+}
+
+// The number is laid out again; what is right of the caret stays there.
 void Control::RefuseNumeric()
 {
     Beep();
-    const std::string before = Text();
-    const Place place = PlaceOf(before, edit_.Start());
-    const int along = edit_.Start() + Reformat(nullptr);
-    const bool stays = !before.empty() && PlaceOf(Text(), along) == place;
-    PlaceCaret(stays ? along : AtPlace(Text(), place));
+    const int position = edit_.Start();
+    const int behind = edit_.Length() - position;
+    const ShownNumber shown = Shows(Text());
+    LayOut(Settled(shown.digits));
+    PlaceCaret(position <= shown.begin ? position : std::max(Shows(Text()).First(), edit_.Length() - behind));
 }
 
-std::string Control::LeadingEscapes() const
+void Control::BackspaceInNumber()
 {
-    std::string literals;
-    for (size_t i = 0; (formatFlags_ & 0x4000) != 0 && i + 1 < mask_.size() && mask_[i] == '~'; i += 2)
-        literals += mask_[i + 1];
-    return literals;
-}
-
-// The caret behind a character inserted into `before`, which was laid out anew: along with the text as it grew, unless
-// that is another place among the digits than behind the one typed.
-int Control::CaretBehindInserted(const std::string& before, int position, int grown, char typed, bool emptied) const
-{
-    const Place place = PlaceOf(before, position);
-    const int along = position + grown;
-    if (emptied)
-        return AtPlace(Text(), place);
-    if (!IsDigit(typed) || PlaceOf(Text(), along) == place)
-        return along;
-    const bool zeroDropped = IntegerDigits(Text()) < IntegerDigits(before);
-    const bool noDigits = DigitsBetween(Text(), 0, edit_.Length()) == 0;
-    return zeroDropped && (noDigits || (grown == 0 && !place.fraction)) ? along : AtPlace(Text(), place);
-}
-
-// The caret behind a character that has taken the sign's place.
-int Control::CaretBehindSign(const std::string& placed, int position, char typed) const
-{
-    if (!IsDigit(typed))
-        return 1;
-    if (typed == '0' && CharOf(Text(), firstField_) == '0')
-        return firstField_ + 1;
-    return std::max(1, AtPlace(Text(), PlaceOf(placed, position)));
-}
-
-// The point, or the place behind the last digit or sign where there is none.
-int Control::EndOfInteger(const std::string& text) const
-{
-    const size_t point = text.find(Point());
-    return static_cast<int>(point != std::string::npos ? point : text.find_last_of("0123456789+-") + 1);
-}
-
-int Control::DigitsBetween(const std::string& text, int from, int to)
-{
-    int digits = 0;
-    for (int i = from; i < to; ++i)
-        digits += IsDigit(CharOf(text, i)) ? 1 : 0;
-    return digits;
-}
-
-Control::Place Control::PlaceOf(const std::string& text, int position) const
-{
-    const int end = EndOfInteger(text);
-    return position > end ? Place{true, DigitsBetween(text, end, position)}
-                          : Place{false, DigitsBetween(text, position, end)};
-}
-
-// In the integer part directly behind a digit, where there is one left of the place.
-int Control::AtPlace(const std::string& text, const Place& place) const
-{
-    const int end = EndOfInteger(text);
-    if (place.fraction) {
-        int at = end + 1;
-        while (at < static_cast<int>(text.size()) && DigitsBetween(text, end, at) < place.digits)
-            ++at;
-        return at;
+    if (NumberFormat().general)
+        return;
+    const int position = edit_.Start();
+    const ShownNumber shown = Shows(Text());
+    Digits digits = shown.digits;
+    const bool grows = NumberFormat().Grows();
+    const auto right = static_cast<size_t>(shown.IntegerFrom(position));
+    const auto place = static_cast<size_t>(shown.FractionBefore(position));
+    const size_t left = digits.integer.size() - right;
+    if (place == 0 && left == 0 && (shown.sign < 0 || position <= shown.sign))
+        return;
+    charwise_ = false;
+    spelled_ = "";
+    if (place > 0) {
+        if (place - 1 < NumberFormat().ForcedFraction())
+            digits.fraction[place - 1] = '0';
+        else
+            digits.fraction.erase(place - 1, 1);
+        LayOut(Settled(digits));
+        return CaretInFraction(static_cast<int>(place) - 1);
     }
-    int at = end;
-    while (at > 0 && DigitsBetween(text, at, end) < place.digits)
-        --at;
-    const size_t digit = at > 0 ? text.find_last_of("0123456789", static_cast<size_t>(at) - 1) : std::string::npos;
-    return digit != std::string::npos ? static_cast<int>(digit) + 1 : at;
-}
-
-// Lays the number text through the mask again; characters by which the text grew.
-int Control::Reformat(const std::string* given)
-{
-    const std::string text = given != nullptr ? *given : Text();
-    if (text.size() > 254)
-        return 0;
-    size_t i = 0;
-    if ((formatFlags_ & 0x4000) != 0)
-        for (size_t m = 0; m < mask_.size() && mask_[m] == '~'; m += 2)
-            ++i;
-    std::string number;
-    for (; i < text.size(); ++i) {
-        const char c = text[i];
-        if (c == Point())
-            number += '.';
-        else if (IsDigit(c) || c == '+' || c == '-')
-            number += c;
-    }
-    Number value;
-    if (type_ == kNumber)
-        value = Number::FromDouble(ToDouble(number) / (percent_ ? 100.0 : 1.0));
+    if (left == 0)
+        digits.negative = false;
+    else if (grows)
+        digits.integer.erase(left - 1, 1);
     else
-        value = Number::FromText(number).TimesPowerOfTen(percent_ ? -2 : 0);
-    edit_.SetText(Format(Value::OfNumber(value)).text);
-    return std::max(0, edit_.Length() - static_cast<int>(text.size()));
+        digits.integer[left - 1] = '0';
+    const bool emptied = grows && left > 0 && Significant(digits.integer).empty();
+    digits = Settled(digits);
+    LayOut(digits);
+    if (emptied)
+        CaretBefore(digits.integer.empty() ? 0 : 1);
+    else if (left == 0)
+        PlaceCaret(std::max(shown.begin, position - 1));
+    else if (grows)
+        CaretBefore(static_cast<int>(std::min(right, digits.integer.size())));
+    else
+        PlaceCaret(shown.integerAt[left - 1]);
+}
+
+void Control::DeleteInNumber()
+{
+    if (NumberFormat().general)
+        return;
+    const int position = edit_.Start();
+    const ShownNumber shown = Shows(Text());
+    Digits digits = shown.digits;
+    const model::Format& format = NumberFormat();
+    const auto stands = [&](const std::vector<int>& at) { return std::count(at.begin(), at.end(), position) != 0; };
+    const bool sign = position == shown.sign;
+    const bool integer = stands(shown.integerAt);
+    if (!sign && !integer && !stands(shown.fractionAt))
+        return;
+    charwise_ = false;
+    spelled_ = "";
+    const auto right = static_cast<size_t>(shown.IntegerFrom(position));
+    const auto place = static_cast<size_t>(shown.FractionBefore(position));
+    if (sign)
+        digits.negative = false;
+    else if (integer)
+        digits.integer.erase(digits.integer.size() - right, 1);
+    else
+        digits.fraction.erase(place, 1);
+    digits = Settled(digits);
+    const std::string before = Text();
+    LayOut(digits);
+    if (!format.Grows() && digits.AreZero())
+        CaretToStart();
+    else if (sign || !integer || (format.Grows() && (Text() == before || Significant(digits.integer).empty())))
+        PlaceCaret(position);
+    else
+        CaretBefore(static_cast<int>(right) - 1);
+}
+
+// The selected digits and the sign go; in a mask of zeros alone each digit leaves a zero in its place.
+void Control::EraseSelectedDigits(ShownNumber& shown, int start, int end) const
+{
+    const bool grows = NumberFormat().Grows();
+    const auto erase = [&](std::string& digits, const std::vector<int>& at) {
+        for (size_t i = at.size(); i-- > 0;)
+            if (at[i] >= start && at[i] < end)
+                digits.replace(i, 1, grows ? "" : "0");
+    };
+    erase(shown.digits.integer, shown.integerAt);
+    erase(shown.digits.fraction, shown.fractionAt);
+    if (shown.sign >= start && shown.sign < end)
+        shown.digits.negative = false;
+}
+
+void Control::DeleteNumericSelection()
+{
+    const int start = edit_.Start();
+    const int end = edit_.End();
+    if (NumberFormat().general)
+        return PlaceCaret(start);
+    const int behind = edit_.Length() - start;
+    const ShownNumber before = Shows(Text());
+    ShownNumber shown = before;
+    charwise_ = false;
+    spelled_ = "";
+    EraseSelectedDigits(shown, start, end);
+    const Digits digits = Settled(shown.digits);
+    LayOut(digits);
+    const bool grows = NumberFormat().Grows();
+    const bool allZero = grows ? Significant(digits.integer).empty() : digits.AreZero();
+    if (start >= before.end)
+        PlaceCaret(edit_.Length() - behind);
+    else if (before.InFraction(start))
+        CaretInFraction(before.FractionBefore(start));
+    else if (digits.negative && start <= before.sign)
+        PlaceCaret(Shows(Text()).First());
+    else if (allZero)
+        CaretToStart();
+    else if (grows)
+        CaretBefore(std::min(before.IntegerFrom(end), static_cast<int>(digits.integer.size())));
+    else
+        PlaceCaret(std::max(start, Shows(Text()).First()));
 }
 
 }  // namespace model

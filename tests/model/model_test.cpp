@@ -1,8 +1,11 @@
 // The model by itself: what is known of the control's behaviour, worked out by hand, so that the model can be relied on
 // where it and the library agree.
 #include "model_control.h"
+#include "script.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace model {
 namespace {
@@ -32,6 +35,72 @@ protected:
         if (key == kBackspace)
             control_.Char('\b', shift);
         control_.KeyUp();
+    }
+
+    void Play(const std::string& script)
+    {
+        for (const Step& step : StepsOf(script))
+            if (step.kind == StepKind::Key)
+                Press(step.a, step.b != 0);
+            else
+                Enter(std::string(1, static_cast<char>(step.a)));
+    }
+
+    // A number mask with what it shows, "|" for the caret or "[" and "]" around a selection; none of them for all.
+    void GivenShown(const char* mask, std::string shown, bool autoskip = false)
+    {
+        Given(mask, kNumber, "\1", autoskip);
+        const size_t caret = shown.find_first_of("|[");
+        if (caret != std::string::npos)
+            shown.erase(caret, 1);
+        const size_t end = shown.find(']');
+        if (end != std::string::npos)
+            shown.erase(end, 1);
+        control_.SetDataString(shown);
+        ASSERT_EQ(control_.Text(), shown) << mask;
+        const auto start = static_cast<int>(caret != std::string::npos ? caret : 0);
+        const int length = static_cast<int>(shown.size());
+        const auto last = end != std::string::npos ? static_cast<int>(end) : start;
+        control_.SetSelection(start, caret != std::string::npos ? last : length);
+    }
+
+    struct Typed {
+        const char* mask;
+        const char* start;
+        const char* keys;
+        const char* shown;
+        int beeps;
+        const char* reads;
+    };
+
+    void Check(const std::vector<Typed>& rows)
+    {
+        for (const Typed& row : rows) {
+            GivenShown(row.mask, row.start);
+            Play(row.keys);
+            const std::string what = std::string(row.mask) + " over " + row.start + " typed " + row.keys;
+            EXPECT_EQ(Shown(), row.shown) << what;
+            EXPECT_EQ(control_.Beeps(), row.beeps) << what;
+            EXPECT_EQ(control_.GetData().text, row.reads) << what;
+        }
+    }
+
+    void Money(const char* symbol, int position, int digits, char decimal, char thousand)
+    {
+        regional_.currency = symbol;
+        regional_.currencyPosition = position;
+        regional_.currencyDigits = digits;
+        regional_.decimal = decimal;
+        regional_.thousand = thousand;
+    }
+
+    // Fraction places of a mask; the currency masks have those of the setting.
+    size_t PlacesOf(const std::string& mask) const
+    {
+        const size_t point = mask.find_last_of('.');
+        if (mask[0] == '[')
+            return static_cast<size_t>(regional_.currencyDigits);
+        return point == std::string::npos ? 0 : mask.find_last_of("#0") - point;
     }
 
     void Caret(int position) { control_.SetSelection(position, position); }
@@ -268,6 +337,267 @@ TEST_F(ModelTest, NumbersGrowToTheLeftOfThePoint)
     Enter(".75");
     EXPECT_EQ(Shown(), "12.75|");
     EXPECT_EQ(control_.Autoskips(), 1);
+}
+
+// clang-format off
+TEST_F(ModelTest, WhoeverTypesANumberGetsIt)
+{
+    Check({
+        {"0000",          "1234",             "5678",      "5678|",         0, "5678"},
+        {"00.00",         "12.34",            "56.78",     "56.78|",        0, "56.78"},
+        {"00.00",         "12.34",            "5678",      "56.78|",        0, "56.78"},
+        {"00.00",         "12.34",            ".5",        "00.5|0",        0, "00.50"},
+        {"000.0%",        "098.7%",           "12.5",      "012.5|%",       0, "0.125"},
+        {"#,##0.00",      "1,234.56",         ".5",        "0.5|0",         0, "0.50"},
+        {"#,##0.00",      "5.00",             "-0.5",      "-0.5|0",        0, "-0.50"},
+        {"#,##0.00",      "|0.00",            "-0.05",     "-0.05|",        0, "-0.05"},
+        {"#,#.00",        "|.00",             "-0.5",      "-.5|0",         0, "-.50"},
+        {"#,#.00",        "|.00",             "-.05",      "-.05|",         0, "-.05"},
+        {"#,#.00",        "|.00",             "05",        "5|.00",         0, "5.00"},
+        {"#,###,###.00",  "|.00",             "0123",      "123|.00",       0, "123.00"},
+        {"$#,##0.00",     "$12.00",           "-5",        "$-5|.00",       0, "-5.00"},
+        {"[currency(9)]", "$12.00",           "-5",        "$-5|.00",       0, "-5.00"},
+        {"$#,##0.00",     "$12.00",           "$1,234.50", "$1,234.50|",    1, "1234.50"},
+        {"#,##0.00",      "1,234.50",         "x12",       "12|.00",        1, "12.00"},
+        {"#,##0.00",      "45.00|", "{Back}{Back}{Back}{Back}{Back}{Back}12", "12|.00", 0, "12.00"},
+        {"##0",           "10|",              "{Back}{Back}25", "25|",      0, "25"},
+        {"#,##0.00",      "|0.00",            "5",         "5|.00",         0, "5.00"},
+        {"#,##0.00",      "0|.00",            "5",         "5|.00",         0, "5.00"},
+        {"##0%",          "[98]%",            "125",       "125|%",         0, "1.25"},
+        {"000%",          "[098]%",           "125",       "125|%",         0, "1.25"},
+        {"###%",          "[98]%",            "125",       "125|%",         0, "1.25"},
+        {"###%",          "98|%",             "{Back}{Back}125", "125|%",   0, "1.25"},
+        {"#,##0.00%",     "65.0[0]%",         "5",         "65.05|%",       0, "0.6505"},
+        {"#,##0.00",      "1,234|.00",        "{Back}",    "123|.00",       0, "123.00"},
+        {"#,###,###.00",  "1|,234,567.89",    "9",         "1,9|34,567.89", 0, "1934567.89"},
+        {"#,###.00",      "|1,234.56",        "-",         "-|1,234.56",    0, "-1234.56"},
+        {"###%",          "98%",              "056",       "56|%",          0, "0.56"},
+        {"#%",            "9%",               "07",        "7|%",           0, "0.07"},
+        {"[currency(8)]", "$98.00",           "056",       "$56|.00",       0, "56.00"},
+        {"$###",          "$123",             "-56",       "$-56|",         0, "-56"},
+        {"$#,##0.00",     "$123.00",          "-56",       "$-56|.00",      0, "-56.00"},
+        {"#,##0%",        "567%",             "56{Back}7", "57|%",          0, "0.57"},
+        {"$#,##0.00",     "$[5.00]",          "12",        "$12|.00",       0, "12.00"},
+        {"$#,##0.00",     "$[5.00]",          "-56",       "$-56|.00",      0, "-56.00"},
+        {"#,##0.00",      "8.00",             "-1234.56",  "-1,234.56|",    0, "-1234.56"},
+        {"#,#.00",        "|.00",             "123.45",    "123.45|",       0, "123.45"},
+        {".00",           "|.00",             "0.25",      ".25|",          0, ".25"},
+        {"#.##",          "|.",               ".0x5",      ".05|",          1, ".05"},
+        {"#.##",          "|.",               "7.50",      "7.50|",         0, "7.50"},
+        {"##0",           "|-6",              "{End}{Back}5", "-5|",        0, "-5"},
+        {"####################", "|",         "12345678901234567890", "12345678901234567890|", 0, "12345678901234567890"},
+    });
+}
+
+TEST_F(ModelTest, CaretAndDigitsKeepTheirPlaces)
+{
+    Check({
+        {"#,##0.00",     "13|.00",         "{Shift+End}{Del}",   "13|.00",        0, "13.00"},
+        {"#,##0.00",     "[1,234].50",     "{Del}",              "|0.50",         0, "0.50"},
+        {"#,##0.00",     "1,[23]4.50",     "{Del}",              "1|4.50",        0, "14.50"},
+        {"0000",         "1[23]4",         "{Del}",              "1|004",         0, "1004"},
+        {"0000",         "|1234",          "{Del}{Del}{Del}{Del}", "|0000",       0, "0000"},
+        {"0000",         "|1234",          "{Del}",              "0|234",         0, "0234"},
+        {"0000",         "12|34",          "{Back}",             "1|034",         0, "1034"},
+        {"0000",         "|1234",          "-9",                 "-9|234",        0, "-9234"},
+        {"#,##0.00",     "|-5.00",         "3",                  "3|5.00",        0, "35.00"},
+        {"$#,##0.00",    "|$5.00",         "3",                  "$3|5.00",       0, "35.00"},
+        {"$#,##0.00",    "|$5.00",         "-",                  "$-|5.00",       0, "-5.00"},
+        {"$#,##0.00",    "$|-5.00",        "+",                  "$|5.00",        0, "5.00"},
+        {"#,##0.00",     "1|2.00",         "-",                  "1|2.00",        1, "12.00"},
+        {"#,##0.00",     "1|2.00",         "+",                  "1|2.00",        1, "12.00"},
+        {"#,##0.00",     "|0.00",          "-",                  "-|0.00",        0, "0.00"},
+        {"#,##0.00",     "|0.00",          "-x5",                "-5|.00",        1, "-5.00"},
+        {"#,##0.00",     "|0.00",          "-{Back}5",           "5|.00",         0, "5.00"},
+        {"###",          "|",              "-",                  "-|",            0, "0"},
+        {"#,##0.00",     "|1,234.56",      "0",                  "0,|234.56",     0, "0234.56"},
+        {"#,##0.00",     "|1,234.56",      "0x",                 "|234.56",       1, "234.56"},
+        {"#,##0.00",     "|12.00",         "0",                  "|12.00",        0, "12.00"},
+        {"#,##0.00",     "|0.00",          "0",                  "0|.00",         0, "0.00"},
+        {"#,##0.00",     "1,23|4.56",      "9",                  "1,239.|56",     0, "1239.56"},
+        {"###",          "12|3",           "4",                  "124|",          0, "124"},
+        {"###",          "123|",           "4x-",                "123|",          0, "123"},
+        {"###%",         "123|%",          "4",                  "123|%",         1, "1.23"},
+        {"###%",         "123|%",          "%",                  "123%|",         0, "1.23"},
+        {"#,##0.00",     "1.25|",          "7x.",                "1.25|",         0, "1.25"},
+        {"#,##0.00",     "1.|25",          ".",                  "1.|25",         1, "1.25"},
+        {"#,##0.00",     "1.2|5",          ".",                  "1.2|5",         1, "1.25"},
+        {"#,##0.00",     "12|3.45",        ".",                  "12.|45",        0, "12.45"},
+        {"00.00",        "1|2.34",         ".",                  "01.|34",        0, "01.34"},
+        {"#,##0.00",     "1|,234.00",      ",",                  "1,|234.00",     0, "1234.00"},
+        {"#,##0.00",     "12|.00",         ",",                  "12|.00",        1, "12.00"},
+        {"#,##0.00",     "1.2|5",          "{Back}",             "1.|05",         0, "1.05"},
+        {"#.##",         "1.25|",          "{Back}",             "1.2|",          0, "1.2"},
+        {"#.##",         "1.|25",          "{Del}",              "1.|5",          0, "1.5"},
+        {"#,##0.00",     "1.|25",          "{Del}",              "1.|50",         0, "1.50"},
+        {"#,##0.00",     "1|.25",          "{Del}",              "1|.25",         0, "1.25"},
+        {"#,##0.00",     "1|,234.00",      "{Del}",              "1|,234.00",     0, "1234.00"},
+        {"#,##0.00",     "|-1.00",         "{Del}",              "|1.00",         0, "1.00"},
+        {"#,##0.00",     "1,2|34.00",      "{Del}",              "12|4.00",       0, "124.00"},
+        {"#.000",        "1.[2]34",        "9",                  "1.9|34",        0, "1.934"},
+        {"#,##0.00",     "1,[234].00",     "9",                  "19|.00",        0, "19.00"},
+        {"~N~o~5 #,##0", "No5 |0",         "7",                  "No5 7|",        0, "7"},
+        {"~N~o~5 #,##0", "No5 |0",         "No5 7",              "No5 7|",        0, "7"},
+        {"~N~o~5 #,##0", "|No5 3",         "7",                  "No5 7|3",       0, "73"},
+    });
+}
+
+TEST_F(ModelTest, SymbolsAreLiteralsWhateverTheyHold)
+{
+    Money("kr.", 2, 2, ',', '.');
+    Check({
+        {"[currency(9)]", "kr.|,00",     "1234,5",      "kr.1.234,5|0", 0, "1234,50"},
+        {"[currency(9)]", "kr.98,00",    "kr.12",       "kr.12|,00",    0, "12,00"},
+        {"[currency(9)]", "kr.98,00",    "-,5",         "kr.-,5|0",     0, "-,50"},
+        {"[currency(9)]", "|kr.98,00",   "1",           "kr.1|98,00",   0, "198,00"},
+    });
+    Money("Fr.", 0, 2, '.', '\'');
+    Check({{"[currency(9)]", "Fr.8.00", "Fr.12.5", "Fr.12.5|0", 0, "12.50"}});
+    Money("MXN", 1, 2, '.', ',');
+    Check({
+        {"[currency(5)]", "8.00MXN",     "123.45",      "123.45|MXN",   0, "123.45"},
+        {"[currency(5)]", "8.00MXN",     "123.45MXN",   "123.45MXN|",   0, "123.45"},
+    });
+    Money("XAF", 0, 0, ',', ' ');
+    Check({{"[currency(4)]", "XAF8", "1234", "XAF1 234|", 0, "1234"}});
+    Money("F", 1, 0, '.', ',');
+    Check({{"[currency(3)]", "[123]F", "456", "456|F", 0, "456"}});
+    Money("0x", 0, 2, '.', ',');
+    Check({{"[currency(6)]", "0x8.00", "12.5", "0x12.5|0", 0, "12.50"}});
+}
+// clang-format on
+
+// Digits of a value without the zeros that say nothing.
+std::string Plain(const std::string& value, size_t places)
+{
+    const Number number = Number::FromText(value);
+    const std::string text = PlainText(number, '.');
+    const size_t point = text.find('.');
+    return point == std::string::npos || text.size() - point - 1 <= places ? text : "";
+}
+
+// Every value that fits is typed from every start; what is read back is what was typed.
+TEST_F(ModelTest, EveryValueIsTypedUnderEveryMask)
+{
+    const std::string masks[] = {
+        "#,##0.00", "#,#.00", "###.##", "##0.0", "###.00", "#,###.00", "$#,##0.00", "$###.0", "#,#.00%", "###.0#",
+        "[currency(8)]", "[currency(5)]", "[currency(9)]", "#00.00", "###.0##", "US $##0.0", "~N~5 ##0.0", "##0%",
+        "###%", "###", "$###", "##0", "#,###"};
+    const std::string values[] = {"0", "5", "12", "123", "-5", "-123", "0.5", "-0.5", ".5", "-.5", "1.5", "00", "05", "012",
+                                  "-05", "0.0", "-0.0", "7.", "+5", "100", "101", "-100", "10", "9.9", "0.25", "-12.05"};
+    const std::string starts[] = {"", "{sel}", "{sel}{Del}", "{sel}{Back}",
+                                  "{End}{Back}{Back}{Back}{Back}{Back}{Back}{Back}{Back}", "{Home}{Del}{Del}"};
+    const char* const symbols[] = {"$", "kr.", "F", "MXN", "0x"};
+    int typed = 0;
+    for (int setting = 0; setting < 10; ++setting) {
+        Money(symbols[setting / 2], setting % 2, 2, setting % 4 < 2 ? '.' : ',', setting % 4 < 2 ? ',' : '.');
+        for (const std::string& mask : masks)
+            for (const std::string& start : starts)
+                for (const std::string& value : values) {
+                    const bool blank = start.empty() || start[1] == 'H';
+                    Given(mask.c_str(), kNumber, blank ? "0" : "87");
+                    const size_t places = std::min<size_t>(2, PlacesOf(mask));
+                    const std::string wanted = Plain(value, places);
+                    if (result_ == 0 || wanted.empty() || (places == 0 && value.find('.') != std::string::npos))
+                        continue;
+                    std::string script = start;
+                    if (script.compare(0, 5, "{sel}") == 0) {
+                        control_.SetSelection(0, 99);
+                        script.erase(0, 5);
+                    }
+                    std::string keys = value;
+                    std::replace(keys.begin(), keys.end(), '.', regional_.Point());
+                    Play(script + keys);
+                    std::string text = control_.GetData().text;
+                    std::replace(text.begin(), text.end(), regional_.Point(), '.');
+                    Number read = Number::FromText(text);
+                    if (mask.back() == '%')
+                        read = read.TimesPowerOfTen(2);
+                    EXPECT_EQ(PlainText(read, '.'), wanted) << mask << " " << regional_.currency << " " << start << value;
+                    EXPECT_EQ(control_.Beeps(), 0) << mask << " " << regional_.currency << " " << start << value;
+                    ++typed;
+                }
+    }
+    EXPECT_GT(typed, 10000);
+}
+
+TEST_F(ModelTest, BackspaceIsForgottenByTheNextKey)
+{
+    Given("##0", kNumber, "10");
+    Caret(2);
+    control_.KeyDown(kBackspace, false);
+    control_.KeyUp();
+    Play("{End}8{Back}");
+    EXPECT_EQ(Shown(), "10|");
+    EXPECT_EQ(control_.Beeps(), 0);
+    Enter("\b");
+    EXPECT_EQ(Shown(), "10|");
+}
+
+TEST_F(ModelTest, LastFractionDigitMovesOn)
+{
+    Money("F", 1, 2, '.', ',');
+    GivenShown("[currency(5)]", "123.|45F", true);
+    Enter("8");
+    EXPECT_EQ(control_.Autoskips(), 0);
+    Enter("9");
+    EXPECT_EQ(control_.Autoskips(), 1);
+    EXPECT_EQ(Shown(), "123.89|F");
+}
+
+TEST_F(ModelTest, ControlCharactersLeaveASelection)
+{
+    for (const char c : {'\t', '\r', '\x1a', '\x1b'}) {
+        GivenShown("#,##0.00", "[12].00");
+        Enter(std::string(1, c));
+        EXPECT_EQ(Shown(), "[12].00");
+    }
+    Enter("\x01");
+    EXPECT_EQ(Shown(), "[12.00]");
+    Enter("\x18");
+    EXPECT_EQ(Shown(), "|0.00");
+}
+
+TEST_F(ModelTest, ShownTextsAreTakenAsData)
+{
+    Given("#,##0.00", kNumber, "1,234.50");
+    EXPECT_EQ(control_.Text(), "1,234.50");
+    Given("#.0%", kNumber, "12.5%");
+    EXPECT_EQ(control_.Text(), "12.5%");
+    Given("#.0%", kNumber, "0.125");
+    EXPECT_EQ(control_.Text(), "12.5%");
+    control_.Paste("12.5%");
+    EXPECT_EQ(control_.Text(), "12.5%");
+    control_.Paste("7");
+    EXPECT_EQ(control_.Text(), "7.0%");
+    regional_.decimal = ',';
+    regional_.thousand = '.';
+    Given("[currency(9)]", kNumber, "98,70");
+    EXPECT_EQ(control_.Text(), "$98,70");
+    control_.SetDataString("1.234");
+    EXPECT_EQ(control_.Text(), "$1,23");
+    control_.SetDataString("$-1.234,5");
+    EXPECT_EQ(control_.Text(), "$-1.234,50");
+    Given("#,##0.000000000000000000%", kDecimal, "0.12345678901234567891");
+    regional_ = {};
+    Given("#,##0.000000000000000000%", kDecimal, "0.12345678901234567891");
+    EXPECT_EQ(control_.GetData().text, "0.12345678901234567891");
+    for (const char* text : {"1E+15", "1E-20", "1E+300"}) {
+        Given("[GENERAL]", kNumber, text);
+        EXPECT_EQ(control_.GetData().text, text);
+    }
+}
+
+TEST_F(ModelTest, ModifiedIsWhatTheUserChanged)
+{
+    Given("#,##0.00", kNumber, "5");
+    EXPECT_FALSE(control_.Modified());
+    Enter("1");
+    EXPECT_TRUE(control_.Modified());
+    control_.SetDataString("5");
+    EXPECT_FALSE(control_.Modified());
+    Press(kDelete);
+    EXPECT_TRUE(control_.Modified());
 }
 
 TEST_F(ModelTest, PointDropsTheDigitsBehindTheCaret)

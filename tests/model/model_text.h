@@ -14,6 +14,11 @@ inline bool IsDigit(char c)
     return c >= '0' && c <= '9';
 }
 
+inline bool IsControl(char c)
+{
+    return static_cast<unsigned char>(c) < ' ' || c == 127;
+}
+
 inline char Upper(char c)
 {
     return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));

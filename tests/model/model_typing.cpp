@@ -15,41 +15,35 @@ void Control::Char(char c, bool shift)
     if (Refuses())
         return;
     const std::string before = Text();
+    const bool wasModified = modified_;
     TakeChar(c);
-    NoteChange(before);
+    NoteChange(before, wasModified);
 }
 
 void Control::TakeChar(char c)
 {
-    if (c == 3 || c == 4)
-        return;
-    if (c == '\b' && numericBackspaceDone_ && IsNumeric()) {
-        numericBackspaceDone_ = false;
+    if (IsPlain())
+        return edit_.Char(c);
+    if (IsControl(c) && c != '\b')
+        return TakeControlChar(c);
+    if (c == '\b' && IsNumeric() && backspaceKey_ == BackspaceKey::Done) {
+        backspaceKey_ = BackspaceKey::None;
         return;
     }
-    const bool wasSelected = DeleteSelection(true);
+    const bool wasSelected = DeleteSelection();
     if (wasSelected)
         ForgetTyping();
-    const auto finish = [this] { typing_ = false; };
     if (wasSelected && c == '\b' && !backspaceDone_)
-        return finish();
+        return;
     if (backspaceDone_ && c == '\b') {
         backspaceDone_ = false;
         PlaceCaret(edit_.Start());
-        return finish();
+        return;
     }
-    if (IsPlain()) {
-        edit_.Char(c);
-        return finish();
-    }
-    if (codeSpin_ && codePick_) {
-        TypeAhead(c);
-        return finish();
-    }
-    if (codeSpin_ && type_ == kString && mask_.empty()) {
-        edit_.Char(c);
-        return finish();
-    }
+    if (codeSpin_ && codePick_)
+        return TypeAhead(c);
+    if (codeSpin_ && type_ == kString && mask_.empty())
+        return edit_.Char(c);
     if (hasTable_ && codeSpin_ && !codePick_) {
         positioned_ = false;
         if (spun_) {
@@ -60,28 +54,44 @@ void Control::TakeChar(char c)
         }
     }
     spun_ = false;
-    if (c == '\t' || c == '\n' || c == 27)
-        return finish();
     if (IsNumeric()) {
-        if (!deletePending_ || c != '\b')
-            EnterNumericChar(c);
-        else {
-            const int position = std::max(0, edit_.Start() - 1);
-            if (CharAt(Text(), position).c == '0') {
-                std::string text = Text();
-                text[static_cast<size_t>(position)] = '0';
-                edit_.SetText(text);
-            } else {
-                edit_.Char(c);
-                Reformat(nullptr);
-            }
-            PlaceCaret(position);
-        }
+        if (c == '\b' && backspaceKey_ == BackspaceKey::Waits) {
+            backspaceKey_ = BackspaceKey::None;
+            BackspaceInNumber();
+        } else
+            EnterNumericChar(c, wasSelected);
     } else if (deletePending_ && c == '\b')
         edit_.Char(c);
     else
         EnterChar(c);
-    finish();
+}
+
+// Control characters leave a selection alone, but for Ctrl+X.
+void Control::TakeControlChar(char c)
+{
+    constexpr char selectAll = 1;
+    constexpr char cut = 24;
+    switch (c) {
+    case selectAll: edit_.Select(0, edit_.Length()); return;
+    case cut:
+        if (DeleteSelection())
+            ForgetTyping();
+        return;
+    case 3:
+    case 4:
+    case '\t':
+    case '\n':
+    case 27: return;
+    default: break;
+    }
+    if (codeSpin_ && (codePick_ || (type_ == kString && mask_.empty())))
+        return;
+    if (edit_.Start() != edit_.End())
+        Beep();
+    else if (IsNumeric())
+        EnterNumericChar(c, false);
+    else
+        EnterChar(c);
 }
 
 void Control::EnterChar(char c)

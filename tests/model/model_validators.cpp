@@ -11,11 +11,6 @@
 namespace model {
 namespace {
 
-bool IsControl(char c)
-{
-    return static_cast<unsigned char>(c) < ' ' || c == 127;
-}
-
 int TwoDigits(char first, char second)
 {
     const char text[] = {first, second, '\0'};
@@ -28,8 +23,6 @@ Control::Verdict Control::Validate(char c, int position)
 {
     if (IsControl(c))
         return Verdict::Refused;
-    if (IsNumeric())
-        return ValidateNumber(c, position);
     const char mask = Upper(CharAt(Text(), position).c);
     const auto take = [&](bool good) {
         if (good)
@@ -52,34 +45,6 @@ Control::Verdict Control::Validate(char c, int position)
     case 'S': return ValidateMinute(c, position);
     default: return Verdict::Refused;
     }
-}
-
-Control::Verdict Control::ValidateNumber(char c, int position)
-{
-    const bool sign = c == '+' || c == '-';
-    if ((!IsDigit(c) && !sign) || (sign && position != firstField_))
-        return Verdict::Refused;
-    const std::string& text = Text();
-    const int point = PointPos(text);
-    const int length = edit_.Length();
-    if (decimalPlaces_ != 0 && position >= point + 1 && text != "-" && text != "+") {
-        (typing_ ? typedFraction_ : typed_) = c;
-        return Verdict::Accepted;
-    }
-    if (CharOf(text, position) == '-') {
-        typed_ = c;
-        return Verdict::Accepted;
-    }
-    if (decimalPlaces_ == 0 ? length >= displayLength_ : static_cast<int>(mask_.find('.')) == point)
-        charwise_ = true;
-    if (charwise_) {
-        typed_ = c;
-        return Verdict::Accepted;
-    }
-    typedFraction_ = c;
-    if (decimalPlaces_ == 0 && length >= displayLength_ - 1)
-        charwise_ = true;
-    return Verdict::Accepted;
 }
 
 Control::Verdict Control::ValidateYear(char c, int position)

@@ -60,6 +60,8 @@ Value Value::OfStamp(const Stamp& stamp)
 
 int Control::PointPos(const std::string& text) const
 {
+    if (IsNumeric())
+        return std::max(0, Shows(text).point);
     const size_t at = text.find(Point());
     return at == std::string::npos ? 0 : static_cast<int>(at);
 }
@@ -72,10 +74,10 @@ void Control::FormatNumber(const Number& number, Shown& shown) const
         if (c == '~') {
             literals = true;
             i += 2;
-        } else if (c == '.' || c == ',' || c == '%' || InTable(c, type_))
-            ++i;
-        else if (!regional_->currency.empty() && mask_.compare(i, regional_->currency.size(), regional_->currency) == 0)
+        } else if (SymbolAt(mask_, i))
             i += regional_->currency.size();
+        else if (c == '.' || c == ',' || c == '%' || InTable(c, type_))
+            ++i;
         else {
             literals = true;
             while (i < mask_.size() && !InTable(mask_[i], type_))
@@ -84,14 +86,18 @@ void Control::FormatNumber(const Number& number, Shown& shown) const
     }
     if (literals)
         shown.flags |= 0x4000;
-    std::optional<model::Format> format = model::Format::Compile(FormatTextOf(mask_, type_, literals, shown.first));
-    if (!format)
-        format = model::Format::Compile("#,#.00");
-    shown.text = Render(*format, number, {Point(), regional_->thousand});
-    const size_t first = shown.text.find_first_of("0123456789+-");
-    if (first != std::string::npos)
-        shown.first = static_cast<int>(first);
-    if (decimalPlaces_ != 0 && shown.first == PointPos(shown.text) + 1)
+    FormatTextOf(mask_, type_, literals, shown.first);
+    const model::Format& format = NumberFormat();
+    shown.text = Render(format, number, Signs());
+    if (format.general)
+        return;
+    // The literals before the number are passed over: they may hold digits and signs of their own.
+    const ShownNumber found = Shows(shown.text);
+    if (found.sign >= 0 || !found.integerAt.empty())
+        shown.first = found.First();
+    else if (!found.fractionAt.empty())
+        shown.first = found.fractionAt[0];
+    if (decimalPlaces_ != 0 && shown.first == std::max(0, found.point) + 1)
         --shown.first;
 }
 
@@ -212,7 +218,7 @@ Shown Control::Format(const Value& value)
 void Control::SetData(const Value& value)
 {
     ForgetTyping();
-    numericBackspaceDone_ = false;
+    backspaceKey_ = BackspaceKey::None;
     positioned_ = false;
     modified_ = false;
     if (ShowThroughCodes(value))
@@ -230,10 +236,8 @@ void Control::SetData(const Value& value)
 
 void Control::SetDataString(const std::string& text)
 {
-    if (type_ == kNumber)
-        SetData(Value::OfNumber(Number::FromDouble(ToDouble(text))));
-    else if (type_ == kDecimal)
-        SetData(Value::OfNumber(Number::FromText(text)));
+    if (IsNumeric())
+        SetData(Value::OfNumber(NumberOf(text)));
     else if (IsTemporal()) {
         Stamp stamp;
         if (!DisplayToStamp(stamp, text)) {
@@ -245,18 +249,15 @@ void Control::SetDataString(const std::string& text)
         SetData(Value::OfText(text));
 }
 
-std::string Control::ReadFields(const std::string& text, bool dropGroups) const
+std::string Control::ReadFields(const std::string& text) const
 {
     if (mask_.empty())
         return text;
     std::string fields;
     for (int i = 0; i < static_cast<int>(text.size()); ++i) {
         const MaskChar at = CharAt(text, i);
-        const char c = text[static_cast<size_t>(i)];
-        if (at.c == '~' || (IsNumeric() && dropGroups && c == regional_->thousand))
-            continue;
-        if (InTable(at.c, type_) || (IsNumeric() && (at.c == '.' || (dropGroups && at.c == ',' && IsDigit(c)))))
-            fields += c;
+        if (at.c != '~' && InTable(at.c, type_))
+            fields += text[static_cast<size_t>(i)];
     }
     return fields;
 }
@@ -271,17 +272,8 @@ Value Control::GetData()
     const CodeEntry* entry = ThroughCodes() ? Find(&CodeEntry::display, Text()) : nullptr;
     if (entry != nullptr && !IsTemporal())
         return DataOf(*entry);
-    if (!IsTemporal()) {
-        std::string fields = ReadFields(Text(), true);
-        if (IsNumeric() && percent_) {
-            for (char& c : fields)
-                c = c == Point() ? '.' : c;
-            model::Format general;
-            general.general = true;
-            fields = Render(general, Number::FromDouble(ToDouble(fields) / 100.0), {Point(), regional_->thousand});
-        }
-        return Value::OfText(fields);
-    }
+    if (!IsTemporal())
+        return Value::OfText(IsNumeric() ? ReadNumber() : ReadFields(Text()));
     Stamp stamp = entry != nullptr ? DataOf(*entry).stamp : ReadStamp(false);
     if (type_ == kDate && (ZeroDate(stamp) || stamp.year == -1900 || !stamp.HasDate()))
         return Value::None();
@@ -306,7 +298,7 @@ Value Control::Unformat(const std::string& text)
     if (const CodeEntry* entry = ThroughCodes() ? Find(&CodeEntry::display, text) : nullptr)
         return DataOf(*entry);
     if (!IsTemporal())
-        return Value::OfText(ReadFields(text, false));
+        return Value::OfText(IsNumeric() ? NumberIn(text) : ReadFields(text));
     Stamp stamp;
     ParseCanonical(stamp, text, type_, *regional_);
     return Value::OfStamp(stamp);

@@ -183,7 +183,7 @@ private:
 
 }  // namespace
 
-const unsigned kDefaultRounds = 46;  // about a million steps
+const unsigned kDefaultRounds = 16;  // about a million steps
 
 std::unique_ptr<Subject> MakeLibrary()
 {

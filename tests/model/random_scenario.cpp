@@ -23,6 +23,21 @@ std::string RandomNumber(Random& random)
     return random.Chance(60) ? text + "." + RandomDigits(random, 4) : text;
 }
 
+// A number as people of the setting write it, with or without its signs.
+std::string ShownNumber(Random& random, const Regional& regional)
+{
+    std::string text = RandomDigits(random, 7);
+    for (int at = static_cast<int>(text.size()) - 3; at > 0 && regional.thousand != '\0'; at -= 3)
+        text.insert(static_cast<size_t>(at), 1, regional.thousand);
+    if (random.Chance(60))
+        text += regional.Point() + RandomDigits(random, 3);
+    if (random.Chance(25))
+        text.insert(0, "-");
+    if (random.Chance(30))
+        text = regional.currencyPosition % 2 == 1 ? text + regional.currency : regional.currency + text;
+    return random.Chance(20) ? text + "%" : text;
+}
+
 std::string RandomDate(Random& random)
 {
     char text[32];
@@ -81,16 +96,19 @@ std::string RandomData(Random& random, Type type, const Config& config)
     }
 }
 
-std::string Alphabet(const Setting& setting, const Config& config, Type type, const std::string& mask)
+// Shows and reads; what typing into it does is not laid down.
+constexpr const char* kNotTyped = "[GENERAL]";
+
+std::string Alphabet(const Setting& setting, const Config& config, Type type)
 {
-    if (mask == "[GENERAL]")
-        return "x$ ";  // shows and reads; what typing into it should do is not laid down
     const char point = setting.regional.Point();
     if (config.codePick)
         return "RGBNrgbXA10257.-";
     switch (type) {
     case kNumber:
-    case kDecimal: return std::string("0123456789012345678901234567890123456789--.,+%$x ") + point + point;
+    case kDecimal:
+        return std::string("01234567890123456789012345678901234567890123456789---.,+%$x ") + point + point +
+               setting.regional.thousand + setting.regional.currency;
     case kDate: return "000111122233345678901234567890/.-/.-JFMASONDjanuneepct: ";
     case kTime: return "00011223345678901234567890:.::  AMPMap";
     case kDateTime: return "00011223345678901234567890/:./-  AMPMJFSONDaneu";
@@ -107,7 +125,8 @@ public:
         type_ = config.type;
         plain_ = config.mask.empty();
         config_.autoskip = random_.Chance(50);
-        alphabet_ = Alphabet(setting_, config_, type_, config_.mask);
+        alphabet_ = Alphabet(setting_, config_, type_);
+        typed_ = config_.mask != kNotTyped;
     }
 
     const Config& Start() const { return config_; }
@@ -115,6 +134,8 @@ public:
     Step Next()
     {
         const int throws = random_.Below(1000);
+        if (!typed_ && throws < 700)
+            return Value();
         if (config_.increment != 0 && throws < 100)
             return {StepKind::Key, random_.Chance(50) ? kUp : kDown, 0, ""};
         if (throws < 560)
@@ -155,6 +176,9 @@ private:
         if (random_.Chance(8))
             return {StepKind::NoData, 0, 0, ""};
         const StepKind kind = random_.Chance(70) ? StepKind::Data : StepKind::Paste;
+        const bool number = type_ == kNumber || type_ == kDecimal;
+        if (number && typed_ && random_.Chance(30))
+            return {kind, 0, 0, ShownNumber(random_, setting_.regional)};
         return {kind, 0, 0, RandomData(random_, type_, config_)};
     }
 
@@ -167,8 +191,8 @@ private:
         case 3: return {StepKind::Enable, random_.Chance(70) ? 1 : 0, 0, ""};
         case 4: return {StepKind::Autoskip, random_.Below(2), 0, ""};
         default: {
-            constexpr int controls[] = {1, 13, 9, 27, 127, 26};  // a plain edit undoes at 26
-            return {StepKind::Char, controls[random_.Below(plain_ ? 5 : 6)], 0, ""};
+            constexpr int controls[] = {1, 13, 9, 27, 127, 26, 24};  // a plain edit undoes at 26 and cuts at 24
+            return {StepKind::Char, controls[random_.Below(plain_ ? 5 : 7)], 0, ""};
         }
         }
     }
@@ -179,7 +203,8 @@ private:
         const ControlRow& row = rows[static_cast<size_t>(random_.Below(static_cast<int>(rows.size())))];
         type_ = row.type;
         plain_ = *row.mask == '\0';
-        alphabet_ = Alphabet(setting_, config_, type_, row.mask);
+        alphabet_ = Alphabet(setting_, config_, type_);
+        typed_ = row.mask != std::string(kNotTyped);
         return {StepKind::Mask, row.type, 0, row.mask};
     }
 
@@ -188,6 +213,7 @@ private:
     Config config_;
     Type type_;
     bool plain_;
+    bool typed_;
     std::string alphabet_;
 };
 
@@ -228,10 +254,37 @@ const std::vector<ControlRow>& ControlRows()
         {"0.0%",                    kNumber                                                        },
         {"~N#,##0.00",              kNumber                                                        },
         {"[GENERAL]",               kNumber                                                        },
+        {"#%",                      kNumber                                                        },
+        {"###%",                    kNumber                                                        },
+        {"000%",                    kNumber                                                        },
+        {"000.0%",                  kNumber                                                        },
+        {"#,##0%",                  kNumber                                                        },
+        {"#,##0.00%",               kNumber                                                        },
+        {"0000",                    kNumber                                                        },
+        {"00.00",                   kNumber                                                        },
+        {"0,000.000",               kNumber                                                        },
+        {"#00.00",                  kNumber                                                        },
+        {"#.0##",                   kNumber                                                        },
+        {".00",                     kNumber                                                        },
+        {"#,###.00",                kNumber                                                        },
+        {"$###",                    kNumber                                                        },
+        {"$000.00",                 kNumber                                                        },
+        {"US $#,##0.00",            kNumber                                                        },
+        {"~N~o~5 #,##0.0",          kNumber                                                        },
+        {"~#~-0.00",                kNumber                                                        },
+        {"(##0",                    kNumber                                                        },
+        {"[currency(2)]",           kNumber                                                        },
+        {"[currency(4)]",           kNumber                                                        },
+        {"[currency(5)]",           kNumber                                                        },
+        {"[currency(11)]",          kNumber                                                        },
         {"DM #,##0.0",              kNumber                                                        },
         {"#,#.00",                  kDecimal                                                       },
         {"#,###,##0.0000",          kDecimal                                                       },
         {"[currency(6)]",           kDecimal                                                       },
+        {"[currency(9)]",           kDecimal                                                       },
+        {"00.00",                   kDecimal                                                       },
+        {"#,##0.00000000000000000%", kDecimal                                                      },
+        {"####################",    kDecimal                                                       },
         {".##",                     kDecimal                                                       },
         {"##0.0%",                  kDecimal                                                       },
         {"MM/DD/YY",                kDate                                                          },

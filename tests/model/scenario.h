@@ -55,7 +55,6 @@ public:
 
     Subject& Library() { return *library_; }
     Subject& Model() { return *model_; }
-    char Point() const { return setting_->regional.Point(); }
 
 private:
     std::unique_ptr<Subject> library_ = MakeLibrary();
