@@ -73,6 +73,14 @@ void DeleteBeforePoint(NumberEdit& number, int32_t right)
     ShowLeft(number, left, {false, right});
 }
 
+// Over the point, where no digit stands before it: what is typed next begins the number.
+bool MoveBeforePoint(NumberEdit& number, DigitPlace place)
+{
+    if (place.inFraction)
+        number.MoveTo(number.Shown().Point());
+    return false;
+}
+
 }  // namespace
 
 void DeleteSelected(NumberEdit& number, Selection selection)
@@ -88,37 +96,43 @@ void DeleteSelected(NumberEdit& number, Selection selection)
     left.fraction = KeptDigits(shown, point, shown.End(), selection, !grows);
     const DigitPlace place =
         shown.PlaceAt(!grows || shown.IsInFraction(start) ? start : std::max(start, std::min(selection.end, point)));
+    const bool isBehind = selection.start >= shown.End();
     if (grows)
         ShowLeft(number, left, place);
     else
         number.LayOut(left, place);
+    if (isBehind)
+        number.MoveTo(selection.start);
 }
 
-void DeleteDigitBefore(NumberEdit& number)
+bool DeleteDigitBefore(NumberEdit& number)
 {
     const ShownNumber& shown = number.Shown();
     const DigitPlace place = shown.PlaceAt(std::clamp(number.Caret(), shown.Start(), shown.End()));
     const bool grows = number.Mask().Grows();
-    if (place.inFraction && place.digits > 0)
-        return DeleteInFraction(number, place.digits - 1, place.digits <= number.Mask().shape.forcedFraction);
     const int32_t right = place.inFraction ? 0 : place.digits;
-    if (right < Length(number.Digits().integer))
-        return grows ? DeleteBeforePoint(number, right) : ZeroBeforePoint(number, right);
-    if (shown.Sign() >= 0 && number.Caret() > shown.Sign())
-        return DeleteSign(number);
-    if (place.inFraction)
-        number.MoveTo(shown.Point());
+    if (place.inFraction && place.digits > 0)
+        DeleteInFraction(number, place.digits - 1, place.digits <= number.Mask().shape.forcedFraction);
+    else if (right < Length(number.Digits().integer))
+        grows ? DeleteBeforePoint(number, right) : ZeroBeforePoint(number, right);
+    else if (shown.Sign() >= 0 && number.Caret() > shown.Sign())
+        DeleteSign(number);
+    else
+        return MoveBeforePoint(number, place);
+    return true;
 }
 
-void DeleteDigitAt(NumberEdit& number)
+bool DeleteDigitAt(NumberEdit& number)
 {
     const ShownNumber& shown = number.Shown();
-    if (number.Caret() == shown.Sign())
-        return DeleteSign(number);
-    if (!shown.IsDigitAt(number.Caret()))
-        return;
-    const Text before = shown.Shown();
     const int32_t caret = number.Caret();
+    if (caret == shown.Sign()) {
+        DeleteSign(number);
+        return true;
+    }
+    if (!shown.IsDigitAt(caret))
+        return false;
+    const Text before = shown.Shown();
     const DigitPlace place = shown.PlaceAt(caret);
     if (place.inFraction)
         DeleteInFraction(number, place.digits, false);
@@ -128,6 +142,7 @@ void DeleteDigitAt(NumberEdit& number)
         number.MoveTo(caret);  // a zero that the mask forces: nothing has gone
     else if (!number.Mask().Grows() && number.IsBlank())
         MoveToFront(number);
+    return true;
 }
 
 }  // namespace zte

@@ -9,10 +9,10 @@ namespace zte {
 void DeleteSelected(NumberEdit& number, Selection selection);
 
 // The digit left of the caret goes, over separators and the point; a digit that the mask forces leaves a 0. A sign goes where the caret
-// stands directly behind it.
-void DeleteDigitBefore(NumberEdit& number);
+// stands directly behind it. False when there is neither.
+bool DeleteDigitBefore(NumberEdit& number);
 
-// The digit or sign at the caret goes; nothing happens on separators, the point and literals.
-void DeleteDigitAt(NumberEdit& number);
+// The digit or sign at the caret goes; false on separators, the point and literals.
+bool DeleteDigitAt(NumberEdit& number);
 
 }  // namespace zte

@@ -44,11 +44,18 @@ void MarkWhenFull(EditInstance& edit, const NumberEdit& number)
 
 // ---- the literals around the number
 
-// What is typed into an empty field may begin with the literals before the number, as they are shown. A digit, a sign or a decimal
-// character begins the number instead.
+// What may be typed before a number: the literals that are shown there; where there are none, the symbol that stands behind.
+MaskLiterals LiteralsTypedFirst(const NumberMask& mask)
+{
+    if (mask.before.length > 0)
+        return mask.before;
+    return mask.shape.percent ? MaskLiterals{} : mask.behind;
+}
+
+// What is typed into an empty field may begin with them. A digit, a sign or a decimal character begins the number instead.
 bool IsSpelled(const EditInstance& edit, const NumberEdit& number, const NumericKey& key)
 {
-    const MaskLiterals& before = number.Mask().before;
+    const MaskLiterals before = LiteralsTypedFirst(number.Mask());
     const bool beginsNumber = IsDigit(key.typed) || IsSign(key.typed) || IsDecimalChar(edit, key.typed);
     if (!number.IsBlank() || key.spelled >= before.length || (key.spelled == 0 && beginsNumber))
         return false;
@@ -252,6 +259,22 @@ bool IsTypedInto(const EditInstance& edit)
     return !edit.table->number.isGeneral;
 }
 
+// What is selected goes, or one digit. Deleting makes the number one that grows again.
+void DeleteBy(EditInstance& edit, Selection selection, bool (*deleteDigit)(NumberEdit&))
+{
+    if (!IsTypedInto(edit))
+        return;
+    NumberEdit number(edit, selection.start);
+    bool deleted = !selection.IsEmpty();
+    if (deleted)
+        DeleteSelected(number, selection);
+    else
+        deleted = deleteDigit(number);
+    if (deleted)
+        SetFlag(edit, CHARWISE, false);
+    number.Show();
+}
+
 }  // namespace
 
 // A separator over which typing has just carried the caret is taken as typed: 123.45 may be typed as it is read.
@@ -278,28 +301,12 @@ void EnterNumericChar(EditInstance& edit, Char typed, Selection selection)
 
 void BackspaceInNumber(EditInstance& edit, Selection selection)
 {
-    if (!IsTypedInto(edit))
-        return;
-    SetFlag(edit, CHARWISE, false);
-    NumberEdit number(edit, selection.start);
-    if (selection.IsEmpty())
-        DeleteDigitBefore(number);
-    else
-        DeleteSelected(number, selection);
-    number.Show();
+    DeleteBy(edit, selection, DeleteDigitBefore);
 }
 
 void DeleteInNumber(EditInstance& edit, Selection selection)
 {
-    if (!IsTypedInto(edit))
-        return;
-    SetFlag(edit, CHARWISE, false);
-    NumberEdit number(edit, selection.start);
-    if (selection.IsEmpty())
-        DeleteDigitAt(number);
-    else
-        DeleteSelected(number, selection);
-    number.Show();
+    DeleteBy(edit, selection, DeleteDigitAt);
 }
 
 void CompleteNumber(EditInstance& edit)
