@@ -53,6 +53,9 @@ public:
     // Puts text in the place of the selection, without an undo step; the caret stands behind it.
     virtual void ReplaceSelection(const Char* text) = 0;
 
+    // Copies the selection to the clipboard.
+    virtual void CopySelection() = 0;
+
     // Sets the whole text; the caret stands before it. Leaves no undo step.
     virtual void SetText(const Char* text) = 0;
 

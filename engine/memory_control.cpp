@@ -86,6 +86,29 @@ void MemoryControl::Paste()
     PasteClipboard(record_);
 }
 
+void MemoryControl::Select(int32_t anchor, int32_t caret)
+{
+    OnTextSetFromOutside(record_);
+    field_.SetSelection(anchor, caret);
+}
+
+void MemoryControl::SetText(const Char* text)
+{
+    OnTextSetFromOutside(record_);
+    field_.SetText(text);
+}
+
+void MemoryControl::Replace(const Char* text, bool canUndo)
+{
+    OnTextSetFromOutside(record_);
+    field_.Replace(text, canUndo);
+}
+
+void MemoryControl::LoseFocus()
+{
+    OnFocusLost(record_);
+}
+
 void MemoryControl::DestroySpin()
 {
     DropSpinTexts(record_);

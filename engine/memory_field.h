@@ -68,6 +68,7 @@ public:
     std::optional<Text> ReadClipboard() const override { return clipboard_; }
     void Select(int32_t start, int32_t end) override { SetSelection(start, end); }
     void ReplaceSelection(const Char* text) override;
+    void CopySelection() override { Copy(); }
     void SetText(const Char* text) override;
     void PressArrow(Key key, KeyData keyData, int32_t times) override;
     void PressDown(Key key, KeyData keyData) override;
