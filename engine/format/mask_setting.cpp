@@ -11,12 +11,6 @@ namespace zte {
 
 namespace {
 
-FieldLayout LayoutOf(const EditInstance& edit)
-{
-    return {edit.yearDigits, edit.ampmPos, edit.monthPos,    edit.dayPos,      edit.minutePos,
-            edit.secondPos,  edit.hourPos, edit.fractionPos, edit.fractionLen, false};
-}
-
 void KeepLayout(EditInstance& edit, const FieldLayout& layout)
 {
     edit.yearDigits = layout.yearDigits;
@@ -48,10 +42,11 @@ void ShowEmptyValue(EditInstance& edit)
 int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
 {
     edit.dataType = dataType;
-    FieldLayout layout = LayoutOf(edit);
+    FieldLayout layout{};
+    layout.yearDigits = edit.yearDigits;
     const ChosenMask chosen = ChooseMask(mask ? mask : Text(), dataType, *edit.settings, layout);
     KeepLayout(edit, layout);
-    InstallMask(edit, chosen.text);
+    InstallMask(edit, chosen.text, chosen.origin);
     edit.decimalPlaces = IsNumeric(dataType) ? CountDecimalPlaces(chosen.text) : 0;
     SetFlag(edit, PERCENT, IsNumeric(dataType) && Find(chosen.text, '%') >= 0);
     SetFlag(edit, SPUN, false);

@@ -104,15 +104,17 @@ ChosenMask ChooseMask(const Text& mask, int32_t dataType, const Settings& settin
 {
     layout.hasAmPm = false;
     if (const Expansion expansion = ExpandKeyword(mask, settings)) {
-        CheckMask(*expansion, dataType, settings, layout);
-        return {*expansion, true};
+        if (dataType == DT_DATE || dataType == DT_TIME || dataType == DT_DATETIME)
+            CheckDateOrTimeMask(*expansion, dataType, layout, MaskOrigin::Keyword);
+        return {*expansion, true, MaskOrigin::Keyword};
     }
+    const FieldLayout none = layout;
     if (IsAcceptable(mask, dataType, settings, layout))
         return {mask, true};
-    if (dataType == DT_DATE || dataType == DT_DATETIME)
-        layout.yearDigits = 2;
-    layout.hasAmPm = false;
-    return {FromAscii(DefaultMask(dataType)), false};
+    layout = none;
+    const Text standIn = FromAscii(DefaultMask(dataType));
+    CheckMask(standIn, dataType, settings, layout);
+    return {standIn, false};
 }
 
 bool IsPictureKeyword(const Char* mask)

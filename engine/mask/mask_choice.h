@@ -10,9 +10,10 @@ namespace zte {
 struct ChosenMask {
     Text text;
     bool asGiven;  // false: the mask was refused for its type, and the type's default stands in
+    MaskOrigin origin = MaskOrigin::Given;
 };
 
-// Expands keywords and checks the mask. What the checks see of date and time fields is written into layout.
+// Expands keywords and checks the mask. Where the date and time fields of the mask chosen stand is written into layout.
 ChosenMask ChooseMask(const Text& mask, int32_t dataType, const Settings& settings, FieldLayout& layout);
 
 // True for the keywords that are built from the settings' date picture and time separator.

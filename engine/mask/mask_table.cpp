@@ -6,6 +6,7 @@
 #include <new>
 
 #include "engine/heap_block.h"
+#include "engine/mask/half_of_day.h"
 #include "engine/mask/number_mask.h"
 #include "engine/text/ascii.h"
 
@@ -34,24 +35,51 @@ bool FollowsDigits(const Text& mask, int32_t dataType)
     return IsNumeric(dataType) && !(point > 0 && At(mask, point - 1) == '~');
 }
 
-// The first run of a letter, in either case, that is not escaped.
-MaskSpan FindSpan(const Text& mask, char letter)
+// The first run of a letter, in either case, that is a literal neither by "~" nor as a letter of the AM/PM field.
+MaskSpan FindSpan(const MaskPositions& positions, char letter, int32_t ampmPosition, MaskOrigin origin)
 {
-    const auto isLetter = [&](int32_t offset) { return AsciiUpper(At(mask, offset)) == static_cast<Char>(letter); };
-    for (int32_t offset = 0; offset < Length(mask); ++offset) {
-        if (!isLetter(offset) || At(mask, offset - 1) == '~')
+    const auto isLetter = [&](int32_t position) {
+        const MaskPosition& at = positions.At(position);
+        return position < positions.Count() && !at.escaped && at.kind != FieldKind::AmPm &&
+               AsciiUpper(at.character) == static_cast<Char>(letter);
+    };
+    for (int32_t position = 0; position < positions.Count(); ++position) {
+        if (!isLetter(position))
             continue;
         int32_t length = 1;
-        while (isLetter(offset + length))
+        while (isLetter(position + length))
             ++length;
-        return {offset, length};
+        const int32_t offset = origin == MaskOrigin::Given ? positions.OffsetOf(position) : position;
+        return {offset, length, ampmPosition >= 0 && position > ampmPosition};
     }
-    return {0, 0};
+    return {0, 0, false};
 }
 
-int32_t CountShown(const Text& mask)
+bool HasFieldBehind(const MaskPositions& positions, int32_t ampmPosition)
 {
-    return static_cast<int32_t>(std::count_if(mask.begin(), mask.end(), [](Char c) { return c != '~'; }));
+    const auto first = positions.All().begin() + std::max(ampmPosition, 0);
+    return ampmPosition >= 0 &&
+           std::any_of(first, positions.All().end(), [](const MaskPosition& at) { return at.IsEditable(); });
+}
+
+// A "~" at the very end shows nothing.
+int32_t CountShown(const MaskPositions& positions)
+{
+    return static_cast<int32_t>(std::count_if(positions.All().begin(), positions.All().end(),
+                                              [](const MaskPosition& at) { return at.character != Char{}; }));
+}
+
+// The words of a regional picture are literals like any other, however they had to be written.
+void MakeLiteralsPlain(MaskPosition* positions, int32_t count)
+{
+    for (int32_t i = 0; i < count; ++i)
+        positions[i].escaped = false;
+}
+
+// The designator shown is shorter than the field is written.
+int32_t MissingAmPmLetters(const EditInstance& edit, const Text& text)
+{
+    return kAmPmLength - AmPmWidth(edit, text);
 }
 
 // Where the parts of a mask's block stand, in bytes.
@@ -92,20 +120,33 @@ void CompileNumber(const EditInstance& edit, const Text& mask, services::NumberF
 MaskPosition PositionAt(const EditInstance& edit, const Text& text, int32_t position)
 {
     if (!edit.table->followsDigits)
-        return PositionOf(edit, position);
+        return PositionOf(edit, text, position);
     const Char character = NumericMaskChar(edit, At(text, position), position);
     return {character, KindOf(character, edit.dataType), false, true, 0, 0};
 }
 
-const MaskPosition& PositionOf(const EditInstance& edit, int32_t position)
+const MaskPosition& PositionOf(const EditInstance& edit, const Text& text, int32_t position)
 {
     const MaskTable& table = *edit.table;
     if (position < 0 || table.followsDigits)
         return kNoPosition;
+    if (table.fieldsBehindAmPm && position >= table.ampmPosition)
+        position += MissingAmPmLetters(edit, text);
     return position < table.count ? table.positions[position] : table.beyond;
 }
 
-void InstallMask(EditInstance& edit, const Text& mask)
+int32_t ShownLength(const EditInstance& edit, const Text& text)
+{
+    const bool shorter = edit.table && edit.table->fieldsBehindAmPm;
+    return edit.displayLength - (shorter ? MissingAmPmLetters(edit, text) : 0);
+}
+
+int32_t FieldStart(const EditInstance& edit, const Text& text, const MaskSpan& field)
+{
+    return field.offset - (field.behindAmPm ? MissingAmPmLetters(edit, text) : 0);
+}
+
+void InstallMask(EditInstance& edit, const Text& mask, MaskOrigin origin)
 {
     DropMask(edit);
     const bool isNumber = IsNumeric(edit.dataType);
@@ -117,12 +158,15 @@ void InstallMask(EditInstance& edit, const Text& mask)
     auto* table = new (block + layout.table) MaskTable{};
     auto* placed = reinterpret_cast<MaskPosition*>(block + layout.positions);
     std::copy(positions.All().begin(), positions.All().end(), placed);
+    if (origin == MaskOrigin::Keyword)
+        MakeLiteralsPlain(placed, positions.Count());
     table->positions = placed;
     table->count = static_cast<int32_t>(positions.All().size());
     table->beyond = positions.Beyond();
     table->ampmPosition = ampmPosition;
-    table->year = FindSpan(mask, 'Y');
-    table->month = FindSpan(mask, 'M');
+    table->fieldsBehindAmPm = HasFieldBehind(positions, ampmPosition);
+    table->year = FindSpan(positions, 'Y', ampmPosition, origin);
+    table->month = FindSpan(positions, 'M', ampmPosition, origin);
     table->textLength = Length(mask);
     table->point = Find(mask, '.');
     table->followsDigits = FollowsDigits(mask, edit.dataType);
@@ -131,7 +175,7 @@ void InstallMask(EditInstance& edit, const Text& mask)
     edit.mask = reinterpret_cast<Char*>(block);
     std::char_traits<Char>::copy(edit.mask, mask.c_str(), mask.size() + 1);
     edit.table = table;
-    edit.displayLength = CountShown(mask);
+    edit.displayLength = CountShown(positions);
     if (isNumber)
         CompileNumber(edit, mask, *new (block + layout.format) services::NumberFormat, *table);
 }
