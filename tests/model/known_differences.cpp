@@ -91,37 +91,9 @@ bool TellsEndByOldPlace(const Scenario& scenario, const Difference& difference)
     return entered.inFraction && (early || missed);
 }
 
-// Steps by which nobody types or moves the caret by keys.
-bool LeavesCaret(StepKind kind)
-{
-    return kind == StepKind::Select || kind == StepKind::Read || kind == StepKind::Autoskip ||
-           kind == StepKind::ReadOnly || kind == StepKind::Enable;
-}
-
-// The caret was put elsewhere and back since it was carried, and the library did nothing at all.
-bool RemembersCarriedLiteral(const Scenario& scenario, const Difference& difference)
-{
-    int selections = 0;
-    for (size_t i = difference.step; i-- > 0 && LeavesCaret(scenario.steps[i].kind);)
-        selections += scenario.steps[i].kind == StepKind::Select ? 1 : 0;
-    return IsCharStep(scenario, difference) && selections >= 2 && difference.got == difference.before;
-}
-
 bool BeginsBehindPoint(const Scenario& scenario, const Difference& difference)
 {
     return StartsBehindPoint(difference.expected, difference.got, scenario.setting->regional.Point());
-}
-
-bool ShiftsFieldsBehindAmPm(const Scenario& scenario, const Difference& difference)
-{
-    std::string mask = scenario.config.mask;
-    Type type = scenario.config.type;
-    for (size_t i = 0; i <= difference.step; ++i)
-        if (scenario.steps[i].kind == StepKind::Mask) {
-            mask = scenario.steps[i].text;
-            type = static_cast<Type>(scenario.steps[i].a);
-        }
-    return HasFieldBehindAmPm(mask, type);
 }
 
 }  // namespace
@@ -155,17 +127,8 @@ const std::vector<KnownDifference>& KnownDifferences()
             {"german", "##0.00%", kNumber, true, 0, "", nullptr, false, false, "-{sel 3 3}0"},
             {"us", "#.##", kNumber, true, 0, "", nullptr, false, false, "3{Home}+9{sel 2 7}9"},
         }},
-        {"the program has put the caret elsewhere and back: nobody has just typed up to the literal before it",
-         RemembersCarriedLiteral, {
-            {"french", "HH:MM:SS", kTime, true, 1, "", nullptr, false, false, "7{sel 0 0}{sel 3 3}:"},
-            {"swiss", "#.##", kNumber, false, 0, "", nullptr, false, false, "8{sel 0 255}{sel 2 2}."},
-        }},
         {"a number of which literals and the point show, but no digit, is entered on its point", BeginsBehindPoint, {
             {"us", "~x.##", kNumber, false, 0, "", nullptr, false, false, "{data 0}"},
-        }},
-        {"fields behind an AM/PM field are read, and typed into, where they are shown", ShiftsFieldsBehindAmPm, {
-            {"us", "AM/PM HH:MM", kTime, false, 0, "", nullptr, false, false, "{data 13:30}{read}"},
-            {"us", "AM/PM HH:MM", kTime, false, 0, "", nullptr, false, false, "{sel 3 3}0"},
         }},
     };
     return table;

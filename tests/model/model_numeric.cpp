@@ -125,8 +125,7 @@ void Control::FinishNumeric(int position, bool lastFraction)
         if (static_cast<int>(mask_.find('.')) == point)
             charwise_ = true;
         if (lastFraction) {
-            if (autoskip_)
-                MoveCaret(kRight, shift_, false);
+            TellFull();
             return;
         }
     } else if (displayLength_ == edit_.Length())
@@ -136,7 +135,7 @@ void Control::FinishNumeric(int position, bool lastFraction)
     if (SkipLiterals(position, true))
         PlaceCaret(edit_.End());
     else if (autoskip_)
-        MoveCaret(kRight, shift_, false);
+        TellFull();
     else
         PlaceCaret(edit_.Start());
 }

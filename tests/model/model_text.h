@@ -2,6 +2,7 @@
 #ifndef TESTS_MODEL_MODEL_TEXT_H
 #define TESTS_MODEL_MODEL_TEXT_H
 
+#include <algorithm>
 #include <cctype>
 #include <string>
 
@@ -14,6 +15,11 @@ inline bool IsDigit(char c)
     return c >= '0' && c <= '9';
 }
 
+inline bool IsControl(char c)
+{
+    return static_cast<unsigned char>(c) < ' ' || c == 127;
+}
+
 inline char Upper(char c)
 {
     return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
@@ -24,6 +30,13 @@ inline std::string Upper(std::string text)
     for (char& c : text)
         c = Upper(c);
     return text;
+}
+
+// The position at which the character of an offset in the mask is shown.
+inline int DisplayOf(const std::string& mask, size_t offset)
+{
+    const auto escapes = std::count(mask.begin(), mask.begin() + static_cast<std::ptrdiff_t>(offset), '~');
+    return static_cast<int>(offset) - static_cast<int>(escapes);
 }
 
 // NUL outside the text.

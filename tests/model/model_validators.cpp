@@ -11,11 +11,6 @@
 namespace model {
 namespace {
 
-bool IsControl(char c)
-{
-    return static_cast<unsigned char>(c) < ' ' || c == 127;
-}
-
 int TwoDigits(char first, char second)
 {
     const char text[] = {first, second, '\0'};

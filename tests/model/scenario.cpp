@@ -101,14 +101,21 @@ const std::vector<Setting>& Settings()
         german.currency = "EUR";
         german.currencyPosition = 1;
         german.shortDate = "dd.MM.yyyy";
+        german.am = "vorm";
+        german.pm = "nach";
         Regional french = german;
         french.thousand = ' ';
         french.currency = "F";
-        french.shortDate = "dd/MM/yyyy";
+        french.shortDate = "d 'de' MMMM \"de\" yyyy";
+        french.am = "de.";
+        french.pm = "du.";
+        french.timeSeparator = "h";
         Regional swiss = us;
         swiss.thousand = '\'';
         swiss.currency = "CHF";
         swiss.shortDate = "dd.MM.yyyy";
+        swiss.am = "a.m.";
+        swiss.pm = "p.m.";
         return std::vector<Setting>{
             {"us",     us    },
             {"german", german},
