@@ -53,11 +53,15 @@ public:
     // Puts text in the place of the selection, without an undo step; the caret stands behind it.
     virtual void ReplaceSelection(const Char* text) = 0;
 
+    // Copies the selection to the clipboard.
+    virtual void CopySelection() = 0;
+
     // Sets the whole text; the caret stands before it. Leaves no undo step.
     virtual void SetText(const Char* text) = 0;
 
-    // As the field's own key: an arrow pressed and released as often as told.
+    // As the field's own keys: an arrow pressed and released as often as told; Delete pressed.
     virtual void PressArrow(Key key, KeyData keyData, int32_t times) = 0;
+    virtual void PressDelete(KeyData keyData) = 0;
 
     // Makes the Shift key count as held down, or as released.
     virtual void HoldShift(bool down) = 0;

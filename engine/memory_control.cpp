@@ -53,7 +53,7 @@ void MemoryControl::KeyDown(int32_t key)
 
 void MemoryControl::Type(uint32_t character)
 {
-    if (!OnChar(record_, character).kept)
+    if (!OnChar(record_, character, kFromKeyboard).kept)
         field_.Type(static_cast<Char>(character));
 }
 
@@ -84,6 +84,29 @@ void MemoryControl::Drag(int32_t from, int32_t to)
 void MemoryControl::Paste()
 {
     PasteClipboard(record_);
+}
+
+void MemoryControl::Select(int32_t anchor, int32_t caret)
+{
+    OnTextSetFromOutside(record_);
+    field_.SetSelection(anchor, caret);
+}
+
+void MemoryControl::SetText(const Char* text)
+{
+    OnTextSetFromOutside(record_);
+    field_.SetText(text);
+}
+
+void MemoryControl::Replace(const Char* text, bool canUndo)
+{
+    OnTextSetFromOutside(record_);
+    field_.Replace(text, canUndo);
+}
+
+void MemoryControl::LoseFocus()
+{
+    OnFocusLost(record_);
 }
 
 void MemoryControl::DestroySpin()

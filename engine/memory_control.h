@@ -41,6 +41,12 @@ public:
     void Drag(int32_t from, int32_t to);
     void Paste();
 
+    // What a program does to an edit control that it does not know to be a masked one.
+    void Select(int32_t anchor, int32_t caret);
+    void SetText(const Char* text);
+    void Replace(const Char* text, bool canUndo);
+    void LoseFocus();
+
     // A spin counts as there; its texts go with it.
     void CreateSpin() { record_.hwndSpin = this; }
     void DestroySpin();

@@ -294,6 +294,11 @@ void MemoryField::PressArrow(Key key, KeyData, int32_t times)
         Press(key);
 }
 
+void MemoryField::PressDelete(KeyData)
+{
+    Press(KEY_DELETE);
+}
+
 void MemoryField::Press(Key key, bool shift, bool control)
 {
     const bool shiftBefore = shiftHeld_;

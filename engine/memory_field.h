@@ -68,8 +68,10 @@ public:
     std::optional<Text> ReadClipboard() const override { return clipboard_; }
     void Select(int32_t start, int32_t end) override { SetSelection(start, end); }
     void ReplaceSelection(const Char* text) override;
+    void CopySelection() override { Copy(); }
     void SetText(const Char* text) override;
     void PressArrow(Key key, KeyData keyData, int32_t times) override;
+    void PressDelete(KeyData keyData) override;
     void HoldShift(bool down) override { shiftHeld_ = down; }
     void SetRedraw(bool on) override;
     void KeepLayout() override { Tell(FieldEvent::Layout); }

@@ -1,6 +1,8 @@
 // The field of a control in a window: the standard edit control underneath.
 #include "win32/standard_field.h"
 
+#include <atomic>
+
 #include "win32/life_guard.h"
 #include "win32/spin_layout.h"
 #include "ztedit.h"
@@ -10,6 +12,22 @@ namespace zte {
 WNDPROC baseEditProc;
 
 namespace {
+
+// The control to which the library is just sending a message that hosts send too. Asked before the record is looked up, which
+// costs a call into the window manager. Controls on two threads at worst take a message of the library for a host's.
+std::atomic<HWND> ownMessageTo{nullptr};
+
+// Announces a message of the library while it lives.
+class OwnMessage {
+public:
+    explicit OwnMessage(HWND hwnd) : hwnd_(hwnd) { ownMessageTo = hwnd; }
+    OwnMessage(const OwnMessage&) = delete;
+    OwnMessage& operator=(const OwnMessage&) = delete;
+    ~OwnMessage() { StandardField::TakeOwnMessage(hwnd_); }
+
+private:
+    HWND hwnd_;
+};
 
 constexpr int kPressed = 0x8000;
 
@@ -79,6 +97,11 @@ RECT ClientOf(HWND hwnd)
     return client;
 }
 
+bool StandardField::TakeOwnMessage(HWND hwnd)
+{
+    return ownMessageTo.compare_exchange_strong(hwnd, nullptr);
+}
+
 LRESULT StandardField::ToBase(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const LifeCheck life(*this);
@@ -136,12 +159,14 @@ std::optional<Text> StandardField::ReadClipboard() const
 void StandardField::Select(int32_t start, int32_t end)
 {
     ToControl(EM_SCROLLCARET, 0, 0);
+    const OwnMessage own(Window());
     ToControl(EM_SETSEL, static_cast<WPARAM>(start), end);
 }
 
 void StandardField::SetText(const Char* text)
 {
     const LifeCheck life(*this);
+    const OwnMessage own(Window());
     SetWindowTextA(Window(), text);
     life.Check();
 }
@@ -153,12 +178,22 @@ void StandardField::ReplaceSelection(const Char* text)
     CallBaseEdit(Window(), EM_EMPTYUNDOBUFFER, 0, 0);
 }
 
+void StandardField::CopySelection()
+{
+    ToBase(WM_COPY, 0, 0);
+}
+
 void StandardField::PressArrow(Key key, KeyData keyData, int32_t times)
 {
     for (int32_t i = 0; i < times; ++i) {
         ToBase(WM_KEYDOWN, static_cast<WPARAM>(key), keyData);
         ToBase(WM_KEYUP, static_cast<WPARAM>(key), keyData);
     }
+}
+
+void StandardField::PressDelete(KeyData keyData)
+{
+    ToBase(WM_KEYDOWN, VK_DELETE, keyData);
 }
 
 void StandardField::SetModified()

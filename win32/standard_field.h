@@ -30,7 +30,9 @@ public:
 
     // To the standard edit control alone.
     void ReplaceSelection(const Char* text) override;
+    void CopySelection() override;
     void PressArrow(Key key, KeyData keyData, int32_t times) override;
+    void PressDelete(KeyData keyData) override;
     void SetModified() override;
 
     void HoldShift(bool down) override;
@@ -42,6 +44,9 @@ public:
     void Beep() override;
     void NotifyFull() override;
     void NotifyStepped() override;
+
+    // True for a message to the control that the library sends itself, and once for each: what a host sends meanwhile is its own.
+    static bool TakeOwnMessage(HWND hwnd);
 
     // A message to the standard edit control, or to the control itself.
     LRESULT ToBase(UINT message, WPARAM wParam, LPARAM lParam);

@@ -17,25 +17,40 @@ Reply OnPaste(EditInstance& edit)
     return Keep();
 }
 
+Reply OnKillFocus(EditInstance& edit)
+{
+    OnFocusLost(edit);
+    return OnFocus(edit);
+}
+
+Reply OnTextSet(EditInstance& edit)
+{
+    OnTextSetFromOutside(edit);
+    return kPassOn;
+}
+
 // Routes a message that the control handles. False for all others, the library's own EM_ messages among them: they are passed
 // on without a look-up of the record.
 template <typename Handler>
-bool Dispatch(UINT message, WPARAM wParam, LPARAM lParam, Handler&& handle)
+bool Dispatch(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, Handler&& handle)
 {
     const auto number = static_cast<uint32_t>(wParam);
     switch (message) {
     case WM_MOVE: return handle([](EditInstance& edit) { return OnMove(edit); });
     case WM_SIZE: return handle([=](EditInstance& edit) { return OnSize(edit, wParam, lParam); });
-    case WM_SETFOCUS:
-    case WM_KILLFOCUS: return handle([](EditInstance& edit) { return OnFocus(edit); });
+    case WM_SETFOCUS: return handle([](EditInstance& edit) { return OnFocus(edit); });
+    case WM_KILLFOCUS: return handle([](EditInstance& edit) { return OnKillFocus(edit); });
     case WM_PAINT: return handle([](EditInstance& edit) { return OnPaint(edit); });
     case WM_SETFONT: return handle([=](EditInstance& edit) { return OnSetFont(edit, wParam, lParam); });
     case WM_KEYDOWN: return handle([=](EditInstance& edit) { return OnKeyDown(edit, number, lParam); });
     case WM_KEYUP: return handle([=](EditInstance& edit) { return OnKeyUp(edit, number); });
-    case WM_CHAR: return handle([=](EditInstance& edit) { return OnChar(edit, number); });
+    case WM_CHAR: return handle([=](EditInstance& edit) { return OnChar(edit, number, lParam); });
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK: return handle([](EditInstance& edit) { return OnButtonDown(edit); });
     case WM_LBUTTONUP: return handle([=](EditInstance& edit) { return OnButtonUp(edit, wParam, lParam); });
+    case EM_SETSEL:
+    case EM_REPLACESEL:
+    case WM_SETTEXT: return !StandardField::TakeOwnMessage(hwnd) && handle(OnTextSet);
     case WM_PASTE: return handle([](EditInstance& edit) { return OnPaste(edit); });
     default: return false;
     }
@@ -44,7 +59,7 @@ bool Dispatch(UINT message, WPARAM wParam, LPARAM lParam, Handler&& handle)
 // True when the control kept the message; kept with result 0 when the control is gone: nothing is left to pass the message on to.
 bool IsKept(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
-    return Dispatch(message, wParam, lParam, [&](auto&& work) {
+    return Dispatch(hwnd, message, wParam, lParam, [&](auto&& work) {
         EditInstance* edit = GetEditInstance(hwnd);
         if (!edit)
             return false;

@@ -33,7 +33,7 @@ LiteralRun LiteralsAt(const EditInstance& edit, const Text& text, int32_t positi
         const int32_t at = position + length;
         if (IsInFraction(edit, text, at))
             return {true, length};
-        if (at > edit.displayLength - 1)
+        if (at > ShownLength(edit, text) - 1)
             return {false, length};
         if (MayTypeAt(edit, text, at))
             return {true, length};
@@ -57,7 +57,7 @@ int32_t StepsToEditable(const EditInstance& edit, const Text& text, int32_t posi
     const int32_t step = direction == Direction::Forward ? 1 : -1;
     for (int32_t steps = 1;; ++steps) {
         position += step;
-        if (position < 0 || (step > 0 && position > edit.displayLength - 1))
+        if (position < 0 || (step > 0 && position > ShownLength(edit, text) - 1))
             return 0;
         if (!PositionAt(edit, text, position).exists || MayTypeAt(edit, text, position))
             return steps;
@@ -90,8 +90,8 @@ void MoveCaret(EditInstance& edit, Key key, KeyData keyData, bool shift)
 
 void MoveOnWhenFull(EditInstance& edit)
 {
-    if (Has(edit, AUTOSKIP))
-        MoveCaret(edit, KEY_RIGHT, 0, edit.field->IsHeld(KEY_SHIFT));
+    if (Has(edit, AUTOSKIP) && !(edit.field->IsHeld(KEY_SHIFT) && edit.field->IsHeld(KEY_RIGHT)))
+        edit.field->NotifyFull();
 }
 
 bool SkipLiterals(EditInstance& edit, const Text& text, int32_t position)

@@ -14,7 +14,8 @@ int32_t StepsToEditable(const EditInstance& edit, const Text& text, int32_t posi
 // one character left of the caret. Right at the end of the text tells that the field is full. shift: the Shift key is held.
 void MoveCaret(EditInstance& edit, Key key, KeyData keyData, bool shift);
 
-// Behind the last position that was typed at, with autoskip on: as if Right had been pressed, without a key.
+// Behind the last position that was typed at, with autoskip on: tells that the field is full. Shift alone has no part in it:
+// capitals are typed with it.
 void MoveOnWhenFull(EditInstance& edit);
 
 // Puts the caret, which stands at position, behind the literals there, and remembers them as passed by typing. True when a

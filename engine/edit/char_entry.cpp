@@ -3,24 +3,32 @@
 
 #include "engine/edit/caret.h"
 #include "engine/edit/validators.h"
+#include "engine/mask/half_of_day.h"
 #include "engine/text/ascii.h"
 
 namespace zte {
 
 namespace {
 
-// The character goes to the AM/PM field, wherever the caret is, when it begins one of the regional designators.
-bool IsAmPmChar(const EditInstance& edit, Char typed)
+// Where a character is typed: before the first field it is meant for that field.
+int32_t PlaceToType(const EditInstance& edit, const Text& text, int32_t caret)
 {
-    if (!HasAmPmField(edit) || typed == Char{})
-        return false;
-    return typed == edit.settings->amString[0] || typed == edit.settings->pmString[0];
+    return caret < edit.firstFieldPos && !IsEditable(edit, text, caret) ? edit.firstFieldPos : caret;
+}
+
+// The half of the day that the character chooses, wherever the caret is; a letter that its own position takes belongs there.
+std::optional<HalfOfDay> HalfMeant(const EditInstance& edit, const Text& text, int32_t caret, Char typed)
+{
+    const std::optional<HalfOfDay> half = HalfTyped(edit, text, typed);
+    const int32_t place = half ? PlaceToType(edit, text, caret) : 0;
+    const bool taken = half && place < ShownLength(edit, text) && Validate({edit, text, place, typed}).accepted;
+    return taken ? std::nullopt : half;
 }
 
 // The next literal, not written with "~", that shows the character; -1 when there is none.
 int32_t FindLiteralAhead(const EditInstance& edit, const Text& text, int32_t position, Char typed)
 {
-    for (int32_t at = position + 1; at < Length(text) && at < edit.displayLength; ++at)
+    for (int32_t at = position + 1; at < Length(text) && at < ShownLength(edit, text); ++at)
         if (At(text, at) == typed && PositionAt(edit, text, at).IsPlainLiteral())
             return at;
     return -1;
@@ -32,16 +40,16 @@ bool IsPaddable(FieldKind kind)
            kind == FieldKind::Second;
 }
 
-bool IsSecondDigitOfTwo(const EditInstance& edit, int32_t position)
+bool IsSecondDigitOfTwo(const EditInstance& edit, const Text& text, int32_t position)
 {
-    const MaskPosition& mask = PositionOf(edit, position);
+    const MaskPosition& mask = PositionOf(edit, text, position);
     return IsPaddable(mask.kind) && mask.runBefore == 1 && mask.runAfter == 0;
 }
 
 // A single digit before the separator typed becomes "0" and the digit.
 void PadFieldDigit(EditInstance& edit, const Text& text, int32_t position)
 {
-    if (position < 1 || position >= Length(text) || !IsSecondDigitOfTwo(edit, position))
+    if (position < 1 || position >= Length(text) || !IsSecondDigitOfTwo(edit, text, position))
         return;
     const Char digit = At(text, position - 1);
     if (!IsDigit(digit) || digit == '0')
@@ -50,6 +58,7 @@ void PadFieldDigit(EditInstance& edit, const Text& text, int32_t position)
     padded[static_cast<size_t>(position)] = digit;
     padded[static_cast<size_t>(position) - 1] = '0';
     edit.field->SetText(padded.c_str());
+    edit.field->SetModified();
 }
 
 // A padded digit fills its field; the rest of a month name, or a digit that only pulls a 0 behind it, leaves the caret on the
@@ -60,17 +69,22 @@ int32_t CaretBehind(const EditInstance& edit, int32_t placedAt, Char typed)
     return placedAt + (fills ? 2 : 1);
 }
 
-// Overwrites as many positions as typedChar has characters. Redrawing is on again before the replacement, so that it paints
-// once.
+// Puts typedChar in the place of positions. Redrawing is on again before the replacement, so that it paints once.
+void Overwrite(EditInstance& edit, int32_t position, int32_t length)
+{
+    edit.field->SetRedraw(false);
+    edit.field->Select(position, position + length);
+    edit.field->SetRedraw(true);
+    edit.field->ReplaceSelection(edit.typedChar);
+}
+
+// Overwrites as many positions as typedChar has characters.
 int32_t Place(EditInstance& edit, int32_t position, Char typed)
 {
     const auto length = static_cast<int32_t>(TextLength(edit.typedChar));
     if (length == 0)
         return Caret(edit);
-    edit.field->SetRedraw(false);
-    edit.field->Select(position, position + length);
-    edit.field->SetRedraw(true);
-    edit.field->ReplaceSelection(edit.typedChar);
+    Overwrite(edit, position, length);
     const bool isPart = length > 1 && Has(edit, ZERO_PADDED);
     SetFlag(edit, ZERO_PADDED, false);
     if (!isPart)
@@ -93,6 +107,14 @@ void PlaceAndGoOn(EditInstance& edit, const Text& text, int32_t position, Char t
 {
     const int32_t caret = Place(edit, position, typed);
     GoOn(edit, text, caret);
+}
+
+// The whole designator, which may be longer or shorter than the one shown.
+void PlaceHalf(EditInstance& edit, const Text& text, HalfOfDay half)
+{
+    KeepVerdict(edit, Verdict::Placing(DesignatorOf(*edit.settings, half)));
+    Overwrite(edit, edit.table->ampmPosition, AmPmWidth(edit, text));
+    GoOn(edit, edit.field->ReadText(), Caret(edit));
 }
 
 // A refused character that is a literal further on skips to it.
@@ -137,14 +159,11 @@ void EnterChar(EditInstance& edit, Char typed, int32_t caret)
     edit.field->KeepLayout();
     ForgetVerdict(edit);
     const CarriedOver carried = TakeCarriedOver(edit);
-    const bool isAmPm = IsAmPmChar(edit, typed);
-    if (!isAmPm && edit.displayLength > 0 && caret >= edit.displayLength)
-        return;
     const Text text = edit.field->ReadText();
-    if (isAmPm) {
-        KeepVerdict(edit, Verdict::Placing(typed));
-        return PlaceAndGoOn(edit, text, edit.table->ampmPosition, typed);
-    }
+    if (const std::optional<HalfOfDay> half = HalfMeant(edit, text, caret, typed))
+        return PlaceHalf(edit, text, *half);
+    if (edit.displayLength > 0 && caret >= ShownLength(edit, text))
+        return;
     if (IsCarriedLiteral(edit, text, carried, caret, typed))
         return;
     if (!IsEditable(edit, text, caret))

@@ -5,6 +5,7 @@
 
 #include "engine/edit/numeric_entry.h"
 #include "engine/format/display.h"
+#include "engine/mask/half_of_day.h"
 #include "engine/mask/mask_table.h"
 
 namespace zte {
@@ -15,11 +16,11 @@ namespace {
 Text BlankOf(EditInstance& edit, Selection selection)
 {
     Text blank = FormatValue(edit, nullptr).text;
-    if (HasAmPmField(edit)) {
+    if (HasAmPmField(edit) && ShownHalf(edit, blank)) {
         const Text text = edit.field->ReadText();
-        for (int32_t i = 0; i < std::min(Length(blank), Length(text)); ++i)
-            if (PositionOf(edit, i).kind == FieldKind::AmPm)
-                blank[static_cast<size_t>(i)] = At(text, i);
+        const int32_t marker = edit.table->ampmPosition;
+        blank.replace(static_cast<size_t>(marker), static_cast<size_t>(AmPmWidth(edit, blank)),
+                      Slice(text, marker, AmPmWidth(edit, text)));
     }
     return Slice(blank, selection.start, selection.end - selection.start);
 }

@@ -72,6 +72,17 @@ bool HandleDeletion(EditInstance& edit, Key key, KeyData keyData)
     return true;
 }
 
+// A Delete pressed with Shift would cut in the field underneath, or without a selection delete to the left.
+bool HandleDelete(EditInstance& edit, KeyData keyData)
+{
+    if (!edit.field->IsHeld(KEY_SHIFT))
+        return HandleDeletion(edit, KEY_DELETE, keyData);
+    edit.field->HoldShift(false);
+    CutByKey(edit, keyData);
+    edit.field->HoldShift(true);
+    return true;
+}
+
 bool HandleArrow(EditInstance& edit, Key key, KeyData keyData)
 {
     if (edit.field->IsHeld(KEY_SHIFT) || (IsNumericMode(edit) && !Has(edit, CHARWISE)))
@@ -111,8 +122,8 @@ bool HandleKeyDown(EditInstance& edit, int32_t key, KeyData keyData)
     if (MovesOrDeletes(key))
         edit.carriedTo = 0;
     switch (key) {
-    case KEY_BACKSPACE:
-    case KEY_DELETE: return HandleDeletion(edit, static_cast<Key>(key), keyData);
+    case KEY_BACKSPACE: return HandleDeletion(edit, KEY_BACKSPACE, keyData);
+    case KEY_DELETE: return HandleDelete(edit, keyData);
     case KEY_LEFT:
     case KEY_RIGHT: return HandleArrow(edit, static_cast<Key>(key), keyData);
     case KEY_UP:
@@ -120,6 +131,15 @@ bool HandleKeyDown(EditInstance& edit, int32_t key, KeyData keyData)
     case KEY_INSERT: return HandleInsert(edit);
     default: return false;
     }
+}
+
+void CutByKey(EditInstance& edit, KeyData keyData)
+{
+    if (!edit.field->ReadSelection().IsEmpty())
+        edit.field->CopySelection();
+    if (!HandleDeletion(edit, KEY_DELETE, keyData))
+        edit.field->PressDelete(keyData);
+    edit.deletePending = 0;
 }
 
 }  // namespace zte

@@ -1,6 +1,8 @@
 // Key and character messages, routed to the code table, the number entry or the position-by-position entry.
 #include "engine/edit/keyboard.h"
 
+#include <optional>
+
 #include "engine/edit/char_entry.h"
 #include "engine/edit/deletion.h"
 #include "engine/edit/key_down.h"
@@ -8,23 +10,42 @@
 #include "engine/edit/paste.h"
 #include "engine/edit/type_ahead.h"
 #include "engine/format/data.h"
+#include "engine/text/ascii.h"
 
 namespace zte {
 
 namespace {
 
 // Characters of the Ctrl key and of keys that are no letters.
+constexpr uint32_t kCtrlA = 1;
 constexpr uint32_t kCtrlC = 3;
 constexpr uint32_t kCtrlD = 4;
 constexpr uint32_t kBackspace = 8;
 constexpr uint32_t kTab = 9;
 constexpr uint32_t kLineFeed = 10;
 constexpr uint32_t kCtrlV = 22;
+constexpr uint32_t kCtrlX = 24;
 constexpr uint32_t kEscape = 27;
+constexpr uint32_t kCtrlBackspace = 127;
 
 bool IsCopy(uint32_t typed)
 {
     return typed == kCtrlC || typed == kCtrlD;
+}
+
+// Characters that stand for themselves, and Backspace: they alone take the place of a selection or of a text that the spin put
+// there.
+bool EditsText(uint32_t typed)
+{
+    return typed == kBackspace || !IsControl(static_cast<Char>(typed));
+}
+
+// A string without a mask whose values are shown as they stand, or with a code table that nobody chooses from by typing.
+bool IsPlainEdit(const EditInstance& edit)
+{
+    if (HasMask(edit))
+        return false;
+    return !Has(edit, CODE_SPIN) || (edit.dataType == DT_STRING && !Has(edit, CODE_PICKLIST));
 }
 
 // Never beeped at: dialogs give them other meanings.
@@ -53,6 +74,7 @@ bool EndSpunText(EditInstance& edit)
         SetFlag(edit, CODE_SPIN, false);
         SetData(edit, nullptr);
         SetFlag(edit, CODE_SPIN, true);
+        edit.field->SetModified();
     }
     SetFlag(edit, SPUN, false);
     return ended;
@@ -72,30 +94,66 @@ Reply Finish(EditInstance& edit, Reply reply)
     return reply;
 }
 
+void Paste(EditInstance& edit)
+{
+    if (PasteClipboard(edit))
+        SetFlag(edit, SPUN, false);
+}
+
+void SelectAll(EditInstance& edit)
+{
+    edit.carriedTo = 0;
+    edit.field->Select(0, Length(edit.field->ReadText()));
+}
+
+void CutSelection(EditInstance& edit, KeyData keyData)
+{
+    edit.carriedTo = 0;
+    if (!edit.field->ReadSelection().IsEmpty())
+        CutByKey(edit, keyData);
+}
+
+bool IsPickList(const EditInstance& edit)
+{
+    return Has(edit, CODE_SPIN) && Has(edit, CODE_PICKLIST);
+}
+
+// What becomes of the control characters that have a meaning; no reply for the others. A pick list has a use for none of
+// those that edit.
+std::optional<Reply> Obey(EditInstance& edit, uint32_t typed, KeyData keyData)
+{
+    switch (typed) {
+    case kCtrlA: SelectAll(edit); return Keep();
+    case kCtrlX:
+        if (!HasMask(edit))
+            return kPassOn;
+        CutSelection(edit, keyData);
+        return Keep();
+    case kCtrlV:
+        if (!IsPickList(edit))
+            Paste(edit);
+        return Keep();
+    default: break;
+    }
+    if (IsPickList(edit))
+        return Keep();
+    return IsLeftToTheForm(typed) ? std::optional<Reply>(Keep(0)) : std::nullopt;
+}
+
 // selection: before the character; the caret where one was deleted.
 Reply Enter(EditInstance& edit, uint32_t typed, Selection selection)
 {
-    if (!HasMask(edit) && !Has(edit, CODE_SPIN)) {
+    if (IsPlainEdit(edit)) {
         SetFlag(edit, SPUN, false);
         return kPassOn;
     }
-    if (Has(edit, CODE_SPIN) && Has(edit, CODE_PICKLIST)) {
+    if (IsPickList(edit)) {
         SetFlag(edit, SPUN, false);
         TypeAhead(edit, static_cast<Char>(typed));
         return Keep();
     }
-    if (Has(edit, CODE_SPIN) && edit.dataType == DT_STRING && !HasMask(edit)) {
-        SetFlag(edit, SPUN, false);
-        return kPassOn;
-    }
     if (EndSpunText(edit))
         selection = edit.field->ReadSelection();
-    if (IsLeftToTheForm(typed))
-        return Keep(0);
-    if (typed == kCtrlV) {
-        PasteClipboard(edit);
-        return Keep();
-    }
     if (IsNumeric(edit.dataType)) {
         EnterNumber(edit, typed, selection);
         return Keep();
@@ -106,11 +164,15 @@ Reply Enter(EditInstance& edit, uint32_t typed, Selection selection)
     return Keep();
 }
 
-// A read-only or disabled control lets copying through and takes nothing else.
-Reply RefuseChar(EditInstance& edit, uint32_t typed)
+// A read-only or disabled control is selected and copied from, and takes nothing else.
+Reply RefuseChar(EditInstance& edit, uint32_t typed, KeyData keyData)
 {
     if (typed == kBackspace && Has(edit, BACKSPACE_DONE))
         FinishBackspace(edit);
+    if (typed == kCtrlA)
+        SelectAll(edit);
+    if (typed == kCtrlX)
+        CutSelection(edit, keyData);
     return Keep(IsLeftToTheForm(typed) ? 0 : 1);
 }
 
@@ -119,6 +181,22 @@ void ForgetBackspace(EditInstance& edit)
 {
     edit.deletePending = 0;
     edit.swallowBackspace = false;
+}
+
+// A control character leaves the text alone: what is selected, and what the spin or the code table shows, too.
+Reply TakeControlChar(EditInstance& edit, uint32_t typed, KeyData keyData)
+{
+    if (IsPlainEdit(edit)) {
+        SetFlag(edit, SPUN, false);
+        return kPassOn;
+    }
+    if (const std::optional<Reply> reply = Obey(edit, typed, keyData))
+        return *reply;
+    const Selection selection = edit.field->ReadSelection();
+    if (selection.IsEmpty() && !Has(edit, SPUN | CODE_POSITIONED))
+        return Enter(edit, typed, selection);
+    edit.field->Beep();
+    return Keep();
 }
 
 }  // namespace
@@ -143,16 +221,20 @@ Reply OnKeyUp(EditInstance& edit, uint32_t key)
     return kPassOn;
 }
 
-Reply OnChar(EditInstance& edit, uint32_t typed)
+Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData)
 {
     if (IsCopy(typed))
         return kPassOn;
     if (edit.field->RefusesInput())
-        return RefuseChar(edit, typed);
+        return RefuseChar(edit, typed, keyData);
     if (typed == kBackspace && edit.swallowBackspace) {
         edit.swallowBackspace = false;
         return Keep();
     }
+    if (typed == kCtrlBackspace && Has(edit, BACKSPACE_DONE))
+        typed = kBackspace;  // the key-down was that of a Backspace
+    if (!EditsText(typed))
+        return Finish(edit, TakeControlChar(edit, typed, keyData));
     // A number is changed at once: what is selected goes together with what takes its place.
     const Selection selection = edit.field->ReadSelection();
     const bool deleted = !IsNumeric(edit.dataType) && DeleteSelection(edit, selection);
@@ -163,6 +245,16 @@ Reply OnChar(EditInstance& edit, uint32_t typed)
     if (deleted && typed == kBackspace)
         return Finish(edit, Keep());
     return Finish(edit, Enter(edit, typed, deleted ? edit.field->ReadSelection() : selection));
+}
+
+void OnTextSetFromOutside(EditInstance& edit)
+{
+    edit.carriedTo = 0;
+}
+
+void OnFocusLost(EditInstance& edit)
+{
+    CompleteNumber(edit);
 }
 
 }  // namespace zte

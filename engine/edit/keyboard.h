@@ -19,6 +19,12 @@ constexpr Reply Keep(intptr_t result = 1)
 // key and typed as the messages carry them: more than a key's or a character's number counts.
 Reply OnKeyDown(EditInstance& edit, uint32_t key, KeyData keyData);
 Reply OnKeyUp(EditInstance& edit, uint32_t key);
-Reply OnChar(EditInstance& edit, uint32_t typed);
+Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData);
+
+// The program is about to put a text or the caret there: nobody has typed up to it.
+void OnTextSetFromOutside(EditInstance& edit);
+
+// The focus is about to leave the control.
+void OnFocusLost(EditInstance& edit);
 
 }  // namespace zte

@@ -49,17 +49,19 @@ bool SetFromText(EditInstance& edit, const Text& text)
 
 }  // namespace
 
-void PasteClipboard(EditInstance& edit)
+bool PasteClipboard(EditInstance& edit)
 {
     if (edit.field->RefusesInput())
-        return;
+        return false;
     const std::optional<Text> text = edit.field->ReadClipboard();
     if (!text || text->empty() || !edit.mask)
-        return;
-    if (SetFromText(edit, *text))
+        return false;
+    const bool taken = SetFromText(edit, *text);
+    if (taken)
         edit.field->SetModified();
     else
         edit.field->Beep();
+    return taken;
 }
 
 }  // namespace zte

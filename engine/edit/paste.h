@@ -5,6 +5,7 @@
 
 namespace zte {
 
-void PasteClipboard(EditInstance& edit);
+// True when the clipboard's text became the value.
+bool PasteClipboard(EditInstance& edit);
 
 }  // namespace zte

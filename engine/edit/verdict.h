@@ -13,7 +13,7 @@ struct Entry {
     int32_t position;
     Char typed;
 
-    const MaskPosition& Mask() const { return PositionOf(edit, position); }
+    const MaskPosition& Mask() const { return PositionOf(edit, text, position); }
     int32_t Index() const { return Mask().runBefore; }  // of the position within its field, from 0
     int32_t FieldLength() const { return Mask().FieldLength(); }
 

@@ -54,10 +54,18 @@ void ShowDisplay(EditInstance& edit, const Display& display)
         PlaceCaret(edit, display.firstFieldPos);
 }
 
+bool IsBlankDisplay(const EditInstance& edit, const Char* text)
+{
+    Display blank;
+    FormatFields(edit, nullptr, blank);
+    return blank.text == text;
+}
+
+// What is shown where there is no value stands for none, unless it is the canonical text of one (midnight).
 DateTimeValue DateTimeFromText(const EditInstance& edit, const Char* text)
 {
     DateTimeValue value;
-    if (!ReadDisplayText(edit, text, value))
+    if (IsBlankDisplay(edit, text) || !ReadDisplayText(edit, text, value))
         ParseCanonical(edit, text, value);
     return value;
 }

@@ -1,6 +1,7 @@
 // Reads the fields of a date or time display text, position by position under the mask, into a value.
 #include "engine/format/date_text.h"
 
+#include "engine/mask/half_of_day.h"
 #include "engine/mask/mask_table.h"
 #include "engine/services.h"
 #include "engine/values/calendar.h"
@@ -12,11 +13,6 @@ namespace {
 
 constexpr int32_t kFourDigitYears = 4;
 constexpr uint32_t kMicroseconds = 1000000;
-
-bool ShowsAt(const Text& text, int32_t position, const Char* marker)
-{
-    return position <= Length(text) && BeginsWith(text.c_str() + position, marker);
-}
 
 // One reading of one text.
 class FieldReader {
@@ -69,7 +65,7 @@ private:
             return false;
         if (!HasAmPmField(edit_))
             return true;
-        const bool isPm = ShowsAt(text_, edit_.table->ampmPosition, edit_.settings->pmString);
+        const bool isPm = ShownHalf(edit_, text_) == HalfOfDay::Pm;
         if (isPm && value_.hour < 12)
             value_.hour = static_cast<int8_t>(value_.hour + 12);
         else if (!isPm && value_.hour == 12)
@@ -114,7 +110,7 @@ private:
         value_.year = static_cast<int16_t>(YearValue(number, run));
         yearSeen_ = true;
         if (dayPending_)
-            DateFromDayOfYear(edit_.yearDigits, pendingDay_, value_);
+            TakeDayOfYear();
         dayPending_ = false;
         return true;
     }
@@ -124,8 +120,17 @@ private:
         pendingDay_ = IntegerOf(Slice(text_, position, 3));
         dayPending_ = !yearSeen_;
         if (yearSeen_)
-            DateFromDayOfYear(edit_.yearDigits, pendingDay_, value_);
+            TakeDayOfYear();
         return true;
+    }
+
+    // A day that the year does not have makes no date.
+    void TakeDayOfYear()
+    {
+        if (pendingDay_ >= 1 && pendingDay_ <= DaysInYear(edit_.yearDigits, value_.year))
+            DateFromDayOfYear(edit_.yearDigits, pendingDay_, value_);
+        else
+            value_.year = kEmptyDateTime.year;
     }
 
     const EditInstance& edit_;
@@ -140,10 +145,7 @@ private:
 // AM or PM string at that field.
 bool LooksLikeDisplayText(const EditInstance& edit, const Text& text)
 {
-    if (!HasAmPmField(edit))
-        return Length(text) == edit.displayLength;
-    const int32_t marker = edit.table->ampmPosition;
-    return ShowsAt(text, marker, edit.settings->amString) || ShowsAt(text, marker, edit.settings->pmString);
+    return HasAmPmField(edit) ? ShownHalf(edit, text).has_value() : Length(text) == edit.displayLength;
 }
 
 bool IsPossibleDate(const DateTimeValue& value)
@@ -181,7 +183,7 @@ bool ReadFields(const EditInstance& edit, const Text& text, DateTimeValue& value
     FieldReader reader(edit, text, value);
     const int32_t end = Length(text) > kMaxMaskLength ? kMaxMaskLength + 1 : Length(text);
     for (int32_t position = 0; position < end;) {
-        const MaskPosition& mask = PositionOf(edit, position);
+        const MaskPosition& mask = PositionOf(edit, text, position);
         if (!mask.IsEditable()) {
             position += mask.escaped ? escapeWidth : 1;
             continue;

@@ -9,9 +9,9 @@ namespace zte {
 
 namespace {
 
-Text Cut(const Text& text, MaskSpan field)
+Text Cut(const EditInstance& edit, const Text& text, const MaskSpan& field)
 {
-    return Slice(text, field.offset, field.length);
+    return Slice(text, FieldStart(edit, text, field), field.length);
 }
 
 }  // namespace
@@ -19,7 +19,7 @@ Text Cut(const Text& text, MaskSpan field)
 int32_t YearFromText(const EditInstance& edit, const Text& text)
 {
     const MaskSpan field = edit.table->year;
-    return field.length == 0 ? 0 : YearValue(IntegerOf(Cut(text, field)), field.length);
+    return field.length == 0 ? 0 : YearValue(IntegerOf(Cut(edit, text, field)), field.length);
 }
 
 int32_t MonthFromText(const EditInstance& edit, const Text& text)
@@ -27,7 +27,9 @@ int32_t MonthFromText(const EditInstance& edit, const Text& text)
     const MaskSpan field = edit.table->month;
     if (field.length == 0)
         return 0;
-    const Text month = Cut(text.empty() ? text : text.substr(0, text.size() - 1), field);
+    Text month = Cut(edit, text, field);
+    if (FieldStart(edit, text, field) + Length(month) == Length(text) && !month.empty())
+        month.pop_back();
     return field.length == 2 ? IntegerOf(month) : MonthFromName(*edit.settings, month) + 1;
 }
 

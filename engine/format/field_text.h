@@ -1,5 +1,5 @@
-// Reads the year and the month out of the text now shown, whether or not the rest of it is a date. A field's offset in the mask
-// serves as its offset in the text; the two differ behind "~", which is kept.
+// Reads the year and the month out of the text now shown, whether or not the rest of it is a date. Under a given mask a field's
+// offset in the mask serves as its offset in the text; the two differ behind "~", which is kept.
 #pragma once
 
 #include "engine/record.h"

@@ -10,12 +10,6 @@ namespace zte {
 
 namespace {
 
-FieldLayout LayoutOf(const EditInstance& edit)
-{
-    return {edit.yearDigits, edit.ampmPos, edit.monthPos,    edit.dayPos,      edit.minutePos,
-            edit.secondPos,  edit.hourPos, edit.fractionPos, edit.fractionLen, false};
-}
-
 void KeepLayout(EditInstance& edit, const FieldLayout& layout)
 {
     edit.yearDigits = layout.yearDigits;
@@ -47,10 +41,11 @@ void ShowEmptyValue(EditInstance& edit)
 int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
 {
     edit.dataType = dataType;
-    FieldLayout layout = LayoutOf(edit);
+    FieldLayout layout{};
+    layout.yearDigits = edit.yearDigits;
     const ChosenMask chosen = ChooseMask(mask ? mask : Text(), dataType, *edit.settings, layout);
     KeepLayout(edit, layout);
-    InstallMask(edit, chosen.text, chosen.unitsForced);
+    InstallMask(edit, chosen.text, chosen.origin, chosen.unitsForced);
     edit.decimalPlaces = edit.table->number.shape.fractionPlaces;
     SetFlag(edit, PERCENT, edit.table->number.shape.percent);
     SetFlag(edit, SPUN, false);

@@ -27,7 +27,7 @@ Text FieldCharacters(const EditInstance& edit, const Text& text)
         return text;
     Text kept;
     for (int32_t i = 0; i < Length(text); ++i)
-        if (PositionOf(edit, i).IsEditable())
+        if (PositionOf(edit, text, i).IsEditable())
             kept += At(text, i);
     return kept;
 }

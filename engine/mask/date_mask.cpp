@@ -54,8 +54,8 @@ const FieldRule* FindRule(FieldKind kind)
 
 class FieldWalk {
 public:
-    FieldWalk(const Text& mask, int32_t dataType, FieldLayout& layout)
-        : mask_(mask), positions_(mask, dataType), dataType_(dataType), layout_(layout)
+    FieldWalk(const Text& mask, int32_t dataType, FieldLayout& layout, MaskOrigin origin)
+        : mask_(mask), positions_(mask, dataType), dataType_(dataType), layout_(layout), origin_(origin)
     {
     }
 
@@ -93,10 +93,11 @@ private:
 
     bool TakeEscape()
     {
-        if (IsBadEscape(Here()))
+        if (IsBadEscape(Here()) && origin_ == MaskOrigin::Given)
             return false;
         offset_ += 2;
         position_ += CountsAll() ? 1 : 0;
+        ++escapes_;
         return true;
     }
 
@@ -111,11 +112,12 @@ private:
         return true;
     }
 
-    // The run is measured at the display position equal to the letter's offset in the mask; behind "~" that is another
-    // place, which is kept.
+    // The run of a given mask is measured at the display position equal to the letter's offset in the mask; behind "~" that
+    // is another place, which is kept.
     bool TakeField(const FieldRule& rule)
     {
-        const int32_t run = positions_.At(offset_).runAfter + 1;
+        const int32_t measuredAt = origin_ == MaskOrigin::Given ? offset_ : offset_ - escapes_;
+        const int32_t run = positions_.At(measuredAt).runAfter + 1;
         if (run > kLongestRun || !(rule.runs & (1u << run)) || (seen_ & (Bit(rule.kind) | rule.excludes)))
             return false;
         seen_ |= Bit(rule.kind);
@@ -134,6 +136,8 @@ private:
     MaskPositions positions_;
     int32_t dataType_;
     FieldLayout& layout_;
+    MaskOrigin origin_;
+    int32_t escapes_ = 0;   // passed so far
     int32_t offset_ = 0;    // in the mask text
     int32_t position_ = 0;  // in the display, as far as the walk counts it
     uint32_t seen_ = 0;
@@ -156,12 +160,12 @@ bool HasWhatItNeeds(const FieldWalk& walk, int32_t dataType)
 
 }  // namespace
 
-bool CheckDateOrTimeMask(const Text& mask, int32_t dataType, FieldLayout& layout)
+bool CheckDateOrTimeMask(const Text& mask, int32_t dataType, FieldLayout& layout, MaskOrigin origin)
 {
     layout.hasAmPm = false;
     if (Length(mask) > kMaxMaskLength)
         return false;
-    FieldWalk walk(mask, dataType, layout);
+    FieldWalk walk(mask, dataType, layout, origin);
     const bool accepted = walk.Run() && HasWhatItNeeds(walk, dataType);
     layout.hasAmPm = accepted && walk.Saw(FieldKind::AmPm);
     return accepted;

@@ -1,6 +1,7 @@
 // Checks of date, time and date-time masks.
 #pragma once
 
+#include "engine/mask/mask_positions.h"
 #include "engine/text/text.h"
 
 namespace zte {
@@ -21,6 +22,7 @@ struct FieldLayout {
 
 // Whether a mask is acceptable for DT_DATE, DT_TIME or DT_DATETIME. What is seen of its fields is written into layout, also
 // when the mask is then rejected.
-bool CheckDateOrTimeMask(const Text& mask, int32_t dataType, FieldLayout& layout);
+bool CheckDateOrTimeMask(const Text& mask, int32_t dataType, FieldLayout& layout,
+                         MaskOrigin origin = MaskOrigin::Given);
 
 }  // namespace zte

@@ -104,16 +104,18 @@ ChosenMask ChooseMask(const Text& mask, int32_t dataType, const Settings& settin
 {
     layout.hasAmPm = false;
     if (const Expansion expansion = ExpandKeyword(mask, settings)) {
-        CheckMask(*expansion, dataType, settings, layout);
+        if (dataType == DT_DATE || dataType == DT_TIME || dataType == DT_DATETIME)
+            CheckDateOrTimeMask(*expansion, dataType, layout, MaskOrigin::Keyword);
         const bool isCurrency = !FindKeyword(mask.c_str());
-        return {*expansion, true, isCurrency && settings.currencyDigits == 0};
+        return {*expansion, true, MaskOrigin::Keyword, isCurrency && settings.currencyDigits == 0};
     }
+    const FieldLayout none = layout;
     if (IsAcceptable(mask, dataType, settings, layout))
-        return {mask, true, false};
-    if (dataType == DT_DATE || dataType == DT_DATETIME)
-        layout.yearDigits = 2;
-    layout.hasAmPm = false;
-    return {FromAscii(DefaultMask(dataType)), false, false};
+        return {mask, true};
+    layout = none;
+    const Text standIn = FromAscii(DefaultMask(dataType));
+    CheckMask(standIn, dataType, settings, layout);
+    return {standIn, false};
 }
 
 bool IsPictureKeyword(const Char* mask)

@@ -10,10 +10,11 @@ namespace zte {
 struct ChosenMask {
     Text text;
     bool asGiven;  // false: the mask was refused for its type, and the type's default stands in
-    bool unitsForced;  // an amount of a currency without fractions: nothing is shown as 0
+    MaskOrigin origin = MaskOrigin::Given;
+    bool unitsForced = false;  // an amount of a currency without fractions: nothing is shown as 0
 };
 
-// Expands keywords and checks the mask. What the checks see of date and time fields is written into layout.
+// Expands keywords and checks the mask. Where the date and time fields of the mask chosen stand is written into layout.
 ChosenMask ChooseMask(const Text& mask, int32_t dataType, const Settings& settings, FieldLayout& layout);
 
 // True for the keywords that are built from the settings' date picture and time separator.

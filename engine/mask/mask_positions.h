@@ -26,6 +26,10 @@ constexpr MaskPosition kNoPosition = {};
 
 constexpr int32_t kAmPmLength = 5;
 
+// Behind "~" the fields of a given mask are measured and read at their offsets in the mask, which is kept; those of a mask that
+// a keyword was turned into stand where they are shown.
+enum class MaskOrigin { Given, Keyword };
+
 // True when the text begins with an AM/PM field, exactly "AM/PM" or "am/pm".
 bool BeginsWithAmPm(const Char* text);
 
@@ -34,6 +38,9 @@ public:
     MaskPositions(const Text& mask, int32_t dataType);
 
     const std::vector<MaskPosition>& All() const { return positions_; }
+    int32_t Count() const { return static_cast<int32_t>(positions_.size()); }
+    // In the mask, of the character of a position.
+    int32_t OffsetOf(int32_t position) const { return offsets_[static_cast<size_t>(position)]; }
     // What stands past the end: nothing behind a mask with escapes; its first position behind one without (kept, readers of
     // texts that are too long rely on it).
     const MaskPosition& Beyond() const { return beyond_; }

@@ -6,6 +6,7 @@
 #include <new>
 
 #include "engine/heap_block.h"
+#include "engine/mask/half_of_day.h"
 #include "engine/mask/number_mask.h"
 #include "engine/text/ascii.h"
 
@@ -25,24 +26,51 @@ MaskPosition NumberPositionAt(const EditInstance& edit, const Text& text, int32_
     return {character, editable ? FieldKind::NumberDigit : FieldKind::Literal, false, true, 0, 0};
 }
 
-// The first run of a letter, in either case, that is not escaped.
-MaskSpan FindSpan(const Text& mask, char letter)
+// The first run of a letter, in either case, that is a literal neither by "~" nor as a letter of the AM/PM field.
+MaskSpan FindSpan(const MaskPositions& positions, char letter, int32_t ampmPosition, MaskOrigin origin)
 {
-    const auto isLetter = [&](int32_t offset) { return AsciiUpper(At(mask, offset)) == static_cast<Char>(letter); };
-    for (int32_t offset = 0; offset < Length(mask); ++offset) {
-        if (!isLetter(offset) || At(mask, offset - 1) == '~')
+    const auto isLetter = [&](int32_t position) {
+        const MaskPosition& at = positions.At(position);
+        return position < positions.Count() && !at.escaped && at.kind != FieldKind::AmPm &&
+               AsciiUpper(at.character) == static_cast<Char>(letter);
+    };
+    for (int32_t position = 0; position < positions.Count(); ++position) {
+        if (!isLetter(position))
             continue;
         int32_t length = 1;
-        while (isLetter(offset + length))
+        while (isLetter(position + length))
             ++length;
-        return {offset, length};
+        const int32_t offset = origin == MaskOrigin::Given ? positions.OffsetOf(position) : position;
+        return {offset, length, ampmPosition >= 0 && position > ampmPosition};
     }
-    return {0, 0};
+    return {0, 0, false};
 }
 
-int32_t CountShown(const Text& mask)
+bool HasFieldBehind(const MaskPositions& positions, int32_t ampmPosition)
 {
-    return static_cast<int32_t>(std::count_if(mask.begin(), mask.end(), [](Char c) { return c != '~'; }));
+    const auto first = positions.All().begin() + std::max(ampmPosition, 0);
+    return ampmPosition >= 0 &&
+           std::any_of(first, positions.All().end(), [](const MaskPosition& at) { return at.IsEditable(); });
+}
+
+// A "~" at the very end shows nothing.
+int32_t CountShown(const MaskPositions& positions)
+{
+    return static_cast<int32_t>(std::count_if(positions.All().begin(), positions.All().end(),
+                                              [](const MaskPosition& at) { return at.character != Char{}; }));
+}
+
+// The words of a regional picture are literals like any other, however they had to be written.
+void MakeLiteralsPlain(MaskPosition* positions, int32_t count)
+{
+    for (int32_t i = 0; i < count; ++i)
+        positions[i].escaped = false;
+}
+
+// The designator shown is shorter than the field is written.
+int32_t MissingAmPmLetters(const EditInstance& edit, const Text& text)
+{
+    return kAmPmLength - AmPmWidth(edit, text);
 }
 
 // Lays the parts of a mask's block out, one behind the other.
@@ -94,7 +122,8 @@ const Char* Place(char* block, size_t offset, const Text& text)
     return placed;
 }
 
-MaskTable* NewMaskBlock(EditInstance& edit, const Text& mask, const BlockLayout& layout, size_t tableAt)
+MaskTable* NewMaskBlock(EditInstance& edit, const Text& mask, const MaskPositions& positions, const BlockLayout& layout,
+                        size_t tableAt)
 {
     auto* block =
         static_cast<char*>(services::Allocate(edit.heap, static_cast<uint32_t>(layout.Size()), edit.heapFlags));
@@ -102,7 +131,7 @@ MaskTable* NewMaskBlock(EditInstance& edit, const Text& mask, const BlockLayout&
     edit.mask = reinterpret_cast<Char*>(block);
     auto* table = new (block + tableAt) MaskTable{};
     edit.table = table;
-    edit.displayLength = CountShown(mask);
+    edit.displayLength = CountShown(positions);
     return table;
 }
 
@@ -117,7 +146,7 @@ void InstallNumberMask(EditInstance& edit, const Text& mask, bool unitsForced)
     const size_t beforeAt = layout.Take<Char>(parts.before.size() + 1);
     const size_t behindAt = layout.Take<Char>(parts.behind.size() + 1);
 
-    MaskTable* table = NewMaskBlock(edit, mask, layout, tableAt);
+    MaskTable* table = NewMaskBlock(edit, mask, MaskPositions(mask, edit.dataType), layout, tableAt);
     auto* block = reinterpret_cast<char*>(edit.mask);
     table->compiled = new (block + compiledAt) services::NumberFormat(parts.compiled);
     table->hasLiterals = HasLiterals(mask, edit.dataType, *edit.settings);
@@ -130,7 +159,7 @@ void InstallNumberMask(EditInstance& edit, const Text& mask, bool unitsForced)
     number.behind = {Place(block, behindAt, parts.behind), Length(parts.behind)};
 }
 
-void InstallFieldMask(EditInstance& edit, const Text& mask)
+void InstallFieldMask(EditInstance& edit, const Text& mask, MaskOrigin origin)
 {
     MaskPositions positions(mask, edit.dataType);
     const int32_t ampmPosition = Has(edit, AMPM) ? positions.MarkAmPm() : -1;
@@ -139,39 +168,55 @@ void InstallFieldMask(EditInstance& edit, const Text& mask)
     const size_t tableAt = layout.Take<MaskTable>(1);
     const size_t positionsAt = layout.Take<MaskPosition>(positions.All().size());
 
-    MaskTable* table = NewMaskBlock(edit, mask, layout, tableAt);
+    MaskTable* table = NewMaskBlock(edit, mask, positions, layout, tableAt);
     auto* placed = reinterpret_cast<MaskPosition*>(reinterpret_cast<char*>(edit.mask) + positionsAt);
     std::copy(positions.All().begin(), positions.All().end(), placed);
+    if (origin == MaskOrigin::Keyword)
+        MakeLiteralsPlain(placed, positions.Count());
     table->positions = placed;
     table->count = static_cast<int32_t>(positions.All().size());
     table->beyond = positions.Beyond();
     table->ampmPosition = ampmPosition;
-    table->year = FindSpan(mask, 'Y');
-    table->month = FindSpan(mask, 'M');
+    table->fieldsBehindAmPm = HasFieldBehind(positions, ampmPosition);
+    table->year = FindSpan(positions, 'Y', ampmPosition, origin);
+    table->month = FindSpan(positions, 'M', ampmPosition, origin);
 }
 
 }  // namespace
 
 MaskPosition PositionAt(const EditInstance& edit, const Text& text, int32_t position)
 {
-    return edit.table->number.format ? NumberPositionAt(edit, text, position) : PositionOf(edit, position);
+    return edit.table->number.format ? NumberPositionAt(edit, text, position) : PositionOf(edit, text, position);
 }
 
-const MaskPosition& PositionOf(const EditInstance& edit, int32_t position)
+const MaskPosition& PositionOf(const EditInstance& edit, const Text& text, int32_t position)
 {
     const MaskTable& table = *edit.table;
     if (position < 0)
         return kNoPosition;
+    if (table.fieldsBehindAmPm && position >= table.ampmPosition)
+        position += MissingAmPmLetters(edit, text);
     return position < table.count ? table.positions[position] : table.beyond;
 }
 
-void InstallMask(EditInstance& edit, const Text& mask, bool unitsForced)
+int32_t ShownLength(const EditInstance& edit, const Text& text)
+{
+    const bool shorter = edit.table && edit.table->fieldsBehindAmPm;
+    return edit.displayLength - (shorter ? MissingAmPmLetters(edit, text) : 0);
+}
+
+int32_t FieldStart(const EditInstance& edit, const Text& text, const MaskSpan& field)
+{
+    return field.offset - (field.behindAmPm ? MissingAmPmLetters(edit, text) : 0);
+}
+
+void InstallMask(EditInstance& edit, const Text& mask, MaskOrigin origin, bool unitsForced)
 {
     DropMask(edit);
     if (IsNumeric(edit.dataType))
         InstallNumberMask(edit, mask, unitsForced);
     else
-        InstallFieldMask(edit, mask);
+        InstallFieldMask(edit, mask, origin);
 }
 
 void DropMask(EditInstance& edit)

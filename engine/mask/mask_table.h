@@ -9,10 +9,12 @@
 
 namespace zte {
 
-// A field as its offset and length in the mask's text; no length: the mask has no such field.
+// A field as the place of its text, counted as if the AM/PM field were shown as it is written; no length: the mask has no such
+// field.
 struct MaskSpan {
     int32_t offset;
     int32_t length;
+    bool behindAmPm;
 };
 
 struct MaskTable {
@@ -20,7 +22,8 @@ struct MaskTable {
     int32_t count;
     MaskPosition beyond;
 
-    int32_t ampmPosition;  // -1: no AM/PM field
+    int32_t ampmPosition;   // -1: no AM/PM field
+    bool fieldsBehindAmPm;  // fields that move with the length of the designator shown
     MaskSpan year;
     MaskSpan month;
 
@@ -32,8 +35,14 @@ struct MaskTable {
 // What stands at a position, under the text shown. Past the end see MaskPositions::Beyond.
 MaskPosition PositionAt(const EditInstance& edit, const Text& text, int32_t position);
 
-// The same by the mask alone, for masks whose positions do not follow digits; nothing for the others.
-const MaskPosition& PositionOf(const EditInstance& edit, int32_t position);
+// The same for masks whose positions do not follow digits; nothing for the others.
+const MaskPosition& PositionOf(const EditInstance& edit, const Text& text, int32_t position);
+
+// How many positions the display has under the text shown: displayLength, less what the AM/PM field takes in the mask only.
+int32_t ShownLength(const EditInstance& edit, const Text& text);
+
+// Where the text shown holds a field.
+int32_t FieldStart(const EditInstance& edit, const Text& text, const MaskSpan& field);
 
 // True when the position may be typed at: the AM/PM position is not counted here.
 inline bool IsEditable(const EditInstance& edit, const Text& text, int32_t position)
@@ -60,7 +69,7 @@ inline bool MayTypeAt(const EditInstance& edit, const Text& text, int32_t positi
 
 // Gives the control a mask: its text, the table, and displayLength. The mask before it is freed. unitsForced: a number shows its
 // units even where the mask would leave them out.
-void InstallMask(EditInstance& edit, const Text& mask, bool unitsForced = false);
+void InstallMask(EditInstance& edit, const Text& mask, MaskOrigin origin = MaskOrigin::Given, bool unitsForced = false);
 
 // Frees the mask.
 void DropMask(EditInstance& edit);

@@ -1,7 +1,9 @@
 // Turns the short-date picture and the time separator of the regional settings into masks.
 #include "engine/mask/picture.h"
 
+#include "engine/mask/mask_items.h"
 #include "engine/text/ascii.h"
+#include "ztvalues.h"
 
 namespace zte {
 
@@ -22,6 +24,16 @@ public:
     {
         for (; *ascii; ++ascii)
             Put(static_cast<Char>(*ascii));
+    }
+    // A character that no mask of dates or times reads as anything else.
+    void PutLiteral(Char character)
+    {
+        const bool read = character == '~' || IsMaskItem(character, DT_DATETIME);
+        if (read && Length(text_) >= size_ - 2)
+            return Fail(PictureStatus::DoesNotFit);
+        if (read)
+            Put('~');
+        Put(character);
     }
     void Repeat(char character, int32_t count)
     {
@@ -140,7 +152,7 @@ const Char* TakeAmPm(const Char* picture, MaskWriter& out)
 const Char* TakeQuoted(const Char* picture, Char quote, MaskWriter& out)
 {
     while (*picture && *picture != quote && out.IsGoing())
-        out.Put(*picture++);
+        out.PutLiteral(*picture++);
     if (*picture == quote)
         return picture + 1;
     if (out.IsGoing())
@@ -154,7 +166,7 @@ const Char* TakeEscaped(const Char* picture, MaskWriter& out)
         out.Fail(PictureStatus::Unclosed);
         return picture;
     }
-    out.Put(*picture);
+    out.PutLiteral(*picture);
     return picture + 1;
 }
 

@@ -3,6 +3,7 @@
 
 #include "engine/format/display.h"
 #include "engine/format/read_back.h"
+#include "engine/mask/half_of_day.h"
 #include "engine/mask/mask_table.h"
 #include "engine/spin/date_step.h"
 #include "engine/spin/range.h"
@@ -19,20 +20,18 @@ struct SpunField {
     FieldKind kind;
 };
 
-SpunField FieldAt(const EditInstance& edit, int32_t caret)
+SpunField FieldAt(const EditInstance& edit, const Text& text, int32_t caret)
 {
-    const MaskPosition& mask = PositionOf(edit, caret);
+    const MaskPosition& mask = PositionOf(edit, text, caret);
     return {caret - mask.runBefore, mask.FieldLength(), mask.kind};
 }
 
-// Exchanges the first letter only, on purpose: the designators differ in it.
+// The caret marks the field by its first letter.
 void FlipAmPm(EditInstance& edit, const Text& text, int32_t caret)
 {
-    const Settings& settings = *edit.settings;
-    const bool isAm = BeginsWith(text.c_str() + caret, settings.amString);
-    const Text replacement(1, isAm ? settings.pmString[0] : settings.amString[0]);
-    edit.field->Select(caret, caret + 1);
-    edit.field->ReplaceSelection(replacement.c_str());
+    const HalfOfDay other = ShownHalf(edit, text) == HalfOfDay::Am ? HalfOfDay::Pm : HalfOfDay::Am;
+    edit.field->Select(caret, caret + AmPmWidth(edit, text));
+    edit.field->ReplaceSelection(Text(DesignatorOf(*edit.settings, other)).c_str());
     edit.field->SetRedraw(true);
     edit.field->Select(caret, caret + 1);
 }
@@ -113,7 +112,7 @@ void ShowWhole(EditInstance& edit, const Text& display)
 
 void StepFieldAt(EditInstance& edit, const Text& text, int32_t caret)
 {
-    const SpunField spun = FieldAt(edit, caret);
+    const SpunField spun = FieldAt(edit, text, caret);
     DateTimeValue value = CurrentValue(edit, text);
     const StepResult result =
         IsRefused(spun) ? StepResult::Refused : StepDateTime(StepFor(edit, spun), edit.clock, value);
@@ -135,7 +134,7 @@ void StepDateOrTime(EditInstance& edit)
 {
     const Text text = edit.field->ReadText();
     const int32_t caret = Caret(edit);
-    if (text.empty() || caret >= edit.displayLength)
+    if (text.empty() || caret >= ShownLength(edit, text))
         edit.field->SetRedraw(true);
     else if (IsAmPmPosition(edit, caret) && caret < Length(text))
         FlipAmPm(edit, text, caret);

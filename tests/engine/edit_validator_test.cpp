@@ -93,6 +93,8 @@ const KeyCase kDayOfYearRows[] = {
     {"ThreeHundredSixtySixIsRefused",          "JJJ/YY", DT_DATE, "36|0/95", "6", "36|0/95", 1},
     {"ThreeHundredSixtySixIsTakenInALeapYear", "JJJ/YY", DT_DATE, "36|0/96", "6", "366/|96", 0},
     {"ALetterIsRefused",                       "JJJ/YY", DT_DATE, "|185/95", "j", "|185/95", 1},
+    {"ADayThatTheYearLosesStaysShown",         "JJJ/YY", DT_DATE, "366/9|6", "5", "366/95|", 0},
+    {"DayZeroStaysShown",                      "JJJ/YY", DT_DATE, "|001/96", "000", "000/|96", 0},
 };
 // clang-format on
 

@@ -50,7 +50,6 @@ const DateTextCase kDateRows[] = {
     {"LeapDay",                       "MM/DD/YY",    DT_DATE, "02/29/96",    "02/29/96"   },
     {"MonthAndYear",                  "MM/YY",       DT_DATE, "07/95",       "07/95"      },
     {"MonthAndYearCanonical",         "MM/YYYY",     DT_DATE, "1995-07-31",  "07/1995"    },
-    {"DayZeroOfTheYearIsTheFirst",    "JJJ/YYYY",    DT_DATE, "000/1995",    "001/1995"   },
     {"DayZeroIsTheFirst",             "MM/DD/YY",    DT_DATE, "07/00/95",    "07/01/95"   },
     {"MonthZeroIsJanuary",            "MM/DD/YY",    DT_DATE, "00/04/95",    "01/04/95"   },
     {"YearOne",                       "YYYY-MM-DD",  DT_DATE, "0001-01-01",  "0001-01-01" },
@@ -76,8 +75,26 @@ const DateTextCase kRefusedDateRows[] = {
     {"DisplayTooLong",                   "MM/DD/YY",    DT_DATE, "07/04/1995",       "00/00/00"   },
     {"UnknownMonthName",                 "DD-MMM-YYYY", DT_DATE, "04-XXX-1995",      "00-   -0000"},
     {"LetterInADigitField",              "MM/DD/YY",    DT_DATE, "07/x4/95",         "00/00/00"   },
+    {"DayZeroOfTheYear",                 "JJJ/YYYY",    DT_DATE, "000/1995",         "001/0000"   },
     {"DayThreeSixtySixOfACommonYear",    "JJJ/YYYY",    DT_DATE, "366/1995",         "001/0000"   },
     {"DayNineHundredOfTheYear",          "JJJ/YYYY",    DT_DATE, "999/1995",         "001/0000"   },
+};
+
+// What is shown where there is no value, handed in again.
+const DateTextCase kBlankRows[] = {
+    {"Date",                   "MM/DD/YY",              DT_DATE,     "00/00/00",              "00/00/00"             },
+    {"FourDigitYear",          "DD.MM.YYYY",            DT_DATE,     "00.00.0000",            "00.00.0000"           },
+    {"MonthName",              "DD-MMM-YY",             DT_DATE,     "00-   -00",             "00-   -00"            },
+    {"MonthAndYear",           "MM/YY",                 DT_DATE,     "00/00",                 "00/00"                },
+    {"YearAlone",              "YY",                    DT_DATE,     "00",                    "00"                   },
+    {"BehindAWord",            "on DD.MM.YY",           DT_DATE,     "on 00.00.00",           "on 00.00.00"          },
+    {"Time",                   "HH:MM:SS",              DT_TIME,     "00:00:00",              "00:00:00"             },
+    {"TwelveHourTime",         "HH:MM AM/PM",           DT_TIME,     "00:00 AM",              "00:00 AM"             },
+    {"MarkerFirst",            "AM/PM HH:MM",           DT_TIME,     "AM 00:00",              "AM 00:00"             },
+    {"DateTime",               "MM/DD/YY HH:MM:SS:FFF", DT_DATETIME, "00/00/00 00:00:00:000", "00/00/00 00:00:00:000"},
+    {"TwelveHourDateTime",     "MM/DD/YY HH:MM AM/PM",  DT_DATETIME, "00/00/00 00:00 AM",     "00/00/00 00:00 AM"    },
+    {"DateAlone",              "MM/DD/YY",              DT_DATETIME, "00/00/00",              "00/00/00"             },
+    {"WithAnyCharacter",       "X MM/DD/YY",            DT_DATE,     "  00/00/00",            "  00/00/00"           },
 };
 
 const DateTextCase kTwoDigitYearRows[] = {
@@ -145,6 +162,7 @@ const DateTextCase kDateTimeRows[] = {
     {"WordsAreRefused",           "MM/DD/YY HH:MM",        DT_DATETIME, "tomorrow noon.",             "00/00/00 00:00"       },
 };
 
+INSTANTIATE_TEST_SUITE_P(Blanks, DateText, testing::ValuesIn(kBlankRows), RowName<DateTextCase>);
 INSTANTIATE_TEST_SUITE_P(Dates, DateText, testing::ValuesIn(kDateRows), RowName<DateTextCase>);
 INSTANTIATE_TEST_SUITE_P(RefusedDates, DateText, testing::ValuesIn(kRefusedDateRows), RowName<DateTextCase>);
 INSTANTIATE_TEST_SUITE_P(TwoDigitYears, DateText, testing::ValuesIn(kTwoDigitYearRows), RowName<DateTextCase>);

@@ -155,6 +155,64 @@ TEST_P(FractionLength, IsTheRunOfItsLetters)
 
 INSTANTIATE_TEST_SUITE_P(, FractionLength, testing::Range(1, 7));
 
+// The positions of a keyword's mask and of a default one take the place of those of the mask before.
+TEST_F(MaskRecord, PositionsAreAllSetAnew)
+{
+    for (const char* mask : {"[time]", "refused SS", ""}) {
+        After("AM/PM HH:MM:SS:FF", DT_TIME);
+        ASSERT_EQ(Record().hour, 1);
+        After(mask, DT_TIME);
+        const RecordView record = Record();
+        EXPECT_EQ(record.marker, 0);
+        EXPECT_EQ(record.hour, 0);
+        EXPECT_EQ(record.minute, 3);
+        EXPECT_EQ(record.second, 6);
+        EXPECT_EQ(record.fraction, record.mask == "hh:mm:ss" ? 0 : 9);
+        EXPECT_EQ(record.fractionLength, record.mask == "hh:mm:ss" ? 0 : 3);
+    }
+}
+
+TEST_F(MaskRecord, WordsOfAPictureHideNoField)
+{
+    for (const char* picture : {"d 'de' MMMM 'de' yyyy", "d'\xA6\x7E'M'\xA6\x7E\xA6\x7E'yyyy"}) {
+        const Regional settings(With(kUnitedStates, {
+                                                        {"sShortDate", picture}
+        }));
+        After("MM/DD/YY", DT_DATE);
+        const RecordView record = After("[date] [time]", DT_DATETIME);
+        EXPECT_EQ(record.yearDigits, 4);
+        EXPECT_EQ(Text().substr(static_cast<size_t>(record.day), 2), "00");
+        ShownFor("1995-07-04 14:07:09");
+        EXPECT_EQ(Text().substr(static_cast<size_t>(record.day), 2), "04");
+        EXPECT_EQ(Text().substr(static_cast<size_t>(record.month), 2), "07");
+        EXPECT_EQ(Text().substr(static_cast<size_t>(record.minute), 2), "07");
+        EXPECT_EQ(Text().substr(static_cast<size_t>(record.second), 2), "09");
+    }
+}
+
+class ATimeSetAfterAMarker : public ValueTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(ATimeSetAfterAMarker, KeepsItsSeconds)
+{
+    for (const char* before : {"HH:MM AM/PM", "AM/PM HH:MM", "HH AM/PM:MM"}) {
+        Install(before, DT_TIME);
+        ShownFor("09:30");
+        SetMask(GetParam(), DT_TIME);
+        EXPECT_EQ(ShownFor("13:30:45").substr(0, 8), "13:30:45");
+        EXPECT_EQ(Read(), "13:30:45:000000");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Masks, ATimeSetAfterAMarker, testing::Values("[time]", "refused SS", "", "HH:MM:SS"));
+
+TEST_F(ValueTest, ADateAndATimeSetAfterAMarkerKeepTheirSeconds)
+{
+    Install("MM/DD/YY HH:MM AM/PM", DT_DATETIME);
+    SetMask("[date] [time]", DT_DATETIME);
+    EXPECT_EQ(ShownFor("1995-07-04 13:30:45"), "07/04/1995 13:30:45");
+    EXPECT_EQ(Read(), "1995-07-04 13:30:45:000000");
+}
+
 TEST_F(MaskRecord, TwoYearDigits)
 {
     EXPECT_EQ(After("MM/DD/YY", DT_DATE).yearDigits, 2);
@@ -232,6 +290,10 @@ const BitCase kBitRows[] = {
     {"MarkerOfADateTimeIsTold",       nullptr,       0,         "MM/DD/YY HH:MM AM/PM", DT_DATETIME, AMPM,     true },
     {"MarkerGoesWithTheNextTime",     "HH:MM AM/PM", DT_TIME,   "HH:MM",                DT_TIME,     AMPM,     false},
     {"MarkerGoesWithTheNextDateTime", "HH:MM AM/PM", DT_TIME,   "MM/DD/YY HH:MM",       DT_DATETIME, AMPM,     false},
+    {"MarkerGoesWithTheNextKeyword",  "HH:MM AM/PM", DT_TIME,   "[time]",               DT_TIME,     AMPM,     false},
+    {"MarkerGoesWithTheNextDate",     "HH:MM AM/PM", DT_TIME,   "[date]",               DT_DATE,     AMPM,     false},
+    {"MarkerGoesWithBothKeywords",    "HH:MM AM/PM", DT_TIME,   "[date] [time]",        DT_DATETIME, AMPM,     false},
+    {"MarkerGoesWithTheDefault",      "HH:MM AM/PM", DT_TIME,   "refused SS",           DT_TIME,     AMPM,     false},
     {"MarkerOfARefusedMaskIsNotTold", nullptr,       0,         "MM:SS AM/PM",          DT_TIME,     AMPM,     false},
     {"MarkerInAStringIsNone",         nullptr,       0,         "AM/PM",                DT_STRING,   AMPM,     false},
 };

@@ -130,7 +130,7 @@ const SettingCase kSettingRows[] = {
     {"AnotherTimeSeparator",          "sTime",       ".",            nullptr,     nullptr, "[time]",        DT_TIME, 1, "hh.mm.ss"},
     {"ATimeSeparatorOfTwoCharacters", "sTime",       "::",           nullptr,     nullptr, "[time]",        DT_TIME, 1, "hh::mm::ss"},
     {"BothOfThem", "sShortDate", "d-MMM-yy", "sTime", ".", "[date] [time]", DT_DATETIME, 1, "dd-mm-yy hh.mm.ss"},
-    {"WordsInThePicture",             "sShortDate",  "'Day' d.M.yy", nullptr,     nullptr, "[date]",        DT_DATE, 1, "Day dd.mm.yy"},
+    {"WordsInThePicture",             "sShortDate",  "'Day' d.M.yy", nullptr,     nullptr, "[date]",        DT_DATE, 1, "~Da~y dd.mm.yy"},
     {"AnEmptyPictureIsAnEmptyMask",   "sShortDate",  "",             nullptr,     nullptr, "[date]",        DT_DATE, 1, ""},
     {"ABadPictureFails",              "sShortDate",  "yyy/MM/dd",    nullptr,     nullptr, "[date]",        DT_DATE, 0, "MM/DD/YY"},
     {"ABadPictureFailsForBoth", "sShortDate", "yyy/MM/dd", nullptr, nullptr, "[date] [time]", DT_DATETIME, 0, "MM/DD/YY HH:MM:SS:FFF"},
@@ -176,6 +176,102 @@ TEST_F(Keywords, ThatFailUnderAStringMaskStandAsTheyAre)
     }));
     EXPECT_EQ(SetMask("[date]", DT_STRING), 1);
     EXPECT_EQ(MaskInForce(), "[date]");
+}
+
+// What pictures with words show, and what is typed under them.
+struct WordCase {
+    const char* name;
+    const char* key;
+    const char* value;
+    const char* keyword;
+    int32_t type;
+    const char* data;
+    const char* shown;
+    const char* typed;
+    const char* typedText;
+    const char* typedValue;
+};
+void PrintTo(const WordCase& row, std::ostream* out)
+{
+    *out << row.typed << " under " << row.keyword << " with " << row.key << '=' << row.value;
+}
+
+class Words : public EditTest, public testing::WithParamInterface<WordCase> {
+protected:
+    Words()
+        : settings_(With(kUnitedStates, {
+                                            {GetParam().key, GetParam().value}
+    }))
+    {
+    }
+
+    void GivenKeyword()
+    {
+        Config config;
+        config.mask = GetParam().keyword;
+        config.type = GetParam().type;
+        Make(config);
+    }
+
+private:
+    Regional settings_;
+};
+
+TEST_P(Words, StandInTheDisplay)
+{
+    GivenKeyword();
+    control_->SetDataString(GetParam().data);
+    EXPECT_EQ(Text(), GetParam().shown);
+    const std::string value = Value();
+    control_->SetDataString(Text());
+    EXPECT_EQ(Value(), value) << "as it was shown";
+}
+
+TEST_P(Words, AreTypedAround)
+{
+    GivenKeyword();
+    Type(GetParam().typed);
+    EXPECT_EQ(Text(), GetParam().typedText);
+    EXPECT_EQ(Value(), GetParam().typedValue);
+    EXPECT_EQ(Beeps(), 0);
+}
+
+// clang-format off
+const WordCase kWordRows[] = {
+    {"DayOfMonth",     "sShortDate", "d 'de' MMMM 'de' yyyy",     "[date]",        DT_DATE,     "1995-07-04", "04 de 07 de 1995",
+     "31121999", "31 de 12 de 1999", "1999-12-31"},
+    {"BothQuotes",     "sShortDate", "d \"de\" MMMM 'de' yyyy", "[date]",        DT_DATE,     "1995-07-04", "04 de 07 de 1995",
+     "4d2de1999", "04 de 02 de 1999", "1999-02-04"},
+    {"InFront",        "sShortDate", "'den' d.M.yyyy",            "[date]",        DT_DATE,     "1995-07-04", "den 04.07.1995",
+     "31.12.1999", "den 31.12.1999", "1999-12-31"},
+    {"OldTwoDigitYear", "sShortDate", "'my' d.M.yy",              "[date]",        DT_DATE,     "2049-07-04", "my 04.07.49",
+     "4.2.00", "my 04.02.00", "2000-02-04"},
+    {"SignsOfTheEast", "sShortDate", "yyyy'\xE5\xB9\xB4'M'\xE6\x9C\x88'd'\xE6\x97\xA5'", "[date]", DT_DATE, "1995-07-04",
+     "1995\xE5\xB9\xB4" "07\xE6\x9C\x88" "04\xE6\x97\xA5", "20240229",
+     "2024\xE5\xB9\xB4" "02\xE6\x9C\x88" "29\xE6\x97\xA5", "2024-02-29"},
+    {"ATildeInASign",  "sShortDate", "yyyy'\xA6\x7E'M'\xA4\xEB'd", "[date]",   DT_DATE,     "1995-07-04",
+     "1995\xA6\x7E" "07\xA4\xEB" "04", "20240229", "2024\xA6\x7E" "02\xA4\xEB" "29", "2024-02-29"},
+    {"Backslashes",    "sShortDate", "d\\d M\\m yyyy",        "[date]",        DT_DATE,     "1995-07-04", "04d 07m 1995",
+     "31121999", "31d 12m 1999", "1999-12-31"},
+    {"TimeSeparator",  "sTime",      "h",                         "[time]",        DT_TIME,     "14:07:09",   "14h07h09",
+     "9h5h7", "09h05h07", "09:05:07:000000"},
+    {"WithATime",      "sShortDate", "'Day' d/M/yy",              "[date] [time]", DT_DATETIME, "1995-07-04 14:07:09",
+     "Day 04/07/95 14:07:09", "311299235958", "Day 31/12/99 23:59:58", "1999-12-31 23:59:58:000000"},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(Pictures, Words, testing::ValuesIn(kWordRows), RowName<WordCase>);
+
+// The days of a month are counted by the month and the year that stand behind the words.
+TEST_F(EditTest, AWordInThePictureShiftsNoField)
+{
+    const Regional settings(With(kUnitedStates, {
+                                                    {"sShortDate", "'Day' yyyy 'dd' M 'dd' d"}
+    }));
+    Given("[date]", DT_DATE, "Day 1995 dd 02 dd |04");
+    Type("29");
+    EXPECT_EQ(Shown(), "Day 1995 dd 02 dd 2|4");
+    EXPECT_EQ(Beeps(), 1);
 }
 
 }  // namespace

@@ -442,7 +442,29 @@ TEST_F(DateStepping, AmPmUsesTheRegionalStrings)
     ASSERT_EQ(Text(), "09:30 vorm");
     PutCaret(6);
     Up();
-    EXPECT_EQ(Text(), "09:30 norm");  // only the first letter is exchanged
+    EXPECT_EQ(Text(), "09:30 nach");
+    Down();
+    EXPECT_EQ(Text(), "09:30 vorm");
+}
+
+TEST_F(DateStepping, FieldsBehindAmPmAreSteppedWhereTheyAreShown)
+{
+    const Regional settings({
+        {"s1159", "AM" },
+        {"s2359", "EVE"}
+    });
+    MakeSpin("HH AM/PM:MM", DT_TIME, nullptr, 1, nullptr);
+    control_->SetDataString("21:30");
+    ASSERT_EQ(Text(), "09 EVE:30");
+    PutCaret(7);
+    Up();
+    EXPECT_EQ(Shown(), "09 EVE:[31]");
+    PutCaret(3);
+    Up();
+    EXPECT_EQ(Shown(), "09 [A]M:31");
+    PutCaret(6);
+    Down();
+    EXPECT_EQ(Shown(), "09 AM:[30]");
 }
 
 TEST_F(DateStepping, FlippingAmPmFlipsTheValue)

@@ -45,6 +45,11 @@ constexpr ScenarioRow kScenarios[] = {
     {"us", "##0", kNumber, false, 1, "", "One\t1/Two\t2/Ten\t10/None\t0", true, false, "{Up}1{Up}{Back}x{read}"},
     {"us", "HH:MM", kTime, false, 1, "", "Noon\t12:00/Tea\t16:30", true, true, "N{read}{paste Noon}{Up}"},
     {"us", "HH:MM AM/PM", kTime, false, 1, "09:00~", nullptr, false, false, "{sel 9 9}{Up}{mask 3 JJJ/YY}{Up}"},
+    {"french", "HH:MM:SS", kTime, true, 1, "", nullptr, false, false, "7{sel 0 0}{sel 3 3}:"},
+    {"swiss", "#.##", kNumber, false, 0, "", nullptr, false, false, "8{sel 0 255}{sel 2 2}."},
+    {"us", "AM/PM HH:MM", kTime, false, 0, "", nullptr, false, false, "{data 13:30}{read}"},
+    {"us", "AM/PM HH:MM", kTime, false, 0, "", nullptr, false, false, "{sel 3 3}0"},
+    {"french", "[date]", kDate, false, 0, "", nullptr, false, false, "31121999{read}"},
     {"us", "", kString, true, 1, "", nullptr, false, false, "y{Up}{enable 0}{Del}{Back}z{readonly 1}{Del}"},
 };
 // clang-format on

@@ -82,8 +82,6 @@ struct Picture {
 };
 
 Picture PictureToMask(const Regional& regional, int size, int kind);
-// Such fields do not stand in the display where the mask has them: the AM or PM shown is shorter than its field.
-bool HasFieldBehindAmPm(const std::string& mask, Type type);
 std::string CurrencyMask(const Regional& regional, int totalDigits);
 bool ParseCanonical(Stamp& stamp, const std::string& text, Type type, const Regional& regional);
 int DaysOfMonth(int calendarYear, int month);
@@ -177,7 +175,13 @@ private:
     int RunBefore(int position) const;
     bool OnAmPm(int position) const;
     bool InsideAmPm(int position) const;
+    bool HasFieldBehindAmPm() const;
+    int TextOffset(size_t index) const;
+    int ShownLength() const { return displayLength_ - (ampm_ ? 5 - AmPmWidth() : 0); }
+    void PlaceMarker(const std::string& marker);
+    std::string MarkerFor(char c) const;
     int AmPmWidth() const;
+    int MarkerWidth() const;
     bool Editable(const std::string& text, int position) const;
     bool CheckMask(const std::string& mask, Type type);
     bool CheckNumberMask(const std::string& mask) const;
@@ -260,6 +264,7 @@ private:
         spelled_ = "";
     }
     void Beep() { ++beeps_; }
+    void TellFull() { autoskips_ += autoskip_ ? 1 : 0; }
     void PlaceCaret(int position) { edit_.Select(position, position); }
 
     // spin
@@ -285,6 +290,7 @@ private:
     int ampmPos_ = 0;
     int pendingDay_ = -1;
     bool ampm_ = false;
+    bool keyword_ = false;  // the mask was built from a keyword
     bool percent_ = false;
     bool charwise_ = false;
     bool autoskip_ = false;

@@ -168,7 +168,7 @@ int Control::YearFromText() const
         while (i + static_cast<size_t>(run) < mask_.size() &&
                (mask_[i + static_cast<size_t>(run)] == 'Y' || mask_[i + static_cast<size_t>(run)] == 'y'))
             ++run;
-        const int number = std::atoi(At(Text(), static_cast<int>(i), run).c_str());
+        const int number = std::atoi(At(Text(), TextOffset(i), run).c_str());
         return run != 2 ? number - 1900 : number < 50 ? number + 100 : number;
     }
     return 0;
@@ -178,13 +178,14 @@ int Control::MonthFromText() const
 {
     const std::string text = Text().substr(0, Text().empty() ? 0 : Text().size() - 1);
     for (size_t i = 0; i < mask_.size(); ++i) {
-        if ((mask_[i] != 'M' && mask_[i] != 'm') || (i > 0 && mask_[i - 1] == '~'))
+        const bool marker = ampm_ && DisplayOf(mask_, i) > ampmPos_ && DisplayOf(mask_, i) < ampmPos_ + 5;
+        if ((mask_[i] != 'M' && mask_[i] != 'm') || (i > 0 && mask_[i - 1] == '~') || marker)
             continue;
         int run = 1;
         while (i + static_cast<size_t>(run) < mask_.size() &&
                (mask_[i + static_cast<size_t>(run)] == 'M' || mask_[i + static_cast<size_t>(run)] == 'm'))
             ++run;
-        const std::string field = At(text, static_cast<int>(i), run);
+        const std::string field = At(text, TextOffset(i), run);
         return run == 2 ? std::atoi(field.c_str()) : MonthFromName(field) + 1;
     }
     return 0;
@@ -192,6 +193,10 @@ int Control::MonthFromText() const
 
 void Control::DateFromDayOfYear(Stamp& stamp, int day) const
 {
+    if (day < 1 || day > (Leap(CalendarYear(stamp.year)) ? 366 : 365)) {
+        stamp.year = kNoDate;
+        return;
+    }
     stamp.month = 0;
     while (stamp.month < 11 && day > DaysInMonth(stamp.year, stamp.month))
         day -= DaysInMonth(stamp.year, stamp.month++);
@@ -284,6 +289,10 @@ int Control::WalkDate(Stamp& stamp, const std::string& text, const std::string& 
 bool Control::DisplayToStamp(Stamp& stamp, const std::string& text)
 {
     const bool timed = type_ != kDate;
+    Shown blank;
+    FormatFields(Value::None(), blank);
+    if (text == blank.text)
+        return false;
     if (ampm_ && timed ? !ShowsMarker(text) : static_cast<int>(text.size()) != displayLength_ && !ampm_)
         return false;
     Stamp read;

@@ -134,7 +134,7 @@ int Control::StepsToEditable(int position, bool forward) const
     const int step = forward ? 1 : -1;
     for (int n = 1;; ++n) {
         position += step;
-        if (forward ? position > displayLength_ - 1 : position < 0)
+        if (forward ? position > ShownLength() - 1 : position < 0)
             return 0;
         if (CharAt(Text(), position).c == '\0' || OnAmPm(position) || Editable(Text(), position))
             return n;
@@ -156,9 +156,11 @@ bool Control::DeleteSelection()
         edit_.Replace("");
     else {
         // The AM/PM field changes by its letters only.
-        if (ampm_ && (type_ == kTime || type_ == kDateTime))
-            for (int i = ampmPos_; i < edit_.Length() && i < static_cast<int>(blank.size()) && InsideAmPm(i); ++i)
-                blank[static_cast<size_t>(i)] = Text()[static_cast<size_t>(i)];
+        if (ampm_ && (type_ == kTime || type_ == kDateTime) && ShowsMarker(blank))
+            blank.replace(static_cast<size_t>(ampmPos_), regional_->am.size(),
+                          edit_.Length() < ampmPos_
+                              ? std::string()
+                              : Text().substr(static_cast<size_t>(ampmPos_), static_cast<size_t>(MarkerWidth())));
         edit_.Replace(static_cast<int>(blank.size()) <= start
                           ? std::string()
                           : blank.substr(static_cast<size_t>(start), static_cast<size_t>(end - start)));
@@ -169,11 +171,8 @@ bool Control::DeleteSelection()
 
 void Control::SetSelection(int start, int end)
 {
-    const int caret = edit_.Start();
-    const bool wasCaret = caret == edit_.End();
     edit_.Select(start, end);
-    if (!wasCaret || edit_.Start() != caret || edit_.End() != caret)
-        carried_.clear();
+    ForgetTyping();
 }
 
 void Control::Paste(const std::string& clipboard)

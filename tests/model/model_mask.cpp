@@ -18,11 +18,10 @@ bool SameText(const std::string& a, const std::string& b)
            std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Upper(x) == Upper(y); });
 }
 
-// The position at which the character of an offset in the mask is shown.
-int DisplayOf(const std::string& mask, size_t offset)
+// Positions of the whole display.
+int ShownOf(const std::string& mask)
 {
-    const auto escapes = std::count(mask.begin(), mask.begin() + static_cast<std::ptrdiff_t>(offset), '~');
-    return static_cast<int>(offset) - static_cast<int>(escapes);
+    return DisplayOf(mask, mask.size());
 }
 
 const char* DefaultMask(Type type)
@@ -39,17 +38,25 @@ const char* DefaultMask(Type type)
 
 }  // namespace
 
-bool HasFieldBehindAmPm(const std::string& mask, Type type)
+bool Control::HasFieldBehindAmPm() const
 {
     bool behind = false;
-    for (size_t i = 0; i < mask.size() && (type == kTime || type == kDateTime); i += mask[i] == '~' ? 2 : 1) {
-        if (mask.compare(i, kAmPmLength, "AM/PM") == 0 || mask.compare(i, kAmPmLength, "am/pm") == 0) {
+    for (size_t i = 0; i < mask_.size() && (type_ == kTime || type_ == kDateTime); i += mask_[i] == '~' ? 2 : 1) {
+        if (mask_.compare(i, kAmPmLength, "AM/PM") == 0 || mask_.compare(i, kAmPmLength, "am/pm") == 0) {
             behind = true;
             i += kAmPmLength - 1;
-        } else if (behind && Control::InTable(mask[i], type))
+        } else if (behind && Control::InTable(mask_[i], type_))
             return true;
     }
     return false;
+}
+
+// Where the character of an offset in the mask is looked for in the text: behind "~" two places, but for masks of keywords.
+int Control::TextOffset(size_t index) const
+{
+    const int display = DisplayOf(mask_, index);
+    const bool behind = ampm_ && display > ampmPos_;
+    return (keyword_ ? display : static_cast<int>(index)) - (behind ? kAmPmLength - AmPmWidth() : 0);
 }
 
 bool Control::InTable(char c, Type type)
@@ -138,7 +145,14 @@ int Control::RunBefore(int position) const
 // With fields behind it, they are typed and read where they are shown.
 int Control::AmPmWidth() const
 {
-    return HasFieldBehindAmPm(mask_, type_) ? static_cast<int>(regional_->am.size()) : kAmPmLength;
+    return HasFieldBehindAmPm() ? MarkerWidth() : kAmPmLength;
+}
+
+// A text without either marker is taken for a display with a marker of other settings, when its length allows that.
+int Control::MarkerWidth() const
+{
+    const int width = edit_.Length() - (ShownOf(mask_) - kAmPmLength);
+    return ShowsMarker(Text()) || width < 1 || width > 4 ? static_cast<int>(regional_->am.size()) : width;
 }
 
 bool Control::OnAmPm(int position) const
@@ -296,8 +310,8 @@ bool Control::CheckFields(const std::string& mask, Type type)
             ++i;
             continue;
         }
-        // The run is measured at the display position of that number: escapes in front shift it.
-        const MaskChar at = PositionalCharAt(mask, static_cast<int>(i));
+        // The run is measured at the display position of that number: escapes in front shift it, but in masks of keywords.
+        const MaskChar at = PositionalCharAt(mask, keyword_ ? DisplayOf(mask, i) : static_cast<int>(i));
         int run = 1;
         if (at.index >= 0)
             while (static_cast<size_t>(at.index + run) < mask.size() &&
@@ -385,6 +399,7 @@ int Control::SetMask(const char* mask, Type type)
                 expansion = built;
         }
     }
+    keyword_ = expansion.has_value();
     if (expansion) {
         // Taken as it is: the check only tells where its fields stand.
         CheckMask(*expansion, type);
@@ -402,10 +417,7 @@ int Control::SetMask(const char* mask, Type type)
     if (IsNumeric())
         decimalPlaces_ = static_cast<int>(NumberFormat().Places());
     ChooseEditMode();
-    displayLength_ = 0;
-    for (const char c : mask_)
-        displayLength_ += c == '~' ? 0 : 1;
-    displayLength_ -= ampm_ ? kAmPmLength - AmPmWidth() : 0;
+    displayLength_ = ShownOf(mask_);
     if (!codeSpin_) {
         if (type == kString)
             SetData(Value::OfText(mask_.empty() ? std::string() : std::string(255, ' ')));

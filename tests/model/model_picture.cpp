@@ -18,6 +18,13 @@ public:
         else
             picture.status = 1;
     }
+    // A letter that a mask of dates or times would read is escaped.
+    void PutLiteral(char c)
+    {
+        if (c == '~' || Control::InTable(c, kDateTime))
+            Put('~');
+        Put(c);
+    }
     void Put(const char* text)
     {
         while (*text != '\0' && picture.status == 0)
@@ -106,13 +113,13 @@ Picture PictureToMask(const Regional& regional, int size, int kind)
             ++i;
             open = i >= picture.size();
             if (!open)
-                out.Put(picture[i++]);
+                out.PutLiteral(picture[i++]);
             break;
         case '\'':
         case '"': {
             ++i;
             while (i < picture.size() && picture[i] != c && out.picture.status == 0)
-                out.Put(picture[i++]);
+                out.PutLiteral(picture[i++]);
             open = i >= picture.size();
             ++i;
             break;

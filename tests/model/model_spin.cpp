@@ -188,13 +188,13 @@ bool Control::OutOfOrder(const Stamp& first, const Stamp& second) const
 void Control::SpinDate(bool up)
 {
     const int caret = edit_.Start();
-    if (Text().empty() || caret >= displayLength_)
+    if (Text().empty() || caret >= ShownLength())
         return;
     if (OnAmPm(caret)) {
         const std::string& am = regional_->am;
         const bool morning = Text().compare(static_cast<size_t>(caret), am.size(), am) == 0;
-        edit_.Select(caret, caret + 1);
-        edit_.Replace(std::string(1, morning ? regional_->pm[0] : am[0]));
+        edit_.Select(caret, caret + static_cast<int>(am.size()));
+        edit_.Replace(morning ? regional_->pm : am);
         edit_.Select(caret, caret + 1);
         return;
     }
@@ -342,8 +342,8 @@ void Control::SpinDate(bool up)
     const std::string shown = Format(Value::OfStamp(value)).text;
     if (whole)
         edit_.SetText(shown);
-    // A position of every type is no field: what was typed there stays.
-    else if (letter != 'X' && letter != '!' && letter != '^') {
+    // A position of every type is no field: what was typed there stays. So does a marker behind its first letter.
+    else if (!InsideAmPm(caret) && letter != 'X' && letter != '!' && letter != '^') {
         edit_.Select(caret - before, caret + after + 1);
         edit_.Replace(shown.substr(static_cast<size_t>(caret - before), static_cast<size_t>(n)));
     }

@@ -232,7 +232,7 @@ TEST_F(ModelTest, PicturesBecomeMasks)
     };
     EXPECT_EQ(mask("M/d/yy").mask, "mm/dd/yy");
     EXPECT_EQ(mask("dd.MM.yyyy").mask, "dd.mm.yyyy");
-    EXPECT_EQ(mask("'Day' d").mask, "Day dd");
+    EXPECT_EQ(mask("'Day' d").mask, "~Da~y dd");
     EXPECT_EQ(mask("yyy/MM/dd").status, 11);
     EXPECT_EQ(mask("MMMMM/dd/yy").status, 9);
     EXPECT_EQ(mask("d 'open").status, 7);

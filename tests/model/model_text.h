@@ -2,6 +2,7 @@
 #ifndef TESTS_MODEL_MODEL_TEXT_H
 #define TESTS_MODEL_MODEL_TEXT_H
 
+#include <algorithm>
 #include <cctype>
 #include <string>
 
@@ -29,6 +30,13 @@ inline std::string Upper(std::string text)
     for (char& c : text)
         c = Upper(c);
     return text;
+}
+
+// The position at which the character of an offset in the mask is shown.
+inline int DisplayOf(const std::string& mask, size_t offset)
+{
+    const auto escapes = std::count(mask.begin(), mask.begin() + static_cast<std::ptrdiff_t>(offset), '~');
+    return static_cast<int>(offset) - static_cast<int>(escapes);
 }
 
 // NUL outside the text.

@@ -12,8 +12,13 @@ namespace model {
 void Control::Char(char c, bool shift)
 {
     shift_ = shift;
-    if (Refuses())
+    if (Refuses()) {
+        if (c == 1) {
+            ForgetTyping();
+            edit_.Select(0, edit_.Length());
+        }
         return;
+    }
     const std::string before = Text();
     const bool wasModified = modified_;
     TakeChar(c);
@@ -72,7 +77,10 @@ void Control::TakeControlChar(char c)
     constexpr char selectAll = 1;
     constexpr char cut = 24;
     switch (c) {
-    case selectAll: edit_.Select(0, edit_.Length()); return;
+    case selectAll:
+        ForgetTyping();
+        edit_.Select(0, edit_.Length());
+        return;
     case cut:
         if (DeleteSelection())
             ForgetTyping();
@@ -86,12 +94,36 @@ void Control::TakeControlChar(char c)
     }
     if (codeSpin_ && (codePick_ || (type_ == kString && mask_.empty())))
         return;
-    if (edit_.Start() != edit_.End())
+    if (edit_.Start() != edit_.End() || spun_ || positioned_)
         Beep();
     else if (IsNumeric())
         EnterNumericChar(c, false);
     else
         EnterChar(c);
+}
+
+// The marker that a letter stands for, in either case; the other one than is shown where both begin with it.
+std::string Control::MarkerFor(char c) const
+{
+    if (!ampm_ || (type_ != kTime && type_ != kDateTime))
+        return "";
+    const bool am = Upper(c) == Upper(CharOf(regional_->am, 0));
+    const bool pm = Upper(c) == Upper(CharOf(regional_->pm, 0));
+    const bool morning = edit_.Length() > ampmPos_ &&
+                         Text().compare(static_cast<size_t>(ampmPos_), regional_->am.size(), regional_->am) == 0;
+    if (am && pm)
+        return morning ? regional_->pm : regional_->am;
+    return am ? regional_->am : pm ? regional_->pm : "";
+}
+
+void Control::PlaceMarker(const std::string& marker)
+{
+    edit_.Select(ampmPos_, ampmPos_ + MarkerWidth());
+    edit_.Replace(marker);
+    if (StepsToEditable(edit_.Start() - 1, true) == 0)
+        TellFull();
+    else
+        SkipLiterals(edit_.Start(), true);
 }
 
 void Control::EnterChar(char c)
@@ -103,14 +135,18 @@ void Control::EnterChar(char c)
     int typedAt = position;
     int n = 0;
     bool placed = false;
-    const bool marker = ampm_ && (type_ == kTime || type_ == kDateTime) &&
-                        (c == CharOf(regional_->am, 0) || c == CharOf(regional_->pm, 0));
-    if (marker) {
-        typed_ = c;
-        typedAt = ampmPos_;
-        placed = true;
-    } else {
-        if (static_cast<unsigned>(position) > static_cast<unsigned>(displayLength_ - 1))
+    const std::string marker = MarkerFor(c);
+    if (!marker.empty()) {
+        // What takes the letter itself keeps it.
+        const int own = position < firstField_ && !Editable(Text(), position) ? firstField_ : position;
+        const bool taken = own < ShownLength() && Editable(Text(), own) && Validate(c, own) == Verdict::Accepted;
+        typed_.clear();
+        zeroPadded_ = false;
+        if (!taken)
+            return PlaceMarker(marker);
+    }
+    {
+        if (static_cast<unsigned>(position) > static_cast<unsigned>(ShownLength() - 1))
             return;
         const size_t over = carried.find(c);
         if (over != std::string::npos) {
@@ -154,7 +190,7 @@ void Control::EnterChar(char c)
     }
     if (StepsToEditable(caret - 1, true) == 0) {
         if (autoskip_)
-            MoveCaret(kRight, shift_, false);
+            TellFull();
         else
             PlaceCaret(edit_.Start());
         return;
@@ -165,9 +201,9 @@ void Control::EnterChar(char c)
 
 int Control::FindLiteralAhead(const std::string& text, int position, char c) const
 {
-    for (int i = position + 1; i < std::min(static_cast<int>(text.size()), displayLength_); ++i) {
+    for (int i = position + 1; i < std::min(static_cast<int>(text.size()), ShownLength()); ++i) {
         const MaskChar at = CharAt(text, i);
-        if (text[static_cast<size_t>(i)] == c && at.c != '~' && !InsideAmPm(i) && !InTable(at.c, type_))
+        if (text[static_cast<size_t>(i)] == c && (at.c != '~' || keyword_) && !InsideAmPm(i) && !InTable(at.c, type_))
             return i;
     }
     return -1;
@@ -196,7 +232,7 @@ bool Control::SkipLiterals(int position, bool remember)
         const int at = position + k;
         const bool inFraction = decimalPlaces_ != 0 && point < at && point + decimalPlaces_ + 1 > at;
         if (!inFraction) {
-            if (at > displayLength_ - 1 || CharAt(Text(), at).c == '\0')
+            if (at > ShownLength() - 1 || CharAt(Text(), at).c == '\0')
                 return false;
             if (!OnAmPm(at) && !Editable(Text(), at))
                 continue;

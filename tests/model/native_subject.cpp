@@ -115,7 +115,7 @@ public:
         control_->Paste();
     }
 
-    void Select(int start, int end) override { Edit().SetSelection(start, end); }
+    void Select(int start, int end) override { control_->Select(start, end); }
     int SetMask(const char* mask, model::Type type) override
     {
         type_ = type;

@@ -110,8 +110,8 @@ std::string Alphabet(const Setting& setting, const Config& config, Type type)
         return std::string("01234567890123456789012345678901234567890123456789---.,+%$x ") + point + point +
                setting.regional.thousand + setting.regional.currency;
     case kDate: return "000111122233345678901234567890/.-/.-JFMASONDjanuneepct: ";
-    case kTime: return "00011223345678901234567890:.::  AMPMap";
-    case kDateTime: return "00011223345678901234567890/:./-  AMPMJFSONDaneu";
+    case kTime: return "00011223345678901234567890:.::  AMPMapvND";
+    case kDateTime: return "00011223345678901234567890/:./-  AMPMJFSONDaneuvp";
     default: return "0123456789012345678901234567890abcxyzABCXYZ()-/, .~\xe9";
     }
 }
@@ -302,11 +302,14 @@ const std::vector<ControlRow>& ControlRows()
         {"HH:MM",                   kTime                                                          },
         {"HH:MM AM/PM",             kTime                                                          },
         {"HH.MM.SS am/pm",          kTime                                                          },
+        {"AM/PM HH:MM",             kTime                                                          },
+        {"HH am/pm:MM:SS",          kTime                                                          },
         {"HH:MM:SS.FF",             kTime                                                          },
         {"[time]",                  kTime                                                          },
         {"MM/DD/YY HH:MM:SS:FFF",   kDateTime                                                      },
         {"DD-MMM-YYYY HH:MM",       kDateTime                                                      },
         {"MM/DD/YYYY HH:MM AM/PM",  kDateTime                                                      },
+        {"AM/PM MMM-DD-YY HH:MM",   kDateTime                                                      },
         {"[date] [time]",           kDateTime                                                      },
         {"#,#.00",                  kNumber,   1                                                   },
         {"#,##0",                   kNumber,   3, "1~10"                                           },

@@ -113,6 +113,7 @@ constexpr NamedKey kNamedKeys[] = {
     {"PgDn",  kPageDown},
     {"F4",    kF4      },
     {"F10",   kF10     },
+    {"A",     'A'      },
     {"V",     'V'      },
     {"C",     'C'      },
     {"X",     'X'      },

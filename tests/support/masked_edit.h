@@ -120,6 +120,8 @@ public:
     bool CanUndo() const;
     void Undo();
     void Paste();
+    void Replace(const std::string& text);  // in the place of the selection, by the program
+    void LoseFocus();
     void SetReadOnly();
     void Disable();
 

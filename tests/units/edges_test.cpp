@@ -220,7 +220,7 @@ TEST_F(Edges, ALiteralIsNoPlaceForAValidator)
 
 TEST_F(Edges, PositionsThatFollowDigitsAreNotToldByTheMaskAlone)
 {
-    EXPECT_FALSE(PositionOf(Make("#,#.00", DT_NUMBER).Record(), 0).exists);
+    EXPECT_FALSE(PositionOf(Make("#,#.00", DT_NUMBER).Record(), FromAscii(".00"), 0).exists);
 }
 
 TEST_F(Edges, AnUnknownTypeStepsNothing)

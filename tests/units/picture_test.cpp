@@ -72,12 +72,21 @@ const PictureCase kPictureRows[] = {
     {"ShortAmPmAtTheEnd",              "h a/p",              "hh AM/PM"            },
     {"ShortAmPmOneFromTheEnd",         "h a/p.",             "hh AM/PM"            },
     {"Literals",                       "d. M. yy",           "dd. mm. yy"          },
-    {"Escape",                         "\\dd\\M",            "dddM"                },
+    {"Escape",                         "\\dd\\M",            "~ddd~M"              },
     {"EscapedBackslash",               "d\\\\M",             "dd\\mm"              },
-    {"SingleQuotes",                   "'Day' d",            "Day dd"              },
-    {"DoubleQuotes",                   "\"Day\" d",          "Day dd"              },
+    {"SingleQuotes",                   "'Day' d",            "~Da~y dd"            },
+    {"DoubleQuotes",                   "\"Day\" d",          "~Da~y dd"            },
     {"DoubleQuoteInSingleQuotes",      "'\"' d",             "\" dd"               },
     {"SingleQuoteInDoubleQuotes",      "\"'\" d",            "' dd"                },
+    {"ADayWord",                       "d 'de' MMMM",        "dd ~de mm"           },
+    {"AWordInFront",                   "'den' d.M.yyyy",     "~den dd.mm.yyyy"     },
+    {"TwoWords",                       "d 'de' MMMM \"de\" yyyy", "dd ~de mm ~de yyyy"},
+    {"EveryLetterThatAMaskReads",      "'DMYJHSFXdmyjhsfx!^'", "~D~M~Y~J~H~S~F~X~d~m~y~j~h~s~f~x~!~^"},
+    {"LettersThatNoDateMaskReads",     "'AaBbZz#09/'",       "AaBbZz#09/"          },
+    {"AQuotedDesignatorIsNone",        "h 'AM/PM'",          "hh A~M/P~M"          },
+    {"BytesOfAYearSign",               "yyyy'\xE5\xB9\xB4'M", "yyyy\xE5\xB9\xB4mm"},
+    {"ATildeAmongTheBytes",            "yyyy'\xA6\x7E'M",    "yyyy\xA6~\x7Emm"     },
+    {"EscapedLetters",                 "\\y\\x-d",           "~y~x-dd"             },
     {"EmptyQuotes",                    "''d\"\"",            "dd"                  },
     {"BackslashInQuotesIsItself",      "'\\'d",              "\\dd"                },
     {"QuotesEndARun",                  "d''d",               "dddd"                },
@@ -149,12 +158,12 @@ TEST_P(SmallRoom, IsFullAndNotOverrun)
 
 TEST_P(SmallRoom, HoldsTheStartOfTheMask)
 {
-    const std::string whole = "mm/dd/yy quoted x hh:mm:ss AM/PM fff";
+    const std::string whole = "mm/dd/yy quote~d ~x hh:mm:ss AM/PM fff";
     const zte::Picture conversion = Convert("M/d/yy 'quoted' \\x h:m:s AM/PM ff", GetParam());
     EXPECT_EQ(whole.compare(0, conversion.mask.size(), conversion.mask), 0) << conversion.mask;
 }
 
-INSTANTIATE_TEST_SUITE_P(, SmallRoom, testing::Range(0, 37));
+INSTANTIATE_TEST_SUITE_P(, SmallRoom, testing::Range(0, 39));
 
 TEST(PictureRoom, AnErrorInThePictureIsNotHiddenByRoomLeft)
 {
@@ -202,7 +211,7 @@ const SettingCase kDateRows[] = {
     {"Standard",         "m/d/yy",      PictureStatus::Ok,        "mm/dd/yy"  },
     {"Empty",            "",            PictureStatus::Ok,        ""          },
     {"DayFirst",         "dd.MM.yyyy",  PictureStatus::Ok,        "dd.mm.yyyy"},
-    {"WithWords",        "'Day' d",     PictureStatus::Ok,        "Day dd"    },
+    {"WithWords",        "'Day' d",     PictureStatus::Ok,        "~Da~y dd"  },
     {"ThreeYearLetters", "yyy/MM/dd",   PictureStatus::BadYear,   ""          },
     {"FiveMonthLetters", "MMMMM/dd/yy", PictureStatus::LongMonth, ""          },
 };
@@ -212,9 +221,9 @@ const SettingCase kTimeRows[] = {
     {"Standard",    ":",           PictureStatus::Ok, "hh:mm:ss"                },
     {"Empty",       "",            PictureStatus::Ok, "hhmmss"                  },
     {"Point",       ".",           PictureStatus::Ok, "hh.mm.ss"                },
-    {"AMaskLetter", "h",           PictureStatus::Ok, "hhhmmhss"                },
+    {"AMaskLetter", "h",           PictureStatus::Ok, "hh~hmm~hss"              },
     {"IsCutToNine", "123456789ab", PictureStatus::Ok, "hh123456789mm123456789ss"},
-    {"AQuote",      "'x",          PictureStatus::Ok, "hhxmmxss"                },
+    {"AQuote",      "'x",          PictureStatus::Ok, "hhx~m~m~xss"             },
 };
 INSTANTIATE_TEST_SUITE_P(, TimeSetting, testing::ValuesIn(kTimeRows), RowName<SettingCase>);
 

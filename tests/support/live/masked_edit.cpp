@@ -177,6 +177,11 @@ void MaskedEdit::SetText(const std::string& text)
     SetWindowTextA(it_->control.hwnd(), text.c_str());
 }
 
+void MaskedEdit::Replace(const std::string& text)
+{
+    it_->Send(EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
 int MaskedEdit::CaretStart() const
 {
     return it_->control.CaretStart();
@@ -215,6 +220,11 @@ void MaskedEdit::Undo()
 void MaskedEdit::Paste()
 {
     it_->Send(WM_PASTE);
+}
+
+void MaskedEdit::LoseFocus()
+{
+    it_->Send(WM_KILLFOCUS);
 }
 
 void MaskedEdit::SetReadOnly()

@@ -257,7 +257,12 @@ std::string MaskedEdit::Text() const
 
 void MaskedEdit::SetText(const std::string& text)
 {
-    it_->field.SetText(EngineText(text.c_str()).get());
+    it_->control.SetText(EngineText(text.c_str()).get());
+}
+
+void MaskedEdit::Replace(const std::string& text)
+{
+    it_->control.Replace(EngineText(text.c_str()).get(), false);
 }
 
 int MaskedEdit::CaretStart() const
@@ -272,7 +277,7 @@ int MaskedEdit::CaretEnd() const
 
 void MaskedEdit::Select(int start, int end)
 {
-    it_->field.SetSelection(start, end);
+    it_->control.Select(start, end);
 }
 
 bool MaskedEdit::IsModified() const
@@ -298,6 +303,11 @@ void MaskedEdit::Undo()
 void MaskedEdit::Paste()
 {
     it_->WithClipboard([this] { it_->control.Paste(); });
+}
+
+void MaskedEdit::LoseFocus()
+{
+    it_->control.LoseFocus();
 }
 
 void MaskedEdit::SetReadOnly()
