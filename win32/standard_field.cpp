@@ -171,6 +171,11 @@ void StandardField::TypeChar(Char character, KeyData keyData)
     ToBase(WM_CHAR, static_cast<unsigned char>(character), keyData);
 }
 
+bool StandardField::IsModified() const
+{
+    return CallBaseEdit(Window(), EM_GETMODIFY, 0, 0) != 0;
+}
+
 void StandardField::SetModified()
 {
     CallBaseEdit(Window(), EM_SETMODIFY, TRUE, 0);

@@ -33,6 +33,7 @@ public:
     void PressArrow(Key key, KeyData keyData, int32_t times) override;
     void PressDown(Key key, KeyData keyData) override;
     void TypeChar(Char character, KeyData keyData) override;
+    bool IsModified() const override;
     void SetModified() override;
 
     void HoldShift(bool down) override;

@@ -8,4 +8,7 @@ namespace zte {
 // True when the key was consumed, false to leave it to the edit control underneath.
 bool HandleKeyDown(EditInstance& edit, int32_t key, KeyData keyData);
 
+// The same for Up and Down alone, which step a spin whether or not there is a mask.
+bool HandleSpinKey(EditInstance& edit, int32_t key);
+
 }  // namespace zte

@@ -96,20 +96,16 @@ Reply Finish(EditInstance& edit, Reply reply)
 // caret: where it stands before the character.
 Reply Enter(EditInstance& edit, uint32_t typed, int32_t caret, KeyData keyData)
 {
-    if (!HasMask(edit) && !Has(edit, CODE_SPIN)) {
-        SetFlag(edit, SPUN, false);
-        return kPassOn;
-    }
     if (Has(edit, CODE_SPIN) && Has(edit, CODE_PICKLIST)) {
         SetFlag(edit, SPUN, false);
         TypeAhead(edit, static_cast<Char>(typed));
         return Keep();
     }
-    if (Has(edit, CODE_SPIN) && edit.dataType == DT_STRING && !HasMask(edit)) {
-        SetFlag(edit, SPUN, false);
+    if (!HasMask(edit)) {
+        SetFlag(edit, SPUN | CODE_POSITIONED, false);
         return kPassOn;
     }
-    if (EndSpunText(edit))
+    if (IsTyped(typed) && EndSpunText(edit))
         caret = Caret(edit);
     if (IsLeftToTheForm(typed))
         return Keep(0);
@@ -143,9 +139,9 @@ Reply OnKeyDown(EditInstance& edit, uint32_t key, KeyData keyData)
 {
     if (key >> 16 == KEY_TAB)
         return Keep(0);
-    if (!HasMask(edit))
-        return kPassOn;
-    return HandleKeyDown(edit, static_cast<int32_t>(key), keyData) ? Keep() : kPassOn;
+    const auto pressed = static_cast<int32_t>(key);
+    const bool handled = HasMask(edit) ? HandleKeyDown(edit, pressed, keyData) : HandleSpinKey(edit, pressed);
+    return handled ? Keep() : kPassOn;
 }
 
 Reply OnKeyUp(EditInstance& edit, uint32_t key)

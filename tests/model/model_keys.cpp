@@ -23,7 +23,7 @@ void Control::KeyDown(int key, bool shift)
         return;
     const bool steps = key == kUp || key == kDown;
     const std::string before = Text();
-    if (mask_.empty() || (refuses && steps) || !HandleKeyDown(key, shift, true))
+    if ((mask_.empty() && !steps) || (Refuses() && steps) || !HandleKeyDown(key, shift, true))
         edit_.Key(key, shift);
     NoteChange(before);
 }
@@ -223,10 +223,13 @@ void Control::SetSelection(int start, int end)
 
 void Control::Paste(const std::string& clipboard)
 {
-    if (Refuses())
+    if (readOnly_ || (!enabled_ && !IsPlain()))
         return;
     const std::string before = Text();
-    PasteText(clipboard);
+    if (IsPlain())
+        edit_.Replace(clipboard);
+    else
+        PasteText(clipboard);
     NoteChange(before);
 }
 

@@ -12,10 +12,13 @@ namespace model {
 void Control::Char(char c, bool shift)
 {
     shift_ = shift;
-    if (Refuses())
+    if (readOnly_ || (!enabled_ && !IsPlain()))
         return;
     const std::string before = Text();
-    TakeChar(c);
+    if (IsPlain())
+        edit_.Char(c);
+    else
+        TakeChar(c);
     NoteChange(before);
 }
 
@@ -38,19 +41,17 @@ void Control::TakeChar(char c)
         PlaceCaret(edit_.Start());
         return finish();
     }
-    if (IsPlain()) {
-        edit_.Char(c);
-        return finish();
-    }
     if (codeSpin_ && codePick_) {
         TypeAhead(c);
         return finish();
     }
     if (codeSpin_ && type_ == kString && mask_.empty()) {
+        positioned_ = false;
         edit_.Char(c);
         return finish();
     }
-    if (hasTable_ && codeSpin_ && !codePick_) {
+    const bool enters = (static_cast<unsigned char>(c) >= ' ' && c != 127) || c == '\b';
+    if (enters && hasTable_ && codeSpin_ && !codePick_) {
         positioned_ = false;
         if (spun_) {
             codeSpin_ = false;
@@ -59,7 +60,7 @@ void Control::TakeChar(char c)
             spun_ = false;
         }
     }
-    spun_ = false;
+    spun_ = spun_ && !enters;
     if (c == '\t' || c == '\n' || c == 27)
         return finish();
     if (IsNumeric()) {
