@@ -203,7 +203,7 @@ void StandardField::SetRedraw(bool on)
 void StandardField::KeepLayout()
 {
     if (Has(edit_, HAS_SPIN))
-        NarrowFormatRect(Window());
+        KeepTextOffSpin(edit_);
 }
 
 void StandardField::Repaint()

@@ -50,6 +50,7 @@ public:
     LRESULT ToBase(UINT message, WPARAM wParam, LPARAM lParam);
     void ToControl(UINT message, WPARAM wParam, LPARAM lParam);
 
+    uint16_t stripInMargin = 0;  // pixels of the right margin that the spin's strip takes, beside the host's own
     LifeGuard* guard = nullptr;  // innermost entry into the library that works on this control
 
 private:

@@ -62,6 +62,8 @@ bool Dispatch(UINT message, WPARAM wParam, LPARAM lParam, Handler&& handle)
     case WM_LBUTTONDBLCLK: return handle([](EditInstance& edit) { return OnButtonDown(edit); });
     case WM_LBUTTONUP: return handle([=](EditInstance& edit) { return OnButtonUp(edit, wParam, lParam); });
     case WM_PASTE: return handle([](EditInstance& edit) { return OnPaste(edit); });
+    case EM_SETMARGINS: return handle([=](EditInstance& edit) { return OnSetMargins(edit, wParam, lParam); });
+    case EM_GETMARGINS: return handle([](EditInstance& edit) { return OnGetMargins(edit); });
     default: return false;
     }
 }
