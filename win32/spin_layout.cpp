@@ -17,11 +17,21 @@ void NarrowFormatRect(HWND hwnd)
     CallBaseEdit(hwnd, EM_SETRECTNP, 0, reinterpret_cast<LPARAM>(&rect));
 }
 
-// Even, also where the spin is a pixel narrower: the margin need not change when it is placed anew.
+uint32_t CaretWidth()
+{
+    DWORD width = 1;
+    SystemParametersInfoA(SPI_GETCARETWIDTH, 0, &width, 0);
+    return width;
+}
+
+// The spin's width, even, also where it is a pixel narrower: the margin need not change when it is placed anew. And a caret's: the
+// one behind the last character stands on the first pixel of the margin.
 uint16_t StripOf(const EditInstance& edit)
 {
     const bool manyLines = (GetWindowLongA(WindowOf(edit), GWL_STYLE) & ES_MULTILINE) != 0;
-    return edit.hwndSpin && !manyLines ? static_cast<uint16_t>(EvenSpinWidth(ClientOf(WindowOf(edit)))) : uint16_t{0};
+    if (!edit.hwndSpin || manyLines)
+        return 0;
+    return static_cast<uint16_t>(static_cast<uint32_t>(EvenSpinWidth(ClientOf(WindowOf(edit)))) + CaretWidth());
 }
 
 // Setting a margin repaints the control, so it is set only when it changes.
