@@ -31,6 +31,7 @@ enum class Do : uint8_t {
     GiveFocus,  // to the parent
     GetLine,
     AskAsDialog,  // the dialog manager's question about a key
+    OpenMenu,     // the context menu, given up at once
 };
 
 struct Step {
@@ -85,8 +86,9 @@ Step Simple(Do what, WPARAM wParam = 0, LPARAM lParam = 0)
 std::string Print(const Step& step)
 {
     char text[120];
-    std::snprintf(text, sizeof text, "{%d, 0x%x, 0x%llx, 0x%llx, %s, %d, %d}", static_cast<int>(step.what), step.message,
-                  static_cast<unsigned long long>(step.wParam), static_cast<unsigned long long>(step.lParam),
+    std::snprintf(text, sizeof text, "{%d, 0x%x, 0x%llx, 0x%llx, %s, %d, %d}", static_cast<int>(step.what),
+                  step.message, static_cast<unsigned long long>(step.wParam),
+                  static_cast<unsigned long long>(step.lParam),
                   step.text ? ("\"" + std::string(step.text, 0, 30) + "\"").c_str() : "null", step.shift, step.control);
     return text;
 }
@@ -139,7 +141,8 @@ private:
         parent->told_ += line;
         if (message == WM_COMMAND && lParam) {  // what the parent sees at that moment
             const auto edit = reinterpret_cast<HWND>(lParam);
-            parent->told_ += " '" + TextOf(edit) + "' " + (SendMessageA(edit, EM_GETMODIFY, 0, 0) ? "modified" : "unmodified");
+            parent->told_ +=
+                " '" + TextOf(edit) + "' " + (SendMessageA(edit, EM_GETMODIFY, 0, 0) ? "modified" : "unmodified");
         }
         return 0;
     }
@@ -169,9 +172,9 @@ HWND MakeEdit(Kind kind, HWND parent, DWORD style, SharedHeap heap)
     params.options = kind == Kind::EmptyMaskLater ? ZTEO_AUTOSKIP : 0;
     const bool standard = kind == Kind::Standard || kind == Kind::Subclassed;
     const bool initLater = kind == Kind::ByInit || kind == Kind::Subclassed || kind == Kind::WithoutRecord;
-    const HWND edit =
-        CreateWindowExA(0, standard ? "edit" : ZTEDIT_CLASS, "", WS_CHILD | WS_VISIBLE | style, 0, 0, kWidth, kHeight, parent,
-                        reinterpret_cast<HMENU>(kEditId), GetModuleHandleA(nullptr), standard || initLater ? nullptr : &params);
+    const HWND edit = CreateWindowExA(0, standard ? "edit" : ZTEDIT_CLASS, "", WS_CHILD | WS_VISIBLE | style, 0, 0,
+                                      kWidth, kHeight, parent, reinterpret_cast<HMENU>(kEditId),
+                                      GetModuleHandleA(nullptr), standard || initLater ? nullptr : &params);
     if (kind == Kind::Subclassed)
         SetWindowLongPtrA(edit, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ZTE_SuperEditWndProc));
     if (kind == Kind::ByInit || kind == Kind::Subclassed)
@@ -245,12 +248,14 @@ private:
         case Do::GiveFocus: SetFocus(parent_.hwnd()); return "";
         case Do::GetLine: return GetLine(step.wParam);
         case Do::AskAsDialog: return AskAsDialog(step.wParam);
+        case Do::OpenMenu: return OpenMenu();
         }
         return "";
     }
     std::string PressKey(const Step& step) const
     {
-        const auto scan = static_cast<LPARAM>(MapVirtualKeyA(static_cast<UINT>(step.wParam), MAPVK_VK_TO_VSC) << 16 | 1);
+        const auto scan =
+            static_cast<LPARAM>(MapVirtualKeyA(static_cast<UINT>(step.wParam), MAPVK_VK_TO_VSC) << 16 | 1);
         std::string seen = Answer(WM_KEYDOWN, step.wParam, scan);
         if (step.message)
             seen += Answer(WM_CHAR, step.message, scan);
@@ -268,6 +273,13 @@ private:
         MSG message = {edit_, WM_KEYDOWN, key, 1, 0, {}};
         return Answer(WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&message));
     }
+    std::string OpenMenu() const
+    {
+        const UINT_PTR timer = SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR, DWORD) { EndMenu(); });
+        const std::string seen = Answer(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit_), MAKELPARAM(20, 10));
+        KillTimer(nullptr, timer);
+        return seen;
+    }
     std::string Look() const
     {
         DWORD start = 0;
@@ -277,9 +289,10 @@ private:
         GetCaretPos(&caret);
         RECT format = {};
         SendMessageA(edit_, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&format));
-        std::string look = " shows '" + TextOf(edit_) + "' " + std::to_string(start) + "-" + std::to_string(end) + " caret " +
-                           std::to_string(caret.x) + "," + std::to_string(caret.y) + " rect " + std::to_string(format.left) + "," +
-                           std::to_string(format.right) + "," + std::to_string(format.bottom) + " state";
+        std::string look = " shows '" + TextOf(edit_) + "' " + std::to_string(start) + "-" + std::to_string(end) +
+                           " caret " + std::to_string(caret.x) + "," + std::to_string(caret.y) + " rect " +
+                           std::to_string(format.left) + "," + std::to_string(format.right) + "," +
+                           std::to_string(format.bottom) + " state";
         for (const UINT question : {EM_GETMODIFY, EM_CANUNDO, EM_GETLIMITTEXT, EM_GETLINECOUNT, EM_GETFIRSTVISIBLELINE,
                                     EM_GETMARGINS, EM_GETPASSWORDCHAR})
             look += Answer(question);
@@ -364,66 +377,109 @@ const std::string kLongText(400, 'w');
 // clang-format off
 const Row kRows[] = {
     {"Typing", kLine, {Chars('a'), Chars('b'), Chars(' '), Chars('9'), Key('C', 'c'), Key('D', 'D', true), Chars(0xE4), Chars(0xFC)}},
-    {"TypingOverASelection", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 3), Chars('x'), Send(EM_UNDO), Send(EM_UNDO), Select(4, 7), Key('Y', 'y')}},
-    {"ControlCharactersOverASelection", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 3), Key(VK_RETURN, '\r'), Key(VK_ESCAPE, 27), Key(VK_TAB, '\t'),
-        Chars('\n'), Chars(1), Chars(2), Chars(4), Chars(5), Chars(11), Chars(12), Chars(19), Chars(23), Chars(25), Chars(28), Chars(31), Chars(127), Chars(0)}},
-    {"ControlLetters", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 3), CtrlLetter('C'), CtrlLetter('X'), CtrlLetter('Z'), CtrlLetter('A'), CtrlLetter('V'),
-        CtrlLetter('Z'), CtrlLetter('Y'), CtrlLetter('D'), CtrlLetter('B')}},
-    {"Backspace", kLine, {SendText(WM_SETTEXT, "one two"), Select(7, 7), Key(VK_BACK, 8), Key(VK_BACK, 8), Select(1, 3), Key(VK_BACK, 8), Send(EM_UNDO),
-        Key(VK_BACK, 8, true), Key(VK_BACK, 127, false, true), Select(0, 0), Key(VK_BACK, 8)}},
-    {"BackspaceKeyAndCharacterApart", kLine, {SendText(WM_SETTEXT, "one"), Select(3, 3), Send(WM_KEYDOWN, VK_BACK, 1), Chars('x'), Chars(8), Chars(8), Send(WM_KEYUP, VK_BACK, 1)}},
-    {"Delete", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 0), Key(VK_DELETE), Key(VK_DELETE, 0, true), Select(0, 2), Key(VK_DELETE, 0, true), Send(EM_UNDO),
-        Select(1, 1), Key(VK_DELETE, 0, false, true), Key(VK_DELETE), Send(WM_UNDO)}},
-    {"Arrows", kLine, {SendText(WM_SETTEXT, "one two three"), Key(VK_RIGHT), Key(VK_DOWN), Key(VK_UP), Key(VK_LEFT), Key(VK_END), Key(VK_LEFT, 0, true),
-        Key(VK_LEFT, 0, true, true), Key(VK_HOME), Key(VK_RIGHT, 0, false, true), Key(VK_END, 0, true), Key(VK_PRIOR), Key(VK_NEXT), Key(VK_UP, 0, true)}},
-    {"KeysMarkedByTheirUpperHalf", kLine, {SendText(WM_SETTEXT, "one"), Send(WM_KEYDOWN, 9 << 16 | VK_RIGHT, 1), Send(WM_KEYDOWN, 9 << 16, 1), Send(WM_KEYDOWN, VK_RIGHT, 1)}},
-    {"InsertKeys", kLine, {SendText(WM_SETTEXT, "one"), Select(0, 2), Key(VK_INSERT, 0, false, true), Key(VK_INSERT), Select(3, 3), Key(VK_INSERT, 0, true), Key(VK_INSERT, 0, true, true)}},
-    {"OtherKeys", kLine, {SendText(WM_SETTEXT, "one"), Key(VK_F4), Key(VK_F10), Key(VK_APPS), Key(VK_SHIFT), Key(VK_CONTROL), Send(WM_SYSKEYDOWN, VK_BACK, 1 << 29), Send(WM_SYSCHAR, 'a', 1 << 29)}},
-    {"PasteOfTwoLines", kLine, {SendText(WM_SETTEXT, "ab"), Select(1, 1), Clip("one\r\ntwo"), Send(WM_PASTE), Send(EM_UNDO), Select(0, -1), CtrlLetter('V'), Clip("x\ty"), Send(WM_PASTE)}},
-    {"PasteOfTwoLinesIntoMany", kLines, {SendText(WM_SETTEXT, "ab"), Select(1, 1), Clip("one\r\ntwo"), Send(WM_PASTE), Send(EM_UNDO), CtrlLetter('V'), Simple(Do::GetLine, 1)}},
-    {"PasteOfNothing", kLine, {SendText(WM_SETTEXT, "ab"), Select(0, 1), Clip(""), Send(WM_PASTE), CtrlLetter('V'), Key(VK_INSERT, 0, true)}},
-    {"ClipboardMessages", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 3), Send(WM_COPY), Send(WM_CUT), Send(WM_UNDO), Send(WM_CLEAR), Send(EM_UNDO), Send(WM_PASTE), Send(WM_CUT)}},
-    {"Undo", kLine, {Chars('a'), Chars('b'), Send(EM_CANUNDO), Send(EM_UNDO), Send(EM_UNDO), Chars(8), Send(WM_UNDO), Send(EM_EMPTYUNDOBUFFER), Send(EM_UNDO), CtrlLetter('Z')}},
-    {"Limit", kLine, {Send(EM_SETLIMITTEXT, 3), Chars('a'), Chars('b'), Chars('c'), Chars('d'), Clip("12345"), Select(1, 2), Send(WM_PASTE), SendText(WM_SETTEXT, "longer"), Chars('x'),
-        SendText(EM_REPLACESEL, "123", TRUE), Send(EM_SETLIMITTEXT, 0), Chars('y')}},
-    {"NarrowWithoutScrolling", 0, {SendText(WM_SETTEXT, "wwwwwwwwww"), Key(VK_END), Chars('w'), Chars('w'), Clip("wwwwwwwwwwwwwwww"), Send(WM_PASTE)}},
-    {"DigitsOnly", kLine | ES_NUMBER, {Chars('1'), Chars('a'), Chars('-'), Chars('.'), Chars('2'), Clip("12ab"), Send(WM_PASTE), CtrlLetter('V'), Select(0, 1), Chars('x'), Key(VK_BACK, 8)}},
-    {"UpperCase", kLine | ES_UPPERCASE, {Chars('a'), Chars('B'), Chars(0xE4), SendText(WM_SETTEXT, "mixed Case"), SendText(EM_REPLACESEL, "more", TRUE), Clip("pasted"), Send(WM_PASTE)}},
-    {"LowerCase", kLine | ES_LOWERCASE, {Chars('A'), Chars('b'), Chars(0xC4), SendText(WM_SETTEXT, "MIXED Case"), SendText(EM_REPLACESEL, "MORE", TRUE), Clip("PASTED"), Send(WM_PASTE)}},
-    {"Password", kLine | ES_PASSWORD, {Chars('a'), Chars('b'), Select(0, 2), Send(WM_COPY), CtrlLetter('C'), CtrlLetter('X'), Send(WM_CUT), Send(EM_SETPASSWORDCHAR, '#'), Chars('c'), Key(VK_LEFT, 0, false, true)}},
-    {"ReadOnly", kLine | ES_READONLY, {SendText(WM_SETTEXT, "one two"), Select(0, 3), Chars('x'), Key(VK_BACK, 8), Key(VK_DELETE), CtrlLetter('X'), CtrlLetter('V'), CtrlLetter('Z'), Send(WM_CUT), Send(WM_CLEAR),
-        Send(WM_PASTE), Key(VK_DELETE, 0, true), Key(VK_INSERT, 0, true), SendText(EM_REPLACESEL, "y", TRUE), Send(EM_SETREADONLY, FALSE), Chars('z'), Send(EM_SETREADONLY, TRUE)}},
-    {"Disabled", kLine | WS_DISABLED, {SendText(WM_SETTEXT, "one two"), Select(0, 3), Chars('x'), Key(VK_DELETE), Send(WM_PASTE), CtrlLetter('V'), Key(VK_UP)}},
-    {"ManyLines", kLines, {Chars('a'), Key(VK_RETURN, '\r'), Chars('b'), Key(VK_RETURN, '\r'), Chars('c'), Key(VK_UP), Key(VK_UP), Key(VK_END), Key(VK_DOWN, 0, true), Key(VK_TAB, '\t'), Key(VK_BACK, 8),
-        Simple(Do::GetLine, 0), Simple(Do::GetLine, 1), Send(EM_LINEFROMCHAR, 2), Send(EM_LINEINDEX, 1), CtrlLetter('A'), Key(VK_RETURN, '\n', false, true), Key(VK_ESCAPE, 27)}},
-    {"ManyLinesThatWantReturn", kLines | ES_WANTRETURN, {Chars('a'), Key(VK_RETURN, '\r'), Simple(Do::AskAsDialog, VK_RETURN), Key(VK_RETURN, '\r'), Chars('\n')}},
-    {"ManyLinesInADialog", kLines, {SendText(WM_SETTEXT, "one"), Simple(Do::AskAsDialog, VK_RETURN), Key(VK_RETURN, '\r'), Simple(Do::AskAsDialog, VK_ESCAPE), Key(VK_ESCAPE, 27), Simple(Do::AskAsDialog, VK_TAB),
-        Key(VK_TAB, '\t'), Simple(Do::AskAsDialog, 'A'), Key('A', 'a')}},
-    {"OneLineInADialog", kLine, {SendText(WM_SETTEXT, "one"), Simple(Do::AskAsDialog, VK_RETURN), Key(VK_RETURN, '\r'), Simple(Do::AskAsDialog, VK_ESCAPE), Key(VK_ESCAPE, 27), Simple(Do::AskAsDialog, VK_TAB), Key(VK_TAB, '\t')}},
-    {"Clicks", kLine, {SendText(WM_SETTEXT, "one (two) three"), Mouse(WM_LBUTTONDOWN, 30, 5, MK_LBUTTON), Mouse(WM_LBUTTONUP, 30, 5), Mouse(WM_LBUTTONDBLCLK, 30, 5, MK_LBUTTON), Mouse(WM_LBUTTONUP, 30, 5),
-        Mouse(WM_LBUTTONDOWN, 5, 5, MK_LBUTTON), Mouse(WM_MOUSEMOVE, 60, 5, MK_LBUTTON), Mouse(WM_LBUTTONUP, 60, 5), Mouse(WM_LBUTTONDOWN, 90, 5, MK_LBUTTON | MK_SHIFT), Mouse(WM_LBUTTONUP, 90, 5, MK_SHIFT),
-        Mouse(WM_LBUTTONUP, 10, 5), Mouse(WM_RBUTTONDOWN, 30, 5, MK_RBUTTON), Mouse(WM_MBUTTONDOWN, 30, 5, MK_MBUTTON), Mouse(WM_MBUTTONUP, 30, 5)}},
+    {"TypingOverASelection", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 3), Chars('x'), Send(EM_UNDO), Send(EM_UNDO),
+        Select(4, 7), Key('Y', 'y')}},
+    {"ControlCharactersOverASelection", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 3), Key(VK_RETURN, '\r'), Key(VK_ESCAPE, 27),
+        Key(VK_TAB, '\t'), Chars('\n'), Chars(1), Chars(2), Chars(4), Chars(5), Chars(11), Chars(12), Chars(19), Chars(23), Chars(25),
+        Chars(28), Chars(31), Chars(127), Chars(0)}},
+    {"ControlLetters", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 3), CtrlLetter('C'), CtrlLetter('X'), CtrlLetter('Z'),
+        CtrlLetter('A'), CtrlLetter('V'), CtrlLetter('Z'), CtrlLetter('Y'), CtrlLetter('D'), CtrlLetter('B')}},
+    {"Backspace", kLine, {SendText(WM_SETTEXT, "one two"), Select(7, 7), Key(VK_BACK, 8), Key(VK_BACK, 8), Select(1, 3),
+        Key(VK_BACK, 8), Send(EM_UNDO), Key(VK_BACK, 8, true), Key(VK_BACK, 127, false, true), Select(0, 0), Key(VK_BACK, 8)}},
+    {"BackspaceKeyAndCharacterApart", kLine, {SendText(WM_SETTEXT, "one"), Select(3, 3), Send(WM_KEYDOWN, VK_BACK, 1), Chars('x'),
+        Chars(8), Chars(8), Send(WM_KEYUP, VK_BACK, 1)}},
+    {"Delete", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 0), Key(VK_DELETE), Key(VK_DELETE, 0, true), Select(0, 2),
+        Key(VK_DELETE, 0, true), Send(EM_UNDO), Select(1, 1), Key(VK_DELETE, 0, false, true), Key(VK_DELETE), Send(WM_UNDO)}},
+    {"Arrows", kLine, {SendText(WM_SETTEXT, "one two three"), Key(VK_RIGHT), Key(VK_DOWN), Key(VK_UP), Key(VK_LEFT), Key(VK_END),
+        Key(VK_LEFT, 0, true), Key(VK_LEFT, 0, true, true), Key(VK_HOME), Key(VK_RIGHT, 0, false, true), Key(VK_END, 0, true),
+        Key(VK_PRIOR), Key(VK_NEXT), Key(VK_UP, 0, true)}},
+    {"KeysMarkedByTheirUpperHalf", kLine, {SendText(WM_SETTEXT, "one"), Send(WM_KEYDOWN, 9 << 16 | VK_RIGHT, 1),
+        Send(WM_KEYDOWN, 9 << 16, 1), Send(WM_KEYDOWN, VK_RIGHT, 1)}},
+    {"InsertKeys", kLine, {SendText(WM_SETTEXT, "one"), Select(0, 2), Key(VK_INSERT, 0, false, true), Key(VK_INSERT), Select(3, 3),
+        Key(VK_INSERT, 0, true), Key(VK_INSERT, 0, true, true)}},
+    {"OtherKeys", kLine, {SendText(WM_SETTEXT, "one"), Key(VK_F4), Key(VK_F10), Key(VK_APPS), Key(VK_SHIFT), Key(VK_CONTROL),
+        Send(WM_SYSKEYDOWN, VK_BACK, 1 << 29), Send(WM_SYSCHAR, 'a', 1 << 29)}},
+    {"PasteOfTwoLines", kLine, {SendText(WM_SETTEXT, "ab"), Select(1, 1), Clip("one\r\ntwo"), Send(WM_PASTE), Send(EM_UNDO),
+        Select(0, -1), CtrlLetter('V'), Clip("x\ty"), Send(WM_PASTE)}},
+    {"PasteOfTwoLinesIntoMany", kLines, {SendText(WM_SETTEXT, "ab"), Select(1, 1), Clip("one\r\ntwo"), Send(WM_PASTE), Send(EM_UNDO),
+        CtrlLetter('V'), Simple(Do::GetLine, 1)}},
+    {"PasteOfNothing", kLine, {SendText(WM_SETTEXT, "ab"), Select(0, 1), Clip(""), Send(WM_PASTE), CtrlLetter('V'),
+        Key(VK_INSERT, 0, true)}},
+    {"ClipboardMessages", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 3), Send(WM_COPY), Send(WM_CUT), Send(WM_UNDO),
+        Send(WM_CLEAR), Send(EM_UNDO), Send(WM_PASTE), Send(WM_CUT)}},
+    {"Undo", kLine, {Chars('a'), Chars('b'), Send(EM_CANUNDO), Send(EM_UNDO), Send(EM_UNDO), Chars(8), Send(WM_UNDO),
+        Send(EM_EMPTYUNDOBUFFER), Send(EM_UNDO), CtrlLetter('Z')}},
+    {"Limit", kLine, {Send(EM_SETLIMITTEXT, 3), Chars('a'), Chars('b'), Chars('c'), Chars('d'), Clip("12345"), Select(1, 2),
+        Send(WM_PASTE), SendText(WM_SETTEXT, "longer"), Chars('x'), SendText(EM_REPLACESEL, "123", TRUE), Send(EM_SETLIMITTEXT, 0),
+        Chars('y')}},
+    {"NarrowWithoutScrolling", 0, {SendText(WM_SETTEXT, "wwwwwwwwww"), Key(VK_END), Chars('w'), Chars('w'), Clip("wwwwwwwwwwwwwwww"),
+        Send(WM_PASTE)}},
+    {"DigitsOnly", kLine | ES_NUMBER, {Chars('1'), Chars('a'), Chars('-'), Chars('.'), Chars('2'), Clip("12ab"), Send(WM_PASTE),
+        CtrlLetter('V'), Select(0, 1), Chars('x'), Key(VK_BACK, 8)}},
+    {"UpperCase", kLine | ES_UPPERCASE, {Chars('a'), Chars('B'), Chars(0xE4), SendText(WM_SETTEXT, "mixed Case"),
+        SendText(EM_REPLACESEL, "more", TRUE), Clip("pasted"), Send(WM_PASTE)}},
+    {"LowerCase", kLine | ES_LOWERCASE, {Chars('A'), Chars('b'), Chars(0xC4), SendText(WM_SETTEXT, "MIXED Case"),
+        SendText(EM_REPLACESEL, "MORE", TRUE), Clip("PASTED"), Send(WM_PASTE)}},
+    {"Password", kLine | ES_PASSWORD, {Chars('a'), Chars('b'), Select(0, 2), Send(WM_COPY), CtrlLetter('C'), CtrlLetter('X'),
+        Send(WM_CUT), Send(EM_SETPASSWORDCHAR, '#'), Chars('c'), Key(VK_LEFT, 0, false, true)}},
+    {"ReadOnly", kLine | ES_READONLY, {SendText(WM_SETTEXT, "one two"), Select(0, 3), Chars('x'), Key(VK_BACK, 8), Key(VK_DELETE),
+        CtrlLetter('X'), CtrlLetter('V'), CtrlLetter('Z'), Send(WM_CUT), Send(WM_CLEAR), Send(WM_PASTE), Key(VK_DELETE, 0, true),
+        Key(VK_INSERT, 0, true), SendText(EM_REPLACESEL, "y", TRUE), Send(EM_SETREADONLY, FALSE), Chars('z'),
+        Send(EM_SETREADONLY, TRUE)}},
+    {"Disabled", kLine | WS_DISABLED, {SendText(WM_SETTEXT, "one two"), Select(0, 3), Chars('x'), Key(VK_DELETE), Send(WM_PASTE),
+        CtrlLetter('V'), Key(VK_UP)}},
+    {"ManyLines", kLines, {Chars('a'), Key(VK_RETURN, '\r'), Chars('b'), Key(VK_RETURN, '\r'), Chars('c'), Key(VK_UP), Key(VK_UP),
+        Key(VK_END), Key(VK_DOWN, 0, true), Key(VK_TAB, '\t'), Key(VK_BACK, 8), Simple(Do::GetLine, 0), Simple(Do::GetLine, 1),
+        Send(EM_LINEFROMCHAR, 2), Send(EM_LINEINDEX, 1), CtrlLetter('A'), Key(VK_RETURN, '\n', false, true), Key(VK_ESCAPE, 27)}},
+    {"ManyLinesThatWantReturn", kLines | ES_WANTRETURN, {Chars('a'), Key(VK_RETURN, '\r'), Simple(Do::AskAsDialog, VK_RETURN),
+        Key(VK_RETURN, '\r'), Chars('\n')}},
+    {"ManyLinesInADialog", kLines, {SendText(WM_SETTEXT, "one"), Simple(Do::AskAsDialog, VK_RETURN), Key(VK_RETURN, '\r'),
+        Simple(Do::AskAsDialog, VK_ESCAPE), Key(VK_ESCAPE, 27), Simple(Do::AskAsDialog, VK_TAB), Key(VK_TAB, '\t'),
+        Simple(Do::AskAsDialog, 'A'), Key('A', 'a')}},
+    {"OneLineInADialog", kLine, {SendText(WM_SETTEXT, "one"), Simple(Do::AskAsDialog, VK_RETURN), Key(VK_RETURN, '\r'),
+        Simple(Do::AskAsDialog, VK_ESCAPE), Key(VK_ESCAPE, 27), Simple(Do::AskAsDialog, VK_TAB), Key(VK_TAB, '\t')}},
+    {"Clicks", kLine, {SendText(WM_SETTEXT, "one (two) three"), Mouse(WM_LBUTTONDOWN, 30, 5, MK_LBUTTON), Mouse(WM_LBUTTONUP, 30, 5),
+        Mouse(WM_LBUTTONDBLCLK, 30, 5, MK_LBUTTON), Mouse(WM_LBUTTONUP, 30, 5), Mouse(WM_LBUTTONDOWN, 5, 5, MK_LBUTTON),
+        Mouse(WM_MOUSEMOVE, 60, 5, MK_LBUTTON), Mouse(WM_LBUTTONUP, 60, 5), Mouse(WM_LBUTTONDOWN, 90, 5, MK_LBUTTON | MK_SHIFT),
+        Mouse(WM_LBUTTONUP, 90, 5, MK_SHIFT), Mouse(WM_LBUTTONUP, 10, 5), Mouse(WM_RBUTTONDOWN, 30, 5, MK_RBUTTON),
+        Mouse(WM_MBUTTONDOWN, 30, 5, MK_MBUTTON), Mouse(WM_MBUTTONUP, 30, 5)}},
     {"ClicksInAnEmptyText", kLine, {Mouse(WM_LBUTTONDOWN, 30, 5, MK_LBUTTON), Mouse(WM_LBUTTONUP, 30, 5)}},
-    {"Texts", kLine, {SendText(WM_SETTEXT, "one"), SendText(WM_SETTEXT, nullptr), SendText(WM_SETTEXT, ""), Chars('a'), SendText(WM_SETTEXT, "a"), SendText(WM_SETTEXT, "two\r\nlines"), SendText(WM_SETTEXT, kLongText.c_str()),
-        Key(VK_END), Send(WM_GETTEXTLENGTH)}},
-    {"TextsOfManyLines", kLines, {SendText(WM_SETTEXT, "one\r\ntwo"), Chars('a'), SendText(WM_SETTEXT, nullptr), SendText(WM_SETTEXT, kLongText.c_str()), Send(EM_SCROLL, SB_PAGEDOWN), Send(EM_LINESCROLL, 0, 2), Send(EM_SCROLLCARET)}},
-    {"Selections", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, -1), Select(-1, 0), Select(5, 2), Select(2, 99), Select(99, 99), Send(EM_SETSEL, 0, -1), Send(EM_GETSEL), Send(EM_CHARFROMPOS, 0, MAKELPARAM(20, 5)),
-        Send(EM_POSFROMCHAR, 3), Send(EM_POSFROMCHAR, 99)}},
-    {"Replacements", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 3), SendText(EM_REPLACESEL, "1", TRUE), Send(EM_UNDO), Select(0, 3), SendText(EM_REPLACESEL, "2", FALSE), Send(EM_UNDO), SendText(EM_REPLACESEL, "", TRUE)}},
-    {"Modified", kLine, {Send(EM_SETMODIFY, TRUE), SendText(WM_SETTEXT, "a"), Chars('b'), Send(EM_SETMODIFY, FALSE), Key(VK_LEFT), Key(VK_DELETE), Send(EM_SETMODIFY, FALSE), Send(EM_UNDO)}},
+    {"Texts", kLine, {SendText(WM_SETTEXT, "one"), SendText(WM_SETTEXT, nullptr), SendText(WM_SETTEXT, ""), Chars('a'),
+        SendText(WM_SETTEXT, "a"), SendText(WM_SETTEXT, "two\r\nlines"), SendText(WM_SETTEXT, kLongText.c_str()), Key(VK_END),
+        Send(WM_GETTEXTLENGTH)}},
+    {"TextsOfManyLines", kLines, {SendText(WM_SETTEXT, "one\r\ntwo"), Chars('a'), SendText(WM_SETTEXT, nullptr),
+        SendText(WM_SETTEXT, kLongText.c_str()), Send(EM_SCROLL, SB_PAGEDOWN), Send(EM_LINESCROLL, 0, 2), Send(EM_SCROLLCARET)}},
+    {"Selections", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, -1), Select(-1, 0), Select(5, 2), Select(2, 99), Select(99, 99),
+        Send(EM_SETSEL, 0, -1), Send(EM_GETSEL), Send(EM_CHARFROMPOS, 0, MAKELPARAM(20, 5)), Send(EM_POSFROMCHAR, 3),
+        Send(EM_POSFROMCHAR, 99)}},
+    {"Replacements", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 3), SendText(EM_REPLACESEL, "1", TRUE), Send(EM_UNDO),
+        Select(0, 3), SendText(EM_REPLACESEL, "2", FALSE), Send(EM_UNDO), SendText(EM_REPLACESEL, "", TRUE)}},
+    {"Modified", kLine, {Send(EM_SETMODIFY, TRUE), SendText(WM_SETTEXT, "a"), Chars('b'), Send(EM_SETMODIFY, FALSE), Key(VK_LEFT),
+        Key(VK_DELETE), Send(EM_SETMODIFY, FALSE), Send(EM_UNDO)}},
     {"Focus", kLine, {SendText(WM_SETTEXT, "one"), Select(0, 2), Simple(Do::GiveFocus), Chars('x'), Simple(Do::TakeFocus), Chars('y')}},
-    {"Margins", kLine, {SendText(WM_SETTEXT, "one"), Send(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(4, 7)), Send(EM_SETMARGINS, EC_RIGHTMARGIN, MAKELPARAM(0, EC_USEFONTINFO)), Send(EM_SETMARGINS, EC_USEFONTINFO, 0),
-        Send(EM_GETMARGINS)}},
-    {"Fonts", kLine, {SendText(WM_SETTEXT, "one"), Key(VK_END), Chars('x'), Send(WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(ANSI_FIXED_FONT)), TRUE), Chars('y'), Send(WM_SETFONT, 0, FALSE), Send(EM_UNDO)}},
-    {"FontsOfManyLines", kLines, {SendText(WM_SETTEXT, "one\r\ntwo"), Send(WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(ANSI_FIXED_FONT)), TRUE), Chars('y'), Send(EM_UNDO)}},
-    {"Sizes", kLine, {SendText(WM_SETTEXT, kLongText.c_str()), Key(VK_END), Simple(Do::Resize, 60, 20), Chars('x'), Simple(Do::Resize, 0, 0), Chars('y'), Simple(Do::Resize, 200, 30)}},
-    {"SizesOfManyLines", kLines, {SendText(WM_SETTEXT, kLongText.c_str()), Key(VK_END), Simple(Do::Resize, 60, 20), Chars('x'), Simple(Do::Resize, 200, 30), Send(WM_VSCROLL, SB_TOP)}},
-    {"RightAligned", kLine | ES_RIGHT, {Chars('a'), Chars('b'), Key(VK_HOME), Chars('c'), SendText(WM_SETTEXT, kLongText.c_str()), Key(VK_END), Chars('d')}},
-    {"Centred", kLine | ES_CENTER, {Chars('a'), Chars('b'), Key(VK_HOME), Chars('c'), SendText(WM_SETTEXT, kLongText.c_str()), Key(VK_END), Chars('d')}},
+    {"Margins", kLine, {SendText(WM_SETTEXT, "one"), Send(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(4, 7)),
+        Send(EM_SETMARGINS, EC_RIGHTMARGIN, MAKELPARAM(0, EC_USEFONTINFO)), Send(EM_SETMARGINS, EC_USEFONTINFO, 0), Send(EM_GETMARGINS)}},
+    {"Fonts", kLine, {SendText(WM_SETTEXT, "one"), Key(VK_END), Chars('x'),
+        Send(WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(ANSI_FIXED_FONT)), TRUE), Chars('y'), Send(WM_SETFONT, 0, FALSE),
+        Send(EM_UNDO)}},
+    {"FontsOfManyLines", kLines, {SendText(WM_SETTEXT, "one\r\ntwo"),
+        Send(WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(ANSI_FIXED_FONT)), TRUE), Chars('y'), Send(EM_UNDO)}},
+    {"Sizes", kLine, {SendText(WM_SETTEXT, kLongText.c_str()), Key(VK_END), Simple(Do::Resize, 60, 20), Chars('x'),
+        Simple(Do::Resize, 0, 0), Chars('y'), Simple(Do::Resize, 200, 30)}},
+    {"SizesOfManyLines", kLines, {SendText(WM_SETTEXT, kLongText.c_str()), Key(VK_END), Simple(Do::Resize, 60, 20), Chars('x'),
+        Simple(Do::Resize, 200, 30), Send(WM_VSCROLL, SB_TOP)}},
+    {"RightAligned", kLine | ES_RIGHT, {Chars('a'), Chars('b'), Key(VK_HOME), Chars('c'), SendText(WM_SETTEXT, kLongText.c_str()),
+        Key(VK_END), Chars('d')}},
+    {"Centred", kLine | ES_CENTER, {Chars('a'), Chars('b'), Key(VK_HOME), Chars('c'), SendText(WM_SETTEXT, kLongText.c_str()),
+        Key(VK_END), Chars('d')}},
     {"Redrawing", kLine, {Send(WM_SETREDRAW, FALSE), Chars('a'), Chars('b'), Send(WM_SETREDRAW, TRUE), Chars('c')}},
-    {"Painting", kLine, {Chars('a'), Send(WM_PAINT), Send(WM_MOVE), Send(WM_SETFOCUS), Send(WM_KILLFOCUS), Send(WM_SIZE, SIZE_RESTORED, MAKELPARAM(kWidth, kHeight)), Send(WM_ERASEBKGND, 0), Chars('b')}},
-    {"DialogCodes", kLines | ES_WANTRETURN, {Send(WM_GETDLGCODE), Simple(Do::AskAsDialog, VK_RETURN), Simple(Do::AskAsDialog, VK_TAB), Simple(Do::AskAsDialog, VK_LEFT)}},
-    {"Unknown", kLine, {Send(WM_USER + 77, 1, 2), Send(0xC123), Send(EM_GETIMESTATUS), Send(EM_GETTHUMB), Send(EM_FMTLINES, TRUE), Send(WM_NULL), Send(WM_WININICHANGE)}},
+    {"Painting", kLine, {Chars('a'), Send(WM_PAINT), Send(WM_MOVE), Send(WM_SETFOCUS), Send(WM_KILLFOCUS),
+        Send(WM_SIZE, SIZE_RESTORED, MAKELPARAM(kWidth, kHeight)), Send(WM_ERASEBKGND, 0), Chars('b')}},
+    {"DialogCodes", kLines | ES_WANTRETURN, {Send(WM_GETDLGCODE), Simple(Do::AskAsDialog, VK_RETURN), Simple(Do::AskAsDialog, VK_TAB),
+        Simple(Do::AskAsDialog, VK_LEFT)}},
+    {"ContextMenu", kLine, {SendText(WM_SETTEXT, "one two"), Select(0, 3), Simple(Do::OpenMenu), Chars('x'), Simple(Do::OpenMenu)}},
+    {"Unknown", kLine, {Send(WM_USER + 77, 1, 2), Send(0xC123), Send(EM_GETIMESTATUS), Send(EM_GETTHUMB), Send(EM_FMTLINES, TRUE),
+        Send(WM_NULL), Send(WM_WININICHANGE)}},
 };
 // clang-format on
 
@@ -462,8 +518,8 @@ TEST(PlainEditCreation, EmptiesTheWindowsText)
     EditInitParams params = {};
     params.heap = heap;
     params.dataType = DT_STRING;
-    const HWND edit =
-        CreateWindowExA(0, ZTEDIT_CLASS, "title", WS_CHILD | kLine, 0, 0, kWidth, kHeight, parent.hwnd(), nullptr, nullptr, &params);
+    const HWND edit = CreateWindowExA(0, ZTEDIT_CLASS, "title", WS_CHILD | kLine, 0, 0, kWidth, kHeight, parent.hwnd(),
+                                      nullptr, nullptr, &params);
     EXPECT_EQ(TextOf(edit), "");
     EXPECT_EQ(SendMessageA(edit, EM_GETMODIFY, 0, 0), 0);
     EXPECT_EQ(SendMessageA(edit, EM_CANUNDO, 0, 0), 0);
@@ -540,7 +596,8 @@ private:
     bool Sometimes() { return Below(4) == 0; }
     const char* Text()
     {
-        static const char* const kTexts[] = {"", "a", "one two", "two\r\nlines", "12ab", "(555) x", "\t", "A\xE4\xDC", kLongText.c_str()};
+        static const char* const kTexts[] = {"",        "a",  "one two",   "two\r\nlines",   "12ab",
+                                             "(555) x", "\t", "A\xE4\xDC", kLongText.c_str()};
         return kTexts[Below(std::size(kTexts))];
     }
     Step Next()
@@ -566,7 +623,8 @@ private:
     }
     Step NavigationKey()
     {
-        constexpr WPARAM kKeys[] = {VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN, VK_HOME, VK_END, VK_PRIOR, VK_NEXT, VK_DELETE, VK_INSERT};
+        constexpr WPARAM kKeys[] = {VK_LEFT, VK_RIGHT, VK_UP,   VK_DOWN,   VK_HOME,
+                                    VK_END,  VK_PRIOR, VK_NEXT, VK_DELETE, VK_INSERT};
         return Key(kKeys[Below(std::size(kKeys))], 0, Sometimes(), Sometimes());
     }
     Step ByMouse()
@@ -591,9 +649,26 @@ private:
             int wParams;
         };
         constexpr Choice kChoices[] = {
-            {EM_UNDO, 1},      {WM_UNDO, 1},      {WM_CUT, 1},          {WM_COPY, 1},     {WM_CLEAR, 1},      {WM_PASTE, 1},        {EM_EMPTYUNDOBUFFER, 1},
-            {EM_SETMODIFY, 2}, {EM_CANUNDO, 1},   {EM_SETLIMITTEXT, 9}, {EM_SCROLL, 4},   {EM_LINEINDEX, 4},  {EM_LINEFROMCHAR, 9}, {EM_LINELENGTH, 9},
-            {EM_GETSEL, 1},    {EM_POSFROMCHAR, 9}, {EM_SCROLLCARET, 1}, {EM_SETREADONLY, 2}, {WM_GETTEXTLENGTH, 1}, {EM_GETFIRSTVISIBLELINE, 1},
+            {EM_UNDO,                1},
+            {WM_UNDO,                1},
+            {WM_CUT,                 1},
+            {WM_COPY,                1},
+            {WM_CLEAR,               1},
+            {WM_PASTE,               1},
+            {EM_EMPTYUNDOBUFFER,     1},
+            {EM_SETMODIFY,           2},
+            {EM_CANUNDO,             1},
+            {EM_SETLIMITTEXT,        9},
+            {EM_SCROLL,              4},
+            {EM_LINEINDEX,           4},
+            {EM_LINEFROMCHAR,        9},
+            {EM_LINELENGTH,          9},
+            {EM_GETSEL,              1},
+            {EM_POSFROMCHAR,         9},
+            {EM_SCROLLCARET,         1},
+            {EM_SETREADONLY,         2},
+            {WM_GETTEXTLENGTH,       1},
+            {EM_GETFIRSTVISIBLELINE, 1},
         };
         const Choice& choice = kChoices[Below(std::size(kChoices))];
         return Send(choice.message, static_cast<WPARAM>(Below(choice.wParams)));
