@@ -2,8 +2,7 @@
 // the library's, and what they answer, show and tell their parents is the same, step by step.
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <memory>
+#include <algorithm>
 #include <random>
 #include <string>
 #include <vector>
@@ -160,6 +159,7 @@ enum class Kind {
     WithData,        // made with data
     AfterNumbers,    // a number control that becomes a string
     WithoutRecord,
+    WithSpin,  // whose strip moves the text where it is not left-aligned, and scrolls it sooner
 };
 
 HWND MakeEdit(Kind kind, HWND parent, DWORD style, SharedHeap heap)
@@ -169,7 +169,8 @@ HWND MakeEdit(Kind kind, HWND parent, DWORD style, SharedHeap heap)
     params.maskText = kind == Kind::EmptyMaskLater ? "(###) ###" : kind == Kind::AfterNumbers ? "#,##0.00" : "";
     params.dataType = kind == Kind::AfterNumbers ? DT_NUMBER : DT_STRING;
     params.initialData = kind == Kind::WithData ? "data" : nullptr;
-    params.options = kind == Kind::EmptyMaskLater ? ZTEO_AUTOSKIP : 0;
+    params.options = kind == Kind::EmptyMaskLater ? ZTEO_AUTOSKIP : kind == Kind::WithSpin ? ZTEO_SPIN : 0;
+    params.spinIncrement = 1;
     const bool standard = kind == Kind::Standard || kind == Kind::Subclassed;
     const bool initLater = kind == Kind::ByInit || kind == Kind::Subclassed || kind == Kind::WithoutRecord;
     const HWND edit = CreateWindowExA(0, standard ? "edit" : ZTEDIT_CLASS, "", WS_CHILD | WS_VISIBLE | style, 0, 0,
@@ -186,7 +187,9 @@ HWND MakeEdit(Kind kind, HWND parent, DWORD style, SharedHeap heap)
 
 class Subject {
 public:
-    Subject(Kind kind, DWORD style) : heap_(SharedHeapCreate()), edit_(MakeEdit(kind, parent_.hwnd(), style, heap_))
+    // withPlaces: look at the places of the text and the caret in the window as well.
+    Subject(Kind kind, DWORD style, bool withPlaces = true)
+        : withPlaces_(withPlaces), heap_(SharedHeapCreate()), edit_(MakeEdit(kind, parent_.hwnd(), style, heap_))
     {
         atCreation_ = parent_.TakeTold();
         SetFocus(edit_);
@@ -280,38 +283,43 @@ private:
         KillTimer(nullptr, timer);
         return seen;
     }
+    std::string Places(DWORD position) const
+    {
+        POINT caret = {};
+        GetCaretPos(&caret);
+        RECT format = {};
+        SendMessageA(edit_, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&format));
+        return Answer(EM_POSFROMCHAR, position) + Answer(EM_GETFIRSTVISIBLELINE) + " caret " + std::to_string(caret.x) +
+               "," + std::to_string(caret.y) + " rect " + std::to_string(format.left) + "," +
+               std::to_string(format.right) + "," + std::to_string(format.bottom);
+    }
     std::string Look() const
     {
         DWORD start = 0;
         DWORD end = 0;
         SendMessageA(edit_, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
-        POINT caret = {};
-        GetCaretPos(&caret);
-        RECT format = {};
-        SendMessageA(edit_, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&format));
-        std::string look = " shows '" + TextOf(edit_) + "' " + std::to_string(start) + "-" + std::to_string(end) +
-                           " caret " + std::to_string(caret.x) + "," + std::to_string(caret.y) + " rect " +
-                           std::to_string(format.left) + "," + std::to_string(format.right) + "," +
-                           std::to_string(format.bottom) + " state";
-        for (const UINT question : {EM_GETMODIFY, EM_CANUNDO, EM_GETLIMITTEXT, EM_GETLINECOUNT, EM_GETFIRSTVISIBLELINE,
-                                    EM_GETMARGINS, EM_GETPASSWORDCHAR})
+        std::string look =
+            " shows '" + TextOf(edit_) + "' " + std::to_string(start) + "-" + std::to_string(end) + " state";
+        for (const UINT question :
+             {EM_GETMODIFY, EM_CANUNDO, EM_GETLIMITTEXT, EM_GETLINECOUNT, EM_GETMARGINS, EM_GETPASSWORDCHAR})
             look += Answer(question);
         look += Answer(EM_LINEINDEX, static_cast<WPARAM>(-1)) + Answer(EM_LINELENGTH, static_cast<WPARAM>(-1)) +
-                Answer(WM_GETDLGCODE) + Answer(EM_POSFROMCHAR, start);
+                Answer(WM_GETDLGCODE) + (withPlaces_ ? Places(start) : "");
         return look + " style " + std::to_string(GetWindowLongA(edit_, GWL_STYLE)) + " clip '" + ClipboardText() + "'";
     }
 
     Parent parent_;
+    bool withPlaces_;
     SharedHeap heap_;
     HWND edit_;
     std::string atCreation_;
 };
 
 // The steps of a script, each with what came of it. The clipboard is the same at every beginning.
-std::vector<std::string> Play(Kind kind, DWORD style, const Script& script)
+std::vector<std::string> Play(Kind kind, DWORD style, const Script& script, bool withPlaces = true)
 {
     CopyToClipboard("clipped");
-    Subject subject(kind, style);
+    Subject subject(kind, style, withPlaces);
     std::vector<std::string> seen;
     for (const Step& step : script)
         seen.push_back(Print(step) + ":" + subject.Play(step));
@@ -331,9 +339,10 @@ std::string Legible(const std::string& text)
 }
 
 // False at the first step that comes out otherwise, with the steps before it.
-bool PlayAlike(Kind kind, DWORD style, const Script& script, const std::vector<std::string>& expected)
+bool PlayAlike(Kind kind, DWORD style, const Script& script, const std::vector<std::string>& expected,
+               bool withPlaces = true)
 {
-    const std::vector<std::string> seen = Play(kind, style, script);
+    const std::vector<std::string> seen = Play(kind, style, script, withPlaces);
     for (size_t i = 0; i < script.size(); ++i) {
         if (seen[i] == expected[i])
             continue;
@@ -491,6 +500,37 @@ TEST_P(PlainEditRow, IsThatOfAStandardEdit)
 }
 
 INSTANTIATE_TEST_SUITE_P(Scripts, PlainEditRow, testing::ValuesIn(kRows), RowName<Row>);
+
+// Beside a spin, too: but for Up and Down.
+class PlainEditWithASpin : public testing::TestWithParam<Row> {};
+
+TEST_P(PlainEditWithASpin, IsThatOfAStandardEdit)
+{
+    const Script& script = GetParam().script;
+    const std::vector<std::string> expected = Play(Kind::Standard, GetParam().style, script, false);
+    PlayAlike(Kind::WithSpin, GetParam().style, script, expected, false);
+}
+
+// Scripts in one line whose answers do not tell places.
+std::vector<Row> RowsForASpin()
+{
+    const auto asksForPlaces = [](const Step& step) {
+        const bool steps = step.what == Do::Key && (step.wParam == VK_UP || step.wParam == VK_DOWN);
+        return steps || (step.what == Do::Send && (step.message == EM_POSFROMCHAR || step.message == EM_CHARFROMPOS));
+    };
+    std::vector<Row> rows;
+    for (const Row& row : kRows)
+        if ((row.style & (ES_MULTILINE | ES_AUTOHSCROLL)) == ES_AUTOHSCROLL &&
+            std::none_of(row.script.begin(), row.script.end(), asksForPlaces))
+            rows.push_back(row);
+    return rows;
+}
+INSTANTIATE_TEST_SUITE_P(Scripts, PlainEditWithASpin, testing::ValuesIn(RowsForASpin()), RowName<Row>);
+
+TEST(PlainEditWithoutASpin, IsComparedInManyScripts)
+{
+    EXPECT_GT(RowsForASpin().size(), 30u) << "beside a spin as well";
+}
 
 // ---- creation
 

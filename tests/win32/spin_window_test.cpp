@@ -159,8 +159,8 @@ uint32_t BlocksLeft(HWND parent, uint32_t options, const char* codes)
     params.maskText = "XXXX";
     params.dataType = DT_STRING;
     params.options = options;
-    const HWND control =
-        CreateWindowExA(0, ZTEDIT_CLASS, "", WS_CHILD | ES_AUTOHSCROLL, 0, 0, 100, 20, parent, nullptr, nullptr, &params);
+    const HWND control = CreateWindowExA(0, ZTEDIT_CLASS, "", WS_CHILD | ES_AUTOHSCROLL, 0, 0, 100, 20, parent, nullptr,
+                                         nullptr, &params);
     for (int i = 0; i < 3; ++i)
         ZTE_SetSpin(control, 1, nullptr, codes, SPINSTYLE_CODETABLE);
     DestroyWindow(control);
@@ -175,7 +175,8 @@ TEST_F(SpinWindow, ACodeTableGoesWithItsControl)
     for (int i = 0; i < 120; ++i)
         codes += "display" + std::to_string(i) + "\t" + std::to_string(i) + "/";
     for (const uint32_t options : {0u, static_cast<uint32_t>(ZTEO_SPIN)})
-        EXPECT_EQ(BlocksLeft(form_.hwnd(), options, codes.c_str()), BlocksLeft(form_.hwnd(), options, nullptr)) << options;
+        EXPECT_EQ(BlocksLeft(form_.hwnd(), options, codes.c_str()), BlocksLeft(form_.hwnd(), options, nullptr))
+            << options;
 }
 
 TEST_F(SpinWindow, ASecondOneIsNotCreated)
