@@ -276,9 +276,10 @@ private:
         MSG message = {edit_, WM_KEYDOWN, key, 1, 0, {}};
         return Answer(WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&message));
     }
+    static void CALLBACK GiveUpMenu(HWND, UINT, UINT_PTR, DWORD) { EndMenu(); }
     std::string OpenMenu() const
     {
-        const UINT_PTR timer = SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR, DWORD) { EndMenu(); });
+        const UINT_PTR timer = SetTimer(nullptr, 0, 50, GiveUpMenu);
         const std::string seen = Answer(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit_), MAKELPARAM(20, 10));
         KillTimer(nullptr, timer);
         return seen;
