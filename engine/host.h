@@ -75,7 +75,8 @@ public:
     virtual void Repaint() = 0;
     virtual void RepaintSpin() = 0;
 
-    // The user has changed the text.
+    // The user has changed the text; a text that is set counts as unchanged.
+    virtual bool IsModified() const = 0;
     virtual void SetModified() = 0;
 
     virtual void Beep() = 0;

@@ -4,6 +4,7 @@
 #include "engine/edit/click.h"
 #include "engine/edit/keyboard.h"
 #include "engine/edit/paste.h"
+#include "engine/edit/plain_edit.h"
 #include "engine/format/data.h"
 #include "engine/format/mask_setting.h"
 #include "engine/mask/mask_table.h"
@@ -47,19 +48,25 @@ MemoryControl::~MemoryControl()
 
 void MemoryControl::KeyDown(int32_t key)
 {
-    if (!OnKeyDown(record_, static_cast<uint32_t>(key), kFromKeyboard).kept)
+    const auto pressed = static_cast<uint32_t>(key);
+    const bool plain = IsPlainEdit(record_);
+    const Reply reply = plain ? OnPlainKeyDown(record_, pressed) : OnKeyDown(record_, pressed, kFromKeyboard);
+    if (!reply.kept)
         field_.Press(static_cast<Key>(key));
 }
 
 void MemoryControl::Type(uint32_t character)
 {
-    if (!OnChar(record_, character, kFromKeyboard).kept)
+    const bool plain = IsPlainEdit(record_);
+    const Reply reply = plain ? OnPlainChar(record_, character) : OnChar(record_, character, kFromKeyboard);
+    if (!reply.kept)
         field_.Type(static_cast<Char>(character));
 }
 
 void MemoryControl::KeyUp(int32_t key)
 {
-    OnKeyUp(record_, static_cast<uint32_t>(key));
+    if (!IsPlainEdit(record_))
+        OnKeyUp(record_, static_cast<uint32_t>(key));
 }
 
 template <typename Mouse>
@@ -67,7 +74,7 @@ void MemoryControl::UseMouse(Mouse mouse)
 {
     record_.carriedTo = 0;
     mouse();
-    if (IsClickCorrected(record_) && !field_.Shown().empty())
+    if (!IsPlainEdit(record_) && IsClickCorrected(record_) && !field_.Shown().empty())
         CorrectClick(record_);
 }
 
@@ -83,7 +90,10 @@ void MemoryControl::Drag(int32_t from, int32_t to)
 
 void MemoryControl::Paste()
 {
-    PasteClipboard(record_);
+    if (IsPlainEdit(record_))
+        field_.Paste();
+    else
+        PasteClipboard(record_);
 }
 
 void MemoryControl::Select(int32_t anchor, int32_t caret)

@@ -77,6 +77,7 @@ public:
     void KeepLayout() override { Tell(FieldEvent::Layout); }
     void Repaint() override { Tell(FieldEvent::Repaint); }
     void RepaintSpin() override { Tell(FieldEvent::RepaintSpin); }
+    bool IsModified() const override { return modified_; }
     void SetModified() override { modified_ = true; }
     void Beep() override { Tell(FieldEvent::Beep); }
     void NotifyFull() override { Tell(FieldEvent::Full); }
@@ -101,7 +102,6 @@ public:
     void Replace(const Char* text, bool canUndo);
     int32_t Limit() const { return limit_; }
     void SetLimit(int32_t characters);  // 0 or less: none
-    bool IsModified() const { return modified_; }
     void SetModifiedFlag(bool modified) { modified_ = modified; }
     bool CanUndo() const { return insertedCount_ > 0 || !removed_.empty(); }
     void ForgetUndo();

@@ -80,12 +80,15 @@ int32_t WINAPI ZTE_Init(HWND hwnd, const EditInitParams* params);
 void WINAPI ZTE_SetAutoskip(HWND hwnd, uint32_t on);
 
 /* Narrows the formatting rectangle of a control with a spin, so that text never runs under the arrows. Setting data does
- * this by itself; call it after changing the formatting rectangle from outside. */
+ * this by itself; call it after changing the formatting rectangle from outside. Controls of one line take no formatting
+ * rectangle: their right margin holds the spin's strip, beside the host's own margin, of which alone EM_SETMARGINS and
+ * EM_GETMARGINS speak. */
 void WINAPI ZTE_UtilSetFormatRect(HWND hwnd);
 
 /* ---- Mask and data ------------------------------------------------------------------------------------------------- */
 
-/* Installs an edit mask and shows the type's empty value under it.
+/* Installs an edit mask and shows the type's empty value under it. A string control with an empty mask, its values not shown
+ * through a code table, is a plain edit: all that the user does goes to the standard edit control underneath.
  *
  * mask      mask text or one of the keywords "[date]", "[time]", "[date] [time]", "[currency(n)]" (n digits, at most 16);
  *           null counts as empty. Borrowed for the call. The part of a number's mask before its point is the room for what

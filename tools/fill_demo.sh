@@ -39,7 +39,7 @@ spinnumber|hold:1|[345][05]|[345][05]
 spindec|keys:Up Up Down|20.90|20.90
 spindate|keys:Home Right Right Right Up Up|12/01/2026|2026-12-01
 spintime|down:1|10:30 AM|10:30:00:000000
-spincode|up:3|Wednesday|3'
+spincode|up:2|Wednesday|3'
 
 # wait_for SECONDS COMMAND...: until the command succeeds.
 wait_for()

@@ -9,6 +9,7 @@
 #include "win32/life_guard.h"
 #include "win32/record_store.h"
 #include "win32/regional_settings.h"
+#include "win32/spin_layout.h"
 #include "win32/spin_window.h"
 
 namespace zte {
@@ -37,6 +38,8 @@ void SetUpContents(EditInstance& edit, const EditInitParams& params)
 
 int32_t SetUpControl(HWND hwnd, const EditInitParams& params)
 {
+    if (EditInstance* former = GetEditInstance(hwnd))
+        WhileAlive(*former, [&] { GiveMarginBack(*former); });
     DiscardRecord(hwnd);
     EditInstance& edit = NewRecord(hwnd, params);
     return WhileAlive(edit, 0, [&] {

@@ -40,6 +40,7 @@ Reply PassOnAndKeepTextOffSpin(EditInstance& edit, UINT message, WPARAM wParam, 
 {
     const LRESULT result = FieldOf(edit).ToBase(message, wParam, lParam);
     KeepTextOffSpin(edit);
+    ShowCaretBesideSpin(edit);
     return Keep(result);
 }
 
@@ -79,11 +80,28 @@ Reply OnPaint(EditInstance& edit)
     return kPassOn;
 }
 
-// The base sees the font twice: kept, hosts that watch the edit underneath rely on it.
+// The base sees the font twice: kept, hosts that watch the edit underneath rely on it. It may set margins that go with the font.
 Reply OnSetFont(EditInstance& edit, WPARAM wParam, LPARAM lParam)
 {
+    GiveMarginBack(edit);
     CallBaseEdit(WindowOf(edit), WM_SETFONT, wParam, lParam);
     return PassOnAndKeepTextOffSpin(edit, WM_SETFONT, wParam, lParam);
+}
+
+Reply OnSetMargins(EditInstance& edit, WPARAM which, LPARAM margins)
+{
+    if (!edit.hwndSpin || (which & EC_RIGHTMARGIN) == 0)
+        return kPassOn;
+    GiveMarginBack(edit);
+    return PassOnAndKeepTextOffSpin(edit, EM_SETMARGINS, which, margins);
+}
+
+Reply OnGetMargins(EditInstance& edit)
+{
+    if (!edit.hwndSpin)
+        return kPassOn;
+    const LRESULT margins = FieldOf(edit).ToBase(EM_GETMARGINS, 0, 0);
+    return Keep(MAKELONG(LOWORD(margins), HostMargin(edit)));
 }
 
 }  // namespace zte

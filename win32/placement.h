@@ -13,4 +13,8 @@ Reply OnFocus(EditInstance& edit);
 Reply OnPaint(EditInstance& edit);
 Reply OnSetFont(EditInstance& edit, WPARAM wParam, LPARAM lParam);
 
+// The host sets and reads margins of its own, as if no spin stood in the right one.
+Reply OnSetMargins(EditInstance& edit, WPARAM which, LPARAM margins);
+Reply OnGetMargins(EditInstance& edit);
+
 }  // namespace zte

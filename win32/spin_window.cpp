@@ -40,9 +40,11 @@ void OnDestroy(HWND spin, EditInstance& edit)
     SetFlag(edit, SPIN_UP | SPIN_DOWN | SPIN_TRACKING | SPIN_UP_HELD | SPIN_DOWN_HELD, false);
     DropFaces(edit);
     DropSpinTexts(edit);
-    if (edit.hwndSpin == spin)
-        edit.hwndSpin = nullptr;
     DetachEditInstance(spin);
+    if (edit.hwndSpin != spin)
+        return;
+    edit.hwndSpin = nullptr;
+    GiveMarginBack(edit);
 }
 
 void OnPaint(HWND spin, const EditInstance& edit)
@@ -177,8 +179,11 @@ void DropFace(void*& face)
 // A host may have created it already, in a notification of the control's first text.
 void CreateHiddenSpin(EditInstance& edit)
 {
-    if (!edit.hwndSpin)
-        CreateSpinWindow(edit, WS_CHILD, {});
+    if (edit.hwndSpin)
+        return;
+    CreateSpinWindow(edit, WS_CHILD, {});
+    KeepTextOffSpin(edit);
+    ShowCaretBesideSpin(edit);
 }
 
 void CreateSpin(EditInstance& edit)
@@ -192,8 +197,10 @@ void CreateSpin(EditInstance& edit)
     RECT place = client;
     place.left = client.right - SpinWidthForHeight(static_cast<int16_t>(client.bottom - client.top));
     CreateSpinWindow(edit, WS_CHILD | WS_VISIBLE, place);
+    KeepTextOffSpin(edit);
     client.right = place.left;
     SetFormatRect(edit, client, text);
+    ShowCaretBesideSpin(edit);
 }
 
 void DestroySpin(EditInstance& edit)

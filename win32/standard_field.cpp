@@ -196,6 +196,11 @@ void StandardField::PressDelete(KeyData keyData)
     ToBase(WM_KEYDOWN, VK_DELETE, keyData);
 }
 
+bool StandardField::IsModified() const
+{
+    return CallBaseEdit(Window(), EM_GETMODIFY, 0, 0) != 0;
+}
+
 void StandardField::SetModified()
 {
     CallBaseEdit(Window(), EM_SETMODIFY, TRUE, 0);
@@ -223,7 +228,7 @@ void StandardField::SetRedraw(bool on)
 void StandardField::KeepLayout()
 {
     if (Has(edit_, HAS_SPIN))
-        NarrowFormatRect(Window());
+        KeepTextOffSpin(edit_);
 }
 
 void StandardField::Repaint()

@@ -33,6 +33,7 @@ public:
     void CopySelection() override;
     void PressArrow(Key key, KeyData keyData, int32_t times) override;
     void PressDelete(KeyData keyData) override;
+    bool IsModified() const override;
     void SetModified() override;
 
     void HoldShift(bool down) override;
@@ -52,6 +53,7 @@ public:
     LRESULT ToBase(UINT message, WPARAM wParam, LPARAM lParam);
     void ToControl(UINT message, WPARAM wParam, LPARAM lParam);
 
+    uint16_t stripInMargin = 0;  // pixels of the right margin that the spin's strip takes, beside the host's own
     LifeGuard* guard = nullptr;  // innermost entry into the library that works on this control
 
 private:

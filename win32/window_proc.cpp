@@ -1,5 +1,6 @@
 // The window procedure of the masked edit: finds the record, routes the message, and keeps it or passes it on.
 #include "engine/edit/paste.h"
+#include "engine/edit/plain_edit.h"
 #include "win32/creation.h"
 #include "win32/life_guard.h"
 #include "win32/mouse.h"
@@ -29,6 +30,30 @@ Reply OnTextSet(EditInstance& edit)
     return kPassOn;
 }
 
+// What a user does.
+bool IsInput(UINT message)
+{
+    switch (message) {
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+    case WM_CHAR:
+    case WM_LBUTTONUP:
+    case WM_PASTE: return true;
+    default: return false;
+    }
+}
+
+// What a user does to a control that is told from a plain edit by nothing.
+Reply OnPlainInput(EditInstance& edit, UINT message, WPARAM wParam)
+{
+    const auto number = static_cast<uint32_t>(wParam);
+    switch (message) {
+    case WM_KEYDOWN: return OnPlainKeyDown(edit, number);
+    case WM_CHAR: return OnPlainChar(edit, number);
+    default: return kPassOn;
+    }
+}
+
 // Routes a message that the control handles. False for all others, the library's own EM_ messages among them: they are passed
 // on without a look-up of the record.
 template <typename Handler>
@@ -52,6 +77,8 @@ bool Dispatch(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, Handler&& h
     case EM_REPLACESEL:
     case WM_SETTEXT: return !StandardField::TakeOwnMessage(hwnd) && handle(OnTextSet);
     case WM_PASTE: return handle([](EditInstance& edit) { return OnPaste(edit); });
+    case EM_SETMARGINS: return handle([=](EditInstance& edit) { return OnSetMargins(edit, wParam, lParam); });
+    case EM_GETMARGINS: return handle([](EditInstance& edit) { return OnGetMargins(edit); });
     default: return false;
     }
 }
@@ -63,7 +90,9 @@ bool IsKept(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resu
         EditInstance* edit = GetEditInstance(hwnd);
         if (!edit)
             return false;
-        const Reply reply = WhileAlive(*edit, Keep(0), [&] { return work(*edit); });
+        const bool isPlain = IsInput(message) && IsPlainEdit(*edit);
+        const Reply reply =
+            WhileAlive(*edit, Keep(0), [&] { return isPlain ? OnPlainInput(*edit, message, wParam) : work(*edit); });
         result = reply.result;
         return reply.kept;
     });

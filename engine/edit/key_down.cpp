@@ -91,17 +91,6 @@ bool HandleArrow(EditInstance& edit, Key key, KeyData keyData)
     return true;
 }
 
-bool HandleSpinKey(EditInstance& edit, Key key)
-{
-    if (!edit.hwndSpin || edit.field->RefusesInput())
-        return false;
-    edit.flags |= key == KEY_UP ? SPIN_UP : SPIN_DOWN;
-    SpinStep(edit);
-    SetFlag(edit, SPIN_UP | SPIN_DOWN, false);
-    edit.field->RepaintSpin();
-    return true;
-}
-
 bool HandleInsert(EditInstance& edit)
 {
     if (!edit.field->IsHeld(KEY_SHIFT))
@@ -117,6 +106,17 @@ bool MovesOrDeletes(int32_t key)
 
 }  // namespace
 
+bool HandleSpinKey(EditInstance& edit, int32_t key)
+{
+    if ((key != KEY_UP && key != KEY_DOWN) || !edit.hwndSpin || edit.field->RefusesInput())
+        return false;
+    edit.flags |= key == KEY_UP ? SPIN_UP : SPIN_DOWN;
+    SpinStep(edit);
+    SetFlag(edit, SPIN_UP | SPIN_DOWN, false);
+    edit.field->RepaintSpin();
+    return true;
+}
+
 bool HandleKeyDown(EditInstance& edit, int32_t key, KeyData keyData)
 {
     if (MovesOrDeletes(key))
@@ -127,7 +127,7 @@ bool HandleKeyDown(EditInstance& edit, int32_t key, KeyData keyData)
     case KEY_LEFT:
     case KEY_RIGHT: return HandleArrow(edit, static_cast<Key>(key), keyData);
     case KEY_UP:
-    case KEY_DOWN: return HandleSpinKey(edit, static_cast<Key>(key));
+    case KEY_DOWN: return HandleSpinKey(edit, key);
     case KEY_INSERT: return HandleInsert(edit);
     default: return false;
     }

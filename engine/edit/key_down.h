@@ -8,6 +8,9 @@ namespace zte {
 // True when the key was consumed, false to leave it to the edit control underneath.
 bool HandleKeyDown(EditInstance& edit, int32_t key, KeyData keyData);
 
+// The same for Up and Down alone, which step a spin whether or not there is a mask.
+bool HandleSpinKey(EditInstance& edit, int32_t key);
+
 // Copies the selection and deletes it as the Delete key does, for keys that the field underneath takes otherwise. Without a
 // selection it is the Delete key. A control that takes no input is copied from, and keeps its text.
 void CutByKey(EditInstance& edit, KeyData keyData);

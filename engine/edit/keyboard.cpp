@@ -10,7 +10,6 @@
 #include "engine/edit/paste.h"
 #include "engine/edit/type_ahead.h"
 #include "engine/format/data.h"
-#include "engine/text/ascii.h"
 
 namespace zte {
 
@@ -31,21 +30,6 @@ constexpr uint32_t kCtrlBackspace = 127;
 bool IsCopy(uint32_t typed)
 {
     return typed == kCtrlC || typed == kCtrlD;
-}
-
-// Characters that stand for themselves, and Backspace: they alone take the place of a selection or of a text that the spin put
-// there.
-bool EditsText(uint32_t typed)
-{
-    return typed == kBackspace || !IsControl(static_cast<Char>(typed));
-}
-
-// A string without a mask whose values are shown as they stand, or with a code table that nobody chooses from by typing.
-bool IsPlainEdit(const EditInstance& edit)
-{
-    if (HasMask(edit))
-        return false;
-    return !Has(edit, CODE_SPIN) || (edit.dataType == DT_STRING && !Has(edit, CODE_PICKLIST));
 }
 
 // Never beeped at: dialogs give them other meanings.
@@ -143,14 +127,14 @@ std::optional<Reply> Obey(EditInstance& edit, uint32_t typed, KeyData keyData)
 // selection: before the character; the caret where one was deleted.
 Reply Enter(EditInstance& edit, uint32_t typed, Selection selection)
 {
-    if (IsPlainEdit(edit)) {
-        SetFlag(edit, SPUN, false);
-        return kPassOn;
-    }
     if (IsPickList(edit)) {
         SetFlag(edit, SPUN, false);
         TypeAhead(edit, static_cast<Char>(typed));
         return Keep();
+    }
+    if (!HasMask(edit)) {
+        SetFlag(edit, SPUN | CODE_POSITIONED, false);
+        return kPassOn;
     }
     if (EndSpunText(edit))
         selection = edit.field->ReadSelection();
@@ -186,10 +170,8 @@ void ForgetBackspace(EditInstance& edit)
 // A control character leaves the text alone: what is selected, and what the spin or the code table shows, too.
 Reply TakeControlChar(EditInstance& edit, uint32_t typed, KeyData keyData)
 {
-    if (IsPlainEdit(edit)) {
-        SetFlag(edit, SPUN, false);
+    if (!HasMask(edit) && !IsPickList(edit))
         return kPassOn;
-    }
     if (const std::optional<Reply> reply = Obey(edit, typed, keyData))
         return *reply;
     const Selection selection = edit.field->ReadSelection();
@@ -208,9 +190,9 @@ Reply OnKeyDown(EditInstance& edit, uint32_t key, KeyData keyData)
     ForgetBackspace(edit);
     if (key >> 16 == KEY_TAB)
         return Keep(0);
-    if (!HasMask(edit))
-        return kPassOn;
-    return HandleKeyDown(edit, static_cast<int32_t>(key), keyData) ? Keep() : kPassOn;
+    const auto pressed = static_cast<int32_t>(key);
+    const bool handled = HasMask(edit) ? HandleKeyDown(edit, pressed, keyData) : HandleSpinKey(edit, pressed);
+    return handled ? Keep() : kPassOn;
 }
 
 Reply OnKeyUp(EditInstance& edit, uint32_t key)
@@ -233,7 +215,7 @@ Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData)
     }
     if (typed == kCtrlBackspace && Has(edit, BACKSPACE_DONE))
         typed = kBackspace;  // the key-down was that of a Backspace
-    if (!EditsText(typed))
+    if (!IsTyped(typed))
         return Finish(edit, TakeControlChar(edit, typed, keyData));
     // A number is changed at once: what is selected goes together with what takes its place.
     const Selection selection = edit.field->ReadSelection();

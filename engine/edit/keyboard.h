@@ -16,6 +16,12 @@ constexpr Reply Keep(intptr_t result = 1)
     return {true, result};
 }
 
+// Printable characters and Backspace: what enters or deletes text, as the characters of the Ctrl key do not.
+constexpr bool IsTyped(uint32_t character)
+{
+    return (character >= ' ' && character != 0x7F) || character == KEY_BACKSPACE;
+}
+
 // key and typed as the messages carry them: more than a key's or a character's number counts.
 Reply OnKeyDown(EditInstance& edit, uint32_t key, KeyData keyData);
 Reply OnKeyUp(EditInstance& edit, uint32_t key);

@@ -3,6 +3,7 @@
 
 #include "engine/format/code_table.h"
 #include "engine/services.h"
+#include "engine/user_change.h"
 
 namespace zte {
 
@@ -33,7 +34,9 @@ void TypeAhead(EditInstance& edit, Char typed)
     if (!entry)
         entry = FindFrom(cycle, services::First(cycle), typed);
     if (entry)
-        ShowText(edit, Text(entry->display).c_str());  // a copy: the parent may set another table meanwhile
+        AsUserChange(edit, [&] {
+            ShowText(edit, Text(entry->display).c_str());
+        });  // a copy: the table may be replaced meanwhile
     else
         services::Seek(cycle, former);
 }

@@ -24,6 +24,12 @@ void KeepLayout(EditInstance& edit, const FieldLayout& layout)
     SetFlag(edit, AMPM, layout.hasAmPm);
 }
 
+// The parent of a new plain edit that is empty hears of no change.
+bool ShowsPlainEmptyText(const EditInstance& edit)
+{
+    return edit.dataType == DT_STRING && !HasMask(edit) && !Has(edit, CODE_SPIN) && edit.field->ReadText().empty();
+}
+
 void ShowEmptyValue(EditInstance& edit)
 {
     if (IsNumeric(edit.dataType)) {
@@ -49,10 +55,13 @@ int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
     edit.decimalPlaces = edit.table->number.shape.fractionPlaces;
     SetFlag(edit, PERCENT, edit.table->number.shape.percent);
     SetFlag(edit, SPUN, false);
+    const bool isNew = edit.maskJustSet == 0;
     edit.maskJustSet = 1;
     edit.carriedTo = 0;
     ChooseEditMode(edit);
-    if (!Has(edit, CODE_SPIN))
+    if (isNew && ShowsPlainEmptyText(edit))
+        edit.formatFlags = FORMAT_DONE;
+    else if (!Has(edit, CODE_SPIN))
         ShowEmptyValue(edit);
     return chosen.asGiven ? 1 : 0;
 }

@@ -52,7 +52,7 @@ const PasteCase kRows[] = {
     {"ATwelveHourTime",                   "HH:MM AM/PM",    DT_TIME,     "|01:00 AM",       "02:30 PM",         "02:30 PM",       0},
     {"ACanonicalDateTime",                "MM/DD/YY HH:MM", DT_DATETIME, "|01/01/00 01:00", "1995-07-04 14:30", "07/04/95 14:30", 0},
     {"AStringAsShown",                    "(###) ###",      DT_STRING,   "|(555) 123",      "(777) 456",        "(777) 456",      0},
-    {"AStringWithoutAMask",               "",               DT_STRING,   "a|b",             "whole",            "whole",          0},
+    {"AStringWithoutAMaskTakesItIn",      "",               DT_STRING,   "a|b",             "whole",            "awholeb",        0},
 };
 // clang-format on
 

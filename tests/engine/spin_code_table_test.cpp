@@ -255,6 +255,171 @@ TEST_F(Cycling, SurvivesATableReplacedInItsNotice)
     control_->AcceptBlocks();
 }
 
+constexpr char kWeekdays[] = "Monday\tMO/Tuesday\tTU/Wednesday\tWE/Thursday\tTH/Friday\tFR";
+constexpr uint32_t kThroughCodes = ZTEO_SPIN | ZTEO_CODE_DISPLAY;
+constexpr uint32_t kPickList = kThroughCodes | ZTEO_CODE_PICK;
+
+// A list of weekdays; the first press goes on from the day shown, whatever has brought it there.
+struct Weekdays {
+    const char* name;
+    const char* mask;
+    uint32_t options;
+};
+void PrintTo(const Weekdays& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class WeekdayList : public CodeTableTest, public testing::WithParamInterface<Weekdays> {
+protected:
+    void Create(const char* data)
+    {
+        Config config;
+        config.mask = GetParam().mask;
+        config.type = DT_STRING;
+        config.options = GetParam().options;
+        config.increment = 1;
+        config.codes = kWeekdays;
+        config.data = data;
+        Make(config);
+    }
+};
+
+TEST_P(WeekdayList, GoesOnFromTheDayItWasCreatedWith)
+{
+    Create("WE");
+    Up();
+    EXPECT_EQ(Text(), "Thursday");
+    Create("WE");
+    Down();
+    EXPECT_EQ(Text(), "Tuesday");
+}
+
+TEST_P(WeekdayList, GoesOnFromTheDaySet)
+{
+    Create(nullptr);
+    control_->SetDataString("FR");
+    Up();
+    EXPECT_EQ(Text(), "Monday");
+}
+
+TEST_P(WeekdayList, GoesOnAfterAClick)
+{
+    Create("WE");
+    Up();
+    control_->Click(2);
+    Up();
+    EXPECT_EQ(Text(), "Friday");
+    control_->Click(2);
+    Down();
+    EXPECT_EQ(Text(), "Thursday");
+}
+
+TEST_P(WeekdayList, GoesOnFromATextThatTheProgramHasPutThere)
+{
+    Create(nullptr);
+    control_->SetText("Tuesday");
+    Up();
+    EXPECT_EQ(Text(), "Wednesday");
+}
+
+TEST_P(WeekdayList, GoesOnAfterTheValueWasRead)
+{
+    Create("WE");
+    EXPECT_EQ(Value(), "WE");
+    Up();
+    EXPECT_EQ(Text(), "Thursday");
+}
+
+TEST_P(WeekdayList, BeginsAtItsEndWhereNoDayIsShown)
+{
+    Create(nullptr);
+    Up();
+    EXPECT_EQ(Text(), "Monday");
+    Create(nullptr);
+    Down();
+    EXPECT_EQ(Text(), "Friday");
+    control_->SetText("Someday");
+    control_->Click(1);  // the cursor stands nowhere
+    Up();
+    EXPECT_EQ(Text(), "Monday");
+}
+
+class PickedWeekday : public WeekdayList {};
+class TypedWeekday : public WeekdayList {};
+
+TEST_P(PickedWeekday, GoesOnFromAnEntryChosenByItsLetter)
+{
+    Create(nullptr);
+    Type("T");
+    EXPECT_EQ(Text(), "Tuesday");
+    Up();
+    EXPECT_EQ(Text(), "Wednesday");
+    control_->Click(1);
+    Type("M");
+    Down();
+    EXPECT_EQ(Text(), "Friday");
+}
+
+TEST_P(TypedWeekday, GoesOnFromADayTyped)
+{
+    Create("WE");
+    SelectAll();
+    Type("Monday");
+    EXPECT_EQ(Text().substr(0, 6), "Monday");
+    Up();
+    EXPECT_EQ(Text(), "Tuesday");
+}
+
+TEST_P(TypedWeekday, GoesOnFromADataValueTyped)
+{
+    Create("WE");
+    SelectAll();
+    Type("TH");
+    Up();
+    EXPECT_EQ(Text(), "Friday");
+}
+
+TEST_P(TypedWeekday, BeginsAtItsEndAfterTypingThatIsNoDay)
+{
+    Create("WE");
+    Up();
+    SelectAll();
+    Type("q");
+    Down();
+    EXPECT_EQ(Text(), "Friday");
+}
+
+constexpr Weekdays kTyped[] = {{"UnderAMask", "XXXXXXXXX", kThroughCodes}, {"WithoutAMask", "", kThroughCodes}};
+constexpr Weekdays kPicked[] = {{"PickListUnderAMask", "XXXXXXXXX", kPickList}, {"PickListWithoutAMask", "", kPickList}};
+INSTANTIATE_TEST_SUITE_P(Typed, WeekdayList, testing::ValuesIn(kTyped), RowName<Weekdays>);
+INSTANTIATE_TEST_SUITE_P(Picked, WeekdayList, testing::ValuesIn(kPicked), RowName<Weekdays>);
+INSTANTIATE_TEST_SUITE_P(Lists, TypedWeekday, testing::ValuesIn(kTyped), RowName<Weekdays>);
+INSTANTIATE_TEST_SUITE_P(Lists, PickedWeekday, testing::ValuesIn(kPicked), RowName<Weekdays>);
+
+TEST_F(CodeTableTest, GoesOnFromAValueShownAmongLiterals)
+{
+    MakeCodeTable("(XX)", DT_STRING, "One\taa/Two\tbb/Three\tcc", SPINSTYLE_CODETABLE);
+    control_->SetText("(bb)");
+    Up();
+    EXPECT_EQ(Text(), "Three");
+}
+
+TEST_F(CodeTableTest, GoesOnFromANumberShown)
+{
+    MakeCodeTable("##0", DT_NUMBER, "few\t3/many\t100/all\t999", SPINSTYLE_CODETABLE);
+    control_->SetText("100");
+    Up();
+    EXPECT_EQ(Text(), "all");
+}
+
+TEST_F(CodeTableTest, ABlankFieldShowsNoValue)
+{
+    MakeCodeTable("XX", DT_STRING, "One\t/Two\t2", SPINSTYLE_CODETABLE);
+    Up();
+    EXPECT_EQ(Text(), "One");
+}
+
 class TypeAhead : public CodeTableTest {
 protected:
     void SetUp() override
@@ -321,6 +486,26 @@ TEST_F(TypeAhead, SendsNoNoticeOfItsOwn)
     control_->Forget();
     Type("q");
     EXPECT_EQ(Changes(), 0);
+}
+
+TEST_F(TypeAhead, ByTheUserSetsTheModifiedFlag)
+{
+    control_->SetData("1");
+    EXPECT_FALSE(control_->IsModified());
+    Type("T");
+    EXPECT_TRUE(control_->IsModified());
+    control_->SetData("1");
+    EXPECT_FALSE(control_->IsModified());
+    Type("q");
+    EXPECT_FALSE(control_->IsModified()) << "nothing was chosen";
+}
+
+TEST_F(TypeAhead, OfTheEntryShownChangesNothing)
+{
+    control_->SetData("5");
+    Type("T");
+    EXPECT_EQ(Text(), "Teal");
+    EXPECT_FALSE(control_->IsModified());
 }
 
 TEST_F(TypeAhead, WithoutATableDoesNothing)

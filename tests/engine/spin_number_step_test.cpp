@@ -324,6 +324,143 @@ TEST_F(EveryStep, MarksTheTextAsSpun)
     EXPECT_FALSE(Record().spun);
 }
 
+TEST_F(EveryStep, OfATextWithoutAMaskMovesNothingButNotifies)
+{
+    MakeSpin("", DT_STRING, nullptr, 1, "abcd");
+    PutCaret(2);
+    Up();
+    Down();
+    EXPECT_EQ(Shown(), "ab|cd");
+    EXPECT_EQ(control_->Notices(), std::vector<Notice>{Notice::Changed});
+    EXPECT_FALSE(control_->IsModified());
+    EXPECT_TRUE(Record().spun);
+    Type("x");
+    EXPECT_FALSE(Record().spun);
+    EXPECT_EQ(Shown(), "abx|cd");
+}
+
+TEST_F(EveryStep, WithoutASpinLeavesTheArrowsToTheEdit)
+{
+    Config config;
+    config.mask = "";
+    config.type = DT_STRING;
+    config.data = "abcd";
+    Make(config);
+    PutCaret(2);
+    Up();
+    EXPECT_EQ(Shown(), "a|bcd");
+}
+
+struct ModifiedCase {
+    const char* name;
+    const char* mask;
+    int32_t type;
+    const char* range;
+    const char* data;
+    const char* codes;
+};
+void PrintTo(const ModifiedCase& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class StepModifies : public SpinTest, public testing::WithParamInterface<ModifiedCase> {};
+
+TEST_P(StepModifies, WhatItChangesUntilTheProgramSetsData)
+{
+    const ModifiedCase& row = GetParam();
+    MakeSpin(row.mask, row.type, row.range, 1, row.data);
+    SetSpin(1, row.range, row.codes, row.codes ? SPINSTYLE_CODETABLE : 0);
+    control_->SetDataString(row.data);
+    control_->Select(0, 0);
+    EXPECT_FALSE(control_->IsModified());
+    const std::string before = Text();
+    bool seen = false;
+    control_->OnNotice([&] { seen = control_->IsModified(); });
+    Up();
+    control_->OnNotice(nullptr);
+    EXPECT_NE(Text(), before);
+    EXPECT_TRUE(control_->IsModified());
+    EXPECT_TRUE(seen) << "when the parent hears of the step";
+    EXPECT_FALSE(control_->CanUndo());
+    control_->SetDataString(row.data);
+    EXPECT_FALSE(control_->IsModified());
+}
+
+// clang-format off
+const ModifiedCase kModifiedRows[] = {
+    {"ANumber",    "#,##0.00",            DT_NUMBER,   "1~9",                     "5",                nullptr           },
+    {"ADecimal",   "#,##0.00",            DT_DECIMAL,  "1~9",                     "5",                nullptr           },
+    {"ADate",      "MM/DD/YYYY",          DT_DATE,     nullptr,                   "1995-07-04",       nullptr           },
+    {"ADateAtEnd", "MM/DD/YYYY",          DT_DATE,     "1995-01-01~1995-07-31",   "1995-07-04",       nullptr           },
+    {"ATime",      "HH:MM AM/PM",         DT_TIME,     nullptr,                   "13:30",            nullptr           },
+    {"ADateTime",  "MM/DD/YYYY HH:MM",    DT_DATETIME, nullptr,                   "1995-07-04 13:30", nullptr           },
+    {"ACode",      "XXXX",                DT_STRING,   nullptr,                   "R",                "Red\tR/Green\tG" },
+    {"APlainCode", "",                    DT_STRING,   nullptr,                   "R",                "Red\tR/Green\tG" },
+};
+// clang-format on
+INSTANTIATE_TEST_SUITE_P(Types, StepModifies, testing::ValuesIn(kModifiedRows), RowName<ModifiedCase>);
+
+TEST_F(EveryStep, ThatIsRefusedModifiesNothing)
+{
+    MakeSpin("##0", DT_NUMBER, "1~9", 1, "9");
+    Up();
+    EXPECT_FALSE(control_->IsModified());
+}
+
+TEST_F(EveryStep, ThatIsRefusedLeavesWhatTheUserHasModified)
+{
+    MakeSpin("XXXX", DT_STRING, nullptr, 1, nullptr);
+    SetSpin(1, nullptr, "Red\tR", SPINSTYLE_CODETABLE);
+    Up();
+    EXPECT_TRUE(control_->IsModified());
+    Up();
+    EXPECT_EQ(Text(), "Red");
+    EXPECT_TRUE(control_->IsModified());
+}
+
+class SpunNumberText : public SpinTest {};
+
+TEST_F(SpunNumberText, EndsWithTheFirstTypedCharacter)
+{
+    struct Row {
+        const char* mask;
+        int32_t type;
+        const char* data;
+    };
+    constexpr Row kRows[] = {{"##0", DT_NUMBER, "7"},     {"#,##0.00", DT_DECIMAL, "7"}, {"MM/DD/YYYY", DT_DATE, "1995-07-04"},
+                             {"HH:MM", DT_TIME, "10:20"}, {"AAAA", DT_STRING, "abcd"},   {"", DT_STRING, "abcd"}};
+    for (const Row& row : kRows) {
+        MakeSpin(row.mask, row.type, nullptr, 1, row.data);
+        Up();
+        EXPECT_TRUE(Record().spun) << row.mask;
+        Play("{Home}");
+        EXPECT_TRUE(Record().spun) << row.mask;
+        Type("1");
+        EXPECT_FALSE(Record().spun) << row.mask;
+    }
+}
+
+TEST_F(SpunNumberText, EndsWithANewMask)
+{
+    MakeSpin("##0", DT_NUMBER, nullptr, 1, "7");
+    Up();
+    control_->SetMask("#,##0.00", DT_NUMBER);
+    EXPECT_FALSE(Record().spun);
+    EXPECT_NE(Record().formatFlags, 0u);
+}
+
+TEST_F(SpunNumberText, OfACodeTableIsNotEmptiedByControlCharacters)
+{
+    MakeCodeTable("XXXXXX", DT_STRING, "Red\tR/Green\tG", SPINSTYLE_CODETABLE);
+    Up();
+    Type("\x1b\t\r\x1a");
+    EXPECT_EQ(Text(), "Red");
+    EXPECT_TRUE(Record().spun);
+    Type("q");
+    EXPECT_EQ(Text(), "q") << "the text of the table gives way";
+}
+
 TEST_F(EveryStep, LeavesNoDirectionBehind)
 {
     MakeSpin("##0", DT_NUMBER, nullptr, 1, "7");

@@ -98,6 +98,30 @@ TEST_F(SpinSettings, ChangeNothingThatIsShown)
     EXPECT_TRUE(control_->Notices().empty());
 }
 
+TEST_F(SpinSettings, ReplaceTheCodeTableWithoutLosingBlocks)
+{
+    struct Settings {
+        const char* range;
+        const char* codes;
+    };
+    constexpr Settings kSettings[] = {{nullptr, "One\t1/Two\t2/Without/Twice\ta\tb"}, {"1~9", "A\t1"}, {"5", nullptr}, {"", ""}};
+    std::string many;
+    for (int i = 0; i < 120; ++i)
+        many += "display" + std::to_string(i) + "\t" + std::to_string(i) + "/";
+    control_->SetSpin(1, "1~5", nullptr, 0);
+    const uint32_t before = control_->Blocks();
+    for (int i = 0; i < 10000; ++i) {
+        const Settings& settings = kSettings[i % 4];
+        control_->SetSpin(1, settings.range, i % 500 == 0 ? many.c_str() : settings.codes, SPINSTYLE_CODETABLE);
+    }
+    control_->SetSpin(1, "1~5", nullptr, 0);
+    EXPECT_EQ(control_->Blocks(), before);
+    control_->SetSpin(1, nullptr, many.c_str(), 0);
+    control_->DestroySpin();
+    EXPECT_EQ(control_->Blocks(), before - 1) << "the range goes with the spin as well";
+    control_->AcceptBlocks();
+}
+
 TEST_F(SpinSettings, ReplaceTheRangeWithoutLosingBlocks)
 {
     const uint32_t before = control_->Blocks();

@@ -108,10 +108,24 @@ void Control::TypeAhead(char c)
     edit_.SetText(cycle_[static_cast<size_t>(found)].display);
 }
 
+// The entry that someone who looks at the control sees: by its display text, or by the data value that is shown.
+bool Control::SeesEntry()
+{
+    const auto trimmed = [](std::string text) { return text.erase(text.find_last_not_of(' ') + 1); };
+    const std::string seen = trimmed(Text());
+    if (Find(&CodeEntry::display, Text()) != nullptr)
+        return true;
+    if (seen.empty())
+        return false;
+    const std::string fields = type_ == kString ? trimmed(ReadFields(Text())) : "";
+    return Find(&CodeEntry::display, seen) != nullptr || Find(&CodeEntry::value, seen) != nullptr ||
+           (!fields.empty() && Find(&CodeEntry::value, fields) != nullptr);
+}
+
 void Control::SpinCodeTable(bool up)
 {
     const int count = static_cast<int>(cycle_.size());
-    const bool atEntry = positioned_ && cursor_ >= 0;
+    const bool atEntry = positioned_ ? cursor_ >= 0 : SeesEntry();
     positioned_ = true;
     if (count == 0)
         return;

@@ -270,6 +270,7 @@ private:
     // spin
     void SpinStep(bool up);
     void SpinCodeTable(bool up);
+    bool SeesEntry();
     void SpinNumber(bool up);
     void SpinDate(bool up);
     const CodeEntry* Find(const std::string CodeEntry::*part, const std::string& text);

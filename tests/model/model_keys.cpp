@@ -23,7 +23,7 @@ void Control::KeyDown(int key, bool shift)
     const bool steps = key == kUp || key == kDown;
     const std::string before = Text();
     const bool wasModified = modified_;
-    if (mask_.empty() || (refuses && steps) || !HandleKeyDown(key, shift, true))
+    if ((mask_.empty() && !steps) || (refuses && steps) || !HandleKeyDown(key, shift, true))
         edit_.Key(key, shift);
     NoteChange(before, wasModified);
 }
@@ -177,11 +177,14 @@ void Control::SetSelection(int start, int end)
 
 void Control::Paste(const std::string& clipboard)
 {
-    if (Refuses())
+    if (readOnly_ || (!enabled_ && !IsPlain()))
         return;
     const std::string before = Text();
     const bool wasModified = modified_;
-    PasteText(clipboard);
+    if (IsPlain())
+        edit_.Replace(clipboard);
+    else
+        PasteText(clipboard);
     NoteChange(before, wasModified);
 }
 

@@ -12,8 +12,8 @@ namespace model {
 void Control::Char(char c, bool shift)
 {
     shift_ = shift;
-    if (Refuses()) {
-        if (c == 1) {
+    if (readOnly_ || (!enabled_ && !IsPlain())) {
+        if (c == 1 && !IsPlain()) {
             ForgetTyping();
             edit_.Select(0, edit_.Length());
         }
@@ -21,7 +21,10 @@ void Control::Char(char c, bool shift)
     }
     const std::string before = Text();
     const bool wasModified = modified_;
-    TakeChar(c);
+    if (IsPlain())
+        edit_.Char(c);
+    else
+        TakeChar(c);
     NoteChange(before, wasModified);
 }
 
@@ -47,8 +50,10 @@ void Control::TakeChar(char c)
     }
     if (codeSpin_ && codePick_)
         return TypeAhead(c);
-    if (codeSpin_ && type_ == kString && mask_.empty())
+    if (codeSpin_ && type_ == kString && mask_.empty()) {
+        positioned_ = false;
         return edit_.Char(c);
+    }
     if (hasTable_ && codeSpin_ && !codePick_) {
         positioned_ = false;
         if (spun_) {

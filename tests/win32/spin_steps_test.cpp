@@ -77,13 +77,40 @@ TEST_F(StepByMouse, NotifiesInTheNameOfTheControl)
     EXPECT_EQ(form_.Notifications().back(), (Notification{EN_CHANGE, control_->id(), Window()}));
 }
 
-TEST_F(StepByMouse, OfACodeTableStartsAgainWhenTheControlWasMoved)
+TEST_F(StepByMouse, OfACodeTableGoesOnFromTheEntryShownWhenTheControlWasMoved)
 {
     MakeCodeTable("XXXXXXXX", DT_STRING, kColours, SPINSTYLE_CODETABLE);
     ZTE_FmtSetData(Window(), "G");
     SetWindowPos(Window(), nullptr, 30, 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_FALSE(HasFlag(zte::CODE_POSITIONED));
     Up();
-    EXPECT_EQ(Text(), "Red");
+    EXPECT_EQ(Text(), "Blue");
+}
+
+TEST_F(StepByMouse, SetsTheModifiedFlag)
+{
+    MakeSpin("##0", DT_NUMBER, "1~9", 1, "8");
+    PressArrow(Arrow::Up);
+    EXPECT_NE(SendMessageA(Window(), EM_GETMODIFY, 0, 0), 0);
+    ZTE_FmtSetDataString(Window(), "8");
+    EXPECT_EQ(SendMessageA(Window(), EM_GETMODIFY, 0, 0), 0);
+    Tick();
+    EXPECT_NE(SendMessageA(Window(), EM_GETMODIFY, 0, 0), 0);
+    SendMessageA(Window(), EM_SETMODIFY, FALSE, 0);
+    Tick();  // refused: the maximum is shown
+    EXPECT_EQ(SendMessageA(Window(), EM_GETMODIFY, 0, 0), 0);
+    Release();
+}
+
+TEST_F(StepByMouse, OfATextWithoutAMaskMovesNothing)
+{
+    MakeSpin("", DT_STRING, nullptr, 1, "abcd");
+    control_->Select(1, 3);
+    form_.Forget();
+    PressArrow(Arrow::Up);
+    Release();
+    EXPECT_EQ(Shown(), "a[bc]d");
+    EXPECT_EQ(Changes(), 1);
 }
 
 // While the mouse is outside the spin the timer steps with neither direction.

@@ -150,6 +150,35 @@ TEST_F(SpinWindow, TheTextSurvivesCreationAndRemoval)
     EXPECT_EQ(Spin(), nullptr);
 }
 
+// The blocks that a destroyed control leaves in its heap, with what was set on it.
+uint32_t BlocksLeft(HWND parent, uint32_t options, const char* codes)
+{
+    const SharedHeap heap = SharedHeapCreate();
+    EditInitParams params = {};
+    params.heap = heap;
+    params.maskText = "XXXX";
+    params.dataType = DT_STRING;
+    params.options = options;
+    const HWND control = CreateWindowExA(0, ZTEDIT_CLASS, "", WS_CHILD | ES_AUTOHSCROLL, 0, 0, 100, 20, parent, nullptr,
+                                         nullptr, &params);
+    for (int i = 0; i < 3; ++i)
+        ZTE_SetSpin(control, 1, nullptr, codes, SPINSTYLE_CODETABLE);
+    DestroyWindow(control);
+    const uint32_t left = SharedHeapBlockCount(heap);
+    SharedHeapDestroy(heap);
+    return left;
+}
+
+TEST_F(SpinWindow, ACodeTableGoesWithItsControl)
+{
+    std::string codes;
+    for (int i = 0; i < 120; ++i)
+        codes += "display" + std::to_string(i) + "\t" + std::to_string(i) + "/";
+    for (const uint32_t options : {0u, static_cast<uint32_t>(ZTEO_SPIN)})
+        EXPECT_EQ(BlocksLeft(form_.hwnd(), options, codes.c_str()), BlocksLeft(form_.hwnd(), options, nullptr))
+            << options;
+}
+
 TEST_F(SpinWindow, ASecondOneIsNotCreated)
 {
     MakeNumber();
