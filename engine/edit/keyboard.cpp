@@ -219,7 +219,8 @@ Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData)
         return Finish(edit, TakeControlChar(edit, typed, keyData));
     // A number is changed at once: what is selected goes together with what takes its place.
     const Selection selection = edit.field->ReadSelection();
-    const bool deleted = !IsNumeric(edit.dataType) && DeleteSelection(edit, selection);
+    const bool atOnce = IsNumeric(edit.dataType) && !IsPickList(edit);
+    const bool deleted = !atOnce && DeleteSelection(edit, selection);
     if (typed == kBackspace && Has(edit, BACKSPACE_DONE)) {
         FinishBackspace(edit);
         return Keep();

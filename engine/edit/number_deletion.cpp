@@ -16,13 +16,11 @@ void MoveToFront(NumberEdit& number)
 
 // Lays out what a deletion has left. Zeros in front that nobody typed hold no place; where nothing else is left the caret goes before
 // them. A mask of '0' alone fills up with zeros in front.
-void ShowLeft(NumberEdit& number, TypedNumber left, DigitPlace place)
+void ShowLeft(NumberEdit& number, const TypedNumber& left, DigitPlace place)
 {
-    if (!number.Mask().Grows())
-        return number.LayOut(left, place);
-    left.integer.erase(0, std::min(left.integer.find_first_not_of(Char{'0'}), left.integer.size()));
-    number.LayOut(left, place);
-    if (!place.inFraction && left.integer.empty())
+    const TypedNumber shown = number.WithoutZerosInFront(left);
+    number.LayOut(shown, place);
+    if (!place.inFraction && shown.integer.empty())
         MoveToFront(number);
 }
 

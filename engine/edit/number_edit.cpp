@@ -59,6 +59,13 @@ Text NumberEdit::HeldInteger() const
     return digits_.integer.substr(std::min(digits_.integer.find_first_not_of(Char{'0'}), digits_.integer.size()));
 }
 
+TypedNumber NumberEdit::WithoutZerosInFront(TypedNumber digits) const
+{
+    if (Mask().Grows())
+        digits.integer.erase(0, std::min(digits.integer.find_first_not_of(Char{'0'}), digits.integer.size()));
+    return digits;
+}
+
 bool NumberEdit::FitsOneMore() const
 {
     const FormatShape& shape = Mask().shape;

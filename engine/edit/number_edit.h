@@ -29,9 +29,13 @@ public:
     // No digit but zeros, and no sign: nothing that somebody typed.
     bool IsBlank() const;
 
+    // The same digits without the zeros in front that hold no place: those of a number that grows.
+    TypedNumber WithoutZerosInFront(TypedNumber digits) const;
+
     void MoveTo(int32_t caret) { caret_ = caret; }
     // Moves the caret over literals, any of which may be typed next.
     void CarryTo(int32_t caret);
+    bool IsCarried() const { return carriedTo_ != 0; }
     // Lays other digits out, with the caret at a place among them.
     void LayOut(const TypedNumber& digits, DigitPlace place);
 

@@ -14,6 +14,8 @@ namespace zte {
 
 namespace {
 
+constexpr int32_t kNoMore = INT32_MAX;  // of the literals before a number
+
 enum class Outcome {
     Taken,
     Filled,   // the last position was typed: the focus may move on
@@ -86,7 +88,7 @@ bool IsShownAtCaret(const EditInstance& edit, const NumberEdit& number, Char typ
 void LeaveLiterals(NumberEdit& number)
 {
     const ShownNumber& shown = number.Shown();
-    if (shown.Sign() >= 0 && number.Caret() <= shown.Sign() && number.Caret() >= shown.Start()) {
+    if (number.Caret() <= shown.Sign()) {
         TypedNumber unsigned_ = number.Digits();
         unsigned_.negative = false;
         return number.LayOut(unsigned_, shown.Front());
@@ -194,7 +196,7 @@ Outcome TypePoint(EditInstance& edit, NumberEdit& number)
         typed.integer = number.HeldInteger();
     const int32_t dropped = std::min(shown.PlaceAt(number.Caret()).digits, Length(typed.integer));
     typed.integer.resize(typed.integer.size() - static_cast<size_t>(dropped));
-    number.LayOut(typed, {true, 0});
+    number.LayOut(dropped > 0 ? number.WithoutZerosInFront(typed) : typed, {true, 0});
     ChooseEditMode(edit);
     MarkWhenFull(edit, number);
     return Outcome::Taken;
@@ -214,12 +216,9 @@ bool IsBehindNumber(const EditInstance& edit, const NumberEdit& number)
 // The number laid anew, with the caret among the same digits.
 void Relay(NumberEdit& number)
 {
-    TypedNumber digits = number.Digits();
-    if (number.Mask().Grows())
-        digits.integer.erase(0, std::min(digits.integer.find_first_not_of(Char{'0'}), digits.integer.size()));
     const int32_t caret = number.Caret();
     const Text before = number.Shown().Shown();
-    number.LayOut(digits, number.Shown().PlaceAt(caret));
+    number.LayOut(number.WithoutZerosInFront(number.Digits()), number.Shown().PlaceAt(caret));
     if (number.Shown().Shown() == before)
         number.MoveTo(caret);
 }
@@ -270,9 +269,17 @@ void DeleteBy(EditInstance& edit, Selection selection, bool (*deleteDigit)(Numbe
         DeleteSelected(number, selection);
     else
         deleted = deleteDigit(number);
-    if (deleted)
-        SetFlag(edit, CHARWISE, false);
+    if (!deleted)
+        return PlaceCaret(edit, number.Caret());
+    SetFlag(edit, CHARWISE, false);
     number.Show();
+}
+
+// A 0 that shows nothing has begun the number all the same: the symbol is no more typed before it.
+void NoteNumberBegun(EditInstance& edit, NumberEdit& number)
+{
+    edit.spelled = kNoMore;
+    number.CarryTo(number.Caret());
 }
 
 }  // namespace
@@ -296,7 +303,10 @@ void EnterNumericChar(EditInstance& edit, Char typed, Selection selection)
         if (IsCarriedLiteral(edit, number.Shown().Shown(), carried, selection.start, typed))
             return;
     }
-    Finish(edit, number, Enter(edit, number, key));
+    const Outcome outcome = Enter(edit, number, key);
+    if (outcome == Outcome::Taken && edit.spelled == 0 && !number.IsCarried())
+        NoteNumberBegun(edit, number);
+    Finish(edit, number, outcome);
 }
 
 void BackspaceInNumber(EditInstance& edit, Selection selection)

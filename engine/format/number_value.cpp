@@ -25,13 +25,19 @@ bool IsExponentSign(const EditInstance& edit, Char c)
     return IsGeneral(edit) && AsciiUpper(c) == 'E';
 }
 
-// Digits, signs and decimal characters. Where the separators are equal there is no grouping.
+// '.' counts as a point too where it does not separate thousands.
+bool IsPoint(const EditInstance& edit, Char c)
+{
+    return c == edit.settings->decimalChar || (c == '.' && c != edit.settings->thousandChar);
+}
+
+// Digits, signs and points.
 Text Kept(const EditInstance& edit, const Text& text, int32_t from, int32_t to)
 {
     Text kept;
     for (int32_t i = from; i < to; ++i) {
         const Char c = At(text, i);
-        if (IsDigit(c) || IsSign(c) || c == edit.settings->decimalChar || IsExponentSign(edit, c))
+        if (IsDigit(c) || IsSign(c) || IsPoint(edit, c) || IsExponentSign(edit, c))
             kept += c;
     }
     return kept;

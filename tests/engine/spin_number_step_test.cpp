@@ -419,9 +419,9 @@ TEST_F(EveryStep, ThatIsRefusedLeavesWhatTheUserHasModified)
     EXPECT_TRUE(control_->IsModified());
 }
 
-class SpunNumberText : public SpinTest {};
+class TextPutThereByTheSpin : public SpinTest {};
 
-TEST_F(SpunNumberText, EndsWithTheFirstTypedCharacter)
+TEST_F(TextPutThereByTheSpin, EndsWithTheFirstTypedCharacter)
 {
     struct Row {
         const char* mask;
@@ -441,7 +441,7 @@ TEST_F(SpunNumberText, EndsWithTheFirstTypedCharacter)
     }
 }
 
-TEST_F(SpunNumberText, EndsWithANewMask)
+TEST_F(TextPutThereByTheSpin, EndsWithANewMask)
 {
     MakeSpin("##0", DT_NUMBER, nullptr, 1, "7");
     Up();
@@ -450,7 +450,7 @@ TEST_F(SpunNumberText, EndsWithANewMask)
     EXPECT_NE(Record().formatFlags, 0u);
 }
 
-TEST_F(SpunNumberText, OfACodeTableIsNotEmptiedByControlCharacters)
+TEST_F(TextPutThereByTheSpin, OfACodeTableIsNotEmptiedByControlCharacters)
 {
     MakeCodeTable("XXXXXX", DT_STRING, "Red\tR/Green\tG", SPINSTYLE_CODETABLE);
     Up();
