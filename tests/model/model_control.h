@@ -203,7 +203,7 @@ private:
     std::string ReadNumber() const;
     std::string NumberIn(std::string text) const;
     Number NumberOf(const std::string& text) const;
-    bool WithoutLiterals(std::string& text) const;
+    std::string WithoutLiterals(std::string text) const;
     int CalendarYear(int year) const;
     int DaysInMonth(int year, int month) const;
     int YearFromText() const;
@@ -234,6 +234,8 @@ private:
     bool BelongsToSymbol(char c, const ShownNumber& shown);
     bool IsDropped(const ShownNumber& shown) const;
     void RefuseNumeric();
+    std::string Held(const std::string& integer) const;
+    Digits WithoutFront(Digits digits) const;
     Digits Settled(Digits digits) const;
     void LayOut(const Digits& digits) { edit_.SetText(NumberFormat().Lay(digits, Signs())); }
     void CaretBefore(int right);

@@ -27,13 +27,25 @@ std::string RightOf(const std::string& digits, size_t right)
 
 }  // namespace
 
-// A mask that grows shows no leading zero but those that it forces; the fraction has its forced zeros at the end.
+// Where there are more integer digits than a growing mask forces, each was typed and holds its place, zeros in front too.
+std::string Control::Held(const std::string& integer) const
+{
+    return integer.size() > NumberFormat().ForcedInteger() ? integer : Significant(integer);
+}
+
+// The zeros in front go, as after a deletion and a refused key.
+Digits Control::WithoutFront(Digits digits) const
+{
+    if (NumberFormat().Grows())
+        digits.integer = Significant(digits.integer);
+    return Settled(digits);
+}
+
+// A mask shows the zeros that it forces in front; the fraction has its forced zeros at the end.
 Digits Control::Settled(Digits digits) const
 {
     const model::Format& format = NumberFormat();
     const size_t least = format.Grows() ? format.ForcedInteger() : format.integer.size();
-    if (format.Grows())
-        digits.integer = Significant(digits.integer);
     digits.integer.insert(0, least - std::min(least, digits.integer.size()), '0');
     digits.fraction.resize(std::min(digits.fraction.size(), format.Places()));
     digits.fraction.resize(std::max(digits.fraction.size(), format.ForcedFraction()), '0');
@@ -90,16 +102,21 @@ void Control::NotifyFull()
         ++autoskips_;
 }
 
-// The currency symbol, or the literals before the number, may be typed as they are read.
+// The literals before the number, or where there are none the symbol behind it, may be typed as they are read: into a blank
+// number, from its start.
 bool Control::BelongsToSymbol(char c, const ShownNumber& shown)
 {
     if (!spelled_ || shown.digits.negative || !shown.digits.AreZero())
         return false;
-    const bool begins = IsDigit(c) || c == '-' || c == '+' || c == Point();
+    const int position = edit_.Start();
+    if (position != shown.begin && position != static_cast<int>(spelled_->size()))
+        return false;
+    const model::Format& format = NumberFormat();
+    const std::string& literals = !format.prefix.empty() || format.percent ? format.prefix : regional_->currency;
+    const bool there = !format.prefix.empty() || mask_.find(regional_->currency) != std::string::npos;
+    const bool begins = IsDigit(c) || c == '-' || c == '+' || (c == Point() && decimalPlaces_ != 0);
     const std::string next = *spelled_ + c;
-    const auto spells = [&](const std::string& text) { return text.compare(0, next.size(), next) == 0; };
-    const bool symbol = mask_.find(regional_->currency) != std::string::npos && spells(regional_->currency);
-    if ((begins && spelled_->empty()) || (!symbol && !spells(NumberFormat().prefix)))
+    if (!there || (begins && spelled_->empty()) || literals.compare(0, next.size(), next) != 0)
         return false;
     spelled_ = next;
     return true;
@@ -112,7 +129,7 @@ bool Control::IsDropped(const ShownNumber& shown) const
     if (shown.InFraction(position))
         return shown.FractionBefore(position) >= decimalPlaces_;
     const model::Format& format = NumberFormat();
-    const bool full = format.Grows() ? format.IsFull(Significant(shown.digits.integer).size(), Signs())
+    const bool full = format.Grows() ? format.IsFull(Held(shown.digits.integer).size(), Signs())
                                      : shown.digits.integer.size() >= format.integer.size();
     return decimalPlaces_ == 0 && position == edit_.Length() && full;
 }
@@ -128,7 +145,7 @@ void Control::EnterNumericChar(char c, bool replaces)
     const bool starts = c == '-' || c == '+' || c == Point();
     const bool shows = CharOf(Text(), position) == c && !IsDigit(c) && (position >= shown.begin || !starts);
     if (symbol) {
-        if (position < shown.begin && CharOf(Text(), position) == c)
+        if (position < shown.begin)
             PlaceCaret(position + 1);
         return;
     }
@@ -169,39 +186,37 @@ void Control::EnterIntegerDigit(char c, Digits digits, int right, int position)
 {
     const model::Format& format = NumberFormat();
     const bool grows = format.Grows();
-    const std::string significant = Significant(digits.integer);
-    const bool full = !grows || format.IsFull(significant.size(), Signs());
+    const std::string held = Held(digits.integer);
+    const bool full = !grows || format.IsFull(held.size(), Signs());
     if (grows)
-        right = std::min(right, static_cast<int>(significant.size()));
+        right = std::min(right, static_cast<int>(held.size()));
     charwise_ = charwise_ || full;
     if (full && right > 0)
         return OverwriteInteger(c, digits, right);
-    const std::string left = LeftOf(significant, static_cast<size_t>(grows ? right : 0));
-    if ((grows || format.integer.empty()) && c == '0' && left.empty()) {
+    const std::string left = LeftOf(held, static_cast<size_t>(grows ? right : 0));
+    if ((grows || format.integer.empty()) && c == '0' && left.empty() && !(full && grows)) {
         // Nobody counts on a leading zero: it changes nothing.
         const bool signGone = digits.negative != Shows(Text()).digits.negative;
-        if (signGone || significant.empty())
+        if (signGone || held.empty())
             LayOut(Settled(digits));
-        if (significant.empty())
+        if (held.empty())
             CaretBefore(0);
         else
-            PlaceCaret(signGone ? Shows(Text()).First() : position);
+            PlaceCaret(std::max(signGone ? 0 : position, Shows(Text()).First()));
         return;
     }
     if (full && decimalPlaces_ == 0)
         return RefuseNumeric();
     if (full)
         return EnterFractionDigit(c, Settled(digits), 0, false);
-    digits.integer = left + c + RightOf(significant, static_cast<size_t>(right));
+    digits.integer = left + c + RightOf(held, static_cast<size_t>(right));
     LayOut(Settled(digits));
     CaretBefore(right);
-    if (!format.IsFull(significant.size() + 1, Signs()))
+    if (!format.IsFull(held.size() + 1, Signs()))
         return;
     charwise_ = true;
-    if (right > 0)
-        return;
-    CarryOver(0);
-    if (decimalPlaces_ == 0)
+    CarryOver(right);
+    if (right == 0 && decimalPlaces_ == 0)
         NotifyFull();
 }
 
@@ -228,7 +243,7 @@ void Control::EnterFractionDigit(char c, Digits digits, int place, bool inserts)
     LayOut(digits);
     CaretInFraction(place + 1);
     const model::Format& format = NumberFormat();
-    charwise_ = charwise_ || !format.Grows() || format.IsFull(Significant(digits.integer).size(), Signs());
+    charwise_ = charwise_ || !format.Grows() || format.IsFull(Held(digits.integer).size(), Signs());
     if (place + 1 == decimalPlaces_)
         NotifyFull();
 }
@@ -239,8 +254,9 @@ void Control::EnterPoint(const ShownNumber& shown)
     Digits digits = shown.digits;
     const int position = edit_.Start();
     digits.negative = digits.negative && position > shown.sign;
-    digits.integer = LeftOf(digits.integer, static_cast<size_t>(shown.IntegerFrom(position)));
-    LayOut(Settled(digits));
+    const auto dropped = static_cast<size_t>(shown.IntegerFrom(position));
+    digits.integer = LeftOf(digits.integer, dropped);
+    LayOut(dropped != 0 ? WithoutFront(digits) : Settled(digits));
     CaretInFraction(0);
     ChooseEditMode();
 }
@@ -250,14 +266,14 @@ void Control::EnterSign(char c, const ShownNumber& shown)
     const int position = edit_.Start();
     const int right = shown.IntegerFrom(position);
     // A caret that Backspace has left between forced zeros stands before the number.
-    const bool amongZeros = NumberFormat().Grows() && right > 0 && Significant(shown.digits.integer).empty();
+    const bool amongZeros = NumberFormat().Grows() && right > 0 && Held(shown.digits.integer).empty();
     const bool behindDigits = (right != static_cast<int>(shown.integerAt.size()) && !amongZeros) ||
-                              shown.FractionBefore(position) != 0;
+                              shown.InFraction(position);
     const bool behindSign = shown.sign >= 0 && position > shown.sign;
     if (behindDigits || behindSign)
         return RefuseNumeric();
     const model::Format& format = NumberFormat();
-    charwise_ = charwise_ || format.IsFull(Significant(shown.digits.integer).size(), Signs());
+    charwise_ = charwise_ || format.IsFull(Held(shown.digits.integer).size(), Signs());
     Digits digits = shown.digits;
     digits.negative = c == '-';
     LayOut(Settled(digits));
@@ -267,15 +283,22 @@ void Control::EnterSign(char c, const ShownNumber& shown)
         PlaceCaret(position);
 }
 
-// The number is laid out again; what is right of the caret stays there.
+// The number is laid out again, with the caret among the same digits.
 void Control::RefuseNumeric()
 {
     Beep();
+    spelled_ = "";
     const int position = edit_.Start();
-    const int behind = edit_.Length() - position;
     const ShownNumber shown = Shows(Text());
-    LayOut(Settled(shown.digits));
-    PlaceCaret(position <= shown.begin ? position : std::max(Shows(Text()).First(), edit_.Length() - behind));
+    const std::string before = Text();
+    const Digits digits = WithoutFront(shown.digits);
+    LayOut(digits);
+    if (Text() == before || position <= shown.begin)
+        PlaceCaret(position);
+    else if (shown.InFraction(position))
+        CaretInFraction(shown.FractionBefore(position));
+    else
+        CaretBefore(std::min(shown.IntegerFrom(position), static_cast<int>(digits.integer.size())));
 }
 
 void Control::BackspaceInNumber()
@@ -289,8 +312,11 @@ void Control::BackspaceInNumber()
     const auto right = static_cast<size_t>(shown.IntegerFrom(position));
     const auto place = static_cast<size_t>(shown.FractionBefore(position));
     const size_t left = digits.integer.size() - right;
-    if (place == 0 && left == 0 && (shown.sign < 0 || position <= shown.sign))
+    if (place == 0 && left == 0 && (shown.sign < 0 || position <= shown.sign)) {
+        if (shown.InFraction(position))
+            PlaceCaret(shown.point);
         return;
+    }
     charwise_ = false;
     spelled_ = "";
     if (place > 0) {
@@ -308,10 +334,10 @@ void Control::BackspaceInNumber()
     else
         digits.integer[left - 1] = '0';
     const bool emptied = grows && left > 0 && Significant(digits.integer).empty();
-    digits = Settled(digits);
+    digits = WithoutFront(digits);
     LayOut(digits);
     if (emptied)
-        CaretBefore(digits.integer.empty() ? 0 : 1);
+        CaretToStart();
     else if (left == 0)
         PlaceCaret(std::max(shown.begin, position - 1));
     else if (grows)
@@ -343,12 +369,15 @@ void Control::DeleteInNumber()
         digits.integer.erase(digits.integer.size() - right, 1);
     else
         digits.fraction.erase(place, 1);
-    digits = Settled(digits);
+    const bool emptied = integer && format.Grows() && Significant(digits.integer).empty();
+    digits = integer ? WithoutFront(digits) : Settled(digits);
     const std::string before = Text();
     LayOut(digits);
-    if (!format.Grows() && digits.AreZero())
+    if (Text() == before)
+        PlaceCaret(position);
+    else if (emptied || (!format.Grows() && digits.AreZero()))
         CaretToStart();
-    else if (sign || !integer || (format.Grows() && (Text() == before || Significant(digits.integer).empty())))
+    else if (sign || !integer)
         PlaceCaret(position);
     else
         CaretBefore(static_cast<int>(right) - 1);
@@ -375,18 +404,17 @@ void Control::DeleteNumericSelection()
     const int end = edit_.End();
     if (NumberFormat().general)
         return PlaceCaret(start);
-    const int behind = edit_.Length() - start;
     const ShownNumber before = Shows(Text());
     ShownNumber shown = before;
     charwise_ = false;
     spelled_ = "";
     EraseSelectedDigits(shown, start, end);
-    const Digits digits = Settled(shown.digits);
+    const Digits digits = WithoutFront(shown.digits);
     LayOut(digits);
     const bool grows = NumberFormat().Grows();
-    const bool allZero = grows ? Significant(digits.integer).empty() : digits.AreZero();
+    const bool allZero = grows && Significant(digits.integer).empty();
     if (start >= before.end)
-        PlaceCaret(edit_.Length() - behind);
+        PlaceCaret(start);
     else if (before.InFraction(start))
         CaretInFraction(before.FractionBefore(start));
     else if (digits.negative && start <= before.sign)

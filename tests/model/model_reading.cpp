@@ -81,26 +81,20 @@ bool DropBack(std::string& text, const std::string& literals)
     return there;
 }
 
-bool Contains(const std::string& text, const std::string& part)
-{
-    return text.find(part) != std::string::npos;
-}
-
 }  // namespace
 
-// True when the sign of a percentage went with them.
-bool Control::WithoutLiterals(std::string& text) const
+// The literals of the mask go from both ends, and the regional symbol wherever it stands, whether the mask has it or not.
+std::string Control::WithoutLiterals(std::string text) const
 {
     const model::Format& format = NumberFormat();
     const std::string& symbol = regional_->currency;
-    const std::string tail = format.Tail();
-    if (!DropFront(text, format.prefix) && Contains(format.prefix, symbol))
-        DropFront(text, symbol);
-    if (DropBack(text, tail))
-        return format.percent && Contains(tail, "%");
-    if (Contains(tail, symbol))
-        DropBack(text, symbol);
-    return format.percent && DropBack(text, "%");
+    DropFront(text, format.prefix);
+    DropBack(text, format.Tail());
+    if (!symbol.empty() && text.find(symbol) != std::string::npos)
+        text.erase(text.find(symbol), symbol.size());
+    if (format.percent)
+        DropBack(text, "%");
+    return text;
 }
 
 // The number that a text handed in as data means.
@@ -109,7 +103,8 @@ Number Control::NumberOf(const std::string& text) const
     std::string number = text;
     bool percent = false;
     if (!IsCanonical(text, '.')) {
-        percent = WithoutLiterals(number);
+        number = WithoutLiterals(text);
+        percent = NumberFormat().percent && !text.empty() && text.back() == '%';
         if (NumberFormat().general && IsCanonical(text, Point()))
             std::replace(number.begin(), number.end(), Point(), '.');
         else if (!TakeShown(number, Signs())) {
@@ -127,7 +122,7 @@ std::string Control::NumberIn(std::string text) const
 {
     if (NumberFormat().general && IsCanonical(text, Point()))
         return text;
-    WithoutLiterals(text);
+    text = WithoutLiterals(text);
     std::string number;
     for (const char c : text)
         if (IsDigit(c) || c == '+' || c == '-' || c == Point() || (c == '.' && c != regional_->thousand) ||

@@ -57,9 +57,11 @@ void Control::TakeChar(char c)
     if (hasTable_ && codeSpin_ && !codePick_) {
         positioned_ = false;
         if (spun_) {
+            const BackspaceKey waits = backspaceKey_;  // its character finds the blank
             codeSpin_ = false;
             SetData(Value::None());
             codeSpin_ = true;
+            backspaceKey_ = waits;
             spun_ = false;
         }
     }
