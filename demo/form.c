@@ -3,7 +3,7 @@
  *
  *   demo.exe [--places FILE] [--table FILE]
  *     --places FILE   where the fields stand on the screen is written there when the form is shown, for scripts
- *     --table FILE    what each field shows, and the value read back, is written there when the form is closed
+ *     --table FILE    what each field shows, and the value read back, is written there at F2
  */
 #include <stdio.h>
 #include <string.h>
@@ -192,10 +192,6 @@ static LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARA
     case WM_CREATE: CreateForm(window); return 0;
     case WM_COMMAND: OnNotification(LOWORD(wParam), HIWORD(wParam), (HWND)lParam); return 0;
     case WM_ACTIVATE: OnActivate(LOWORD(wParam) != WA_INACTIVE); return 0;
-    case WM_CLOSE:
-        WriteTable();
-        DestroyWindow(window);
-        return 0;
     case WM_DESTROY: PostQuitMessage(0); return 0;
     default: return DefWindowProcA(window, message, wParam, lParam);
     }
@@ -234,6 +230,8 @@ static void Run(void)
 {
     MSG message;
     while (GetMessageA(&message, NULL, 0, 0) > 0) {
+        if (message.message == WM_KEYDOWN && message.wParam == VK_F2)
+            WriteTable();
         if (IsDialogMessageA(form.window, &message))
             continue;
         TranslateMessage(&message);
