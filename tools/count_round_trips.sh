@@ -20,7 +20,7 @@ wineserver -k || true
 
 # A request line is "THREAD: name( ... )", its answer "THREAD: name() = ...".
 awk '
-    BEGIN { limit["plain"] = 0; limit["date"] = 10; limit["string"] = 10; limit["number"] = 11 }
+    BEGIN { limit["plain"] = 0; limit["date"] = 10; limit["string"] = 10; limit["number"] = 9 }
     /open_mutex\(.*round-trips begin / {
         thread = $1
         match($0, /round-trips begin [a-z]+ [0-9]+/)

@@ -1,8 +1,6 @@
 // The field of a control in a window: the standard edit control underneath.
 #include "win32/standard_field.h"
 
-#include <atomic>
-
 #include "win32/life_guard.h"
 #include "win32/spin_layout.h"
 #include "ztedit.h"
@@ -14,8 +12,8 @@ WNDPROC baseEditProc;
 namespace {
 
 // The control to which the library is just sending a message that hosts send too. Asked before the record is looked up, which
-// costs a call into the window manager. Controls on two threads at worst take a message of the library for a host's.
-std::atomic<HWND> ownMessageTo{nullptr};
+// costs a call into the window manager. A control's messages stay on its thread.
+thread_local HWND ownMessageTo = nullptr;
 
 // Announces a message of the library while it lives.
 class OwnMessage {
@@ -99,7 +97,10 @@ RECT ClientOf(HWND hwnd)
 
 bool StandardField::TakeOwnMessage(HWND hwnd)
 {
-    return ownMessageTo.compare_exchange_strong(hwnd, nullptr);
+    const bool isOwn = ownMessageTo == hwnd;
+    if (isOwn)
+        ownMessageTo = nullptr;
+    return isOwn;
 }
 
 LRESULT StandardField::ToBase(UINT message, WPARAM wParam, LPARAM lParam)

@@ -26,10 +26,8 @@ enum class Outcome {
 // One character typed into a number.
 struct NumericKey {
     Char typed;
-    CarriedOver carried;
-    int32_t spelled;  // characters of the literals before the number that were typed directly before
-    bool
-        insertsIntoFraction;  // it takes the place of a selection there: what stood behind the selection stays behind it
+    int32_t spelled;           // characters of the literals before the number that were typed directly before
+    bool insertsIntoFraction;  // in the place of a selection there: what stood behind it stays behind it
 };
 
 bool IsDecimalChar(const EditInstance& edit, Char typed)
@@ -89,9 +87,9 @@ void LeaveLiterals(NumberEdit& number)
 {
     const ShownNumber& shown = number.Shown();
     if (number.Caret() <= shown.Sign()) {
-        TypedNumber unsigned_ = number.Digits();
-        unsigned_.negative = false;
-        return number.LayOut(unsigned_, shown.Front());
+        TypedNumber positive = number.Digits();
+        positive.negative = false;
+        return number.LayOut(positive, shown.Front());
     }
     number.MoveTo(std::clamp(number.Caret(), shown.Start(), std::max(shown.End(), shown.Start())));
 }
@@ -293,7 +291,7 @@ void EnterNumericChar(EditInstance& edit, Char typed, Selection selection)
     if (!IsTypedInto(edit) || (IsControl(typed) && !selection.IsEmpty()))
         return edit.field->Beep();
     NumberEdit number(edit, selection.start);
-    NumericKey key = {typed, carried, 0, false};
+    NumericKey key = {typed, 0, false};
     if (!selection.IsEmpty()) {
         key.insertsIntoFraction = number.Mask().Grows() && number.Shown().IsInFraction(selection.start);
         SetFlag(edit, CHARWISE, false);

@@ -242,6 +242,36 @@ TEST_F(NumberFocus, MovesOnOnlyAfterTheLastFractionDigit)
     EXPECT_EQ(Skips(), 1);
 }
 
+TEST_F(NumberFocus, TakesTheSignOfZeroAway)
+{
+    Given("$#,##0.00", DT_NUMBER, "[$5.00]");
+    Type("-");
+    EXPECT_EQ(Shown(), "$-|0.00");
+    control_->LoseFocus();
+    EXPECT_EQ(Text(), "$0.00");
+    EXPECT_TRUE(control_->IsModified());
+}
+
+TEST_F(NumberFocus, LeavesTheSignOfANumber)
+{
+    Given("#,##0.00", DT_NUMBER, "[5.00]");
+    Type("-0.05");
+    control_->LoseFocus();
+    EXPECT_EQ(Text(), "-0.05");
+}
+
+class SignOfZero : public SpinTest {};
+
+TEST_F(SignOfZero, EndsWithAStep)
+{
+    MakeSpin("##0", DT_NUMBER, "-9~9", 1, "5");
+    SelectAll();
+    Type("-");
+    EXPECT_EQ(Text(), "-0");
+    Up();
+    EXPECT_EQ(Text(), "1");
+}
+
 class NumberModified : public EditTest {};
 
 TEST_F(NumberModified, IsSetByTypingAndByDeletion)
