@@ -210,7 +210,7 @@ private:
     int MonthFromText() const;
     bool ZeroDate(const Stamp& stamp) const;
     void DateFromDayOfYear(Stamp& stamp, int day) const;
-    int PointPos(const std::string& text) const;
+    bool InFraction(int position) const;
 
     // typing
     Verdict Validate(char c, int position);
@@ -234,6 +234,7 @@ private:
     bool BelongsToSymbol(char c, const ShownNumber& shown);
     bool IsDropped(const ShownNumber& shown) const;
     void RefuseNumeric();
+    void LayOutForeign();
     std::string Held(const std::string& integer) const;
     Digits WithoutFront(Digits digits) const;
     Digits Settled(Digits digits) const;

@@ -17,10 +17,10 @@ void Control::KeyDown(int key, bool shift)
         ForgetTyping();
     const bool deletes = key == kBackspace || key == kDelete;
     // The plain edit underneath takes it for granted that a disabled window gets no keys.
-    const bool refuses = readOnly_ || (!enabled_ && !mask_.empty());
+    const bool steps = key == kUp || key == kDown;
+    const bool refuses = readOnly_ || (!enabled_ && (steps || !mask_.empty()));
     if (refuses && deletes)
         return;
-    const bool steps = key == kUp || key == kDown;
     const std::string before = Text();
     const bool wasModified = modified_;
     if ((mask_.empty() && !steps) || (refuses && steps) || !HandleKeyDown(key, shift, true))
@@ -98,8 +98,7 @@ void Control::MoveCaret(int key, bool shift, bool byUser)
         position += step;
         ++n;
         if (key == kRight && position >= length) {
-            const int point = PointPos(Text());
-            if (decimalPlaces_ != 0 && point < position && point + decimalPlaces_ + 1 > position)
+            if (InFraction(position))
                 move = true;
             else {
                 if (autoskip_)
@@ -218,9 +217,7 @@ void Control::Click(int position)
     }
     if (mask_.empty() || (IsNumeric() && !charwise_) || Text().empty())
         return;
-    const int point = PointPos(Text());
-    if ((decimalPlaces_ != 0 && point < position && point + decimalPlaces_ + 1 > position) || OnAmPm(position) ||
-        position == edit_.Length() || Editable(Text(), position))
+    if (InFraction(position) || OnAmPm(position) || position == edit_.Length() || Editable(Text(), position))
         return;
     const int right = StepsToEditable(position, true);
     const int left = StepsToEditable(position, false);

@@ -189,7 +189,11 @@ model::Format Control::CompiledMask() const
 {
     int unused = 0;
     const auto format = model::Format::Compile(FormatTextOf(mask_, type_, false, unused));
-    return format ? *format : *model::Format::Compile(DefaultMask(kNumber));
+    model::Format compiled = format ? *format : *model::Format::Compile(DefaultMask(kNumber));
+    // A currency without fraction digits shows its zero.
+    if (keyword_ && compiled.fraction.empty() && !compiled.integer.empty())
+        compiled.integer.back() = '0';
+    return compiled;
 }
 
 std::string Control::FormatTextOf(const std::string& mask, Type type, bool literals, int& first) const
@@ -217,7 +221,7 @@ std::string Control::FormatTextOf(const std::string& mask, Type type, bool liter
         } else
             do
                 text += mask[i++];
-            while (i < mask.size() && !InTable(mask[i], type) && !SymbolAt(mask, i));
+            while (i < mask.size() && mask[i] != '~' && !InTable(mask[i], type) && !SymbolAt(mask, i));
     }
     return text;
 }

@@ -134,15 +134,45 @@ bool Control::IsDropped(const ShownNumber& shown) const
     return decimalPlaces_ == 0 && position == edit_.Length() && full;
 }
 
+// A text that the mask would not have shown is laid out before anything is typed into it.
+void Control::LayOutForeign()
+{
+    const model::Format& format = NumberFormat();
+    const int position = edit_.Start();
+    ShownNumber shown = Shows(Text());
+    const bool isShort = !format.Grows() && shown.digits.integer.size() < format.integer.size();
+    if (!isShort && shown.digits.fraction.size() <= format.Places())
+        return;
+    if (shown.digits.fraction.size() > format.Places()) {
+        Number number = Number::FromText(shown.digits.integer + "." + shown.digits.fraction);
+        model::Format plain;
+        plain.integer = std::string(std::max<size_t>(1, shown.digits.integer.size()), '0');
+        plain.fraction = std::string(format.Places(), '0');
+        plain.point = true;
+        const ShownNumber rounded = ReadShown(plain, Render(plain, number, Signs()), Signs());
+        shown.digits.fraction = rounded.digits.fraction;
+        shown.digits.integer = shown.digits.integer.empty() && rounded.digits.integer == "0" ? "" : rounded.digits.integer;
+    }
+    LayOut(Settled(shown.digits));
+    if (isShort)
+        CaretToStart();
+    else if (shown.InFraction(position))
+        CaretInFraction(std::min(shown.FractionBefore(position), static_cast<int>(format.Places())));
+    else
+        CaretBefore(shown.IntegerFrom(position));
+}
+
 void Control::EnterNumericChar(char c, bool replaces)
 {
     const std::string carried = std::exchange(carried_, "");
     if (NumberFormat().general)
         return Beep();
+    LayOutForeign();
     const int position = edit_.Start();
     const ShownNumber shown = Shows(Text());
     const bool symbol = BelongsToSymbol(c, shown);
-    const bool starts = c == '-' || c == '+' || c == Point();
+    // At the very start a point begins the fraction; the sign's own key means more everywhere.
+    const bool starts = c == '-' || c == '+' || (c == Point() && position == 0);
     const bool shows = CharOf(Text(), position) == c && !IsDigit(c) && (position >= shown.begin || !starts);
     if (symbol) {
         if (position < shown.begin)
@@ -194,16 +224,17 @@ void Control::EnterIntegerDigit(char c, Digits digits, int right, int position)
     if (full && right > 0)
         return OverwriteInteger(c, digits, right);
     const std::string left = LeftOf(held, static_cast<size_t>(grows ? right : 0));
-    if ((grows || format.integer.empty()) && c == '0' && left.empty() && !(full && grows)) {
-        // Nobody counts on a leading zero: it changes nothing.
+    if (c == '0' && right == 0 && format.integer.empty()) {
+        // Where there is no place before the point, the zero of 0.5 shows nothing.
         const bool signGone = digits.negative != Shows(Text()).digits.negative;
-        if (signGone || held.empty())
+        if (signGone)
             LayOut(Settled(digits));
-        if (held.empty())
-            CaretBefore(0);
-        else
-            PlaceCaret(std::max(signGone ? 0 : position, Shows(Text()).First()));
-        return;
+        return PlaceCaret(signGone ? Shows(Text()).First() : std::max(position, Shows(Text()).begin));
+    }
+    if (grows && !full && c == '0' && left.empty()) {
+        // Nobody counts on a leading zero: it changes nothing.
+        LayOut(Settled(digits));
+        return CaretBefore(right);
     }
     if (full && decimalPlaces_ == 0)
         return RefuseNumeric();
@@ -228,7 +259,7 @@ void Control::OverwriteInteger(char c, Digits digits, int right)
         digits.integer = least;
     const std::string integer = digits.integer;
     digits.integer = LeftOf(integer, static_cast<size_t>(right)) + c + RightOf(integer, static_cast<size_t>(right) - 1);
-    LayOut(digits);
+    LayOut(Settled(digits));
     CaretBefore(right - 1);
     CarryOver(right - 1);
     if (right == 1 && decimalPlaces_ == 0)
@@ -272,8 +303,8 @@ void Control::EnterSign(char c, const ShownNumber& shown)
     const bool behindSign = shown.sign >= 0 && position > shown.sign;
     if (behindDigits || behindSign)
         return RefuseNumeric();
-    const model::Format& format = NumberFormat();
-    charwise_ = charwise_ || format.IsFull(Held(shown.digits.integer).size(), Signs());
+    if (c == '+' && shown.sign < 0)
+        return;
     Digits digits = shown.digits;
     digits.negative = c == '-';
     LayOut(Settled(digits));
@@ -293,10 +324,12 @@ void Control::RefuseNumeric()
     const std::string before = Text();
     const Digits digits = WithoutFront(shown.digits);
     LayOut(digits);
-    if (Text() == before || position <= shown.begin)
+    if (Text() == before)
         PlaceCaret(position);
     else if (shown.InFraction(position))
         CaretInFraction(shown.FractionBefore(position));
+    else if (!NumberFormat().Grows() && shown.digits.integer.empty())
+        CaretToStart();
     else
         CaretBefore(std::min(shown.IntegerFrom(position), static_cast<int>(digits.integer.size())));
 }
@@ -334,12 +367,10 @@ void Control::BackspaceInNumber()
     else
         digits.integer[left - 1] = '0';
     const bool emptied = grows && left > 0 && Significant(digits.integer).empty();
-    digits = WithoutFront(digits);
+    digits = left > 0 ? WithoutFront(digits) : Settled(digits);
     LayOut(digits);
-    if (emptied)
+    if (emptied || left == 0)
         CaretToStart();
-    else if (left == 0)
-        PlaceCaret(std::max(shown.begin, position - 1));
     else if (grows)
         CaretBefore(static_cast<int>(std::min(right, digits.integer.size())));
     else
@@ -369,7 +400,7 @@ void Control::DeleteInNumber()
         digits.integer.erase(digits.integer.size() - right, 1);
     else
         digits.fraction.erase(place, 1);
-    const bool emptied = integer && format.Grows() && Significant(digits.integer).empty();
+    const bool emptied = integer && (format.Grows() ? Significant(digits.integer) : digits.integer).empty();
     digits = integer ? WithoutFront(digits) : Settled(digits);
     const std::string before = Text();
     LayOut(digits);
@@ -403,7 +434,8 @@ void Control::DeleteNumericSelection()
     const int start = edit_.Start();
     const int end = edit_.End();
     if (NumberFormat().general)
-        return PlaceCaret(start);
+        return;
+    const int length = edit_.Length();
     const ShownNumber before = Shows(Text());
     ShownNumber shown = before;
     charwise_ = false;
@@ -412,7 +444,8 @@ void Control::DeleteNumericSelection()
     const Digits digits = WithoutFront(shown.digits);
     LayOut(digits);
     const bool grows = NumberFormat().Grows();
-    const bool allZero = grows && Significant(digits.integer).empty();
+    const bool foreign = before.integerAt.empty() && before.point < 0 && NumberFormat().integer.empty();
+    const bool allZero = grows ? Significant(digits.integer).empty() : foreign;
     if (start >= before.end)
         PlaceCaret(start);
     else if (before.InFraction(start))
@@ -423,6 +456,8 @@ void Control::DeleteNumericSelection()
         CaretToStart();
     else if (grows)
         CaretBefore(std::min(before.IntegerFrom(end), static_cast<int>(digits.integer.size())));
+    else if (const size_t right = static_cast<size_t>(before.IntegerFrom(start)); edit_.Length() != length && right > 0)
+        PlaceCaret(Shows(Text()).integerAt[digits.integer.size() - right]);
     else
         PlaceCaret(std::max(start, Shows(Text()).First()));
 }

@@ -114,7 +114,8 @@ Number Control::NumberOf(const std::string& text) const
     }
     if (type_ == kDecimal)
         return Number::FromText(number).TimesPowerOfTen(percent ? -2 : 0);
-    return Number::FromDouble(ToDouble(number) / (percent ? 100.0 : 1.0));
+    return Number::FromDouble(percent ? ToDouble(PlainText(Number::FromText(number).TimesPowerOfTen(-2), '.'))
+                                      : ToDouble(number));
 }
 
 // What a text holds of a number.
@@ -125,8 +126,7 @@ std::string Control::NumberIn(std::string text) const
     text = WithoutLiterals(text);
     std::string number;
     for (const char c : text)
-        if (IsDigit(c) || c == '+' || c == '-' || c == Point() || (c == '.' && c != regional_->thousand) ||
-            (c != '#' && InTable(c, type_)))
+        if (IsDigit(c) || c == '+' || c == '-' || c == Point() || (c == '.' && c != regional_->thousand))
             number += c;
     return number;
 }

@@ -89,8 +89,14 @@ void Control::TakeControlChar(char c)
         edit_.Select(0, edit_.Length());
         return;
     case cut:
-        if (DeleteSelection())
+        if (edit_.Start() != edit_.End()) {
             ForgetTyping();
+            if (IsNumeric())
+                DeleteSelection();
+            else if (!PositionalDeletion(kDelete, false))
+                edit_.Key(kDelete, false);
+            deletePending_ = false;
+        }
         return;
     case 3:
     case 4:
@@ -234,11 +240,9 @@ void Control::PadFieldDigit(int position)
 // Carries the caret over literals from `position`; true when an editable position was found.
 bool Control::SkipLiterals(int position, bool remember)
 {
-    const int point = PointPos(Text());
     for (int k = 0;; ++k) {
         const int at = position + k;
-        const bool inFraction = decimalPlaces_ != 0 && point < at && point + decimalPlaces_ + 1 > at;
-        if (!inFraction) {
+        if (!InFraction(at)) {
             if (at > ShownLength() - 1 || CharAt(Text(), at).c == '\0')
                 return false;
             if (!OnAmPm(at) && !Editable(Text(), at))

@@ -58,12 +58,13 @@ Value Value::OfStamp(const Stamp& stamp)
     return value;
 }
 
-int Control::PointPos(const std::string& text) const
+// Where a fraction may be typed, behind its last digit too.
+bool Control::InFraction(int position) const
 {
-    if (IsNumeric())
-        return std::max(0, Shows(text).point);
-    const size_t at = text.find(Point());
-    return at == std::string::npos ? 0 : static_cast<int>(at);
+    if (!IsNumeric() || decimalPlaces_ == 0)
+        return false;
+    const ShownNumber shown = Shows(Text());
+    return shown.InFraction(position) && position <= shown.point + decimalPlaces_;
 }
 
 void Control::FormatNumber(const Number& number, Shown& shown) const
