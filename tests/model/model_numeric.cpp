@@ -151,7 +151,8 @@ void Control::LayOutForeign()
         plain.point = true;
         const ShownNumber rounded = ReadShown(plain, Render(plain, number, Signs()), Signs());
         shown.digits.fraction = rounded.digits.fraction;
-        shown.digits.integer = shown.digits.integer.empty() && rounded.digits.integer == "0" ? "" : rounded.digits.integer;
+        shown.digits.integer =
+            shown.digits.integer.empty() && rounded.digits.integer == "0" ? "" : rounded.digits.integer;
     }
     LayOut(Settled(shown.digits));
     if (isShort)
@@ -295,11 +296,8 @@ void Control::EnterPoint(const ShownNumber& shown)
 void Control::EnterSign(char c, const ShownNumber& shown)
 {
     const int position = edit_.Start();
-    const int right = shown.IntegerFrom(position);
-    // A caret that Backspace has left between forced zeros stands before the number.
-    const bool amongZeros = NumberFormat().Grows() && right > 0 && Held(shown.digits.integer).empty();
-    const bool behindDigits = (right != static_cast<int>(shown.integerAt.size()) && !amongZeros) ||
-                              shown.InFraction(position);
+    const bool behindDigits =
+        shown.IntegerFrom(position) != static_cast<int>(shown.integerAt.size()) || shown.InFraction(position);
     const bool behindSign = shown.sign >= 0 && position > shown.sign;
     if (behindDigits || behindSign)
         return RefuseNumeric();
@@ -373,8 +371,10 @@ void Control::BackspaceInNumber()
         CaretToStart();
     else if (grows)
         CaretBefore(static_cast<int>(std::min(right, digits.integer.size())));
-    else
-        PlaceCaret(shown.integerAt[left - 1]);
+    else {
+        const std::vector<int> at = Shows(Text()).integerAt;
+        PlaceCaret(at[at.size() - right - 1]);
+    }
 }
 
 void Control::DeleteInNumber()
@@ -457,7 +457,8 @@ void Control::DeleteNumericSelection()
     else if (grows)
         CaretBefore(std::min(before.IntegerFrom(end), static_cast<int>(digits.integer.size())));
     else if (const size_t right = static_cast<size_t>(before.IntegerFrom(start)); edit_.Length() != length && right > 0)
-        PlaceCaret(Shows(Text()).integerAt[digits.integer.size() - right]);
+        right == before.integerAt.size() ? CaretToStart()
+                                         : PlaceCaret(Shows(Text()).integerAt[digits.integer.size() - right]);
     else
         PlaceCaret(std::max(start, Shows(Text()).First()));
 }

@@ -135,8 +135,15 @@ std::string Control::NumberIn(std::string text) const
 std::string Control::ReadNumber() const
 {
     const model::Format& format = NumberFormat();
-    if (format.general)
-        return Text();
+    if (format.general) {
+        std::string read = Text();
+        const auto foreign = [&](char c) {
+            return !IsDigit(c) && c != '-' && c != '+' && c != 'E' && c != Point() &&
+                   (c != '.' || c == regional_->thousand);
+        };
+        read.erase(std::remove_if(read.begin(), read.end(), foreign), read.end());
+        return read;
+    }
     ShownNumber shown = Shows(Text());
     if (shown.digits.negative && shown.digits.AreZero()) {
         shown.digits.negative = false;
@@ -144,10 +151,17 @@ std::string Control::ReadNumber() const
             return "0";
     }
     std::string text = shown.digits.negative ? "-" : "";
-    text += shown.digits.integer;
     if (shown.point >= 0)
-        text += Point();
-    text += shown.digits.fraction;
+        text += shown.digits.integer + Point() + shown.digits.fraction;
+    else {
+        // A text from outside may have a point where the mask has none.
+        for (int i = shown.begin; i < shown.end; ++i) {
+            const char c = CharOf(Text(), i);
+            const bool sign = (c == '-' || c == '+') && i != shown.sign;
+            if (IsDigit(c) || sign || c == Point() || (c == '.' && c != regional_->thousand))
+                text += c;
+        }
+    }
     if (!percent_)
         return text;
     std::replace(text.begin(), text.end(), Point(), '.');

@@ -98,6 +98,8 @@ void Control::FormatNumber(const Number& number, Shown& shown) const
         shown.first = found.First();
     else if (!found.fractionAt.empty())
         shown.first = found.fractionAt[0];
+    else if (literals)
+        shown.first = found.First();
     if (decimalPlaces_ != 0 && shown.first == std::max(0, found.point) + 1)
         --shown.first;
 }
