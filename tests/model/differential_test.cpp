@@ -51,6 +51,21 @@ constexpr ScenarioRow kScenarios[] = {
     {"us", "AM/PM HH:MM", kTime, false, 0, "", nullptr, false, false, "{sel 3 3}0"},
     {"french", "[date]", kDate, false, 0, "", nullptr, false, false, "31121999{read}"},
     {"us", "", kString, true, 1, "", nullptr, false, false, "y{Up}{enable 0}{Del}{Back}z{readonly 1}{Del}"},
+    {"us", "#,##0.00", kNumber, false, 0, "", nullptr, false, false, "{data 593}5{read}"},
+    {"us", "#,#.00", kNumber, false, 0, "", nullptr, false, false, ".+{Back}"},
+    {"us", "#00.00", kNumber, false, 0, "", nullptr, false, false, "{data 2}0{Right}{Back}"},
+    {"us", "0000", kNumber, true, 0, "", nullptr, false, false, "44{sel 1 1}{Back}{Del}"},
+    {"us", ".00", kNumber, false, 0, "", nullptr, false, false, "{data 970.21}92{Del}0"},
+    {"us", "$#,##0.00", kNumber, false, 0, "", nullptr, false, false, "{data $-5,683.0}{read}{data $12}{read}"},
+    {"german", "##0.0%", kDecimal, false, 0, "", nullptr, false, false, "{data 230,21EUR}{read}{data 12,5%}{read}"},
+    {"german", "[currency(4)]", kNumber, false, 0, "", nullptr, false, false, "{data 47415114.485}0{sel 0 0}-{Back}"},
+    {"french", "00.00", kDecimal, true, 0, "", nullptr, false, false, "{data -49 964F}{read}"},
+    {"alpine", "[currency(4)]", kNumber, true, 0, "", nullptr, false, false, "5{sel 2 2}."},
+    {"icelandic", "[currency(8)]", kNumber, true, 0, "", nullptr, false, false, "-35{sel 9 9}{Back}x"},
+    {"african", "$#,##0.00", kNumber, false, 0, "", nullptr, false, false, "{data 7356}{Del}00x"},
+    {"hex", "0.0%", kNumber, true, 0, "", nullptr, false, false, "{data 0x27.15%}{read}"},
+    {"us", "AAAA", kString, true, 1, "", "Red\tR/Green\tG/Blue\tB/Grey\tX/None\tnull!", true, true, "R{sel 0 255}{char 24}"},
+    {"us", "AAAA", kString, true, 1, "", "Red\tR/Green\tG/Blue\tB/Grey\tX/None\tnull!", true, false, "{mask 2 000}{Down}{Back}"},
 };
 // clang-format on
 
