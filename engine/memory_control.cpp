@@ -72,7 +72,7 @@ void MemoryControl::KeyUp(int32_t key)
 template <typename Mouse>
 void MemoryControl::UseMouse(Mouse mouse)
 {
-    record_.carriedTo = 0;
+    ForgetPassed(record_);
     mouse();
     if (!IsPlainEdit(record_) && IsClickCorrected(record_) && !field_.Shown().empty())
         CorrectClick(record_);

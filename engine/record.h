@@ -120,6 +120,13 @@ inline void PlaceCaret(const EditInstance& edit, int32_t position)
     edit.field->Select(position, position);
 }
 
+// What typing has just passed is typed no more: the caret was moved, or the text changed, otherwise.
+inline void ForgetPassed(EditInstance& edit)
+{
+    edit.carriedTo = 0;
+    edit.spelled = 0;
+}
+
 // Sets the text with the layout kept before and after it.
 inline void ShowText(const EditInstance& edit, const Char* text)
 {

@@ -9,7 +9,7 @@ namespace zte {
 
 Reply OnButtonDown(EditInstance& edit)
 {
-    edit.carriedTo = 0;
+    ForgetPassed(edit);
     return OnFocus(edit);
 }
 

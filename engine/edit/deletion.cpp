@@ -37,7 +37,7 @@ bool DeleteSelection(EditInstance& edit, Selection selection)
 {
     if (selection.IsEmpty())
         return false;
-    edit.carriedTo = 0;
+    ForgetPassed(edit);
     if (IsNumeric(edit.dataType))
         DeleteInNumber(edit, selection);
     else

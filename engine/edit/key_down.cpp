@@ -120,7 +120,7 @@ bool HandleSpinKey(EditInstance& edit, int32_t key)
 bool HandleKeyDown(EditInstance& edit, int32_t key, KeyData keyData)
 {
     if (MovesOrDeletes(key))
-        edit.carriedTo = 0;
+        ForgetPassed(edit);
     switch (key) {
     case KEY_BACKSPACE: return HandleDeletion(edit, KEY_BACKSPACE, keyData);
     case KEY_DELETE: return HandleDelete(edit, keyData);

@@ -24,6 +24,7 @@ constexpr uint32_t kTab = 9;
 constexpr uint32_t kLineFeed = 10;
 constexpr uint32_t kCtrlV = 22;
 constexpr uint32_t kCtrlX = 24;
+constexpr uint32_t kCtrlZ = 26;
 constexpr uint32_t kEscape = 27;
 constexpr uint32_t kCtrlBackspace = 127;
 
@@ -86,15 +87,16 @@ void Paste(EditInstance& edit)
 
 void SelectAll(EditInstance& edit)
 {
-    edit.carriedTo = 0;
+    ForgetPassed(edit);
     edit.field->Select(0, Length(edit.field->ReadText()));
 }
 
 void CutSelection(EditInstance& edit, KeyData keyData)
 {
-    edit.carriedTo = 0;
-    if (!edit.field->ReadSelection().IsEmpty())
-        CutByKey(edit, keyData);
+    if (edit.field->ReadSelection().IsEmpty())
+        return;
+    ForgetPassed(edit);
+    CutByKey(edit, keyData);
 }
 
 bool IsPickList(const EditInstance& edit)
@@ -167,11 +169,22 @@ void ForgetBackspace(EditInstance& edit)
     edit.swallowBackspace = false;
 }
 
+// A text shown through a code table without a mask: it is edited as a plain text, but an undo would bring back what stood there before
+// the entry.
+Reply TakeControlCharWithoutMask(EditInstance& edit, uint32_t typed)
+{
+    if (typed != kCtrlA && typed != kCtrlZ)
+        return kPassOn;
+    if (typed == kCtrlA)
+        SelectAll(edit);
+    return Keep();
+}
+
 // A control character leaves the text alone: what is selected, and what the spin or the code table shows, too.
 Reply TakeControlChar(EditInstance& edit, uint32_t typed, KeyData keyData)
 {
     if (!HasMask(edit) && !IsPickList(edit))
-        return kPassOn;
+        return TakeControlCharWithoutMask(edit, typed);
     if (const std::optional<Reply> reply = Obey(edit, typed, keyData))
         return *reply;
     const Selection selection = edit.field->ReadSelection();
@@ -232,7 +245,7 @@ Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData)
 
 void OnTextSetFromOutside(EditInstance& edit)
 {
-    edit.carriedTo = 0;
+    ForgetPassed(edit);
 }
 
 void OnFocusLost(EditInstance& edit)

@@ -62,6 +62,7 @@ void ZeroBeforePoint(NumberEdit& number, int32_t right)
     TypedNumber left = number.Digits();
     left.integer[left.integer.size() - static_cast<size_t>(right) - 1] = '0';
     number.LayOut(left, {false, right + 1});
+    number.MoveTo(number.Shown().NextDigit(number.Caret()));
 }
 
 void DeleteBeforePoint(NumberEdit& number, int32_t right)
@@ -79,28 +80,59 @@ bool MoveBeforePoint(NumberEdit& number, DigitPlace place)
     return false;
 }
 
+// What is left of a number without what is selected. In a mask of '0' alone digits leave zeros where they stood.
+TypedNumber Without(const ShownNumber& shown, Selection selection, bool zeroed)
+{
+    const int32_t point = shown.Point() >= 0 ? shown.Point() : shown.End();
+    TypedNumber left;
+    left.negative = shown.Sign() >= 0 && (shown.Sign() < selection.start || shown.Sign() >= selection.end);
+    left.integer = KeptDigits(shown, shown.Start(), point, selection, zeroed);
+    left.fraction = KeptDigits(shown, point, shown.End(), selection, zeroed);
+    return left;
+}
+
+void DeleteFromGrowing(NumberEdit& number, Selection selection)
+{
+    const ShownNumber& shown = number.Shown();
+    const int32_t point = shown.Point() >= 0 ? shown.Point() : shown.End();
+    const int32_t start = std::clamp(selection.start, shown.Start(), shown.End());
+    const bool inFraction = shown.IsInFraction(start);
+    const DigitPlace place = shown.PlaceAt(inFraction ? start : std::max(start, std::min(selection.end, point)));
+    ShowLeft(number, Without(shown, selection, false), place);
+}
+
+// The caret stays where the selection began. A text from outside, which is laid anew, is none of the mask's: there it goes among the same
+// digits.
+void DeleteFromZeros(NumberEdit& number, Selection selection)
+{
+    const ShownNumber& shown = number.Shown();
+    const int32_t start = std::clamp(selection.start, shown.Start(), shown.End());
+    const bool isForeign = !number.IsInForm();
+    DigitPlace place = shown.PlaceAt(start);
+    if (!place.inFraction && shown.IsAtFront(start))
+        place.digits = std::max(place.digits, number.Mask().shape.forcedInteger);
+    number.LayOut(Without(shown, selection, true), place);
+    if (place.inFraction)
+        return;
+    const ShownNumber& left = number.Shown();
+    number.MoveTo(isForeign ? left.NextDigit(number.Caret())
+                            : std::max(selection.start, left.PositionOf(left.Front())));
+}
+
 }  // namespace
 
 void DeleteSelected(NumberEdit& number, Selection selection)
 {
-    const ShownNumber& shown = number.Shown();
-    const bool grows = number.Mask().Grows();
-    const int32_t point = shown.Point() >= 0 ? shown.Point() : shown.End();
-    const int32_t start = std::clamp(selection.start, shown.Start(), shown.End());
-
-    TypedNumber left;
-    left.negative = shown.Sign() >= 0 && (shown.Sign() < selection.start || shown.Sign() >= selection.end);
-    left.integer = KeptDigits(shown, shown.Start(), point, selection, !grows);
-    left.fraction = KeptDigits(shown, point, shown.End(), selection, !grows);
-    const DigitPlace place =
-        shown.PlaceAt(!grows || shown.IsInFraction(start) ? start : std::max(start, std::min(selection.end, point)));
-    const bool isBehind = selection.start >= shown.End();
-    if (grows)
-        ShowLeft(number, left, place);
+    const bool isBehind = selection.start >= number.Shown().End();
+    const bool isBeforeSign = selection.start <= number.Shown().Sign() && selection.end <= number.Shown().Sign();
+    if (number.Mask().Grows())
+        DeleteFromGrowing(number, selection);
     else
-        number.LayOut(left, place);
+        DeleteFromZeros(number, selection);
     if (isBehind)
         number.MoveTo(selection.start);
+    else if (isBeforeSign)
+        number.MoveTo(number.Shown().Sign());
 }
 
 bool DeleteDigitBefore(NumberEdit& number)
@@ -138,7 +170,7 @@ bool DeleteDigitAt(NumberEdit& number)
         DeleteBeforePoint(number, place.digits - 1);
     if (number.Shown().Shown() == before)
         number.MoveTo(caret);  // a zero that the mask forces: nothing has gone
-    else if (!number.Mask().Grows() && number.IsBlank())
+    else if (!number.Mask().Grows() && number.IsZero())
         MoveToFront(number);
     return true;
 }

@@ -31,18 +31,21 @@ NumberEdit::NumberEdit(EditInstance& edit, int32_t caret)
     : edit_(edit), shownBefore_(edit.field->ReadText()), text_(shownBefore_), caret_(caret)
 {
     TakeApart();
-    const FormatShape& shape = Mask().shape;
-    const bool isShort = !Mask().Grows() && Length(digits_.integer) < shape.forcedInteger;
-    if (isShort || Length(digits_.fraction) > shape.fractionPlaces)
-        LayOutForeign(isShort ? DigitPlace{false, shape.forcedInteger} : shown_->PlaceAt(caret));
 }
 
-// A text from outside that the mask would not have shown.
-void NumberEdit::LayOutForeign(DigitPlace place)
+void NumberEdit::BringIntoForm()
 {
-    TypedNumber digits = digits_;
-    RoundToPlaces(digits, Mask().shape.fractionPlaces);
-    LayOut(digits, place);
+    const FormatShape& shape = Mask().shape;
+    const bool isShort = !Mask().Grows() && Length(digits_.integer) < shape.forcedInteger;
+    if (isShort)
+        LayOut(digits_, {false, shape.forcedInteger});
+    else if (Length(digits_.fraction) > shape.fractionPlaces)
+        LayOut(digits_, shown_->PlaceAt(caret_));
+}
+
+bool NumberEdit::IsInForm() const
+{
+    return LayOutDigits(Mask().format, Mask().shape, digits_, *edit_.settings) == text_;
 }
 
 void NumberEdit::TakeApart()
@@ -72,9 +75,9 @@ bool NumberEdit::FitsOneMore() const
     return ShownLength(shape, *edit_.settings, Length(HeldInteger()) + 1) <= shape.room;
 }
 
-bool NumberEdit::IsBlank() const
+bool NumberEdit::IsZero() const
 {
-    return !digits_.negative && IsZeros(digits_.integer) && IsZeros(digits_.fraction);
+    return IsZeros(digits_.integer) && IsZeros(digits_.fraction);
 }
 
 void NumberEdit::CarryTo(int32_t caret)
@@ -84,8 +87,9 @@ void NumberEdit::CarryTo(int32_t caret)
 }
 
 // A text from outside that is too long to be a number stays as it is, until enough of it is deleted.
-void NumberEdit::LayOut(const TypedNumber& digits, DigitPlace place)
+void NumberEdit::LayOut(TypedNumber digits, DigitPlace place)
 {
+    RoundToPlaces(digits, Mask().shape.fractionPlaces);
     if (Length(digits.integer) + Length(digits.fraction) > kMostDigits)
         return;
     text_ = LayOutDigits(Mask().format, Mask().shape, digits, *edit_.settings);

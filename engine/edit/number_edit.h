@@ -26,8 +26,8 @@ public:
     Text HeldInteger() const;
     // Whether the room before the point takes one more digit.
     bool FitsOneMore() const;
-    // No digit but zeros, and no sign: nothing that somebody typed.
-    bool IsBlank() const;
+    bool IsZero() const;  // no digit but zeros
+    bool IsBlank() const { return IsZero() && !digits_.negative; }
 
     // The same digits without the zeros in front that hold no place: those of a number that grows.
     TypedNumber WithoutZerosInFront(TypedNumber digits) const;
@@ -35,16 +35,19 @@ public:
     void MoveTo(int32_t caret) { caret_ = caret; }
     // Moves the caret over literals, any of which may be typed next.
     void CarryTo(int32_t caret);
-    bool IsCarried() const { return carriedTo_ != 0; }
     // Lays other digits out, with the caret at a place among them.
-    void LayOut(const TypedNumber& digits, DigitPlace place);
+    void LayOut(TypedNumber digits, DigitPlace place);
+
+    // Whether the text is one that the mask shows; one that was set from outside may be none.
+    bool IsInForm() const;
+    // Lays a text out that was set from outside and that the mask would not have shown.
+    void BringIntoForm();
 
     // Shows the text where it has changed, and puts the caret.
     void Show();
 
 private:
     void TakeApart();
-    void LayOutForeign(DigitPlace place);
 
     EditInstance& edit_;
     Text shownBefore_;

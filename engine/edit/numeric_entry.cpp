@@ -38,7 +38,7 @@ bool IsDecimalChar(const EditInstance& edit, Char typed)
 // A full number is edited position by position: arrow keys pass its separators.
 void MarkWhenFull(EditInstance& edit, const NumberEdit& number)
 {
-    if (!number.FitsOneMore())
+    if (!number.Mask().Grows() || !number.FitsOneMore())
         edit.flags |= CHARWISE;
 }
 
@@ -52,15 +52,32 @@ MaskLiterals LiteralsTypedFirst(const NumberMask& mask)
     return mask.shape.percent ? MaskLiterals{} : mask.behind;
 }
 
-// What is typed into an empty field may begin with them. A digit, a sign or a decimal character begins the number instead.
-bool IsSpelled(const EditInstance& edit, const NumberEdit& number, const NumericKey& key)
+// Where the currency symbol begins among literals that end with it; 0 where they do not.
+int32_t SymbolStart(const MaskLiterals& literals, const Settings& settings)
 {
-    const MaskLiterals before = LiteralsTypedFirst(number.Mask());
-    const bool beginsNumber = IsDigit(key.typed) || IsSign(key.typed) || IsDecimalChar(edit, key.typed);
-    if (!number.IsBlank() || key.spelled >= before.length || (key.spelled == 0 && beginsNumber))
-        return false;
-    const bool placed = number.Caret() == key.spelled || number.Caret() == number.Shown().Start();
-    return placed && before.text[key.spelled] == key.typed;
+    const auto start = literals.length - static_cast<int32_t>(TextLength(settings.currencySymbol));
+    return start > 0 && BeginsWith(literals.text + start, settings.currencySymbol) ? start : 0;
+}
+
+bool BeginsNumber(const EditInstance& edit, Char typed)
+{
+    return IsDigit(typed) || IsSign(typed) || IsDecimalChar(edit, typed);
+}
+
+// What is typed into an empty field may begin with them, or with the symbol that ends them; a digit, a sign or a decimal character
+// begins the number instead. Returns which of the literals the key is; -1: none.
+int32_t FindSpelled(const EditInstance& edit, const NumberEdit& number, const NumericKey& key)
+{
+    const MaskLiterals literals = LiteralsTypedFirst(number.Mask());
+    const int32_t caret = number.Caret();
+    if (!number.IsBlank() || key.spelled >= literals.length ||
+        (caret != key.spelled && caret != number.Shown().Start()))
+        return -1;
+    if (literals.text[key.spelled] == key.typed && (key.spelled > 0 || !BeginsNumber(edit, key.typed)))
+        return key.spelled;
+    const int32_t symbol = SymbolStart(literals, *edit.settings);
+    const bool begins = key.spelled == 0 && symbol > 0 && caret == number.Shown().Start();
+    return begins && literals.text[symbol] == key.typed && !BeginsNumber(edit, key.typed) ? symbol : -1;
 }
 
 void PassSpelled(EditInstance& edit, NumberEdit& number, int32_t spelled)
@@ -68,7 +85,6 @@ void PassSpelled(EditInstance& edit, NumberEdit& number, int32_t spelled)
     edit.spelled = spelled + 1;
     if (number.Caret() < number.Shown().Start())
         number.MoveTo(number.Caret() + 1);
-    number.CarryTo(number.Caret());
 }
 
 // A character that is no digit and stands at the caret is passed. The sign's own key, and the point's before the number, mean more.
@@ -162,8 +178,11 @@ Outcome PlaceDigit(const EditInstance& edit, NumberEdit& number, const NumericKe
 
 Outcome TypeDigit(EditInstance& edit, NumberEdit& number, const NumericKey& key)
 {
+    const int32_t caret = number.Caret();
     LeaveLiterals(number);
     const Outcome outcome = PlaceDigit(edit, number, key);
+    if (outcome == Outcome::Refused)
+        number.MoveTo(caret);
     MarkWhenFull(edit, number);
     return outcome;
 }
@@ -178,7 +197,9 @@ Outcome TypeSign(NumberEdit& number, Char typed)
     if (typed == '+' && !digits.negative)
         return Outcome::Taken;  // not shown
     digits.negative = typed == '-';
+    const int32_t caret = number.Caret();
     number.LayOut(digits, number.Shown().Front());
+    number.MoveTo(typed == '+' ? caret : number.Shown().PositionOf(number.Shown().Front()));
     return Outcome::Taken;
 }
 
@@ -196,7 +217,6 @@ Outcome TypePoint(EditInstance& edit, NumberEdit& number)
     typed.integer.resize(typed.integer.size() - static_cast<size_t>(dropped));
     number.LayOut(dropped > 0 ? number.WithoutZerosInFront(typed) : typed, {true, 0});
     ChooseEditMode(edit);
-    MarkWhenFull(edit, number);
     return Outcome::Taken;
 }
 
@@ -223,8 +243,8 @@ void Relay(NumberEdit& number)
 
 Outcome Enter(EditInstance& edit, NumberEdit& number, const NumericKey& key)
 {
-    if (IsSpelled(edit, number, key)) {
-        PassSpelled(edit, number, key.spelled);
+    if (const int32_t spelled = FindSpelled(edit, number, key); spelled >= 0) {
+        PassSpelled(edit, number, spelled);
         return Outcome::Taken;
     }
     if (IsShownAtCaret(edit, number, key.typed)) {
@@ -262,22 +282,21 @@ void DeleteBy(EditInstance& edit, Selection selection, bool (*deleteDigit)(Numbe
     if (!IsTypedInto(edit))
         return;
     NumberEdit number(edit, selection.start);
-    bool deleted = !selection.IsEmpty();
-    if (deleted)
+    if (!selection.IsEmpty())
         DeleteSelected(number, selection);
-    else
-        deleted = deleteDigit(number);
-    if (!deleted)
+    else if (!deleteDigit(number))
         return PlaceCaret(edit, number.Caret());
     SetFlag(edit, CHARWISE, false);
     number.Show();
 }
 
-// A 0 that shows nothing has begun the number all the same: the symbol is no more typed before it.
-void NoteNumberBegun(EditInstance& edit, NumberEdit& number)
+// Any other key that is taken has begun the number, a 0 that shows nothing too: literals are no more typed before it.
+void NoteSpelled(EditInstance& edit, const NumericKey& key, Outcome outcome)
 {
-    edit.spelled = kNoMore;
-    number.CarryTo(number.Caret());
+    if (outcome == Outcome::Refused || outcome == Outcome::Dropped)
+        edit.spelled = key.spelled;
+    else if (edit.spelled == 0)
+        edit.spelled = kNoMore;
 }
 
 }  // namespace
@@ -291,19 +310,18 @@ void EnterNumericChar(EditInstance& edit, Char typed, Selection selection)
     if (!IsTypedInto(edit) || (IsControl(typed) && !selection.IsEmpty()))
         return edit.field->Beep();
     NumberEdit number(edit, selection.start);
-    NumericKey key = {typed, 0, false};
-    if (!selection.IsEmpty()) {
+    NumericKey key = {typed, selection.IsEmpty() ? spelled : 0, false};
+    if (selection.IsEmpty()) {
+        if (IsCarriedLiteral(edit, number.Shown().Shown(), carried, selection.start, typed))
+            return;
+        number.BringIntoForm();
+    } else {
         key.insertsIntoFraction = number.Mask().Grows() && number.Shown().IsInFraction(selection.start);
         SetFlag(edit, CHARWISE, false);
         DeleteSelected(number, selection);
-    } else if (carried.to != 0 && carried.to == selection.start) {
-        key.spelled = spelled;
-        if (IsCarriedLiteral(edit, number.Shown().Shown(), carried, selection.start, typed))
-            return;
     }
     const Outcome outcome = Enter(edit, number, key);
-    if (outcome == Outcome::Taken && edit.spelled == 0 && !number.IsCarried())
-        NoteNumberBegun(edit, number);
+    NoteSpelled(edit, key, outcome);
     Finish(edit, number, outcome);
 }
 

@@ -10,19 +10,15 @@ namespace zte {
 
 namespace {
 
-// A percentage means what it shows: 12.5% is an eighth.
-void SetNumber(EditInstance& edit, const Text& number)
+void SetNumber(EditInstance& edit, const Text& value)
 {
-    double value = NumberFromText(edit, number);
-    value = Has(edit, PERCENT) ? FromPercentage(value) : value;
-    SetData(edit, &value);
-}
-
-void SetDecimal(EditInstance& edit, const Text& number)
-{
-    DecimalValue value = DecimalFromText(edit, number);
-    value = Has(edit, PERCENT) ? FromPercentage(value) : value;
-    SetData(edit, &value);
+    if (edit.dataType == DT_NUMBER) {
+        const double number = NumberFromText(edit, value);
+        SetData(edit, &number);
+    } else {
+        const DecimalValue decimal = DecimalFromText(edit, value);
+        SetData(edit, &decimal);
+    }
 }
 
 // False when the text is no data of the type.
@@ -40,10 +36,7 @@ bool SetFromText(EditInstance& edit, const Text& text)
     }
     if (!IsNumberOf(edit, data))
         return false;
-    if (edit.dataType == DT_NUMBER)
-        SetNumber(edit, data);
-    else
-        SetDecimal(edit, data);
+    SetNumber(edit, ValueOfWritten(edit, data));
     return true;
 }
 

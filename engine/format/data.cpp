@@ -74,7 +74,7 @@ DateTimeValue DateTimeFromText(const EditInstance& edit, const Char* text)
 
 int32_t SetData(EditInstance& edit, const void* data)
 {
-    edit.carriedTo = 0;
+    ForgetPassed(edit);
     SetFlag(edit, CODE_POSITIONED, false);
     if (!edit.mask)
         return 0;

@@ -57,7 +57,7 @@ int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
     SetFlag(edit, SPUN, false);
     const bool isNew = edit.maskJustSet == 0;
     edit.maskJustSet = 1;
-    edit.carriedTo = 0;
+    ForgetPassed(edit);
     ChooseEditMode(edit);
     if (isNew && ShowsPlainEmptyText(edit))
         edit.formatFlags = FORMAT_DONE;

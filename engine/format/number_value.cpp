@@ -60,12 +60,12 @@ Text WithoutSignOfZero(const Text& number)
 }
 
 // The point moved two digits to the left, in the plain form: digits only, so that not one is lost.
-Text Hundredth(const Text& percentage, Char decimalChar)
+Text Hundredth(const Text& percentage, Char pointRead, Char pointWritten)
 {
     const bool negative = !percentage.empty() && percentage[0] == '-';
     Text integer = percentage.substr(!percentage.empty() && IsSign(percentage[0]) ? 1 : 0);
     Text fraction;
-    const int32_t point = Find(integer, decimalChar);
+    const int32_t point = Find(integer, pointRead);
     if (point >= 0) {
         fraction = integer.substr(static_cast<size_t>(point) + 1);
         integer.resize(static_cast<size_t>(point));
@@ -78,7 +78,7 @@ Text Hundredth(const Text& percentage, Char decimalChar)
 
     Text value = negative && !(integer.empty() && fraction.empty()) ? FromAscii("-") : Text();
     value += integer.empty() ? FromAscii("0") : integer;
-    return fraction.empty() ? value : value + decimalChar + fraction;
+    return fraction.empty() ? value : value + pointWritten + fraction;
 }
 
 Text WithoutSymbol(Text text, const Settings& settings)
@@ -203,24 +203,20 @@ DecimalValue DecimalFromText(const EditInstance& edit, const Text& text)
     return services::DecimalOf(WithPlainPoint(text, *edit.settings).c_str(), edit.decimalPlaces);
 }
 
-double FromPercentage(double percentage)
-{
-    return percentage / 100.0;
-}
-
-DecimalValue FromPercentage(const DecimalValue& percentage)
-{
-    return services::Divide(percentage, services::DecimalOf(100));
-}
-
 Text NumberShown(const EditInstance& edit, const Text& text)
 {
     const ShownNumber shown(edit.table->number, *edit.settings, text);
     const Text kept = Kept(edit, text, shown.Start(), shown.End());
     if (IsLoneSign(kept) && shown.Start() == 0 && shown.End() == 1)
         return FromAscii("0");
-    const Text number = WithoutSignOfZero(kept);
-    return Has(edit, PERCENT) ? Hundredth(number, edit.settings->decimalChar) : number;
+    return ValueOfWritten(edit, WithoutSignOfZero(kept));
+}
+
+Text ValueOfWritten(const EditInstance& edit, const Text& number)
+{
+    const Char decimalChar = edit.settings->decimalChar;
+    return Has(edit, PERCENT) ? Hundredth(number, Find(number, decimalChar) >= 0 ? decimalChar : Char{'.'}, decimalChar)
+                              : number;
 }
 
 Text NumberIn(const EditInstance& edit, const Text& text)
@@ -245,7 +241,7 @@ Text PlainNumberOf(const EditInstance& edit, const Text& text)
     ShownReader reader(edit, bare);
     if (!reader.Read() || (reader.IsPercentage() && !Has(edit, PERCENT)))
         return text;
-    return reader.IsPercentage() ? Hundredth(reader.Plain(), Char{'.'}) : reader.Plain();
+    return reader.IsPercentage() ? Hundredth(reader.Plain(), Char{'.'}, Char{'.'}) : reader.Plain();
 }
 
 }  // namespace zte

@@ -150,6 +150,7 @@ void InstallNumberMask(EditInstance& edit, const Text& mask, bool unitsForced)
     auto* block = reinterpret_cast<char*>(edit.mask);
     table->compiled = new (block + compiledAt) services::NumberFormat(parts.compiled);
     table->hasLiterals = HasLiterals(mask, edit.dataType, *edit.settings);
+    table->ampmPosition = -1;
     NumberMask& number = table->number;
     number.format = Place(block, formatAt, parts.format);
     number.isGeneral = IsGeneralFormat(number.format);

@@ -17,6 +17,8 @@ constexpr int kMostReports = 3;  // of one mask
 
 // Scenarios in which the two once differed.
 // clang-format off
+constexpr const char* kColours = "Red\tR/Green\tG/Blue\tB/Grey\tX/None\tnull!";
+
 constexpr ScenarioRow kScenarios[] = {
     {"us", "#,##0.00", kNumber, false, 0, "", nullptr, false, false, "1234.5{read}{Home}{Del}{Back}x"},
     {"us", "##0%", kNumber, false, 0, "", nullptr, false, false, "{sel 0 255}12{End}5{read}"},
@@ -66,6 +68,28 @@ constexpr ScenarioRow kScenarios[] = {
     {"hex", "0.0%", kNumber, true, 0, "", nullptr, false, false, "{data 0x27.15%}{read}"},
     {"us", "AAAA", kString, true, 1, "", "Red\tR/Green\tG/Blue\tB/Grey\tX/None\tnull!", true, true, "R{sel 0 255}{char 24}"},
     {"us", "AAAA", kString, true, 1, "", "Red\tR/Green\tG/Blue\tB/Grey\tX/None\tnull!", true, false, "{mask 2 000}{Down}{Back}"},
+    {"us", "000.0%", kNumber, true, 0, "", nullptr, false, false, "{sel 2 2}{Back}5{Right}"},
+    {"swiss", "000", kNumber, true, 0, "", nullptr, false, false, "{sel 0 255}{Left}{Del}5{Right}"},
+    {"us", "$#,###", kNumber, true, 0, "", nullptr, false, false, "3910{sel 1 10}{Left}"},
+    {"us", "US $#,##0.00", kNumber, true, 0, "", nullptr, false, false, "{data 466}{click 3}"},
+    {"swiss", "[currency(2)]", kNumber, true, 0, "", nullptr, false, false, "{click 2}"},
+    {"german", "#.0%", kNumber, false, 0, "", nullptr, false, false, "{data 899.6}4,{Left}"},
+    {"german", "$#,###", kNumber, true, 0, "", nullptr, false, false, "{data -28.845}{Shift+Home}5"},
+    {"icelandic", "$###", kNumber, false, 0, "", nullptr, false, false, "{paste -28}{Shift+Home}{Del}"},
+    {"danish", "(##0", kNumber, true, 0, "", nullptr, false, false, "{data -7,938}{Home}+"},
+    {"us", "##0", kNumber, true, 1, "", "One\t1/Two\t2/Ten\t10/None\t0", true, false, "-"},
+    {"mexican", "[currency(2)]", kNumber, true, 0, "", nullptr, false, false, "MX"},
+    {"german", "[currency(6)]", kDecimal, false, 0, "", nullptr, false, false, "0E"},
+    {"us", "(A)", kString, false, 1, "", kColours, true, false, "{mask 1 AAA}8{sel 0 255}{mask 6 00.00}6"},
+    {"alpine", "AAAA", kString, true, 1, "", kColours, true, false, "{mask 2 0000}{Del}"},
+    {"african", "##0", kNumber, false, 1, "", "One\t1/Two\t2/Ten\t10/None\t0", true, false, "9{mask 2 000}{Back}"},
+    {"us", "0,000.000", kNumber, false, 0, "", nullptr, false, false, "73{Back}"},
+    {"us", "0,000.000", kNumber, false, 0, "", nullptr, false, false, "{sel 2 12}{Back}"},
+    {"danish", "", kString, true, 1, "", kColours, true, false, "9{char 1}"},
+    {"icelandic", "[currency(2)]", kNumber, true, 0, "", nullptr, false, false, "16k0"},
+    {"hex", "000%", kNumber, false, 0, "", nullptr, false, false, "{data 6}-{Del}"},
+    {"alpine", "[time]", kTime, false, 0, "", nullptr, false, false, "5{char 24}:"},
+    {"german", "#.0%", kNumber, false, 0, "", nullptr, false, false, "8{char 24},"},
 };
 // clang-format on
 

@@ -317,6 +317,7 @@ private:
     std::string typed_;
     std::string carried_;                 // literals over which typing has just carried the caret
     std::optional<std::string> spelled_;  // of the symbol, by the keys typed so far into an emptied number
+    std::optional<std::string> spelledBefore_;  // as it was before the key
     bool readOnly_ = false;
     bool enabled_ = true;
     bool modified_ = false;  // by the user

@@ -199,11 +199,12 @@ void Control::PasteText(const std::string& clipboard)
         return Beep();
     for (char& c : text)
         c = c == Point() ? '.' : c;
-    // A bare number is a percentage in a percent field.
-    if (type_ == kNumber)
-        SetData(Value::OfNumber(Number::FromDouble(ToDouble(text) / (percent_ ? 100.0 : 1.0))));
+    // A bare number is a percentage in a percent field: the point moves before the text becomes a value.
+    const Number number = Number::FromText(text).TimesPowerOfTen(percent_ ? -2 : 0);
+    if (type_ == kNumber && !percent_)
+        SetData(Value::OfNumber(Number::FromDouble(ToDouble(text))));
     else
-        SetData(Value::OfNumber(Number::FromText(text).TimesPowerOfTen(percent_ ? -2 : 0)));
+        SetData(Value::OfNumber(number));
 }
 
 void Control::Click(int position)

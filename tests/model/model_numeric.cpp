@@ -115,6 +115,13 @@ bool Control::BelongsToSymbol(char c, const ShownNumber& shown)
     const std::string& literals = !format.prefix.empty() || format.percent ? format.prefix : regional_->currency;
     const bool there = !format.prefix.empty() || mask_.find(regional_->currency) != std::string::npos;
     const bool begins = IsDigit(c) || c == '-' || c == '+' || (c == Point() && decimalPlaces_ != 0);
+    const std::string& symbol = regional_->currency;
+    const bool symbolEnds = !symbol.empty() && literals.size() > symbol.size() &&
+                            literals.compare(literals.size() - symbol.size(), symbol.size(), symbol) == 0;
+    if (symbolEnds && spelled_->empty() && !begins && literals[0] != c && symbol[0] == c && position == shown.begin) {
+        spelled_ = literals.substr(0, literals.size() - symbol.size() + 1);
+        return true;
+    }
     const std::string next = *spelled_ + c;
     if (!there || (begins && spelled_->empty()) || literals.compare(0, next.size(), next) != 0)
         return false;
@@ -180,6 +187,7 @@ void Control::EnterNumericChar(char c, bool replaces)
             PlaceCaret(position + 1);
         return;
     }
+    spelledBefore_ = spelled_;
     spelled_.reset();
     const size_t over = carried.find(c);
     if (over != std::string::npos) {
@@ -316,7 +324,7 @@ void Control::EnterSign(char c, const ShownNumber& shown)
 void Control::RefuseNumeric()
 {
     Beep();
-    spelled_ = "";
+    spelled_ = spelledBefore_;
     const int position = edit_.Start();
     const ShownNumber shown = Shows(Text());
     const std::string before = Text();
@@ -444,7 +452,7 @@ void Control::DeleteNumericSelection()
     const Digits digits = WithoutFront(shown.digits);
     LayOut(digits);
     const bool grows = NumberFormat().Grows();
-    const bool foreign = before.integerAt.empty() && before.point < 0 && NumberFormat().integer.empty();
+    const bool foreign = before.integerAt.empty() && before.point < 0;
     const bool allZero = grows ? Significant(digits.integer).empty() : foreign;
     if (start >= before.end)
         PlaceCaret(start);
