@@ -110,10 +110,14 @@ protected:
     void PlayRandomly(Type from, Type to)
     {
         const unsigned rounds = EnvironmentNumber("ZT_MODEL_ROUNDS", kDefaultRounds);
-        unsigned number = EnvironmentNumber("ZT_MODEL_SEED", 1) * 1000003;
+        const unsigned seed = EnvironmentNumber("ZT_MODEL_SEED", 1);
+        unsigned number = seed * 1000003;
+        unsigned combination = seed;
         for (const Setting& setting : Settings())
             for (const ControlRow& row : ControlRows()) {
                 number += 7919;
+                if (++combination % kPlayedOf != 0)
+                    continue;
                 for (unsigned round = 0; round < rounds && row.type >= from && row.type <= to && Chosen(row); ++round)
                     Report(RandomScenario(setting, row, number + round * 104729, kStepsOfScenario));
             }

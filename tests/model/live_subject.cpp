@@ -206,6 +206,7 @@ private:
 }  // namespace
 
 const unsigned kDefaultRounds = 1;
+const unsigned kPlayedOf = 3;
 
 std::unique_ptr<Subject> MakeLibrary()
 {

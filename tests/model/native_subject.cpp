@@ -184,6 +184,7 @@ private:
 }  // namespace
 
 const unsigned kDefaultRounds = 16;  // about a million steps
+const unsigned kPlayedOf = 1;
 
 std::unique_ptr<Subject> MakeLibrary()
 {

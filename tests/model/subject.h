@@ -79,6 +79,7 @@ std::unique_ptr<Subject> MakeModel();
 // The library's control, and how often each mask is played on it unless told otherwise: some seconds in all.
 std::unique_ptr<Subject> MakeLibrary();
 extern const unsigned kDefaultRounds;
+extern const unsigned kPlayedOf;  // of the settings and controls one in so many is played, by the seed
 
 }  // namespace model
 
