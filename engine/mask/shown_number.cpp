@@ -25,8 +25,9 @@ bool IsLiteral(const Token& token)
 Text LiteralsBefore(const Char* format)
 {
     Text literals;
-    for (Token token = NextToken(format); IsLiteral(token); token = NextToken(format))
-        literals += token.text;
+    for (Token token = NextToken(format); IsLiteral(token) || token.kind == TokenKind::Group; token = NextToken(format))
+        if (IsLiteral(token))
+            literals += token.text;
     return literals;
 }
 

@@ -43,20 +43,34 @@ public:
     }
 
 private:
-    // Literals count only where another placeholder or the point follows: the others stand behind the number.
+    // Literals count only between placeholders, and before the point: the others stand before the number or behind it.
     void CountRoom(TokenKind kind)
     {
         if (shape_.point)
             return;
-        if (kind == TokenKind::Literal) {
-            literalsPending_ += shape_.room > 0 ? 1 : 0;
-            return;
-        }
-        const bool place = IsPlaceholder(kind) || kind == TokenKind::Group;
-        if (!place && kind != TokenKind::Point)
-            return;
+        if (kind == TokenKind::Literal)
+            CountLiteral();
+        else if (kind == TokenKind::Group && !begun_)
+            ++groupsBefore_;
+        else if (IsPlaceholder(kind) || kind == TokenKind::Group || kind == TokenKind::Point)
+            CountPlace(kind != TokenKind::Point);
+    }
+
+    void CountLiteral()
+    {
+        if (begun_)
+            ++literalsPending_;
+        else
+            groupsBefore_ = 0;
+    }
+
+    void CountPlace(bool takesRoom)
+    {
+        if (!begun_)
+            shape_.room = groupsBefore_;
+        begun_ = true;
         shape_.literalsInside += literalsPending_;
-        shape_.room += literalsPending_ + (place ? 1 : 0);
+        shape_.room += literalsPending_ + (takesRoom ? 1 : 0);
         literalsPending_ = 0;
     }
 
@@ -93,6 +107,8 @@ private:
     }
 
     FormatShape shape_;
+    bool begun_ = false;        // a placeholder or the point was seen
+    int32_t groupsBefore_ = 0;  // ',' directly before the first placeholder
     int32_t literalsPending_ = 0;
     bool groupPending_ = false;
 };

@@ -212,6 +212,7 @@ const ReadCase kReadRows[] = {
     {"EveryDigitOfAPercentage",    "#,##0.000000000000000000%", DT_DECIMAL, "[0.000000000000000000%]",
      "12.345678901234567890", "0.1234567890123456789"},
     {"AnEscapedDigit",             "Tel~5#",        DT_NUMBER,  "Tel5|",    "7",            "7"                     },
+    {"ALiteralBehindASeparator",   ",~5##0",        DT_NUMBER,  "5|0",      "12",           "12"                    },
     {"AnEscapedPoint",             "~.###",         DT_NUMBER,  ".|",       "123",          "123"                   },
     {"TwentyDigits",               "####################", DT_DECIMAL, "|", "12345678901234567890", "12345678901234567890"},
 };
