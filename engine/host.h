@@ -50,6 +50,9 @@ public:
     // The caret is brought into view, then the range is selected. Ends behind the text are brought into it.
     virtual void Select(int32_t start, int32_t end) = 0;
 
+    // Brings the caret into view where it stands now: behind a text that was set anew and is wider than the field.
+    virtual void ScrollToCaret() = 0;
+
     // Puts text in the place of the selection, without an undo step; the caret stands behind it.
     virtual void ReplaceSelection(const Char* text) = 0;
 

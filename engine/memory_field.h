@@ -72,6 +72,7 @@ public:
     void SetText(const Char* text) override;
     void PressArrow(Key key, KeyData keyData, int32_t times) override;
     void PressDelete(KeyData keyData) override;
+    void ScrollToCaret() override {}  // all of the text is in view
     void HoldShift(bool down) override { shiftHeld_ = down; }
     void SetRedraw(bool on) override;
     void KeepLayout() override { Tell(FieldEvent::Layout); }

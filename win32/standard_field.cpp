@@ -202,6 +202,11 @@ bool StandardField::IsModified() const
     return CallBaseEdit(Window(), EM_GETMODIFY, 0, 0) != 0;
 }
 
+void StandardField::ScrollToCaret()
+{
+    CallBaseEdit(Window(), EM_SCROLLCARET, 0, 0);
+}
+
 void StandardField::SetModified()
 {
     CallBaseEdit(Window(), EM_SETMODIFY, TRUE, 0);

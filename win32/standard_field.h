@@ -33,6 +33,7 @@ public:
     void CopySelection() override;
     void PressArrow(Key key, KeyData keyData, int32_t times) override;
     void PressDelete(KeyData keyData) override;
+    void ScrollToCaret() override;
     bool IsModified() const override;
     void SetModified() override;
 

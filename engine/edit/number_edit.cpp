@@ -99,12 +99,15 @@ void NumberEdit::LayOut(TypedNumber digits, DigitPlace place)
 
 void NumberEdit::Show()
 {
-    if (text_ != shownBefore_) {
+    const bool changed = text_ != shownBefore_;
+    if (changed) {
         edit_.field->SetText(text_.c_str());
         edit_.field->KeepLayout();
         edit_.field->SetModified();
     }
     PlaceCaret(edit_, caret_);
+    if (changed)
+        edit_.field->ScrollToCaret();
     edit_.carriedFrom = carriedFrom_;
     edit_.carriedTo = carriedTo_;
 }
