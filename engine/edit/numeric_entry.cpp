@@ -335,19 +335,18 @@ void DeleteInNumber(EditInstance& edit, Selection selection)
     DeleteBy(edit, selection, DeleteDigitAt);
 }
 
+// An entry of a code table may begin with a dash too: only what the mask shows is a number.
 void CompleteNumber(EditInstance& edit)
 {
     if (!IsNumeric(edit.dataType) || !HasMask(edit) || !IsTypedInto(edit))
         return;
-    const Selection selection = edit.field->ReadSelection();
-    NumberEdit number(edit, selection.start);
+    NumberEdit number(edit, Caret(edit));
     TypedNumber digits = number.Digits();
-    if (!std::exchange(digits.negative, false))
+    if (!digits.negative || !number.IsZero() || !number.IsInForm() || edit.field->RefusesInput())
         return;
-    const DigitPlace place = number.Shown().PlaceAt(selection.start);
-    number.LayOut(digits, place);
-    if (number.IsBlank())
-        number.Show();
+    digits.negative = false;
+    number.LayOut(digits, number.Shown().PlaceAt(number.Caret()));
+    number.Show();
 }
 
 }  // namespace zte

@@ -261,6 +261,21 @@ TEST_F(NumberFocus, LeavesTheSignOfANumber)
     EXPECT_EQ(Text(), "-0.05");
 }
 
+TEST_F(NumberFocus, LeavesTextsThatAreNoNumberAlone)
+{
+    GivenText("#,##0.00", DT_NUMBER, "-none-|");
+    control_->LoseFocus();
+    EXPECT_EQ(Text(), "-none-");
+}
+
+TEST_F(NumberFocus, LeavesAControlThatTakesNoInputAlone)
+{
+    GivenText("#,##0.00", DT_NUMBER, "-0.00|");
+    control_->SetReadOnly();
+    control_->LoseFocus();
+    EXPECT_EQ(Text(), "-0.00");
+}
+
 class SignOfZero : public SpinTest {};
 
 TEST_F(SignOfZero, EndsWithAStep)
