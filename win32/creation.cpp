@@ -6,6 +6,7 @@
 #include "engine/format/data.h"
 #include "engine/format/mask_setting.h"
 #include "engine/spin/spin_settings.h"
+#include "win32/heap_watch.h"
 #include "win32/life_guard.h"
 #include "win32/record_store.h"
 #include "win32/regional_settings.h"
@@ -55,7 +56,7 @@ LRESULT CreateControl(HWND hwnd, WPARAM wParam, LPARAM lParam)
 {
     const auto& creation = *reinterpret_cast<const CREATESTRUCTA*>(lParam);
     const auto* params = static_cast<const EditInitParams*>(creation.lpCreateParams);
-    if (!params || !params->heap)
+    if (!params || !IsUsableHeap(params->heap))
         return CallBaseEdit(hwnd, WM_CREATE, wParam, lParam);
 
     EditInstance& edit = NewRecord(hwnd, *params);

@@ -7,6 +7,7 @@
 #include "engine/spin/range.h"
 #include "engine/spin/spin_settings.h"
 #include "win32/creation.h"
+#include "win32/heap_watch.h"
 #include "win32/life_guard.h"
 #include "win32/record_store.h"
 #include "win32/regional_settings.h"
@@ -16,9 +17,25 @@
 
 using namespace zte;
 
+namespace {
+
+// Subclassed with the W function the procedure gets wide texts, which it would take for narrow ones.
+bool GetsWideTexts(HWND hwnd)
+{
+    const auto own = reinterpret_cast<LONG_PTR>(&ZTE_SuperEditWndProc);
+    return IsWindowUnicode(hwnd) && GetWindowLongPtrW(hwnd, GWLP_WNDPROC) == own;
+}
+
+bool CanBeControl(HWND hwnd, const EditInitParams& params)
+{
+    return IsWindow(hwnd) && IsUsableHeap(params.heap) && !GetsWideTexts(hwnd);
+}
+
+}  // namespace
+
 int32_t WINAPI ZTE_Init(HWND hwnd, const EditInitParams* params)
 {
-    return params && params->heap && IsWindow(hwnd) ? SetUpControl(hwnd, *params) : 0;
+    return params && CanBeControl(hwnd, *params) ? SetUpControl(hwnd, *params) : 0;
 }
 
 void WINAPI ZTE_SetAutoskip(HWND hwnd, uint32_t on)
