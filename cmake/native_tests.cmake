@@ -51,6 +51,15 @@ list(TRANSFORM zt_unit_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
 zt_add_native_tests(units ${zt_unit_sources} ${zt_unit_support})
 target_precompile_headers(test_units PRIVATE ${zt_common_headers})
 
+# What the fuzzers play, on the inputs that they have found so far.
+file(GLOB zt_fuzz_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/*.cpp)
+list(FILTER zt_fuzz_sources EXCLUDE REGEX "/fuzzer\\.cpp$")
+add_executable(test_fuzz ${zt_fuzz_sources} ${CMAKE_SOURCE_DIR}/tests/support/currencies.cpp)
+target_link_libraries(test_fuzz PRIVATE zt_engine)
+target_compile_options(test_fuzz PRIVATE -O1)
+add_test(NAME fuzz COMMAND test_fuzz ${CMAKE_SOURCE_DIR}/tests/fuzz/corpus)
+set_tests_properties(fuzz PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
+
 # The engine against an independent reading of its rules, over a million random keys, pastes, values and steps. The model itself
 # takes the time, so once is enough.
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
