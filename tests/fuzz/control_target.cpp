@@ -134,10 +134,11 @@ void TypeControlCharacter(PlayedControl& control, Bytes& bytes)
 
 void UseMenu(PlayedControl& control, Bytes& bytes)
 {
-    switch (bytes.TakeBelow(4)) {
+    switch (bytes.TakeBelow(5)) {
     case 0: control.ClearByMenu(); break;
     case 1: control.CutByMenu(); break;
     case 2: control.UndoByMenu(); break;
+    case 3: control.ShowAgain(); break;
     default: control.FormatAgain(); break;
     }
 }

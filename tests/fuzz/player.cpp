@@ -7,8 +7,10 @@
 
 #include "engine/edit/plain_edit.h"
 #include "engine/format/data.h"
+#include "engine/format/date_text.h"
 #include "engine/format/display.h"
 #include "engine/format/mask_setting.h"
+#include "engine/format/number_value.h"
 #include "engine/format/read_back.h"
 #include "engine/heap_block.h"
 #include "engine/mask/date_mask.h"
@@ -112,6 +114,23 @@ bool ReadsWhatItShows(const EditInstance& edit)
     if (zte::IsNumeric(edit.dataType))
         return IsTypedNumber(edit);
     return !zte::HasAmPmField(edit) || (CanTellHalves(*edit.settings) && !ShowsHalfWithoutHour(edit));
+}
+
+// Whether a field of the text is 00, which is read as something else.
+bool HasZeroField(const EditInstance& edit, const Text& text, zte::FieldKind kind)
+{
+    for (int32_t at = 0; at + 1 < zte::Length(text); ++at)
+        if (zte::PositionOf(edit, text, at).kind == kind && zte::PositionOf(edit, text, at).runBefore == 0)
+            return zte::At(text, at) == '0' && zte::At(text, at + 1) == '0';
+    return false;
+}
+
+bool IsWholeDateOrTime(const EditInstance& edit, const Text& text)
+{
+    DateTimeValue value;
+    return zte::IsDateOrTime(edit.dataType) && zte::ReadDisplayText(edit, text, value) &&
+           !HasZeroField(edit, text, zte::FieldKind::Day) && !HasZeroField(edit, text, zte::FieldKind::Month) &&
+           !(zte::HasAmPmField(edit) && HasZeroField(edit, text, zte::FieldKind::Hour));
 }
 
 bool IsTold()
@@ -368,6 +387,29 @@ void PlayedControl::SetNoData()
     });
 }
 
+// What was typed: a whole date or time is shown again as it was typed, a number with the same value.
+void PlayedControl::CheckTypedAgain()
+{
+    EditInstance& edit = control_.Record();
+    if (!IsWatched() || !ReadsWhatItShows(edit))
+        return;
+    const Text typed = control_.Edit().Shown();
+    if (IsWholeDateOrTime(edit, typed))
+        return CheckShownAgain();
+    if (!zte::IsNumeric(edit.dataType))
+        return;
+    CountStep(3);
+    const auto value = zte::Own(edit, static_cast<char*>(zte::GetData(edit)));
+    zte::SetDataString(edit, value.get());
+    const auto again = zte::Own(edit, static_cast<char*>(zte::GetData(edit)));
+    zte::SetDataString(edit, again.get());
+    const auto thrice = zte::Own(edit, static_cast<char*>(zte::GetData(edit)));
+    DemandEqual(again.get(), thrice.get(), "a number typed, read and set again is that number");
+    Demand(zte::NumberFromText(edit, value.get()) == zte::NumberFromText(edit, again.get()) || edit.dataType == DT_DECIMAL ||
+               zte::Length(typed) > 15,
+           "a number typed is the number shown again", typed, again.get());
+}
+
 // A value just shown, read and shown again is the same text.
 void PlayedControl::CheckShownAgain()
 {
@@ -436,6 +478,12 @@ void PlayedControl::Unformat(const Text& text)
     const uint32_t blocks = control_.BlockCount();
     zte::services::Free(control_.Record().heap, zte::UnformatData(control_.Record(), text.c_str()));
     Demand(control_.BlockCount() == blocks, "a text read is given back");
+}
+
+void PlayedControl::ShowAgain()
+{
+    CheckTypedAgain();
+    CheckAlways();
 }
 
 void PlayedControl::FormatAgain()

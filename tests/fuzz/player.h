@@ -40,6 +40,7 @@ public:
     void Read();
     void Unformat(const zte::Text& text);
     void FormatAgain();
+    void ShowAgain();
 
     // What it does behind the library's back: the laws of the text rest until a value or a mask is set.
     void Select(int32_t anchor, int32_t caret);
@@ -68,6 +69,7 @@ private:
     void CheckNoUndo() const;
     void CheckRefused(const zte::Text& before, zte::Selection selection) const;
     void CheckShownAgain();
+    void CheckTypedAgain();
 
     zte::Settings settings_;
     bool redrawOff_ = false;
