@@ -14,8 +14,20 @@ namespace {
 
 constexpr int kControlId = 7;
 
+// The text of the clipboard that is open, as far as its block goes.
+std::string TextThere()
+{
+    const HANDLE block = GetClipboardData(CF_TEXT);
+    const auto* text = block ? static_cast<const char*>(GlobalLock(block)) : nullptr;
+    if (!text)
+        return "";
+    std::string copy(text, GlobalSize(block));
+    GlobalUnlock(block);
+    return copy.substr(0, copy.find('\0'));
+}
+
 // Fills a clipboard block of exactly the bytes given and tells the control to paste it.
-void PasteBlock(HWND control, UINT format, const void* bytes, size_t size)
+std::string PasteBlock(HWND control, UINT format, const void* bytes, size_t size)
 {
     const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, size);
     std::memcpy(GlobalLock(block), bytes, size);
@@ -26,8 +38,10 @@ void PasteBlock(HWND control, UINT format, const void* bytes, size_t size)
     CloseClipboard();
     SendMessageA(control, WM_PASTE, 0, 0);
     OpenClipboard(nullptr);
+    const std::string text = TextThere();
     EmptyClipboard();
     CloseClipboard();
+    return text;
 }
 
 EditInitParams ParamsOf(const Config& config, SharedHeap heap)
@@ -177,14 +191,14 @@ void Subject::Press(const std::string& keys)
     it_->typist.Play(keys);
 }
 
-void Subject::Paste(const std::string& bytes)
+std::string Subject::Paste(const std::string& bytes)
 {
-    PasteBlock(it_->Window(), CF_TEXT, bytes.data(), bytes.size());
+    return PasteBlock(it_->Window(), CF_TEXT, bytes.data(), bytes.size());
 }
 
-void Subject::PasteUnicode(const std::u16string& units)
+std::string Subject::PasteUnicode(const std::u16string& units)
 {
-    PasteBlock(it_->Window(), CF_UNICODETEXT, units.data(), units.size() * sizeof(char16_t));
+    return PasteBlock(it_->Window(), CF_UNICODETEXT, units.data(), units.size() * sizeof(char16_t));
 }
 
 const zte::EditInstance& Subject::Record()
@@ -198,6 +212,11 @@ const zte::EditInstance& Subject::Record()
 uint32_t Subject::Blocks()
 {
     return SharedHeapBlockCount(it_->control.heap());
+}
+
+void Subject::AcceptBlocks()
+{
+    it_->control.AcceptHeap();
 }
 
 namespace services_under_test {

@@ -173,19 +173,21 @@ void Subject::Press(const std::string& keys)
 }
 
 // A field's clipboard is a text already: what stands behind a NUL is no part of it.
-void Subject::Paste(const std::string& bytes)
+std::string Subject::Paste(const std::string& bytes)
 {
-    it_->control.Edit().SetClipboard(bytes.substr(0, bytes.find('\0')));
+    const std::string text = bytes.substr(0, bytes.find('\0'));
+    it_->control.Edit().SetClipboard(text);
     it_->control.Paste();
     it_->control.Edit().SetClipboard(std::nullopt);
+    return text;
 }
 
-void Subject::PasteUnicode(const std::u16string& units)
+std::string Subject::PasteUnicode(const std::u16string& units)
 {
     std::string bytes;
     for (const char16_t unit : units)
         bytes += static_cast<char>(unit);
-    Paste(bytes);
+    return Paste(bytes);
 }
 
 const zte::EditInstance& Subject::Record()
@@ -197,6 +199,8 @@ uint32_t Subject::Blocks()
 {
     return it_->control.BlockCount();
 }
+
+void Subject::AcceptBlocks() {}
 
 namespace services_under_test {
 

@@ -43,12 +43,14 @@ public:
     void Type(const std::string& text);
     void Press(const std::string& keys);  // named in braces
 
-    // The clipboard's block holds the bytes and nothing behind them.
-    void Paste(const std::string& bytes);
-    void PasteUnicode(const std::u16string& units);
+    // The clipboard's block holds the bytes and nothing behind them. The text that there is to paste: the system may give it a
+    // terminator in the place of its last character.
+    std::string Paste(const std::string& bytes);
+    std::string PasteUnicode(const std::u16string& units);
 
     const zte::EditInstance& Record();
     uint32_t Blocks();
+    void AcceptBlocks();  // those there now are what the control owns
 
 private:
     struct Implementation;
