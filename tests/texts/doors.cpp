@@ -241,6 +241,26 @@ void TextRead(const FieldRow& field, const char* text, size_t)
 
 // ---- spins
 
+Config SpinConfigOf(const FieldRow& field, uint32_t options = 0)
+{
+    Config config = ConfigOf(field);
+    config.options = ZTEO_SPIN | options;
+    config.increment = 1;
+    return config;
+}
+
+// Whatever came before: a spin set up anew steps.
+void ExpectItSteps(Subject& subject)
+{
+    const GuardedText range("1~9");
+    subject.SetMask("##0", DT_NUMBER);
+    subject.SetSpin(range.get(), nullptr, 0);
+    subject.SetDataString("5");
+    subject.Press("{Up}");
+    EXPECT_EQ(subject.Text(), "6");
+    subject.SetSpin(nullptr, nullptr, 0);
+}
+
 void Steps(Subject& subject)
 {
     subject.Select(0, 0);
@@ -256,13 +276,12 @@ void ExpectTheRangeIsKept(Subject& subject, const FieldRow& field, const char* t
     EXPECT_LE(subject.Text().size(), kLongestNumberShown);
     subject.SetSpin(nullptr, nullptr, 0);
     EXPECT_EQ(subject.Record().spinRange, nullptr);
+    ExpectItSteps(subject);
 }
 
 void RangeAtCreation(const FieldRow& field, const char* text, size_t)
 {
-    Config config = ConfigOf(field);
-    config.options = ZTEO_SPIN;
-    config.increment = 1;
+    Config config = SpinConfigOf(field);
     Subject without(config);
     config.range = text;
     Subject subject(config);
@@ -274,7 +293,7 @@ void RangeAtCreation(const FieldRow& field, const char* text, size_t)
 
 void RangeSet(const FieldRow& field, const char* text, size_t)
 {
-    Subject subject(ConfigOf(field));
+    Subject subject(SpinConfigOf(field));
     const BlocksComeBack blocks(subject);
     subject.SetSpin(text, nullptr, 0);
     ExpectTheRangeIsKept(subject, field, text);
@@ -297,13 +316,12 @@ void ExpectTheEntriesFit(Subject& subject, const FieldRow& field)
     subject.SetDataString(field.data);
     Steps(subject);
     subject.SetSpin(nullptr, nullptr, 0);
+    ExpectItSteps(subject);
 }
 
 void CodesAtCreation(const FieldRow& field, const char* text, size_t)
 {
-    Config config = ConfigOf(field);
-    config.options = ZTEO_SPIN | ZTEO_CODE_DISPLAY | ZTEO_CODE_PICK;
-    config.increment = 1;
+    Config config = SpinConfigOf(field, ZTEO_CODE_DISPLAY | ZTEO_CODE_PICK);
     Subject without(config);
     config.codes = text;
     Subject subject(config);
@@ -315,7 +333,7 @@ void CodesAtCreation(const FieldRow& field, const char* text, size_t)
 
 void CodesSet(const FieldRow& field, const char* text, size_t)
 {
-    Subject subject(ConfigOf(field));
+    Subject subject(SpinConfigOf(field));
     const BlocksComeBack blocks(subject);
     subject.SetSpin(nullptr, text, kCodes);
     ExpectTheEntriesFit(subject, field);
@@ -473,24 +491,24 @@ const std::vector<Door>& Doors()
 {
     // clang-format off
     static const std::vector<Door> doors = {
-        {"MaskAtCreation",      Opens::ToAll,     false, GoodMask,     MaskAtCreation},     // EditInitParams.maskText
-        {"MaskAtInit",          Opens::ToAll,     false, GoodMask,     MaskAtInit},         // ZTE_Init
-        {"MaskSet",             Opens::ToAll,     false, GoodMask,     MaskSet},            // ZTE_FmtSetMask
-        {"DataAtCreation",      Opens::ToAll,     false, GoodData,     DataAtCreation},     // EditInitParams.initialData
-        {"DataString",          Opens::ToAll,     false, GoodData,     DataString},         // ZTE_FmtSetDataString
-        {"DisplayAsDataString", Opens::ToAll,     false, GoodDisplay,  DataString},
-        {"StringData",          Opens::ToStrings, false, GoodData,     StringData},         // ZTE_FmtSetData, ZTE_FmtFormatData
-        {"TextRead",            Opens::ToAll,     false, GoodDisplay,  TextRead},           // ZTE_FmtUnformatData
-        {"RangeAtCreation",     Opens::ToAll,     false, GoodRange,    RangeAtCreation},    // EditInitParams.spinRangeText
-        {"RangeSet",            Opens::ToAll,     false, GoodRange,    RangeSet},           // ZTE_SetSpin
-        {"CodesAtCreation",     Opens::ToAll,     false, GoodCodes,    CodesAtCreation},    // EditInitParams.codeTableText
-        {"CodesSet",            Opens::ToAll,     false, GoodCodes,    CodesSet},           // ZTE_SetSpin
-        {"RangeEndRead",        Opens::ToAll,     false, GoodRangeEnd, RangeEndRead},       // ZTE_SpinDateRange
-        {"Pasted",              Opens::ToAll,     false, GoodDisplay,  Pasted},             // WM_PASTE of CF_TEXT
-        {"PastedAsUnicode",     Opens::ToAll,     false, GoodDisplay,  PastedAsUnicode},    // WM_PASTE of CF_UNICODETEXT
-        {"WindowText",          Opens::ToAll,     true,  GoodDisplay,  WindowText},         // WM_SETTEXT
-        {"SelectionReplaced",   Opens::ToAll,     true,  GoodDisplay,  SelectionReplaced},  // EM_REPLACESEL
-        {"Typed",               Opens::ToAll,     false, GoodDisplay,  Typed},              // WM_CHAR
+        {"MaskAtCreation",      Opens::ToAll,     Leads::ToTheMask,  GoodMask,     MaskAtCreation},     // EditInitParams.maskText
+        {"MaskAtInit",          Opens::ToAll,     Leads::ToTheMask,  GoodMask,     MaskAtInit},         // ZTE_Init
+        {"MaskSet",             Opens::ToAll,     Leads::ToTheMask,  GoodMask,     MaskSet},            // ZTE_FmtSetMask
+        {"DataAtCreation",      Opens::ToAll,     Leads::ToTheValue, GoodData,     DataAtCreation},     // EditInitParams.initialData
+        {"DataString",          Opens::ToAll,     Leads::ToTheValue, GoodData,     DataString},         // ZTE_FmtSetDataString
+        {"DisplayAsDataString", Opens::ToAll,     Leads::ToTheValue, GoodDisplay,  DataString},
+        {"StringData",          Opens::ToStrings, Leads::ToTheValue, GoodData,     StringData},         // ZTE_FmtSetData, ZTE_FmtFormatData
+        {"TextRead",            Opens::ToAll,     Leads::ToTheValue, GoodDisplay,  TextRead},           // ZTE_FmtUnformatData
+        {"RangeAtCreation",     Opens::ToAll,     Leads::ToTheValue, GoodRange,    RangeAtCreation},    // EditInitParams.spinRangeText
+        {"RangeSet",            Opens::ToAll,     Leads::ToTheValue, GoodRange,    RangeSet},           // ZTE_SetSpin
+        {"CodesAtCreation",     Opens::ToAll,     Leads::ToTheValue, GoodCodes,    CodesAtCreation},    // EditInitParams.codeTableText
+        {"CodesSet",            Opens::ToAll,     Leads::ToTheValue, GoodCodes,    CodesSet},           // ZTE_SetSpin
+        {"RangeEndRead",        Opens::ToAll,     Leads::ToTheValue, GoodRangeEnd, RangeEndRead},       // ZTE_SpinDateRange
+        {"Pasted",              Opens::ToAll,     Leads::ToTheValue, GoodDisplay,  Pasted},             // WM_PASTE of CF_TEXT
+        {"PastedAsUnicode",     Opens::ToAll,     Leads::ToTheValue, GoodDisplay,  PastedAsUnicode},    // WM_PASTE of CF_UNICODETEXT
+        {"WindowText",          Opens::ToAll,     Leads::ToTheWindow, GoodDisplay,  WindowText},         // WM_SETTEXT
+        {"SelectionReplaced",   Opens::ToAll,     Leads::ToTheWindow, GoodDisplay,  SelectionReplaced},  // EM_REPLACESEL
+        {"Typed",               Opens::ToAll,     Leads::ToTheValue, GoodDisplay,  Typed},              // WM_CHAR
     };
     // clang-format on
     return doors;

@@ -23,10 +23,13 @@ const std::vector<FieldRow>& Fields();
 
 enum class Opens : uint8_t { ToAll, ToStrings };
 
+// A text that goes into the window as a whole takes the system's edit control its time when it is long.
+enum class Leads : uint8_t { ToTheMask, ToTheValue, ToTheWindow };
+
 struct Door {
     const char* name;
     Opens opens;
-    bool reachesTheWindow;  // the whole text goes into the window: a long one takes the system's edit control its time
+    Leads leads;
     std::string (*good)(const FieldRow& field);  // a text that the door is made for
     void (*hand)(const FieldRow& field, const char* text,
                  size_t length);  // hands a text in, and reports what does not hold

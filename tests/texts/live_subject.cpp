@@ -3,7 +3,9 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstring>
+#include <vector>
 
 #include "include/ztedit.h"
 #include "tests/support/live/form.h"
@@ -274,6 +276,13 @@ std::string CopyOf(const char* text)
 }
 
 }  // namespace services_under_test
+
+bool HeapsAreSound()
+{
+    std::vector<HANDLE> heaps(GetProcessHeaps(0, nullptr));
+    GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data());
+    return std::all_of(heaps.begin(), heaps.end(), [](HANDLE heap) { return HeapValidate(heap, 0, nullptr); });
+}
 
 bool IsLive()
 {

@@ -70,6 +70,9 @@ int32_t Compare(const DecimalValue* first, const DecimalValue* second);
 std::string CopyOf(const char* text);  // by the heap, and by copying
 }  // namespace services_under_test
 
+// True when no heap of the process has been written past a block; where a sanitizer watches it has ended the program.
+bool HeapsAreSound();
+
 // Whether the subject is a window, where a call costs a hundred times as much.
 bool IsLive();
 

@@ -6,6 +6,18 @@
 
 namespace zttest {
 
+namespace {
+
+std::string Repeated(const std::string& text, size_t times)
+{
+    std::string repeated;
+    for (size_t i = 0; i < times; ++i)
+        repeated += text;
+    return repeated;
+}
+
+}  // namespace
+
 std::vector<std::string> TextsOfEveryByte(const std::string& good)
 {
     const size_t middle = good.size() / 2;
@@ -47,6 +59,34 @@ std::vector<std::string> RandomTexts(uint32_t seed, int count)
         texts.push_back(text);
     }
     return texts;
+}
+
+std::vector<std::string> PeculiarTexts()
+{
+    constexpr size_t kLong = 100000;
+    std::string highBytes;
+    for (int byte = 0x80; byte <= 0xFF; ++byte)
+        highBytes += static_cast<char>(byte);
+    std::string entries;
+    for (int i = 0; i < 33000; ++i)
+        entries += "entry " + std::to_string(i) + "\t" + std::to_string(i) + "/";
+    // clang-format off
+    return {
+        // masks
+        Repeated("~#", 127), Repeated("~#", 30000), "~", "~~", "##~", std::string(254, '-') + "#", highBytes, "\x80\xFF#\xE4\x81",
+        Repeated("MM/DD/YY ", 100), "HH:MM:SS:" + std::string(240, 'F'), "HH" + Repeated(" AM/PM", 40), "#" + std::string(250, ',') + "#",
+        "[currency", "[currency(" + std::string(60000, '9') + ")]", "[currency(-5)]", "[currency(65540)]", "[currency()]", "[GENERAL]",
+        "[date]" + std::string(60000, '#'), "[date]x", "\"'\"'#", std::string(255, '\\'), "%s%n%d%x%s%s%s#",
+        std::string(255, '0'), std::string(255, '%'), std::string(255, '.'),
+        // data
+        std::string(kLong, '9'), std::string(kLong, ' '), std::string(kLong, '-'), "0." + std::string(kLong, '7'),
+        "1e" + std::string(kLong, '9'), Repeated(highBytes, 800), Repeated("1995-07-04 ", 9000), Repeated("%s%n", 25000),
+        "1e308", "-1e99999", "1e-308", "-", "-.", "2001-02-30", "1995-13-13 25:61:61",
+        // ranges and code tables
+        "9~1", "~", std::string(kLong, '~'), std::string(kLong / 2, '1') + "~" + std::string(kLong / 2, '2'), "2001-02-30~1995-13-13",
+        "x\t" + std::string(kLong, 'y'), std::string(kLong, '/'), std::string(kLong, '\t'), "/", "\t", "//", "a\tb\tc/\t/d", entries,
+    };
+    // clang-format on
 }
 
 std::string Described(const std::string& text)

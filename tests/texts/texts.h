@@ -23,6 +23,9 @@ constexpr size_t kMegabyte = 1048576;
 // Random texts of mask letters, digits, separators, high bytes and any byte at all.
 std::vector<std::string> RandomTexts(uint32_t seed, int count);
 
+// Masks, data, ranges and code tables that are broken or endless in their own ways.
+std::vector<std::string> PeculiarTexts();
+
 // The length of a text and how it begins.
 std::string Described(const std::string& text);
 
