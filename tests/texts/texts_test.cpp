@@ -49,7 +49,7 @@ protected:
 
 TEST_P(TextThroughEachDoor, MayHoldEveryCharacter)
 {
-    const Sample sample(IsLive() ? 509 : 15);
+    const Sample sample(IsLive() ? 751 : 15);
     ForEachField([&](const FieldRow& field, size_t place) {
         const std::vector<std::string> texts = TextsOfEveryByte(GetParam().good(field));
         for (size_t i = 0; i < texts.size() && !HasFailure(); ++i)
@@ -60,8 +60,8 @@ TEST_P(TextThroughEachDoor, MayHoldEveryCharacter)
 
 TEST_P(TextThroughEachDoor, MayHaveAnyLength)
 {
-    const Sample sample(IsLive() ? 61 : 15);
-    const Sample megabytes(IsLive() ? 121 : 75);
+    const Sample sample(IsLive() ? 97 : 15);
+    const Sample megabytes(IsLive() ? 241 : 75);
     const std::vector<LongText> texts = LongTexts();
     ForEachField([&](const FieldRow& field, size_t place) {
         for (size_t i = 0; i < texts.size() && !HasFailure(); ++i)
@@ -73,7 +73,7 @@ TEST_P(TextThroughEachDoor, MayHaveAnyLength)
 
 TEST_P(TextThroughEachDoor, MayBeAnyMix)
 {
-    const Sample sample(IsLive() ? 127 : 15);
+    const Sample sample(IsLive() ? 251 : 15);
     const std::vector<std::string> texts = RandomTexts(4711, 300);
     ForEachField([&](const FieldRow& field, size_t place) {
         for (size_t i = 0; i < texts.size() && !HasFailure(); ++i)
@@ -84,7 +84,7 @@ TEST_P(TextThroughEachDoor, MayBeAnyMix)
 
 TEST_P(TextThroughEachDoor, MayBePeculiar)
 {
-    const Sample sample(IsLive() ? 43 : GetParam().leads == Leads::ToTheMask ? 1 : 15);
+    const Sample sample(IsLive() ? 67 : GetParam().leads == Leads::ToTheMask ? 1 : 15);
     const std::vector<std::string> texts = PeculiarTexts();
     ForEachField([&](const FieldRow& field, size_t place) {
         for (size_t i = 0; i < texts.size() && !HasFailure(); ++i)
