@@ -105,8 +105,9 @@ void WINAPI ZTE_UtilSetFormatRect(HWND hwnd);
  * through a code table, is a plain edit: all that the user does goes to the standard edit control underneath.
  *
  * mask      mask text or one of the keywords "[date]", "[time]", "[date] [time]", "[currency(n)]" (n digits, at most 16);
- *           null counts as empty. Borrowed for the call. The part of a number's mask before its point is the room for what
- *           may be typed there, separators included, a sign not: "#,#.00" takes 123, "#,##0.00" takes 9,999.
+ *           null counts as empty. Borrowed for the call; no more than 256 characters of it are read. The part of a number's
+ *           mask before its point is the room for what may be typed there, separators included, a sign not: "#,#.00" takes
+ *           123, "#,##0.00" takes 9,999.
  * dataType  DT_STRING to DT_DECIMAL.
  *
  * Returns 1 when the mask was installed, 0 when it does not fit the type and the type's default stands in: none for

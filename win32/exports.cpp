@@ -6,6 +6,7 @@
 #include "engine/heap_block.h"
 #include "engine/spin/range.h"
 #include "engine/spin/spin_settings.h"
+#include "engine/values/caller_value.h"
 #include "win32/creation.h"
 #include "win32/heap_watch.h"
 #include "win32/life_guard.h"
@@ -143,7 +144,12 @@ int16_t WINAPI ZTE_GetSpinWidth(HWND hwnd, const RECT* rect)
 int16_t WINAPI ZTE_SpinDateRange(HWND hwnd, DateTimeValue* value, const char* text)
 {
     const EditInstance* edit = GetEditInstance(hwnd);
-    return edit && value && text ? static_cast<int16_t>(ReadRangeEnd(*edit, *value, text)) : int16_t{1};
+    if (!edit || !value || !text)
+        return 1;
+    DateTimeValue end;
+    const int32_t result = ReadRangeEnd(*edit, end, text);
+    WriteValue(value, end);
+    return static_cast<int16_t>(result);
 }
 
 int16_t WINAPI ZTE_SpinRangeCompare(HWND hwnd, const void* first, const void* second)
