@@ -1,7 +1,7 @@
 // Private heaps that count their live blocks. A host makes one per form and discards it whole.
 #include <cstring>
 
-#include "companions/ztshared/no_memory.h"
+#include "companions/memory/no_memory.h"
 #include "ztshared.h"
 
 // Lives in the heap it describes, so that destroying the heap leaves nothing behind.
@@ -11,12 +11,6 @@ struct SharedHeapData {
 };
 
 using shared::RaiseNoMemory;
-
-void shared::RaiseNoMemory()
-{
-    constexpr DWORD kNoMemory = 0xC0000017;  // STATUS_NO_MEMORY
-    RaiseException(kNoMemory, EXCEPTION_NONCONTINUABLE, 0, nullptr);
-}
 
 SharedHeap WINAPI SharedHeapCreate(void)
 {

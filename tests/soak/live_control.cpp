@@ -74,6 +74,7 @@ void LiveControl::Create(HWND parent, SharedHeap heap, const zttest::Config& con
         SetWindowLongPtrA(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ZTE_SuperEditWndProc));
         break;
     case Way::FromDialog: CreateInDialog(parent); break;
+    case Way::AsPlainEdit: hwnd_ = CreateChild(parent, "edit", style, nullptr); break;
     default: {
         zttest::Config first;
         first.mask = "MM/DD/YY";
@@ -86,7 +87,7 @@ void LiveControl::Create(HWND parent, SharedHeap heap, const zttest::Config& con
         break;
     }
     }
-    if (way != Way::ByClass)
+    if (way != Way::ByClass && way != Way::AsPlainEdit)
         ZTE_Init(hwnd_, &params);
     typist_.Use(hwnd_);
 }
@@ -162,8 +163,8 @@ void LiveControl::Perform(const Act& act)
 
 std::string LeadInWindow(HWND parent, const Life& life, Way way, bool shown)
 {
-    // Masks stay until the heap goes, one for each time that the control was configured.
-    const uint32_t mayStay = way == Way::ByInitTwice ? 2 : 1;
+    // A mask stays until the heap goes, for each time that the control was configured, and the range that no spin took with it.
+    const uint32_t mayStay = way == Way::ByInitTwice ? 3 : 2;
     const SharedHeap heap = SharedHeapCreate();
     LiveControl control;
     control.Create(parent, heap, life.config, way, shown);

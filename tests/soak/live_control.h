@@ -15,7 +15,8 @@ enum class Way : uint8_t {
     BySubclassing,  // a standard edit control, subclassed, then ZTE_Init
     ByInitTwice,    // with the record, then ZTE_Init with another one
     FromDialog,     // from a template of a dialog, then ZTE_Init
-    Count
+    Count,
+    AsPlainEdit  // a standard edit control, which knows nothing of the library: what the system itself does
 };
 
 // Lives on a parent and in a heap that outlive it.
