@@ -40,11 +40,14 @@ struct Control {
 
 }  // namespace
 
-EditInstance& NewRecord(HWND hwnd, const EditInitParams& params)
+EditInstance* NewRecord(HWND hwnd, const EditInitParams& params)
 {
     auto* control = new (SharedHeapAlloc(params.heap, sizeof(Control), params.heapFlags)) Control;
     EditInstance& edit = control->record;
-    AttachEditInstance(hwnd, &edit);
+    if (!AttachEditInstance(hwnd, &edit)) {
+        SharedHeapFree(params.heap, control);
+        return nullptr;
+    }
     edit.heap = params.heap;
     edit.heapFlags = params.heapFlags;
     edit.dataType = params.dataType;
@@ -53,7 +56,7 @@ EditInstance& NewRecord(HWND hwnd, const EditInitParams& params)
     edit.settings = &regionalSettings;
     edit.clock = Now;
     ApplyOptions(edit, params.options);
-    return edit;
+    return &edit;
 }
 
 void FreeRecord(HWND hwnd, EditInstance& edit)
@@ -64,18 +67,20 @@ void FreeRecord(HWND hwnd, EditInstance& edit)
     SharedHeapFree(edit.heap, &edit);
 }
 
-void AttachEditInstance(HWND hwnd, EditInstance* edit)
+bool AttachEditInstance(HWND hwnd, EditInstance* edit)
 {
     DetachEditInstance(hwnd);
     HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, sizeof(EditInstance*));
     {
         const LockedBlock locked(block);
         if (!locked.get())
-            return;
+            return false;
         *locked.get() = edit;
     }
-    if (!SetPropA(hwnd, kRecordProperty, block))
+    const bool attached = SetPropA(hwnd, kRecordProperty, block) != FALSE;
+    if (!attached)
         GlobalFree(block);
+    return attached;
 }
 
 EditInstance* GetEditInstance(HWND hwnd)

@@ -95,6 +95,7 @@ void LiveControl::Create(HWND parent, SharedHeap heap, const zttest::Config& con
 void LiveControl::Destroy()
 {
     DestroyWindow(dialog_ ? dialog_ : hwnd_);
+    dialog_ = hwnd_ = nullptr;
 }
 
 void LiveControl::PressSpin(bool up) const
@@ -107,6 +108,17 @@ void LiveControl::PressSpin(bool up) const
     SendMessageA(spin, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, up ? 0 : client.bottom - 1));
     SendMessageA(spin, WM_TIMER, 1, 0);
     SendMessageA(spin, WM_LBUTTONUP, 0, MAKELPARAM(1, 0));
+}
+
+// Also what is hidden: a host may have the spin painted elsewhere.
+void LiveControl::Paint() const
+{
+    RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    const RECT place = {0, 0, 20, 24};
+    const HDC dc = GetDC(hwnd_);
+    ZTE_PaintSpin(hwnd_, dc, &place);
+    ZTE_PaintSpinOnce(&place, dc);
+    ReleaseDC(hwnd_, dc);
 }
 
 void LiveControl::Perform(const Act& act)
@@ -157,7 +169,7 @@ void LiveControl::Perform(const Act& act)
     case Deed::Undo: SendMessageA(hwnd_, EM_UNDO, 0, 0); break;
     case Deed::Resize: SetWindowPos(hwnd_, nullptr, 0, 0, act.first, act.second, SWP_NOMOVE | SWP_NOZORDER); break;
     case Deed::Show: ShowWindow(hwnd_, act.first ? SW_SHOW : SW_HIDE); break;
-    case Deed::Paint: RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN); break;
+    case Deed::Paint: Paint(); break;
     }
 }
 

@@ -35,6 +35,7 @@ public:
 private:
     void CreateInDialog(HWND parent);
     void PressSpin(bool up) const;
+    void Paint() const;
 
     SharedHeap heap_ = nullptr;
     HWND hwnd_ = nullptr;
