@@ -21,6 +21,7 @@ namespace {
 constexpr int kControlKey = 0x11;
 
 const std::string* textBeingEdited = nullptr;
+int operationsBegun = 0;
 
 DateTimeValue TellNow()
 {
@@ -130,8 +131,10 @@ private:
 
 std::string Lead(const Life& life)
 {
+    operationsBegun = 1;
     NativeControl control(life.config);
     for (size_t i = 0; i < life.acts.size(); ++i) {
+        ++operationsBegun;
         const uint32_t blocks = control.Blocks();
         control.Perform(life.acts[i]);
         if (control.Blocks() != blocks && !ChangesBlocks(life.acts[i].deed))
@@ -142,6 +145,11 @@ std::string Lead(const Life& life)
     if (control.Blocks() != 0)
         return std::to_string(control.Blocks()) + " blocks are left: " + Describe(life, life.acts.size());
     return "";
+}
+
+int OperationsBegun()
+{
+    return operationsBegun;
 }
 
 const std::string* TextBeingEdited()

@@ -1,19 +1,20 @@
 // A line of the table that soak.sh prints.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
-#include <ctime>
 #include <initializer_list>
 
 namespace soak {
 
-// Seconds of processor time since it was made.
+// Seconds since it was made.
 class Stopwatch {
 public:
-    double Seconds() const { return static_cast<double>(std::clock() - start_) / CLOCKS_PER_SEC; }
+    double Seconds() const { return std::chrono::duration<double>(Clock::now() - start_).count(); }
 
 private:
-    std::clock_t start_ = std::clock();
+    using Clock = std::chrono::steady_clock;
+    Clock::time_point start_ = Clock::now();
 };
 
 struct BeforeAndAfter {
