@@ -18,7 +18,7 @@ namespace soak {
 namespace {
 
 constexpr int kActs = 16;
-constexpr int kOperations = 1200;
+constexpr int kOperations = 800;
 
 // How the process of a game ends.
 enum : int {
