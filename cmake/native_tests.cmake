@@ -81,6 +81,14 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     target_compile_options(test_model PRIVATE -O1)
 endif()
 
+# Lives of controls over and over, and a heap that fails: small here, large by soak.sh. All memory passes through the tests' gate.
+file(GLOB zt_soak_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/soak/*.cpp)
+list(FILTER zt_soak_sources EXCLUDE REGEX "/live_")
+set(zt_soak_support keyboard.cpp profile.cpp native/main.cpp native/profile_store.cpp)
+list(TRANSFORM zt_soak_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
+zt_add_native_tests(soak ${zt_soak_sources} ${zt_soak_support})
+target_link_options(test_soak PRIVATE -Wl,--wrap=malloc,--wrap=realloc,--wrap=free)
+
 add_test(NAME includes COMMAND ${CMAKE_COMMAND} -DSOURCE_DIR=${CMAKE_SOURCE_DIR}
     -P ${CMAKE_SOURCE_DIR}/cmake/check_includes.cmake)
 add_test(NAME lines COMMAND ${CMAKE_SOURCE_DIR}/tools/check_lines.sh WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})

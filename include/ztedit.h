@@ -13,7 +13,9 @@
  *              "1995-07-04", "14:07:09:000250", "1995-07-04 14:07".
  *
  * All functions are called on the thread that owns the control. For a window that is no control they do nothing and return
- * what is stated there. Nothing is thrown or logged and no message is shown; a refused key beeps.
+ * what is stated there. Nothing is thrown or logged and no message is shown; a refused key beeps. Without memory the process ends
+ * in the system's no-memory exception, as in ztshared.h; a window that the system does not let be tied to its record stays a plain
+ * edit.
  *
  * The parent gets two notifications as WM_COMMAND (control identifier in the low word, lParam the control):
  *   ZTN_AUTOSKIP  the last position was filled, or Right pressed at the end, while autoskip is on: move the focus on.

@@ -93,11 +93,14 @@ void WINAPI LetGoOfHeap(SharedHeapWatcher* watcher)
 
 }  // namespace
 
-EditInstance& NewRecord(HWND hwnd, const EditInitParams& params)
+EditInstance* NewRecord(HWND hwnd, const EditInitParams& params)
 {
     auto* control = new (SharedHeapAlloc(params.heap, sizeof(Control), params.heapFlags)) Control;
     EditInstance& edit = control->record;
-    AttachEditInstance(hwnd, &edit);
+    if (!AttachEditInstance(hwnd, &edit)) {
+        SharedHeapFree(params.heap, control);
+        return nullptr;
+    }
     edit.heap = params.heap;
     edit.heapFlags = params.heapFlags;
     edit.dataType = params.dataType;
@@ -108,7 +111,7 @@ EditInstance& NewRecord(HWND hwnd, const EditInitParams& params)
     ApplyOptions(edit, params.options);
     control->heapEnd.edit = &edit;
     WatchHeap(edit.heap, control->heapEnd, LetGoOfHeap);
-    return edit;
+    return &edit;
 }
 
 void FreeRecord(HWND hwnd, EditInstance& edit)
@@ -120,18 +123,20 @@ void FreeRecord(HWND hwnd, EditInstance& edit)
     SharedHeapFree(edit.heap, &edit);
 }
 
-void AttachEditInstance(HWND hwnd, EditInstance* edit)
+bool AttachEditInstance(HWND hwnd, EditInstance* edit)
 {
     DetachEditInstance(hwnd);
     HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, sizeof(EditInstance*));
     {
         const LockedBlock locked(block);
         if (!locked.get())
-            return;
+            return false;
         *locked.get() = edit;
     }
-    if (!SetPropA(hwnd, kRecordProperty, block))
+    const bool attached = SetPropA(hwnd, kRecordProperty, block) != FALSE;
+    if (!attached)
         GlobalFree(block);
+    return attached;
 }
 
 EditInstance* GetEditInstance(HWND hwnd)

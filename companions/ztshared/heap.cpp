@@ -2,7 +2,7 @@
 // and discards it whole.
 #include <cstring>
 
-#include "companions/ztshared/no_memory.h"
+#include "companions/memory/no_memory.h"
 #include "ztshared.h"
 
 // Lives in the heap it describes, so that destroying the heap leaves nothing behind.
@@ -66,12 +66,6 @@ void TellWatchers(SharedHeap heap)
 }
 
 }  // namespace
-
-void shared::RaiseNoMemory()
-{
-    constexpr DWORD kNoMemory = 0xC0000017;  // STATUS_NO_MEMORY
-    RaiseException(kNoMemory, EXCEPTION_NONCONTINUABLE, 0, nullptr);
-}
 
 SharedHeap WINAPI SharedHeapCreate(void)
 {

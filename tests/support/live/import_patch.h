@@ -1,12 +1,12 @@
-// Leads one import of the control library to a function of the test while it lives.
+// Leads one import of the control library, or of another module, to a function of the test while it lives.
 #pragma once
 
 namespace zttest {
 
 class ImportPatch {
 public:
-    // Reports a failure when the library does not import the function.
-    ImportPatch(const char* dll, const char* function, void* replacement);
+    // Reports a failure when the library does not import the function. importer: another module than the control library.
+    ImportPatch(const char* dll, const char* function, void* replacement, const char* importer = nullptr);
     ImportPatch(const ImportPatch&) = delete;
     ImportPatch& operator=(const ImportPatch&) = delete;
     ~ImportPatch();
