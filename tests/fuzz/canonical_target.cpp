@@ -51,8 +51,8 @@ Text Canonical(const DateTimeValue& value, int32_t kind)
 
 bool IsPossibleDate(const DateTimeValue& value)
 {
-    return value.year >= 1 - 1900 && value.year <= 9999 - 1900 && value.month >= 0 && value.month <= 11 && value.day >= 1 &&
-           value.day <= zte::DaysInMonth(4, value);
+    return value.year >= 1 - 1900 && value.year <= 9999 - 1900 && value.month >= 0 && value.month <= 11 &&
+           value.day >= 1 && value.day <= zte::DaysInMonth(4, value);
 }
 
 bool IsPossibleTime(const DateTimeValue& value)
@@ -138,17 +138,19 @@ void CheckArithmetic(const Text& firstText, const Text& secondText)
     CountStep(4);
     const DecimalValue first = zte::services::DecimalOf(firstText.c_str(), 0);
     const DecimalValue second = zte::services::DecimalOf(secondText.c_str(), 0);
-    Demand(zte::services::Compare(first, second) == -zte::services::Compare(second, first), "an order has two sides", firstText,
-           secondText);
+    Demand(zte::services::Compare(first, second) == -zte::services::Compare(second, first), "an order has two sides",
+           firstText, secondText);
     const DecimalValue sum = zte::services::Add(first, second);
-    Demand(IsValid(sum) && IsValid(zte::services::Subtract(first, second)) && IsValid(zte::services::Divide(first, second)),
+    Demand(IsValid(sum) && IsValid(zte::services::Subtract(first, second)) &&
+               IsValid(zte::services::Divide(first, second)),
            "results are valid records", firstText, secondText);
-    Demand(zte::services::Compare(sum, zte::services::Add(second, first)) == 0, "a sum has no order", firstText, secondText);
+    Demand(zte::services::Compare(sum, zte::services::Add(second, first)) == 0, "a sum has no order", firstText,
+           secondText);
     const bool isExact = first.hi32 == 0 && second.hi32 == 0 && first.lo64 < 10'000'000'000'000u &&
                          second.lo64 < 10'000'000'000'000u && first.scale <= 13 && second.scale <= 13;
     if (isExact && SignificantDigits(first) <= 13 && SignificantDigits(second) <= 13)
-        Demand(zte::services::Compare(zte::services::Subtract(sum, second), first) == 0, "what was added is taken away again",
-               firstText, secondText);
+        Demand(zte::services::Compare(zte::services::Subtract(sum, second), first) == 0,
+               "what was added is taken away again", firstText, secondText);
 }
 
 }  // namespace

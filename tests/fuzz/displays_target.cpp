@@ -90,15 +90,16 @@ void AddTime(const EditInstance& edit, Bytes& bytes, DateTimeValue& value)
 Text Describe(const DateTimeValue& value)
 {
     char text[80];
-    std::snprintf(text, sizeof text, "%d-%02d-%02d %02d:%02d:%02d.%06u", value.year + 1900, value.month + 1, value.day, value.hour,
-                  value.minute, value.second, value.microsecond);
+    std::snprintf(text, sizeof text, "%d-%02d-%02d %02d:%02d:%02d.%06u", value.year + 1900, value.month + 1, value.day,
+                  value.hour, value.minute, value.second, value.microsecond);
     return text;
 }
 
 // Midnight, the one time that reads as no time.
 bool ReadsAsNoTime(const EditInstance& edit, const DateTimeValue& value)
 {
-    return edit.dataType == DT_TIME && value.hour == 0 && value.minute == 0 && value.second == 0 && value.microsecond == 0;
+    return edit.dataType == DT_TIME && value.hour == 0 && value.minute == 0 && value.second == 0 &&
+           value.microsecond == 0;
 }
 
 // A value that the mask can show is read back as it was set.
@@ -114,7 +115,8 @@ void CheckValue(PlayedControl& played, const DateTimeValue& value)
         return;
     }
     Demand(static_cast<bool>(read), "a value shown is read", shown, Describe(value));
-    Demand(std::memcmp(read.get(), &value, sizeof value) == 0, "a value set is the value read", Describe(*read), Describe(value) + " as " + shown + " under " + edit.mask);
+    Demand(std::memcmp(read.get(), &value, sizeof value) == 0, "a value set is the value read", Describe(*read),
+           Describe(value) + " as " + shown + " under " + edit.mask);
 }
 
 // Which values a mask can show: those of its fields, where each field stands once and is read where it is shown. Behind escapes fields
@@ -157,7 +159,8 @@ Text PossibleNumber(const EditInstance& edit, Bytes& bytes)
         integer += static_cast<zte::Char>('0' + bytes.TakeBelow(10));
     Text fraction;
     const int32_t most = edit.dataType == DT_DECIMAL ? 15 : 15 - zte::Length(integer);
-    for (int32_t digits = static_cast<int32_t>(bytes.TakeBelow(16)) % (1 + std::min(places, std::max(most, 0))); digits > 0; --digits)
+    for (int32_t digits = static_cast<int32_t>(bytes.TakeBelow(16)) % (1 + std::min(places, std::max(most, 0)));
+         digits > 0; --digits)
         fraction += static_cast<zte::Char>('0' + bytes.TakeBelow(10));
     integer.erase(0, std::min(integer.find_first_not_of('0'), integer.size()));
     fraction.erase(fraction.find_last_not_of('0') + 1);
@@ -197,8 +200,8 @@ void CheckNumber(PlayedControl& played, const Text& number)
 void CheckNumbers(PlayedControl& played, Bytes bytes)
 {
     const EditInstance& edit = played.Control().Record();
-    if (!zte::IsNumeric(edit.dataType) || edit.table->number.isGeneral ||
-        !IsInOnePiece(edit.table->number.format) || !CanWriteNumbers(*edit.settings))
+    if (!zte::IsNumeric(edit.dataType) || edit.table->number.isGeneral || !IsInOnePiece(edit.table->number.format) ||
+        !CanWriteNumbers(*edit.settings))
         return;
     while (!bytes.IsEmpty())
         CheckNumber(played, PossibleNumber(edit, bytes));

@@ -1,7 +1,7 @@
 // Masks of every type: what the check says, what is installed, what a control shows under it. Bytes: settings, type, the mask.
 #include "engine/format/mask_setting.h"
-#include "engine/mask/mask_choice.h"
 #include "engine/mask/mask_checks.h"
+#include "engine/mask/mask_choice.h"
 #include "engine/mask/mask_table.h"
 #include "engine/memory_control.h"
 #include "tests/fuzz/bytes.h"
@@ -21,14 +21,16 @@ void CheckStandIn(int32_t type, const zte::Settings& settings)
     zte::FieldLayout layout{};
     const Text standIn = zte::FromAscii(zte::DefaultMask(type));
     if (!zte::IsNumeric(type))
-        Demand(standIn.empty() || zte::CheckMask(standIn, type, settings, layout), "a default mask is acceptable", standIn);
+        Demand(standIn.empty() || zte::CheckMask(standIn, type, settings, layout), "a default mask is acceptable",
+               standIn);
 }
 
 void CheckChoice(const Text& mask, int32_t type, const zte::Settings& settings, const zte::ChosenMask& chosen)
 {
     const bool isText = type >= DT_STRING && type <= DT_DECIMAL;
     if (isText)
-        Demand(zte::Length(chosen.text) <= zte::kMaxMaskLength, "a mask installed has at most 255 characters", chosen.text, mask);
+        Demand(zte::Length(chosen.text) <= zte::kMaxMaskLength, "a mask installed has at most 255 characters",
+               chosen.text, mask);
     if (!chosen.asGiven) {
         CheckStandIn(type, settings);
         return;
@@ -63,7 +65,8 @@ void CheckControl(const Text& mask, int32_t type, const zte::Settings& settings,
     DemandEqual(edit.mask, chosen.text, "the mask chosen is installed");
     const uint32_t blocks = played.Control().BlockCount();
     const Text blank = played.Control().Edit().Shown();
-    Demand((zte::SetMask(edit, mask.c_str(), type) != 0) == chosen.asGiven, "the result tells whether the mask was taken", mask);
+    Demand((zte::SetMask(edit, mask.c_str(), type) != 0) == chosen.asGiven,
+           "the result tells whether the mask was taken", mask);
     DemandEqual(played.Control().Edit().Shown(), blank, "the same mask shows the same blank");
     Demand(played.Control().BlockCount() == blocks, "a mask gives the one before it back");
     played.SetMask(mask, type);

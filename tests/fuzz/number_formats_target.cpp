@@ -76,7 +76,8 @@ bool TakeApart(const Text& number, const zte::FormatShape& shape, const zte::Set
             ++sinceGroup;
             continue;
         }
-        if (!grouped || number[at] != settings.thousandChar || sinceGroup == 0 || sinceGroup > 3 || (groups && sinceGroup != 3))
+        if (!grouped || number[at] != settings.thousandChar || sinceGroup == 0 || sinceGroup > 3 ||
+            (groups && sinceGroup != 3))
             return false;
         groups = true;
         sinceGroup = 0;
@@ -132,7 +133,8 @@ void CheckDisplay(const Text& format, const DecimalDigits& number, const zte::Se
            "the literals stand around a number", display, format);
     Laid laid;
     const Text middle = display.substr(before.size(), display.size() - before.size() - behind.size());
-    Demand(TakeApart(middle, shape, settings, laid), "a number is digits, groups of three and a point", display, format);
+    Demand(TakeApart(middle, shape, settings, laid), "a number is digits, groups of three and a point", display,
+           format);
     CheckLaid(laid, shape, number, display);
 }
 

@@ -52,7 +52,8 @@ void CheckCurrencies(const Settings& settings)
 {
     for (int16_t digits = -1; digits <= 17; ++digits) {
         CountStep();
-        Demand(zte::Length(zte::BuildCurrencyMask(digits, settings)) <= zte::kMaxMaskLength, "a currency's mask is a mask");
+        Demand(zte::Length(zte::BuildCurrencyMask(digits, settings)) <= zte::kMaxMaskLength,
+               "a currency's mask is a mask");
     }
 }
 

@@ -28,7 +28,6 @@ using zte::FieldEvent;
 using zte::Selection;
 using zte::Text;
 
-
 bool StartsWith(const Text& text, const zte::MaskLiterals& literals)
 {
     return text.compare(0, static_cast<size_t>(literals.length), literals.text) == 0;
@@ -209,7 +208,8 @@ void PlayedControl::CheckAlways() const
         Tell();
     const Selection selection = control_.Edit().ReadSelection();
     const int32_t length = zte::Length(control_.Edit().Shown());
-    Demand(0 <= selection.start && selection.start <= selection.end && selection.end <= length, "the caret stands in the text");
+    Demand(0 <= selection.start && selection.start <= selection.end && selection.end <= length,
+           "the caret stands in the text");
     Demand(!redrawOff_ || hadUnknownType_, "redrawing is on again");
     if (IsWatched())
         CheckText();
@@ -220,7 +220,8 @@ void PlayedControl::Tell() const
 {
     Text text = control_.Edit().Shown();
     text.insert(static_cast<size_t>(control_.Edit().Caret()), "|");
-    std::fprintf(stderr, "%s%s%s\n", text.c_str(), IsWatched() ? "" : "   (foreign)", beeps_ > 0 ? "   (has beeped)" : "");
+    std::fprintf(stderr, "%s%s%s\n", text.c_str(), IsWatched() ? "" : "   (foreign)",
+                 beeps_ > 0 ? "   (has beeped)" : "");
 }
 
 void PlayedControl::CheckText() const
@@ -251,7 +252,8 @@ void PlayedControl::CheckFields() const
     for (int32_t at = 0; at < edit.displayLength; ++at) {
         const bool isBehind = zte::HasAmPmField(edit) && at > table.ampmPosition;
         if (table.positions[at].kind == zte::FieldKind::Literal)
-            Demand(zte::At(text, at - (isBehind ? missing : 0)) == table.positions[at].character, "literals stand", text, edit.mask);
+            Demand(zte::At(text, at - (isBehind ? missing : 0)) == table.positions[at].character, "literals stand",
+                   text, edit.mask);
     }
 }
 
@@ -263,7 +265,8 @@ void PlayedControl::CheckNumber() const
     const zte::NumberMask& mask = edit.table->number;
     if (text.empty())
         return;
-    Demand(StartsWith(text, mask.before) && EndsWith(text, mask.behind), "the literals of a number stand", text, edit.mask);
+    Demand(StartsWith(text, mask.before) && EndsWith(text, mask.behind), "the literals of a number stand", text,
+           edit.mask);
     const zte::ShownNumber shown(mask, *edit.settings, text);
     DemandEqual(text, zte::LayOutDigits(edit.table->compiled->compiled, mask.shape, shown.Digits(), *edit.settings),
                 "a number shows its digits as the mask lays them");
@@ -301,7 +304,8 @@ void PlayedControl::Type(uint32_t character)
     const EditInstance& edit = control_.Record();
     const Text before = control_.Edit().Shown();
     const Selection selection = control_.Edit().ReadSelection();
-    const bool watched = IsWatched() && (IsPositional(edit) || IsTypedNumber(edit)) && selection.IsEmpty() && !Has(edit, zte::SPUN | zte::CODE_POSITIONED);
+    const bool watched = IsWatched() && (IsPositional(edit) || IsTypedNumber(edit)) && selection.IsEmpty() &&
+                         !Has(edit, zte::SPUN | zte::CODE_POSITIONED);
     const int32_t beeps = beeps_;
     ByUser([&] { control_.Type(character); });
     if (!watched || !IsWatched())
@@ -406,8 +410,8 @@ void PlayedControl::CheckTypedAgain()
     zte::SetDataString(edit, again.get());
     const auto thrice = zte::Own(edit, static_cast<char*>(zte::GetData(edit)));
     DemandEqual(again.get(), thrice.get(), "a number typed, read and set again is that number");
-    Demand(zte::NumberFromText(edit, value.get()) == zte::NumberFromText(edit, again.get()) || edit.dataType == DT_DECIMAL ||
-               zte::Length(typed) > 15,
+    Demand(zte::NumberFromText(edit, value.get()) == zte::NumberFromText(edit, again.get()) ||
+               edit.dataType == DT_DECIMAL || zte::Length(typed) > 15,
            "a number typed is the number shown again", typed, again.get());
 }
 

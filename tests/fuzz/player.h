@@ -74,7 +74,7 @@ private:
     zte::Settings settings_;
     bool redrawOff_ = false;
     bool properMask_ = true;
-    bool foreign_ = false;         // a text stands there that the library has not made
+    bool foreign_ = false;          // a text stands there that the library has not made
     bool foreignSettings_ = false;  // the mask was set under others
     bool limited_ = false;
     bool hadUnknownType_ = false;  // kept: a step of an unknown type leaves redrawing off

@@ -43,7 +43,8 @@ bool CanTellHalves(const zte::Settings& settings)
     const zte::Text am = settings.amString;
     const zte::Text pm = settings.pmString;
     const bool isWord = (am + pm).find_first_of("0123456789 ") == zte::Text::npos;
-    return isWord && !am.empty() && !pm.empty() && am.compare(0, pm.size(), pm) != 0 && pm.compare(0, am.size(), am) != 0;
+    return isWord && !am.empty() && !pm.empty() && am.compare(0, pm.size(), pm) != 0 &&
+           pm.compare(0, am.size(), am) != 0;
 }
 
 }  // namespace zttest

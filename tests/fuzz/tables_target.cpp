@@ -104,7 +104,8 @@ void CheckTable(const EditInstance& edit, const Text& text)
             continue;
         const zte::Char* display = zte::DisplayTextForValue(edit, entries[at].value.c_str());
         Demand(display != nullptr, "an entry is found by its value", entries[at].value);
-        DemandEqual(display, FirstWithValue(entries, entries[at].value)->display, "the first entry with a value is the one");
+        DemandEqual(display, FirstWithValue(entries, entries[at].value)->display,
+                    "the first entry with a value is the one");
         const zte::Char* value = zte::ValueForDisplayText(edit, display);
         Demand(value != nullptr, "an entry is found by what it shows", display);
         DemandEqual(value, FirstShownAs(entries, display)->value, "the first entry shown so is the one");
@@ -113,8 +114,10 @@ void CheckTable(const EditInstance& edit, const Text& text)
 
 bool IsPossible(const DateTimeValue& value)
 {
-    const bool date = !zte::HasDate(value) || (value.month >= 0 && value.month <= 11 && value.day >= 0 && value.day <= 31);
-    const bool time = !zte::HasTime(value) || (value.hour >= 0 && value.hour <= 23 && value.minute >= 0 && value.minute <= 59);
+    const bool date =
+        !zte::HasDate(value) || (value.month >= 0 && value.month <= 11 && value.day >= 0 && value.day <= 31);
+    const bool time =
+        !zte::HasTime(value) || (value.hour >= 0 && value.hour <= 23 && value.minute >= 0 && value.minute <= 59);
     return date && time;
 }
 
