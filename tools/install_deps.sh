@@ -1,8 +1,8 @@
 #!/bin/bash
 # Installs what building, testing and the demo need on Debian 12; does nothing when all is there.
-# Usage: tools/install_deps.sh [--clang | --bench | --coverage]
+# Usage: tools/install_deps.sh [--clang | --bench | --coverage | --mutate]
 #     --clang      the second compiler and the code checkers as well
-#     --bench      what measuring the engine needs, --coverage what counting covered lines needs
+#     --bench      what measuring the engine needs, --coverage what counting covered lines needs, --mutate what tools/mutate needs
 set -euo pipefail
 
 # package:file that shows it is there
@@ -30,6 +30,7 @@ case ${1:-} in
     ;;
 --bench) packages+=(libbenchmark-dev:/usr/include/benchmark/benchmark.h valgrind:valgrind) ;;
 --coverage) packages+=(gcovr:gcovr) ;;
+--mutate) packages+=(clang:clang++ lld:ld.lld python3-clang:/usr/lib/python3/dist-packages/clang/cindex.py) ;;
 esac
 
 fail()
