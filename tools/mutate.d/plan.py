@@ -1,5 +1,7 @@
 """The instrumented copy of the engine: all mutants in one set of sources, chosen among at run time."""
+import hashlib
 import os
+import pickle
 import re
 import subprocess
 import sys
@@ -11,6 +13,7 @@ import clang.cindex as cindex
 
 from sites import NUMBER, Alternative, Reader, Site, apply_edits
 
+HERE = Path(__file__).parent
 NUMBERS_OF_A_FILE = 2048
 FLAGS = ['-std=c++17', '-fno-exceptions', '-fno-rtti', '-D_GLIBCXX_ASSERTIONS', '-w']
 
@@ -39,6 +42,24 @@ def read_file(root, file):
 def read_share(share):
     readers = [read_file(*row) for row in share]
     return [(r.file, r.sites, r.constants, r.uses) for r in readers]
+
+
+def load(root, tree, jobs):
+    """The engine with its copy written; read anew only where something has changed."""
+    digest = hashlib.sha256()
+    for path in sorted([*(root / 'engine').rglob('*'), *(root / 'include').rglob('*'), *HERE.glob('*.py'), HERE / 'switches.h']):
+        if path.is_file():
+            digest.update(str(path).encode() + path.read_bytes())
+    kept = tree.parent / 'engine.pickle'
+    if kept.exists():
+        before, engine = pickle.loads(kept.read_bytes())
+        if before == digest.hexdigest():
+            engine.write()
+            return engine
+    engine = Engine(root, tree, jobs)
+    engine.make()
+    kept.write_bytes(pickle.dumps((digest.hexdigest(), engine)))
+    return engine
 
 
 class Engine:
@@ -199,7 +220,7 @@ class Engine:
 
     def check(self, file):
         command = ['clang++', '-fsyntax-only', '-ferror-limit=0', '-fno-caret-diagnostics', '-ftemplate-backtrace-limit=0', *FLAGS,
-                   f'-I{self.tree}', f'-I{self.tree}/include', '-include', str(Path(__file__).parent / 'switches.h'), str(self.tree / file)]
+                   f'-I{self.tree}', f'-I{self.tree}/include', '-include', str(HERE / 'switches.h'), str(self.tree / file)]
         done = subprocess.run(command, capture_output=True, text=True)
         return done.stderr if done.returncode else ''
 

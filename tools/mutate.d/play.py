@@ -1,6 +1,7 @@
 """Builds the test programs over the instrumented engine, records what each test reaches, and plays the mutants."""
 import json
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -224,7 +225,7 @@ class Builder:
         self.place = out / 'one'
         (self.place / 'programs/bin').mkdir(parents=True, exist_ok=True)
         rows = json.loads((out / 'programs/compile_commands.json').read_text())
-        self.compile = {row['file']: row for row in rows if 'zt_engine.dir' in row['output']}
+        self.compile = {row['file']: row['command'] for row in rows if '/zt_engine.dir/' in row['command']}
         self.links = {}
         for program in PROGRAMS:
             done = subprocess.run(['ninja', '-C', str(out / 'programs'), '-t', 'commands', '-s', f'test_{program}'], capture_output=True,
@@ -236,14 +237,13 @@ class Builder:
         """Whether the tests notice; what the compiler refuses is noticed too."""
         source = self.place / 'mutant.cpp'
         source.write_bytes(self.engine.mutated(mutant).encode('latin-1'))
-        row = self.compile[str(self.tree / mutant.file)]
-        command = row['command'].replace(row['file'], str(source)).replace(f'-o {row["output"]}', f'-o {self.place}/mutant.o')
+        file = str(self.tree / mutant.file)
+        name = Path(file).name + '.o'  # as in the library
+        command = re.sub(r' -o \S+', f' -o {self.place / name}', self.compile[file]).replace(f'-c {file}', f'-c {source}')
         if self.run(command):
             return Result('compiler')
         library = self.place / 'libmutant.a'
         shutil.copy(self.out / 'programs/lib/libzt_engine.a', library)
-        name = Path(row['output']).name
-        shutil.copy(self.place / 'mutant.o', self.place / name)
         if self.run(f'ar r {library} {self.place / name}'):
             raise SystemExit('the library could not be changed')
         for heavy in (False, True):

@@ -12,17 +12,19 @@ def headline(engine, mutant):
 
 
 class Progress:
-    """Every so often, how far it is."""
+    """Every so often, how far it is; each result at once in a log."""
 
-    def __init__(self, total):
+    def __init__(self, total, log):
         self.total, self.done, self.alive = total, 0, 0
+        self.log = open(log, 'w', buffering=1)
         self.lock = threading.Lock()
 
     def __call__(self, mutant, result):
         with self.lock:
             self.done += 1
             self.alive += result.outcome not in KILLED
-            if self.done % 250 == 0:
+            self.log.write(f'{mutant.number} {result.outcome} {result.test}\n')
+            if self.done % 500 == 0:
                 print(f'    {self.done} of {self.total}, {self.alive} not killed', flush=True)
 
 
@@ -66,6 +68,19 @@ def name_of(engine, mutant):
     return file, line, f'{operator}: {change}{number}'
 
 
+def read_survivors(out):
+    rows = json.loads((out / 'results.json').read_text())
+    return {tuple(row[:3]) for row in rows.values() if row[3] not in KILLED}
+
+
+def save(engine, mutants, results, path):
+    rows = {}
+    for mutant in mutants:
+        result = results[mutant.number]
+        rows[mutant.number] = [*name_of(engine, mutant), result.outcome, result.test, round(result.seconds, 3)]
+    path.write_text(json.dumps(rows, indent=0))
+
+
 def finish(engine, mutants, results, out, accepted_path, options):
     accepted = read_accepted(accepted_path)
     alive = [m for m in mutants if results[m.number].outcome not in KILLED]
@@ -80,12 +95,10 @@ def finish(engine, mutants, results, out, accepted_path, options):
     lines.append(f'not killed: {len(alive)}, of these accepted: {len(alive) - len(new)}')
     print('\n'.join(lines))
     with open(out / 'report.txt', 'w') as file:
-        file.write('\n'.join(lines) + '\n\n')
-        for mutant in alive:
-            file.write(describe(engine, mutant, results[mutant.number], accepted))
-    with open(out / 'results.json', 'w') as file:
-        json.dump({m.number: [*name_of(engine, m), results[m.number].outcome, results[m.number].test,
-                              round(results[m.number].seconds, 3)] for m in mutants}, file, indent=0)
+        file.write('\n'.join(lines) + '\n\n' + '\n'.join(table('file', [(m.file, results[m.number].outcome) for m in mutants])) + '\n\n')
+        write_survivors(file, engine, alive, results, accepted)
+    whole = not options.only and not options.survivors
+    save(engine, mutants, results, out / ('results.json' if whole else 'some_results.json'))
     if new and options.accept:
         write_accepted(accepted_path, engine, new)
     if new:
@@ -93,14 +106,26 @@ def finish(engine, mutants, results, out, accepted_path, options):
     return 1 if new else 0
 
 
+def write_survivors(file, engine, mutants, results, accepted):
+    """Line by line of the engine, with the lines around it."""
+    places = defaultdict(list)
+    for mutant in mutants:
+        places[mutant.file, engine.line_of(mutant)].append(mutant)
+    for name, line in sorted(places):
+        text = engine.texts[name].split('\n')
+        file.write(f'==== {name}:{line}\n')
+        for i in range(max(1, line - 4), min(len(text), line + 4) + 1):
+            file.write(f'{">" if i == line else " "} {i:4} {text[i - 1]}\n')
+        for mutant in places[name, line]:
+            file.write(describe(engine, mutant, results[mutant.number], accepted))
+        file.write('\n')
+
+
 def describe(engine, mutant, result, accepted):
-    line = engine.line_of(mutant)
-    text = engine.texts[mutant.file].split('\n')
-    around = ''.join(f'    {"> " if i == line else "  "}{text[i - 1]}\n' for i in range(max(1, line - 3), min(len(text), line + 3)))
     reason = accepted.get(name_of(engine, mutant))
-    known = f'    accepted: {reason}\n' if reason else ''
+    known = f'; accepted: {reason}' if reason else ''
     what = f' ({result.test})' if result.outcome == 'left out' else ''
-    return f'{headline(engine, mutant)}\n    {result.outcome}{what}\n{known}{around}\n'
+    return f'    #{mutant.number} {result.outcome}{what}: {mutant.alternative.operator}: {engine.change(mutant)}{known}\n'
 
 
 def write_accepted(path, engine, mutants):
