@@ -1,8 +1,8 @@
 #!/bin/bash
 # Installs what building, testing and the demo need on Debian 12; does nothing when all is there.
-# Usage: tools/install_deps.sh [--clang | --fuzz | --bench | --coverage]
+# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --coverage]
 #     --clang      the second compiler and the code checkers as well
-#     --fuzz       the fuzzers of clang
+#     --fuzz       the fuzzers of clang; --mutate  what tools/mutate needs
 #     --bench      what measuring the engine needs, --coverage what counting covered lines needs
 set -euo pipefail
 
@@ -35,6 +35,7 @@ case ${1:-} in
     ;;
 --bench) packages+=(libbenchmark-dev:/usr/include/benchmark/benchmark.h valgrind:valgrind) ;;
 --coverage) packages+=(gcovr:gcovr) ;;
+--mutate) packages+=(clang:clang++ lld:ld.lld python3-clang:/usr/lib/python3/dist-packages/clang/cindex.py) ;;
 esac
 
 fail()
