@@ -7,6 +7,7 @@
 #include "engine/spin/range.h"
 #include "engine/spin/spin_settings.h"
 #include "win32/creation.h"
+#include "win32/library.h"
 #include "win32/life_guard.h"
 #include "win32/record_store.h"
 #include "win32/regional_settings.h"
@@ -16,9 +17,21 @@
 
 using namespace zte;
 
+namespace {
+
+// A record on any other window would outlive it, and its heap: nothing would tell when the window goes.
+bool ReachesLibrary(HWND hwnd)
+{
+    DWORD process = 0;
+    GetWindowThreadProcessId(hwnd, &process);
+    return process == GetCurrentProcessId() && SendMessageA(hwnd, reachMessage, 0, 0) == reinterpret_cast<LRESULT>(libraryInstance);
+}
+
+}  // namespace
+
 int32_t WINAPI ZTE_Init(HWND hwnd, const EditInitParams* params)
 {
-    return params && params->heap && IsWindow(hwnd) ? SetUpControl(hwnd, *params) : 0;
+    return params && params->heap && ReachesLibrary(hwnd) ? SetUpControl(hwnd, *params) : 0;
 }
 
 void WINAPI ZTE_SetAutoskip(HWND hwnd, uint32_t on)
