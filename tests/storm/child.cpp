@@ -8,6 +8,7 @@
 #include <cstring>
 #include <thread>
 
+#include "tests/storm/late_release.h"
 #include "tests/storm/laws.h"
 #include "tests/storm/messages.h"
 #include "tests/support/live/as_child.h"
@@ -20,7 +21,7 @@ namespace storm {
 namespace {
 
 constexpr uint32_t kWarmEpisodes = 5;
-constexpr DWORD kStandsStill = 8000;  // milliseconds without an operation; the slowest takes a tenth of a second on an idle machine
+constexpr DWORD kStandsStill = 30000;  // milliseconds without an operation; the slowest takes a tenth of a second on an idle machine
 
 // The report in the memory that parent and child share.
 class SharedReport {
@@ -139,7 +140,7 @@ void PlayEpisode(const Part& part, uint32_t thread, uint32_t episode, Stage& sta
         if (!part.kept.empty() && !part.kept[i])
             continue;
         childReport->op[thread] = static_cast<LONG>(i);
-        laws.Before();
+        laws.Before(ops[i]);
         Play(stage, ops[i]);
         const std::string broken = laws.After(ops[i]);
         ++childReport->operations[thread];
@@ -165,9 +166,22 @@ void DrainQueue()
         DispatchMessageA(&message);
 }
 
+// Adds the host's reactions to the report when the play is over.
+class ReactionCount {
+public:
+    explicit ReactionCount(const Stage& stage) : stage_(stage) {}
+    ReactionCount(const ReactionCount&) = delete;
+    ReactionCount& operator=(const ReactionCount&) = delete;
+    ~ReactionCount() { InterlockedExchangeAdd(&childReport->reactions, static_cast<LONG>(stage_.Reacted())); }
+
+private:
+    const Stage& stage_;
+};
+
 void PlayEpisodes(const Part& part, uint32_t thread)
 {
     Stage stage(part.cast, thread == 0);
+    const ReactionCount reactions(stage);
     DrainQueue();
     int windows = 0;
     for (uint32_t i = thread; i < part.count; i += part.threads) {
@@ -227,6 +241,7 @@ int PlayAsChild(const char* argument)
     childReport = &*report;
     AddVectoredExceptionHandler(1, TellCrash);
     CheckHeaps();
+    HoldBackReleases();
     const zttest::BeepCounter silence;
     PutSettingsBack();
     std::vector<std::thread> others;

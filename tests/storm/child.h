@@ -36,6 +36,7 @@ struct Report {
     LONG op[kThreads];
     LONG64 operations[kThreads];
     LONG kinds[kKinds];
+    LONG reactions;  // inside notifications, beside the operations of the script
     LONG warmEpisodes;
     Counts warm;  // after the first episodes, which fill caches of the system
     Counts last;

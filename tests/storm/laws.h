@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 
@@ -15,7 +16,7 @@ class Laws {
 public:
     explicit Laws(Stage& stage) : stage_(stage) {}
 
-    void Before();
+    void Before(const Op& op);
 
     // The law that the operation has broken; empty when it has broken none.
     std::string After(const Op& op);
@@ -26,21 +27,28 @@ private:
         HWND hwnd;
         HANDLE record;
         HWND spin;
-        int length;
         bool operator==(const Actor& other) const { return hwnd == other.hwnd && record == other.record && spin == other.spin; }
     };
+    struct Cast {
+        Actor actors[kSlots];
+        uint32_t reconfigured;
+        bool operator==(const Cast& other) const
+        {
+            return std::equal(actors, actors + kSlots, other.actors) && reconfigured == other.reconfigured;
+        }
+    };
 
-    Actor ActorIn(int slot) const;
-    bool IsSameCast() const;
+    Cast CastNow() const;
     std::string CheckText(const Op& op, int slot) const;
     std::string CheckSpin(int slot) const;
     std::string CheckExports(int slot) const;
-    std::string CheckBlocks() const;
+    std::string CheckBlocks();
 
     Stage& stage_;
-    Actor before_[kSlots] = {};
+    Cast cast_ = {};  // when blocks_ were counted
     uint32_t blocks_ = 0;
-    uint32_t reconfigured_ = 0;
+    HWND playedWith_ = nullptr;
+    int length_ = 0;
     uint32_t reacted_ = 0;
     uint32_t checks_ = 0;
 };

@@ -542,7 +542,7 @@ void PlaySettings(Stage& stage, const Op& op)
 
 void PlayReact(Stage& stage, const Op& op)
 {
-    stage.Arm({&TriggerOf(op.a), op.b, 1 + op.c % 2});
+    stage.Arm({&TriggerOf(op.a), op.b, 1 + op.c % 6});
 }
 
 void PlaySubclass(Stage& stage, const Op& op)

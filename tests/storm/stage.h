@@ -20,8 +20,8 @@ enum class Cast { Masked, Plain };
 struct Trigger {
     enum class Way : uint8_t { Command, Message, Subclass } way;
     UINT code;
+    bool mayDestroy;  // the edit control underneath survives its own destruction there
     const char* name;
-    bool operator==(const Trigger& other) const { return way == other.way && code == other.code; }
 };
 const Trigger& TriggerOf(uint32_t number);
 
@@ -74,7 +74,7 @@ public:
 private:
     static LRESULT CALLBACK FormProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
     static LRESULT CALLBACK HostProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
-    void OnTrigger(const Trigger& trigger, HWND control);
+    void OnTrigger(Trigger::Way way, UINT code, HWND control);
     HWND CreateWindowOf(const Op& op, void* params, bool byClass) const;
 
     Cast cast_;

@@ -19,7 +19,8 @@ uint64_t FromEnvironment(const char* name, uint64_t standard)
 Plan PlanOf(Cast cast, uint32_t threads = 1)
 {
     constexpr uint64_t kOperations = 20000;
-    return {cast, threads, FromEnvironment("ZT_STORM_SEED", 1), FromEnvironment("ZT_STORM_OPERATIONS", kOperations)};
+    return {cast, threads, FromEnvironment("ZT_STORM_SEED", 1), FromEnvironment("ZT_STORM_OPERATIONS", kOperations),
+            static_cast<int64_t>(FromEnvironment("ZT_STORM_EPISODE", UINT64_MAX))};
 }
 
 bool IsTold()

@@ -111,6 +111,8 @@ void Find(Tour& tour, const Part& part, const Report& report)
     Part plain = shortener.Result();
     plain.cast = Cast::Plain;
     const bool isShared = part.cast == Cast::Masked && IsSame(PlayInChild(plain), report);
+    std::printf("%s\n%s", isShared ? "Plain edits have it, too:" : "The shortest script:", ScriptOf(plain).c_str());
+    std::fflush(stdout);
     (isShared ? tour.sharedFindings : tour.findings).push_back(finding);
 }
 
@@ -119,6 +121,7 @@ void Add(Tour& tour, const Report& report)
     tour.played += static_cast<uint64_t>(report.operations[0] + report.operations[1]);
     for (int kind = 0; kind < kKinds; ++kind)
         tour.kinds[kind] += static_cast<uint64_t>(report.kinds[kind]);
+    tour.reactions += static_cast<uint64_t>(report.reactions);
     if (report.ending != Ending::Played || report.warmEpisodes == 0)
         return;
     tour.growth.gdiObjects += report.last.gdiObjects - report.warm.gdiObjects;
@@ -134,8 +137,12 @@ Tour Travel(const Plan& plan)
     Tour tour;
     tour.plan = plan;
     const ULONGLONG start = GetTickCount64();
-    const auto episodes = static_cast<uint32_t>((plan.operations + kEpisodeLength - 1) / kEpisodeLength);
+    auto episodes = static_cast<uint32_t>((plan.operations + kEpisodeLength - 1) / kEpisodeLength);
     Part part = {plan.cast, plan.seed, 0, episodes, plan.threads};
+    if (plan.only >= 0) {
+        part.first = static_cast<uint32_t>(plan.only);
+        episodes = part.first + 1;
+    }
     while (part.first < episodes && tour.findings.size() < kMostFindings) {
         part.count = episodes - part.first;
         const Report report = PlayInChild(part);
@@ -155,6 +162,7 @@ void Tell(const Tour& tour)
     std::printf("%s, %u thread(s), seed %llu: %llu operations, %.1f s, %.0f/s; findings %zu, shared with plain edits %zu\n", cast,
                 tour.plan.threads, static_cast<unsigned long long>(tour.plan.seed), static_cast<unsigned long long>(tour.played), tour.seconds,
                 static_cast<double>(tour.played) / std::max(tour.seconds, 0.001), tour.findings.size(), tour.sharedFindings.size());
+    std::printf("  reactions inside notifications: %llu\n", static_cast<unsigned long long>(tour.reactions));
     std::printf("  grown over %llu episodes: graphics objects %ld, windows %ld, memory blocks %ld\n",
                 static_cast<unsigned long long>(tour.grownOver), tour.growth.gdiObjects, tour.growth.windows, tour.growth.memoryBlocks);
     for (int kind = 0; kind < kKinds; ++kind)

@@ -14,6 +14,7 @@ struct Plan {
     uint32_t threads;
     uint64_t seed;
     uint64_t operations;
+    int64_t only = -1;  // the one episode to play
 };
 
 struct Tour {
@@ -21,6 +22,7 @@ struct Tour {
     uint64_t played = 0;
     double seconds = 0;
     uint64_t kinds[kKinds] = {};
+    uint64_t reactions = 0;
     std::vector<std::string> findings;
     std::vector<std::string> sharedFindings;  // those that the same script shows with plain edits
     Counts growth = {};                       // from the first episodes of a child to its last

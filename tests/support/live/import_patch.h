@@ -1,12 +1,17 @@
 // Leads one import of the control library to a function of the test while it lives.
 #pragma once
 
+#include <windows.h>
+
 namespace zttest {
 
 class ImportPatch {
 public:
     // Reports a failure when the library does not import the function.
     ImportPatch(const char* dll, const char* function, void* replacement);
+
+    // The same for an import of any module; nothing is led elsewhere when the module does not import the function.
+    ImportPatch(HMODULE module, const char* dll, const char* function, void* replacement);
     ImportPatch(const ImportPatch&) = delete;
     ImportPatch& operator=(const ImportPatch&) = delete;
     ~ImportPatch();
