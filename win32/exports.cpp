@@ -24,7 +24,8 @@ bool ReachesLibrary(HWND hwnd)
 {
     DWORD process = 0;
     GetWindowThreadProcessId(hwnd, &process);
-    return process == GetCurrentProcessId() && SendMessageA(hwnd, reachMessage, 0, 0) == reinterpret_cast<LRESULT>(libraryInstance);
+    return process == GetCurrentProcessId() &&
+           SendMessageA(hwnd, reachMessage, 0, 0) == reinterpret_cast<LRESULT>(libraryInstance);
 }
 
 }  // namespace

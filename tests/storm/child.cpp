@@ -21,7 +21,8 @@ namespace storm {
 namespace {
 
 constexpr uint32_t kWarmEpisodes = 5;
-constexpr DWORD kStandsStill = 30000;  // milliseconds without an operation; the slowest takes a tenth of a second on an idle machine
+constexpr DWORD kStandsStill =
+    30000;  // milliseconds without an operation; the slowest takes a tenth of a second on an idle machine
 
 // The report in the memory that parent and child share.
 class SharedReport {
@@ -75,8 +76,9 @@ bool IsCrash(DWORD code)
 {
     constexpr DWORD kNoMemory = 0xC0000017;
     constexpr DWORD kHeapCorruption = 0xC0000374;
-    return code == EXCEPTION_ACCESS_VIOLATION || code == EXCEPTION_STACK_OVERFLOW || code == EXCEPTION_ILLEGAL_INSTRUCTION ||
-           code == EXCEPTION_INT_DIVIDE_BY_ZERO || code == EXCEPTION_BREAKPOINT || code == kHeapCorruption || code == kNoMemory;
+    return code == EXCEPTION_ACCESS_VIOLATION || code == EXCEPTION_STACK_OVERFLOW ||
+           code == EXCEPTION_ILLEGAL_INSTRUCTION || code == EXCEPTION_INT_DIVIDE_BY_ZERO ||
+           code == EXCEPTION_BREAKPOINT || code == kHeapCorruption || code == kNoMemory;
 }
 
 // At the first sight of it: the system swallows exceptions of window procedures in places.
@@ -224,7 +226,8 @@ Part PartOf(const char* argument, std::string& name)
     char kept[kEpisodeLength + 1] = "";
     int cast = 0;
     unsigned long long seed = 0;
-    std::sscanf(argument, "%63[^,],%d,%llu,%u,%u,%u,%250s", nameRead, &cast, &seed, &part.first, &part.count, &part.threads, kept);
+    std::sscanf(argument, "%63[^,],%d,%llu,%u,%u,%u,%250s", nameRead, &cast, &seed, &part.first, &part.count,
+                &part.threads, kept);
     name = nameRead;
     part.cast = static_cast<Cast>(cast);
     part.seed = seed;

@@ -43,7 +43,8 @@ void HoldBackReleases()
     const auto freeLater = reinterpret_cast<void*>(FreeLater);
     const auto freeLocalLater = reinterpret_cast<void*>(FreeLocalLater);
     for (const char* dll : {"kernelbase.dll", "kernel32.dll"}) {
-        static_cast<void>(new zttest::ImportPatch(windows, dll, "HeapFree", freeLater));  // for as long as the process lives
+        static_cast<void>(
+            new zttest::ImportPatch(windows, dll, "HeapFree", freeLater));  // for as long as the process lives
         static_cast<void>(new zttest::ImportPatch(windows, dll, "LocalFree", freeLocalLater));
     }
 }

@@ -27,7 +27,10 @@ private:
         HWND hwnd;
         HANDLE record;
         HWND spin;
-        bool operator==(const Actor& other) const { return hwnd == other.hwnd && record == other.record && spin == other.spin; }
+        bool operator==(const Actor& other) const
+        {
+            return hwnd == other.hwnd && record == other.record && spin == other.spin;
+        }
     };
     struct Cast {
         Actor actors[kSlots];

@@ -51,6 +51,7 @@ constexpr MessageRow kRows[] = {
     {EM_SETHANDLE,          EM_SETHANDLE,          P::Zero,      P::Zero    },
     {EM_GETTHUMB,           EM_GETTHUMB,           P::LeftOut,   P::LeftOut },  // some systems divide by the height of no line
     {EM_REPLACESEL,         EM_REPLACESEL,         P::Switch,    P::Text    },
+    {EM_SCROLL,             EM_LINESCROLL,         P::Few,       P::Few     },  // some systems paint every line on a longer way
     {EM_GETLINE,            EM_GETLINE,            P::Number,    P::Line    },
     {EM_SETTABSTOPS,        EM_SETTABSTOPS,        P::Few,       P::Stops   },
     {EM_SETWORDBREAKPROC,   EM_SETWORDBREAKPROC,   P::Zero,      P::Zero    },
@@ -85,18 +86,21 @@ constexpr MessageRow kRows[] = {
 // clang-format on
 
 // Numbers at which something ends.
-constexpr INT_PTR kEdges[] = {0,      1,      2,      3,       7,          8,         9,          10,         13,         27,
-                              32,     46,     127,    128,     255,        256,       257,        1000,       0x7FFE,     0x7FFF,
-                              0x8000, 0xFFFE, 0xFFFF, 0x10000, 0x00010001, 0x00640005, 0x7FFFFFFE, 0x7FFFFFFF, INT32_MIN,  -2,
-                              -1,     -3,     -32768, -65536,  INTPTR_MAX, INTPTR_MIN, 0x00100010, 0x0005000A, 0x000A0064};
+constexpr INT_PTR kEdges[] = {
+    0,      1,      2,      3,       7,          8,          9,          10,         13,        27,
+    32,     46,     127,    128,     255,        256,        257,        1000,       0x7FFE,    0x7FFF,
+    0x8000, 0xFFFE, 0xFFFF, 0x10000, 0x00010001, 0x00640005, 0x7FFFFFFE, 0x7FFFFFFF, INT32_MIN, -2,
+    -1,     -3,     -32768, -65536,  INTPTR_MAX, INTPTR_MIN, 0x00100010, 0x0005000A, 0x000A0064};
 
 // What the library and the base do most with.
-constexpr UINT kFavourites[] = {WM_SETTEXT,    WM_GETTEXT,      WM_SETFOCUS,   WM_KILLFOCUS,  WM_PAINT,      WM_SIZE,        WM_MOVE,
-                                WM_SETFONT,    WM_KEYDOWN,      WM_KEYUP,      WM_CHAR,       WM_LBUTTONDOWN, WM_LBUTTONUP,  WM_LBUTTONDBLCLK,
-                                WM_MOUSEMOVE,  WM_CUT,          WM_COPY,       WM_PASTE,      WM_CLEAR,      WM_UNDO,        WM_TIMER,
-                                EM_SETSEL,     EM_REPLACESEL,   EM_SETMARGINS, EM_GETMARGINS, EM_SETRECT,    EM_SETRECTNP,   EM_SETREADONLY,
-                                EM_SETLIMITTEXT, EM_SETPASSWORDCHAR, EM_GETLINE, EM_UNDO,     EM_SCROLLCARET, WM_SETREDRAW,  WM_ENABLE,
-                                WM_CAPTURECHANGED, WM_CANCELMODE, WM_STYLECHANGED, WM_NCCALCSIZE, WM_GETDLGCODE, WM_HSCROLL, WM_VSCROLL};
+constexpr UINT kFavourites[] = {
+    WM_SETTEXT,    WM_GETTEXT,       WM_SETFOCUS,    WM_KILLFOCUS,   WM_PAINT,        WM_SIZE,
+    WM_MOVE,       WM_SETFONT,       WM_KEYDOWN,     WM_KEYUP,       WM_CHAR,         WM_LBUTTONDOWN,
+    WM_LBUTTONUP,  WM_LBUTTONDBLCLK, WM_MOUSEMOVE,   WM_CUT,         WM_COPY,         WM_PASTE,
+    WM_CLEAR,      WM_UNDO,          WM_TIMER,       EM_SETSEL,      EM_REPLACESEL,   EM_SETMARGINS,
+    EM_GETMARGINS, EM_SETRECT,       EM_SETRECTNP,   EM_SETREADONLY, EM_SETLIMITTEXT, EM_SETPASSWORDCHAR,
+    EM_GETLINE,    EM_UNDO,          EM_SCROLLCARET, WM_SETREDRAW,   WM_ENABLE,       WM_CAPTURECHANGED,
+    WM_CANCELMODE, WM_STYLECHANGED,  WM_NCCALCSIZE,  WM_GETDLGCODE,  WM_HSCROLL,      WM_VSCROLL};
 
 UINT RegisteredMessage()
 {

@@ -32,10 +32,24 @@ HWND TargetOf(const Stage& stage, const Op& op)
 
 RECT RectOf(uint32_t number)
 {
-    constexpr RECT kRects[] = {{0, 0, 20, 30},       {0, 0, 0, 0},         {0, 0, 1, 1},           {30, 30, 0, 0},
-                               {-5, -5, 40, 40},     {0, 0, 2000, 4},      {0, 0, 4, 900},         {0, 0, 32767, 32767},
-                               {0, 0, 65535, 65535}, {5, 5, 18, 36000},    {-40000, -9, 40000, 9}, {0, 0, INT32_MAX, INT32_MAX},
-                               {0, 0, 100, 33},      {INT32_MIN, 0, 0, 7}, {10, 0, 60, -20},       {1, 2, 90, 19}};
+    constexpr RECT kRects[] = {
+        {0,         0,  20,        30       },
+        {0,         0,  0,         0        },
+        {0,         0,  1,         1        },
+        {30,        30, 0,         0        },
+        {-5,        -5, 40,        40       },
+        {0,         0,  2000,      4        },
+        {0,         0,  4,         900      },
+        {0,         0,  32767,     32767    },
+        {0,         0,  65535,     65535    },
+        {5,         5,  18,        36000    },
+        {-40000,    -9, 40000,     9        },
+        {0,         0,  INT32_MAX, INT32_MAX},
+        {0,         0,  100,       33       },
+        {INT32_MIN, 0,  0,         7        },
+        {10,        0,  60,        -20      },
+        {1,         2,  90,        19       }
+    };
     return Random(number).Of(kRects);
 }
 
@@ -47,9 +61,10 @@ const char* SectionOf(uint32_t number)
 
 WPARAM CharacterOf(Random& random)
 {
-    constexpr uint8_t kKeys[] = {VK_BACK, VK_TAB,  VK_RETURN, VK_ESCAPE, VK_SPACE, VK_PRIOR,  VK_NEXT,   VK_END,  VK_HOME, VK_LEFT, VK_UP,
-                                 VK_LEFT, VK_RIGHT, VK_DOWN,  VK_INSERT, VK_DELETE, VK_DELETE, VK_SHIFT, 'A',    'C',     'V',     'X',
-                                 'Z',     '1',     '5',       VK_APPS,   VK_F10,   VK_F4,     VK_CONTROL, VK_MENU};
+    constexpr uint8_t kKeys[] = {VK_BACK,   VK_TAB,   VK_RETURN, VK_ESCAPE, VK_SPACE,   VK_PRIOR, VK_NEXT,   VK_END,
+                                 VK_HOME,   VK_LEFT,  VK_UP,     VK_LEFT,   VK_RIGHT,   VK_DOWN,  VK_INSERT, VK_DELETE,
+                                 VK_DELETE, VK_SHIFT, 'A',       'C',       'V',        'X',      'Z',       '1',
+                                 '5',       VK_APPS,  VK_F10,    VK_F4,     VK_CONTROL, VK_MENU};
     return random.OneIn(4) ? random.Below(256) : random.Of(kKeys);
 }
 
@@ -90,7 +105,13 @@ LPARAM CreationFor(Stage& stage, Random& random)
 LPARAM PlaceFor(HWND hwnd, Random& random)
 {
     constexpr UINT kFlags[] = {0, SWP_NOSIZE, SWP_NOMOVE, SWP_SHOWWINDOW, SWP_HIDEWINDOW, SWP_NOSIZE | SWP_NOMOVE};
-    records.place = {hwnd, nullptr, 0, 0, static_cast<int>(random.Below(400)), static_cast<int>(random.Below(100)), random.Of(kFlags)};
+    records.place = {hwnd,
+                     nullptr,
+                     0,
+                     0,
+                     static_cast<int>(random.Below(400)),
+                     static_cast<int>(random.Below(100)),
+                     random.Of(kFlags)};
     return Address(&records.place);
 }
 
@@ -131,7 +152,8 @@ LPARAM ParameterFor(Parameter kind, Stage& stage, HWND hwnd, Random& random)
         records.waiting = {hwnd, WM_KEYDOWN, CharacterOf(random), 1, 0, {}};
         return random.OneIn(2) ? 0 : Address(&records.waiting);
     case Parameter::Dc: return random.OneIn(3) ? 0 : Address(stage.MemoryDc());
-    case Parameter::Margins: return static_cast<LPARAM>(MAKELONG(random.Below(12), random.OneIn(5) ? EC_USEFONTINFO : random.Below(12)));
+    case Parameter::Margins:
+        return static_cast<LPARAM>(MAKELONG(random.Below(12), random.OneIn(5) ? EC_USEFONTINFO : random.Below(12)));
     case Parameter::Font: return Address(stage.Font(random.Next()));
     case Parameter::Window: return Address(stage.Bystander(random.Next()));
     case Parameter::Section: return Address(SectionOf(random.Next()));
@@ -154,8 +176,7 @@ public:
     ~EscapesAhead()
     {
         MSG message;
-        while (form_ && PeekMessageA(&message, form_, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE)) {
-        }
+        while (form_ && PeekMessageA(&message, form_, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE)) {}
     }
 
 private:
@@ -227,7 +248,8 @@ LPARAM PointIn(HWND hwnd, uint32_t number)
 // On a control without a spin the message goes to the control itself.
 void PlaySpinMessage(Stage& stage, const Op& op)
 {
-    constexpr UINT kOfSpins[] = {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_MOUSEMOVE, WM_TIMER, WM_TIMER, WM_PAINT, WM_SETREDRAW};
+    constexpr UINT kOfSpins[] = {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_MOUSEMOVE, WM_TIMER,
+                                 WM_TIMER,       WM_PAINT,     WM_SETREDRAW};
     HWND hwnd = stage.Spin(op.slot);
     if (!hwnd)
         hwnd = stage.Control(op.slot);
@@ -297,7 +319,8 @@ private:
 
 bool HasCharacter(WPARAM key)
 {
-    return key == VK_BACK || key == VK_TAB || key == VK_RETURN || key == VK_ESCAPE || key == VK_SPACE || (key >= '0' && key <= 'Z');
+    return key == VK_BACK || key == VK_TAB || key == VK_RETURN || key == VK_ESCAPE || key == VK_SPACE ||
+           (key >= '0' && key <= 'Z');
 }
 
 void PlayKey(Stage& stage, const Op& op)
@@ -375,7 +398,8 @@ void PlayUnformatData(Stage& stage, const Op& op)
 void PlaySetSpin(Stage& stage, const Op& op)
 {
     constexpr uint32_t kIncrements[] = {0, 1, 2, 7, 1000, INT32_MAX, UINT32_MAX};
-    constexpr uint32_t kStyles[] = {0, 0, SPINSTYLE_PICKLIST, SPINSTYLE_CODETABLE, SPINSTYLE_PICKLIST | SPINSTYLE_CODETABLE, UINT32_MAX, 1};
+    constexpr uint32_t kStyles[] = {
+        0, 0, SPINSTYLE_PICKLIST, SPINSTYLE_CODETABLE, SPINSTYLE_PICKLIST | SPINSTYLE_CODETABLE, UINT32_MAX, 1};
     Random random(op.c);
     stage.NoteReconfigured();
     const char* codes = CodesOf(random.OneIn(2) ? op.b & ~3u : op.b);
@@ -442,7 +466,19 @@ void PlayTextFromOutside(Stage& stage, const Op& op)
 
 void PlayResize(Stage& stage, const Op& op)
 {
-    constexpr SIZE kSizes[] = {{0, 0}, {1, 1}, {120, 20}, {60, 24}, {8, 200}, {200, 3}, {5000, 40}, {40, 5000}, {32767, 32767}, {-10, -10}, {99, 31}};
+    constexpr SIZE kSizes[] = {
+        {0,     0    },
+        {1,     1    },
+        {120,   20   },
+        {60,    24   },
+        {8,     200  },
+        {200,   3    },
+        {5000,  40   },
+        {40,    5000 },
+        {32767, 32767},
+        {-10,   -10  },
+        {99,    31   }
+    };
     const SIZE size = Random(op.a).Of(kSizes);
     const UINT show = Random(op.c).OneIn(4) ? (Random(op.b).OneIn(2) ? SWP_SHOWWINDOW : SWP_HIDEWINDOW) : 0;
     const int left = static_cast<int>(op.b % 50);
@@ -451,13 +487,14 @@ void PlayResize(Stage& stage, const Op& op)
 
 void PlayFont(Stage& stage, const Op& op)
 {
-    SendMessageA(stage.Control(op.slot), WM_SETFONT, reinterpret_cast<WPARAM>(stage.Font(op.a)), static_cast<LPARAM>(op.b & 1));
+    SendMessageA(stage.Control(op.slot), WM_SETFONT, reinterpret_cast<WPARAM>(stage.Font(op.a)),
+                 static_cast<LPARAM>(op.b & 1));
 }
 
 void PlayStyle(Stage& stage, const Op& op)
 {
-    constexpr LONG kStyles[] = {ES_MULTILINE, ES_RIGHT, ES_CENTER, WS_VISIBLE, ES_UPPERCASE, ES_PASSWORD, ES_READONLY, ES_NUMBER, WS_BORDER,
-                                WS_VSCROLL,   WS_HSCROLL};
+    constexpr LONG kStyles[] = {ES_MULTILINE, ES_RIGHT,  ES_CENTER, WS_VISIBLE, ES_UPPERCASE, ES_PASSWORD,
+                                ES_READONLY,  ES_NUMBER, WS_BORDER, WS_VSCROLL, WS_HSCROLL};
     const HWND hwnd = stage.Control(op.slot);
     Random random(op.a);
     switch (random.Below(3)) {
@@ -520,7 +557,9 @@ void PlayPaint(Stage& stage, const Op& op)
     switch (Random(op.a).Below(4)) {
     case 0: SendMessageA(hwnd, WM_PAINT, reinterpret_cast<WPARAM>(dc), 0); break;
     case 1: SendMessageA(hwnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT | PRF_CHILDREN); break;
-    case 2: SendMessageA(hwnd, WM_PRINT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT | PRF_CHILDREN | PRF_NONCLIENT); break;
+    case 2:
+        SendMessageA(hwnd, WM_PRINT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT | PRF_CHILDREN | PRF_NONCLIENT);
+        break;
     default: RedrawWindow(hwnd, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     }
 }
@@ -528,12 +567,33 @@ void PlayPaint(Stage& stage, const Op& op)
 void PlaySettings(Stage& stage, const Op& op)
 {
     static const zttest::RegionalSet kChanges = {
-        {"sDecimal",   "." }, {"sDecimal",   ","           }, {"sDecimal",   ""  }, {"sDecimal",  "\xA7"      }, {"sThousand", ","     },
-        {"sThousand",  "." }, {"sThousand",  ""            }, {"sCurrency",  "$" }, {"sCurrency", ""          }, {"sCurrency", "kr."   },
-        {"iCurrency",  "0" }, {"iCurrency",  "3"           }, {"iCurrency",  "99"}, {"s1159",     "AM"        }, {"s1159",     ""      },
-        {"s1159",      "before noon"}, {"s2359", "PM"      }, {"s2359",      "A" }, {"sShortDate", "M/d/yyyy" }, {"sShortDate", ""     },
-        {"sShortDate", "dd.MM.yyyy" }, {"sShortDate", "yyyy 'de' MMMM dddd d" }, {"sTime", ":"                }, {"sTime",      ""     },
-        {"sTime",      "HMS"        }, {"iCurrDigits", "2" }, {"iCurrDigits", "-7"},
+        {"sDecimal",    "."                    },
+        {"sDecimal",    ","                    },
+        {"sDecimal",    ""                     },
+        {"sDecimal",    "\xA7"                 },
+        {"sThousand",   ","                    },
+        {"sThousand",   "."                    },
+        {"sThousand",   ""                     },
+        {"sCurrency",   "$"                    },
+        {"sCurrency",   ""                     },
+        {"sCurrency",   "kr."                  },
+        {"iCurrency",   "0"                    },
+        {"iCurrency",   "3"                    },
+        {"iCurrency",   "99"                   },
+        {"s1159",       "AM"                   },
+        {"s1159",       ""                     },
+        {"s1159",       "before noon"          },
+        {"s2359",       "PM"                   },
+        {"s2359",       "A"                    },
+        {"sShortDate",  "M/d/yyyy"             },
+        {"sShortDate",  ""                     },
+        {"sShortDate",  "dd.MM.yyyy"           },
+        {"sShortDate",  "yyyy 'de' MMMM dddd d"},
+        {"sTime",       ":"                    },
+        {"sTime",       ""                     },
+        {"sTime",       "HMS"                  },
+        {"iCurrDigits", "2"                    },
+        {"iCurrDigits", "-7"                   },
     };
     const zttest::ProfileValue& change = kChanges[op.a % kChanges.size()];
     zttest::WriteProfile(change.key, change.value);
@@ -584,11 +644,12 @@ using Player = void (*)(Stage& stage, const Op& op);
 
 // In the order of Kind.
 constexpr std::array<Player, kKinds> kPlayers = {
-    PlayMake,      PlayDestroy,      PlayInit,      PlaySendMessage, PlayPostMessage, PlaySpinMessage,     PlayCallProcedure, PlayKey,
-    PlayType,      PlayMouse,        PlaySetMask,   PlaySetData,     PlaySetDataString, PlayReadData,      PlayUnformatData,  PlaySetSpin,
-    PlayMakeSpin,  PlayDropSpin,     PlayPaintSpin, PlayAskSpin,     PlaySetRange,    PlaySwitch,          PlayTextFromOutside, PlayResize,
-    PlayFont,      PlayStyle,        PlayFocus,     PlayClipboard,   PlayPaint,       PlaySettings,        PlayReact,         PlaySubclass,
-    PlayReparent,  PlayPump,
+    PlayMake,          PlayDestroy,  PlayInit,         PlaySendMessage, PlayPostMessage,     PlaySpinMessage,
+    PlayCallProcedure, PlayKey,      PlayType,         PlayMouse,       PlaySetMask,         PlaySetData,
+    PlaySetDataString, PlayReadData, PlayUnformatData, PlaySetSpin,     PlayMakeSpin,        PlayDropSpin,
+    PlayPaintSpin,     PlayAskSpin,  PlaySetRange,     PlaySwitch,      PlayTextFromOutside, PlayResize,
+    PlayFont,          PlayStyle,    PlayFocus,        PlayClipboard,   PlayPaint,           PlaySettings,
+    PlayReact,         PlaySubclass, PlayReparent,     PlayPump,
 };
 
 }  // namespace

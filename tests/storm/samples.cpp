@@ -29,36 +29,54 @@ std::string Repeated(const std::string& text, size_t times)
 
 // clang-format off
 const std::vector<std::string> kMasks = {
-    "", "##", "(###) XXX-!!!", "XXXX", "AA-99", "^^^!!!", "##/##/####", "~#~##", "#,##0.00", "#,#.00", "####", "0000", "#,##0.00%", "[GENERAL]",
-    "[currency(2)]", "[currency(16)]", "[currency(0)]", "$#,##0.00 x", ".00", "MM/DD/YY", "MM/DD/YYYY", "DD-MMM-YYYY", "JJJ/YYYY", "YYYY-MM-DD",
-    "[date]", "[time]", "[date] [time]", "HH:MM:SS:FFFFFF", "HH:MM AM/PM", "AM/PM HH:MM", "HH:MM", "MM/DD/YYYY HH:MM:SS AM/PM", "MM/DD/YY HH:MM",
-    "[currency(99999)]", "[currency(-5)]", "[currency", "~", "~~", "##~", "%s%n%d#", "\"'\"'#", "..,,", "%%#", "   #   ",
-    std::string(255, '#'), std::string(256, '#'), std::string(3000, 'X'), std::string(254, '-') + "#", Repeated("~#", 127), AllHighBytes(),
-    Repeated("MM/DD/YY ", 40), "HH:MM:SS:" + std::string(240, 'F'), "HH" + Repeated(" AM/PM", 40), "#" + std::string(250, ',') + "#",
+    "", "##", "(###) XXX-!!!", "XXXX", "AA-99", "^^^!!!", "##/##/####", "~#~##", "#,##0.00", "#,#.00", "####", "0000",
+    "#,##0.00%", "[GENERAL]",
+    "[currency(2)]", "[currency(16)]", "[currency(0)]", "$#,##0.00 x", ".00", "MM/DD/YY", "MM/DD/YYYY", "DD-MMM-YYYY",
+    "JJJ/YYYY", "YYYY-MM-DD",
+    "[date]", "[time]", "[date] [time]", "HH:MM:SS:FFFFFF", "HH:MM AM/PM", "AM/PM HH:MM", "HH:MM",
+    "MM/DD/YYYY HH:MM:SS AM/PM", "MM/DD/YY HH:MM",
+    "[currency(99999)]", "[currency(-5)]", "[currency", "~", "~~", "##~", "%s%n%d#", "\"'\"'#", "..,,", "%%#",
+    "   #   ",
+    std::string(255, '#'), std::string(256, '#'), std::string(3000, 'X'), std::string(254, '-') + "#",
+    Repeated("~#", 127), AllHighBytes(),
+    Repeated("MM/DD/YY ", 40), "HH:MM:SS:" + std::string(240, 'F'), "HH" + Repeated(" AM/PM", 40),
+    "#" + std::string(250, ',') + "#",
     std::string(255, '0'), std::string(255, '.'),
 };
 const std::vector<std::string> kTexts = {
-    "", "1", "12", "-5", "0", "1234.5", "-1,234.50", "1.234,50", "12.5%", "$5.00", "1e308", "-1e99999", "1e-308", "99999999999999999999999999999",
-    "abc", "any text", "1995-07-04", "07/04/95", "12/31/1999", "14:07", "14:07:09:000250", "02:07 PM", "1995-07-04 14:07", "2024-02-29", "0000-00-00",
-    "JUL", "null!", "One", "Two", "T", "x\ty", "%s%n", "\xFF\xFE\x80", "  ", "-", ".", "+", "--..,,", "line\r\nline\r\n", "\r\n", "\t\t",
-    std::string(254, '9'), std::string(255, 'x'), std::string(256, ' '), std::string(300, '9'), std::string(2000, '-'), AllHighBytes(),
+    "", "1", "12", "-5", "0", "1234.5", "-1,234.50", "1.234,50", "12.5%", "$5.00", "1e308", "-1e99999", "1e-308",
+    "99999999999999999999999999999",
+    "abc", "any text", "1995-07-04", "07/04/95", "12/31/1999", "14:07", "14:07:09:000250", "02:07 PM",
+    "1995-07-04 14:07", "2024-02-29", "0000-00-00",
+    "JUL", "null!", "One", "Two", "T", "x\ty", "%s%n", "\xFF\xFE\x80", "  ", "-", ".", "+", "--..,,",
+    "line\r\nline\r\n", "\r\n", "\t\t",
+    std::string(254, '9'), std::string(255, 'x'), std::string(256, ' '), std::string(300, '9'),
+    std::string(2000, '-'), AllHighBytes(),
     Repeated("1995-07-04 ", 30), "0." + std::string(400, '7'),
 };
 const std::vector<std::string> kLongTexts = {
-    std::string(5000, 'x'), std::string(12000, '9'), std::string(32768, 'i'), std::string(65535, '.'), Repeated("line\r\n", 4000),
+    std::string(5000, 'x'), std::string(12000, '9'), std::string(32768, 'i'), std::string(65535, '.'),
+    Repeated("line\r\n", 4000),
 };
 const std::vector<std::string> kKeys = {
-    "1", "5", "12", "123", "7/4/95", "070495", "1234.5", "-5", ".5", "-.05", "50%", "12a", "a", "p", "jul", "2:07p", "x", "T", "One", "two",
-    "00000", "99999999", "99/99/99", "$", "$5", ",", ".", "-", "+", "--", "%", " ", "/", ":", "\b", "\b\b\b", "\x01" "5", "\x16", "\x18", "\x1A", "\x03",
-    "\r", "\n", "\t", "\x1B", "\x7F", "\xE4\xF6\xFC", "\xFF", "1\b2\b3", "abcdefghijklmnopqrstuvwxyz", "0123456789012345678901234567890123456789",
+    "1", "5", "12", "123", "7/4/95", "070495", "1234.5", "-5", ".5", "-.05", "50%", "12a", "a", "p", "jul", "2:07p",
+    "x", "T", "One", "two",
+    "00000", "99999999", "99/99/99", "$", "$5", ",", ".", "-", "+", "--", "%", " ", "/", ":", "\b", "\b\b\b",
+    "\x01" "5", "\x16", "\x18", "\x1A", "\x03",
+    "\r", "\n", "\t", "\x1B", "\x7F", "\xE4\xF6\xFC", "\xFF", "1\b2\b3", "abcdefghijklmnopqrstuvwxyz",
+    "0123456789012345678901234567890123456789",
 };
 const std::vector<std::string> kRanges = {
-    "", "~", "1~9", "0~0", "9~1", "-5~5", "1~", "~9", "1995-01-01~1999-12-31", "01/01/95~12/31/99", "08:00~17:00", "1995-01-01 08:00~1996-01-01",
-    "x~y", "1~2~3", "1e308~1e309", "0000-00-00~9999-99-99", std::string(3000, '9') + "~" + std::string(3000, '9'), "\xFF~\xFE",
+    "", "~", "1~9", "0~0", "9~1", "-5~5", "1~", "~9", "1995-01-01~1999-12-31", "01/01/95~12/31/99", "08:00~17:00",
+    "1995-01-01 08:00~1996-01-01",
+    "x~y", "1~2~3", "1e308~1e309", "0000-00-00~9999-99-99", std::string(3000, '9') + "~" + std::string(3000, '9'),
+    "\xFF~\xFE",
 };
 const std::vector<std::string> kCodes = {
-    "", "/", "//", "One\t1/Two\t2/Three\t3", "Yes\tY/No\tN", "None\tnull!/Some\t1", "a", "a/b/c", "a\t/b\t", "\t1/\t2", "One\t1/One\t2/Two\t2",
-    "a//b\t1/c//\t2", "x\ty\tz/q", Repeated("Entry\t1/", 200), std::string(3000, 'x'), std::string(300, 'x') + "\t" + std::string(300, 'y'),
+    "", "/", "//", "One\t1/Two\t2/Three\t3", "Yes\tY/No\tN", "None\tnull!/Some\t1", "a", "a/b/c", "a\t/b\t",
+    "\t1/\t2", "One\t1/One\t2/Two\t2",
+    "a//b\t1/c//\t2", "x\ty\tz/q", Repeated("Entry\t1/", 200), std::string(3000, 'x'),
+    std::string(300, 'x') + "\t" + std::string(300, 'y'),
     std::string(2000, '/'), std::string(2000, '\t'), "\xFF\t\xFE/\x80\t\x81",
 };
 // clang-format on
@@ -69,12 +87,12 @@ std::vector<std::string> Values()
     constexpr size_t kRoom = 64;
     std::vector<std::string> values = kTexts;
     const DateTimeValue dates[] = {
-        {0,      95,               6,    4,   DATETIME_NO_TIME, 0,    0,    0 },
-        {250,    95,               6,    4,   14,               7,    9,    0 },
-        {0,      DATETIME_NO_DATE, 0,    0,   DATETIME_NO_TIME, 0,    0,    0 },
-        {0,      124,              1,    29,  23,               59,   59,   0 },
-        {~0u,    INT16_MAX,        127,  127, 127,              127,  127,  -1},
-        {999999, INT16_MIN,        -128, -128, -128,            -128, -128, 0 },
+        {0,      95,               6,    4,    DATETIME_NO_TIME, 0,    0,    0 },
+        {250,    95,               6,    4,    14,               7,    9,    0 },
+        {0,      DATETIME_NO_DATE, 0,    0,    DATETIME_NO_TIME, 0,    0,    0 },
+        {0,      124,              1,    29,   23,               59,   59,   0 },
+        {~0u,    INT16_MAX,        127,  127,  127,              127,  127,  -1},
+        {999999, INT16_MIN,        -128, -128, -128,             -128, -128, 0 },
     };
     for (const DateTimeValue& date : dates)
         values.emplace_back(reinterpret_cast<const char*>(&date), sizeof date);
@@ -100,7 +118,7 @@ bool IsNull(uint32_t number)
 
 bool IsLong(uint32_t number)
 {
-    return Random(uint64_t{number} << 32).OneIn(400);
+    return Random(uint64_t{number} << 32).OneIn(2000);
 }
 
 }  // namespace

@@ -12,7 +12,8 @@ const char* TextOf(uint32_t number);  // null now and then
 const char* KeysOf(uint32_t number);
 const char* RangeOf(uint32_t number);
 const char* CodesOf(uint32_t number);
-const void* ValueOf(uint32_t number);  // room enough to be read as a value of any type, and a terminated text; null now and then
+const void* ValueOf(
+    uint32_t number);  // room enough to be read as a value of any type, and a terminated text; null now and then
 int32_t TypeOf(uint32_t number);
 
 }  // namespace storm

@@ -65,7 +65,8 @@ void RegisterForm(WNDPROC procedure)
     RegisterClassA(&form);
 }
 
-HWND CreateChild(HWND parent, const char* windowClass, DWORD style, const SIZE& size, int id, HINSTANCE instance, void* params)
+HWND CreateChild(HWND parent, const char* windowClass, DWORD style, const SIZE& size, int id, HINSTANCE instance,
+                 void* params)
 {
     return CreateWindowExA(0, windowClass, "", WS_CHILD | style, 10, 10, size.cx, size.cy, parent,
                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, params);
@@ -76,10 +77,22 @@ HWND CreateChild(HWND parent, const char* windowClass, DWORD style, const SIZE& 
 DWORD StyleOf(uint32_t number)
 {
     constexpr DWORD kAlignments[] = {ES_LEFT, ES_LEFT, ES_RIGHT, ES_CENTER};
-    constexpr DWORD kMore[] = {0, 0, 0, 0, ES_MULTILINE | ES_AUTOVSCROLL, ES_READONLY, WS_DISABLED, WS_BORDER, ES_NUMBER, ES_PASSWORD, ES_UPPERCASE,
-                               WS_VSCROLL | WS_HSCROLL | ES_MULTILINE, ES_NOHIDESEL, ES_OEMCONVERT};
+    constexpr DWORD kMore[] = {0,
+                               0,
+                               0,
+                               0,
+                               ES_MULTILINE | ES_AUTOVSCROLL,
+                               ES_READONLY,
+                               WS_DISABLED,
+                               WS_BORDER,
+                               ES_NUMBER,
+                               ES_PASSWORD,
+                               ES_UPPERCASE,
+                               WS_VSCROLL | WS_HSCROLL | ES_MULTILINE,
+                               ES_NOHIDESEL,
+                               ES_OEMCONVERT};
     Random random(number);
-    const DWORD visible = random.OneIn(2) ? WS_VISIBLE : 0;
+    const DWORD visible = random.OneIn(3) ? WS_VISIBLE : 0;
     const DWORD more = random.Of(kMore);
     const DWORD scroll = (more & ES_MULTILINE) != 0 && random.OneIn(2) ? 0 : ES_AUTOHSCROLL;
     return scroll | visible | random.Of(kAlignments) | more;
@@ -87,7 +100,16 @@ DWORD StyleOf(uint32_t number)
 
 SIZE SizeOf(uint32_t number)
 {
-    constexpr SIZE kSizes[] = {{120, 20}, {120, 20}, {60, 24}, {8, 8}, {0, 0}, {300, 80}, {1, 200}, {3000, 3000}};
+    constexpr SIZE kSizes[] = {
+        {120,  20  },
+        {120,  20  },
+        {60,   24  },
+        {8,    8   },
+        {0,    0   },
+        {300,  80  },
+        {1,    200 },
+        {3000, 3000}
+    };
     return Random(number).Of(kSizes);
 }
 
@@ -115,7 +137,8 @@ Stage::Stage(Cast cast, bool visible) : cast_(cast), buffer_(kRoom)
 {
     RegisterForm(FormProc);
     for (HWND& form : forms_) {
-        form = CreateWindowExA(0, kFormClass, "form", WS_POPUP, 20, 20, 400, 200, nullptr, nullptr, Instance(), nullptr);
+        form =
+            CreateWindowExA(0, kFormClass, "form", WS_POPUP, 20, 20, 400, 200, nullptr, nullptr, Instance(), nullptr);
         SetWindowLongPtrA(form, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     }
     if (visible)
@@ -175,8 +198,15 @@ HWND Stage::Spin(int slot) const
 HWND Stage::Bystander(uint32_t number) const
 {
     constexpr uintptr_t kNoWindow = 0x7ABC;
-    const HWND all[] = {nullptr,        reinterpret_cast<HWND>(kNoWindow), GetDesktopWindow(), forms_[0],     forms_[1],
-                        bystanders_[0], bystanders_[1],                    bystanders_[2],     bystanders_[3]};
+    const HWND all[] = {nullptr,
+                        reinterpret_cast<HWND>(kNoWindow),
+                        GetDesktopWindow(),
+                        forms_[0],
+                        forms_[1],
+                        bystanders_[0],
+                        bystanders_[1],
+                        bystanders_[2],
+                        bystanders_[3]};
     return Random(number).Of(all);
 }
 

@@ -21,13 +21,15 @@ bool IsSame(const Report& one, const Report& other)
 {
     if (one.ending != other.ending || one.code != other.code)
         return false;
-    return one.ending != Ending::BrokeALaw || std::string(one.told).substr(0, 20) == std::string(other.told).substr(0, 20);
+    return one.ending != Ending::BrokeALaw ||
+           std::string(one.told).substr(0, 20) == std::string(other.told).substr(0, 20);
 }
 
 // Leaves out what the trouble does not need, in ever smaller pieces.
 class Shortener {
 public:
-    Shortener(const Part& part, const Report& trouble) : part_(part), trouble_(trouble), trials_(trouble.ending == Ending::Hung ? 12 : 150)
+    Shortener(const Part& part, const Report& trouble)
+        : part_(part), trouble_(trouble), trials_(trouble.ending == Ending::Hung ? 4 : 150)
     {
         part_.first = static_cast<uint32_t>(trouble.episode[0]);
         part_.count = 1;
@@ -58,7 +60,8 @@ private:
         for (size_t end = kEpisodeLength; end > 0 && trials_ > 0; end = end > piece ? end - piece : 0) {
             Part shorter = part_;
             const size_t begin = end > piece ? end - piece : 0;
-            std::fill(shorter.kept.begin() + static_cast<ptrdiff_t>(begin), shorter.kept.begin() + static_cast<ptrdiff_t>(end), false);
+            std::fill(shorter.kept.begin() + static_cast<ptrdiff_t>(begin),
+                      shorter.kept.begin() + static_cast<ptrdiff_t>(end), false);
             if (shorter.kept != part_.kept && ShowsIt(shorter))
                 part_ = shorter;
         }
@@ -95,16 +98,19 @@ void Find(Tour& tour, const Part& part, const Report& report)
     }
     finding += std::string(" ") + report.told + "\n";
     if (part.threads > 1) {
-        finding += "    and episode " + std::to_string(report.episode[1]) + ", operation " + std::to_string(report.op[1]) + "\n";
+        finding += "    and episode " + std::to_string(report.episode[1]) + ", operation " +
+                   std::to_string(report.op[1]) + "\n";
         tour.findings.push_back(finding);
         return;
     }
     std::printf("Found, and being shortened: %s  %s\n", finding.c_str(),
-                Told(EpisodeOf(part.seed, static_cast<uint32_t>(report.episode[0]))[static_cast<size_t>(report.op[0])]).c_str());
+                Told(EpisodeOf(part.seed, static_cast<uint32_t>(report.episode[0]))[static_cast<size_t>(report.op[0])])
+                    .c_str());
     std::fflush(stdout);
     Shortener shortener(part, report);
     if (!shortener.Shorten()) {
-        tour.findings.push_back(finding + "    not shown by the episode alone, begun from " + std::to_string(part.first) + "\n");
+        tour.findings.push_back(finding + "    not shown by the episode alone, begun from " +
+                                std::to_string(part.first) + "\n");
         return;
     }
     finding += ScriptOf(shortener.Result());
@@ -159,15 +165,19 @@ Tour Travel(const Plan& plan)
 void Tell(const Tour& tour)
 {
     const char* cast = tour.plan.cast == Cast::Plain ? "plain edits" : "masked edits";
-    std::printf("%s, %u thread(s), seed %llu: %llu operations, %.1f s, %.0f/s; findings %zu, shared with plain edits %zu\n", cast,
-                tour.plan.threads, static_cast<unsigned long long>(tour.plan.seed), static_cast<unsigned long long>(tour.played), tour.seconds,
-                static_cast<double>(tour.played) / std::max(tour.seconds, 0.001), tour.findings.size(), tour.sharedFindings.size());
+    std::printf(
+        "%s, %u thread(s), seed %llu: %llu operations, %.1f s, %.0f/s; findings %zu, shared with plain edits %zu\n",
+        cast, tour.plan.threads, static_cast<unsigned long long>(tour.plan.seed),
+        static_cast<unsigned long long>(tour.played), tour.seconds,
+        static_cast<double>(tour.played) / std::max(tour.seconds, 0.001), tour.findings.size(),
+        tour.sharedFindings.size());
     std::printf("  reactions inside notifications: %llu\n", static_cast<unsigned long long>(tour.reactions));
     std::printf("  grown over %llu episodes: graphics objects %ld, windows %ld, memory blocks %ld\n",
-                static_cast<unsigned long long>(tour.grownOver), tour.growth.gdiObjects, tour.growth.windows, tour.growth.memoryBlocks);
+                static_cast<unsigned long long>(tour.grownOver), tour.growth.gdiObjects, tour.growth.windows,
+                tour.growth.memoryBlocks);
     for (int kind = 0; kind < kKinds; ++kind)
-        std::printf("  %-18s %8llu%s", storm::NameOf(static_cast<Kind>(kind)), static_cast<unsigned long long>(tour.kinds[kind]),
-                    kind % 3 == 2 ? "\n" : "");
+        std::printf("  %-18s %8llu%s", storm::NameOf(static_cast<Kind>(kind)),
+                    static_cast<unsigned long long>(tour.kinds[kind]), kind % 3 == 2 ? "\n" : "");
     std::printf("\n");
     for (const std::string& finding : tour.sharedFindings)
         std::printf("Shared with plain edits: %s\n", finding.c_str());

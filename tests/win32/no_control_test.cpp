@@ -99,7 +99,8 @@ std::string TargetName(const testing::TestParamInfo<Target>& info)
     return kNames[static_cast<int>(info.param)];
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, NoControl, testing::Values(Target::Form, Target::Null, Target::Stale, Target::Edit, Target::Desktop),
+INSTANTIATE_TEST_SUITE_P(Windows, NoControl,
+                         testing::Values(Target::Form, Target::Null, Target::Stale, Target::Edit, Target::Desktop),
                          TargetName);
 
 class NullArguments : public WindowTest {};
