@@ -22,7 +22,7 @@ namespace {
 
 constexpr uint32_t kWarmEpisodes = 5;
 constexpr DWORD kStandsStill =
-    30000;  // milliseconds without an operation; the slowest takes a tenth of a second on an idle machine
+    60000;  // milliseconds without an operation; the slowest takes one of the processor's seconds
 
 // The report in the memory that parent and child share.
 class SharedReport {

@@ -250,11 +250,10 @@ void PlaySpinMessage(Stage& stage, const Op& op)
 {
     constexpr UINT kOfSpins[] = {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_MOUSEMOVE, WM_TIMER,
                                  WM_TIMER,       WM_PAINT,     WM_SETREDRAW};
-    HWND hwnd = stage.Spin(op.slot);
-    if (!hwnd)
-        hwnd = stage.Control(op.slot);
+    const HWND spin = stage.Spin(op.slot);
+    const HWND hwnd = spin ? spin : stage.Control(op.slot);
     Random random(op.b);
-    if (random.OneIn(200)) {
+    if (spin && random.OneIn(20)) {
         stage.NoteReconfigured();
         DestroyWindow(hwnd);
     } else if (random.OneIn(3)) {

@@ -54,9 +54,9 @@ const std::vector<std::string> kTexts = {
     std::string(2000, '-'), AllHighBytes(),
     Repeated("1995-07-04 ", 30), "0." + std::string(400, '7'),
 };
+// Laid out by some systems in a time that grows with the square of their length.
 const std::vector<std::string> kLongTexts = {
-    std::string(5000, 'x'), std::string(12000, '9'), std::string(32768, 'i'), std::string(65535, '.'),
-    Repeated("line\r\n", 4000),
+    std::string(5000, 'x'), std::string(12000, '9'), std::string(8192, '.'), Repeated("line\r\n", 1500),
 };
 const std::vector<std::string> kKeys = {
     "1", "5", "12", "123", "7/4/95", "070495", "1234.5", "-5", ".5", "-.05", "50%", "12a", "a", "p", "jul", "2:07p",

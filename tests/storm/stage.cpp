@@ -16,7 +16,8 @@ constexpr const char* kHostProcedure = "storm former procedure";
 
 using Way = Trigger::Way;
 
-// Edit controls of some systems go on painting, measuring and scrolling for a window that is gone, which ends the program.
+// Edit controls of some systems go on painting, measuring and scrolling for a window that is gone, which ends the program; and after
+// EN_MAXTEXT, which is left out, with the lengths that they had.
 // clang-format off
 constexpr Trigger kTriggers[] = {
     {Way::Command,  EN_CHANGE,         true,  "EN_CHANGE"        },
@@ -26,7 +27,6 @@ constexpr Trigger kTriggers[] = {
     {Way::Command,  EN_UPDATE,         false, "EN_UPDATE"        },
     {Way::Command,  EN_SETFOCUS,       true,  "EN_SETFOCUS"      },
     {Way::Command,  EN_KILLFOCUS,      true,  "EN_KILLFOCUS"     },
-    {Way::Command,  EN_MAXTEXT,        false, "EN_MAXTEXT"       },
     {Way::Command,  EN_HSCROLL,        false, "EN_HSCROLL"       },
     {Way::Command,  EN_VSCROLL,        false, "EN_VSCROLL"       },
     {Way::Command,  ZTN_AUTOSKIP,      true,  "ZTN_AUTOSKIP"     },
