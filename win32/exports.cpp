@@ -9,6 +9,7 @@
 #include "engine/values/caller_value.h"
 #include "win32/creation.h"
 #include "win32/heap_watch.h"
+#include "win32/library.h"
 #include "win32/life_guard.h"
 #include "win32/record_store.h"
 #include "win32/regional_settings.h"
@@ -20,6 +21,15 @@ using namespace zte;
 
 namespace {
 
+// A record on any other window would outlive it, and its heap: nothing would tell when the window goes.
+bool ReachesLibrary(HWND hwnd)
+{
+    DWORD process = 0;
+    GetWindowThreadProcessId(hwnd, &process);
+    return process == GetCurrentProcessId() &&
+           SendMessageA(hwnd, reachMessage, 0, 0) == reinterpret_cast<LRESULT>(libraryInstance);
+}
+
 // Subclassed with the W function the procedure gets wide texts, which it would take for narrow ones.
 bool GetsWideTexts(HWND hwnd)
 {
@@ -29,7 +39,7 @@ bool GetsWideTexts(HWND hwnd)
 
 bool CanBeControl(HWND hwnd, const EditInitParams& params)
 {
-    return IsWindow(hwnd) && IsUsableHeap(params.heap) && !GetsWideTexts(hwnd);
+    return IsUsableHeap(params.heap) && ReachesLibrary(hwnd) && !GetsWideTexts(hwnd);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 namespace zte {
 
 HINSTANCE libraryInstance;
+UINT reachMessage;
 
 namespace {
 
@@ -38,6 +39,7 @@ void UnregisterOwnClass(const char* name, WNDPROC procedure)
 bool RegisterClasses(HINSTANCE instance)
 {
     libraryInstance = instance;
+    reachMessage = RegisterWindowMessageA(ZTEDIT_CLASS " reaches");
     WNDCLASSA edit{};
     GetClassInfoA(nullptr, "edit", &edit);
     baseEditProc = edit.lpfnWndProc;

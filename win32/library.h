@@ -7,6 +7,9 @@ namespace zte {
 
 extern HINSTANCE libraryInstance;
 
+// Asks a window whether its messages reach the library: ZTE_SuperEditWndProc answers with libraryInstance.
+extern UINT reachMessage;
+
 // Registers "ZTEDIT050" and "spin" and reads the regional settings; false when a class could not be registered.
 bool RegisterClasses(HINSTANCE instance);
 

@@ -2,6 +2,7 @@
 #include "engine/edit/paste.h"
 #include "engine/edit/plain_edit.h"
 #include "win32/creation.h"
+#include "win32/library.h"
 #include "win32/life_guard.h"
 #include "win32/mouse.h"
 #include "win32/placement.h"
@@ -106,6 +107,8 @@ using namespace zte;
 
 LRESULT CALLBACK ZTE_SuperEditWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == reachMessage)
+        return reinterpret_cast<LRESULT>(libraryInstance);
     if (message == WM_CREATE)
         return CreateControl(hwnd, wParam, lParam);
     if (message == WM_WININICHANGE)

@@ -5,7 +5,7 @@ namespace zttest {
 namespace {
 
 // A plain window of the program's, no window at all, and a handle of none.
-enum class Target { Form, Null, Stale };
+enum class Target { Form, Null, Stale, Edit, Desktop };
 
 class NoControl : public testing::TestWithParam<Target> {
 protected:
@@ -15,6 +15,8 @@ protected:
         switch (GetParam()) {
         case Target::Form: return form_.hwnd();
         case Target::Null: return nullptr;
+        case Target::Edit: return edit_;
+        case Target::Desktop: return GetDesktopWindow();
         default: return reinterpret_cast<HWND>(kStaleHandle);
         }
     }
@@ -22,15 +24,33 @@ protected:
     void TearDown() override
     {
         EXPECT_EQ(TextOf(form_.hwnd()), "form");
+        EXPECT_EQ(TextOf(edit_), "");
+        EXPECT_EQ(GetPropA(It(), "MAIN"), nullptr);
         EXPECT_EQ(GetPropA(form_.hwnd(), "MAIN"), nullptr);
     }
 
     const Form form_;
+    const HWND edit_ = CreateWindowExA(0, "edit", "", WS_CHILD, 0, 0, 50, 20, form_.hwnd(), nullptr, nullptr, nullptr);
 };
 
 TEST_P(NoControl, TakesNoMask)
 {
     EXPECT_EQ(ZTE_FmtSetMask(It(), "##", DT_STRING), 1);
+}
+
+TEST_P(NoControl, IsNotConfigured)
+{
+    const SharedHeap heap = SharedHeapCreate();
+    EditInitParams params = {};
+    params.heap = heap;
+    params.maskText = "MM/DD/YY";
+    params.dataType = DT_DATE;
+    params.initialData = "1995-07-04";
+    params.options = ZTEO_SPIN;
+    EXPECT_EQ(ZTE_Init(It(), &params), 0);
+    EXPECT_EQ(SharedHeapBlockCount(heap), 0u);
+    SharedHeapDestroy(heap);
+    EXPECT_EQ(ZTE_FmtGetDataType(It()), 0);
 }
 
 TEST_P(NoControl, HasNoDataType)
@@ -75,11 +95,13 @@ TEST_P(NoControl, HasNoRange)
 
 std::string TargetName(const testing::TestParamInfo<Target>& info)
 {
-    constexpr const char* kNames[] = {"AForm", "NoWindow", "AHandleOfNone"};
+    constexpr const char* kNames[] = {"AForm", "NoWindow", "AHandleOfNone", "AnEdit", "TheDesktop"};
     return kNames[static_cast<int>(info.param)];
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, NoControl, testing::Values(Target::Form, Target::Null, Target::Stale), TargetName);
+INSTANTIATE_TEST_SUITE_P(Windows, NoControl,
+                         testing::Values(Target::Form, Target::Null, Target::Stale, Target::Edit, Target::Desktop),
+                         TargetName);
 
 class NullArguments : public WindowTest {};
 

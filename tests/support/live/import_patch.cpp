@@ -58,9 +58,14 @@ HMODULE ModuleOf(const char* importer)
 }  // namespace
 
 ImportPatch::ImportPatch(const char* dll, const char* function, void* replacement, const char* importer)
-    : slot_(ImportSlot(ModuleOf(importer), dll, function))
+    : ImportPatch(ModuleOf(importer), dll, function, replacement)
 {
     EXPECT_NE(slot_, nullptr) << "the library does not import " << function;
+}
+
+ImportPatch::ImportPatch(HMODULE module, const char* dll, const char* function, void* replacement)
+    : slot_(module ? ImportSlot(module, dll, function) : nullptr)
+{
     if (!slot_)
         return;
     original_ = *slot_;

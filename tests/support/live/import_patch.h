@@ -1,12 +1,17 @@
 // Leads one import of the control library, or of another module, to a function of the test while it lives.
 #pragma once
 
+#include <windows.h>
+
 namespace zttest {
 
 class ImportPatch {
 public:
     // Reports a failure when the library does not import the function. importer: another module than the control library.
     ImportPatch(const char* dll, const char* function, void* replacement, const char* importer = nullptr);
+
+    // The same for an import of any module; nothing is led elsewhere when the module does not import the function.
+    ImportPatch(HMODULE module, const char* dll, const char* function, void* replacement);
     ImportPatch(const ImportPatch&) = delete;
     ImportPatch& operator=(const ImportPatch&) = delete;
     ~ImportPatch();

@@ -4,8 +4,10 @@
 #include <windows.h>
 
 #include <cstdio>
+#include <cstring>
 #include <memory>
 
+#include "tests/support/live/as_child.h"
 #include "tests/support/profile.h"
 
 namespace {
@@ -83,10 +85,19 @@ LONG CALLBACK EndAtCrash(EXCEPTION_POINTERS* exception)
     return EXCEPTION_CONTINUE_SEARCH;
 }
 
+zttest::ChildMain childMain = nullptr;
+
 }  // namespace
+
+zttest::ChildMain zttest::RegisterChild(ChildMain main)
+{
+    return childMain = main;
+}
 
 int main(int argc, char** argv)
 {
+    if (childMain && argc == 3 && std::strcmp(argv[1], zttest::kChildArgument) == 0)
+        return childMain(argv[2]);
     testing::InitGoogleTest(&argc, argv);
     if (testing::GTEST_FLAG(list_tests))
         return RUN_ALL_TESTS();
