@@ -13,7 +13,9 @@
  *              "1995-07-04", "14:07:09:000250", "1995-07-04 14:07".
  *
  * All functions are called on the thread that owns the control. For a window that is no control they do nothing and return
- * what is stated there. Nothing is thrown or logged and no message is shown; a refused key beeps.
+ * what is stated there. Nothing is thrown or logged and no message is shown; a refused key beeps. Without memory the process ends
+ * in the system's no-memory exception, as in ztshared.h; a window that the system does not let be tied to its record stays a plain
+ * edit.
  *
  * The parent gets two notifications as WM_COMMAND (control identifier in the low word, lParam the control):
  *   ZTN_AUTOSKIP  the last position was filled, or Right pressed at the end, while autoskip is on: move the focus on.
@@ -21,6 +23,19 @@
  *
  * A control's record and strings live in the heap given at creation, which the caller discards as a whole (usually one heap
  * per form). Results are blocks of that heap, to be freed with SharedHeapFree.
+ *
+ * What a host must not do, and what comes of it:
+ *
+ *   destroy the heap before the control   the control lets go of it and is a plain edit with its text from then on; results
+ *                                         not yet freed are gone with the heap, as are the spin, its range and its table
+ *   pass a heap that is none, or is gone  refused: the window stays a plain edit, ZTE_Init returns 0
+ *   subclass a standard edit control with SetWindowLongPtrW
+ *                                         use SetWindowLongPtrA: the procedure takes narrow texts. ZTE_Init refuses such a
+ *                                         window where it can tell (by the procedure's address). A procedure of the host's
+ *                                         own may be put before a control with either function.
+ *   call from another thread than the control's, or use one heap from two threads
+ *                                         not told, and not safe
+ *   free the record, or write into it     not told, and not safe
  */
 #ifndef ZTEDIT_H
 #define ZTEDIT_H
@@ -40,7 +55,7 @@ extern "C" {
 #define ZTN_AUTOSKIP 0x0903
 
 /* Configures a new control: the creation parameter of CreateWindowEx, or given to ZTE_Init. Only read; everything in it is
- * borrowed for the call except heap, which must outlive the control. */
+ * borrowed for the call except heap, which is to outlive the control. */
 typedef struct EditInitParams {
     SharedHeap heap;
     uint32_t heapFlags;        /* handed to every allocation */
@@ -68,7 +83,8 @@ typedef struct FormatResult {
 LRESULT CALLBACK ZTE_SuperEditWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
 /* Configures an existing window whose messages reach ZTE_SuperEditWndProc, for example one from a dialog template. A second
- * call configures the control anew. The result carries no status.
+ * call configures the control anew. Returns 1; 0, and nothing is changed, for a heap that is none and for a window that gets
+ * wide texts (see above).
  *
  *     EditInitParams p = {0};
  *     p.heap = heap;  p.maskText = "MM/DD/YY";  p.dataType = DT_DATE;  p.options = ZTEO_AUTOSKIP;
@@ -91,8 +107,9 @@ void WINAPI ZTE_UtilSetFormatRect(HWND hwnd);
  * through a code table, is a plain edit: all that the user does goes to the standard edit control underneath.
  *
  * mask      mask text or one of the keywords "[date]", "[time]", "[date] [time]", "[currency(n)]" (n digits, at most 16);
- *           null counts as empty. Borrowed for the call. The part of a number's mask before its point is the room for what
- *           may be typed there, separators included, a sign not: "#,#.00" takes 123, "#,##0.00" takes 9,999.
+ *           null counts as empty. Borrowed for the call; no more than 256 characters of it are read. The part of a number's
+ *           mask before its point is the room for what may be typed there, separators included, a sign not: "#,#.00" takes
+ *           123, "#,##0.00" takes 9,999.
  * dataType  DT_STRING to DT_DECIMAL.
  *
  * Returns 1 when the mask was installed, 0 when it does not fit the type and the type's default stands in: none for

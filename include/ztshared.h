@@ -22,8 +22,27 @@ extern "C" {
  * meaning. A heap that cannot give a block ends the process with a no-memory exception: callers never see null. */
 SharedHeap WINAPI SharedHeapCreate(void);
 
-/* Discards the heap with all its blocks. Null is ignored. */
+/* Tells those who watch the heap, and discards it with all its blocks. Null, and a heap that is not alive, are ignored. */
 void WINAPI SharedHeapDestroy(SharedHeap heap);
+
+/* Non-zero for a heap of this library that has not been destroyed. Any pointer may be asked about: it is compared, not
+ * followed. A heap made later may stand at the address of one that is gone. */
+int32_t WINAPI SharedHeapIsAlive(SharedHeap heap);
+
+/* Somebody who keeps blocks of a heap and must let go of them before it is destroyed. The record is the watcher's own; it
+ * may be a block of the heap. */
+typedef struct SharedHeapWatcher {
+    /* Called once, by SharedHeapDestroy, on its thread, with the heap's blocks still there. May destroy windows; must not
+     * allocate from the heap. */
+    void(WINAPI* ending)(struct SharedHeapWatcher* watcher);
+    struct SharedHeapWatcher* previous; /* the heap's, as is the next */
+    struct SharedHeapWatcher* next;
+} SharedHeapWatcher;
+
+/* Begins and ends watching; a watcher watches one heap. Unwatching is for heaps that are alive; a watcher that has been
+ * told watches no longer. */
+void WINAPI SharedHeapWatch(SharedHeap heap, SharedHeapWatcher* watcher);
+void WINAPI SharedHeapUnwatch(SharedHeap heap, SharedHeapWatcher* watcher);
 
 /* Count of live blocks, for hosts and tests that watch for leaks. */
 uint32_t WINAPI SharedHeapBlockCount(SharedHeap heap);

@@ -1,8 +1,9 @@
 #!/bin/sh
-# Configures and builds one preset; quiet unless something is wrong. Usage: tools/build.sh PRESET
+# Configures and builds one preset, or some of its targets; quiet unless something is wrong. Usage: tools/build.sh PRESET [TARGET...]
 set -eu
 cd "$(dirname "$0")/.."
 preset=$1
+shift
 mkdir -p build
 if [ ! -e "build/$preset/build.ninja" ]; then
     echo "Configuring $preset"
@@ -12,4 +13,4 @@ if [ ! -e "build/$preset/build.ninja" ]; then
     }
 fi
 echo "Building $preset"
-cmake --build --preset "$preset" -- --quiet </dev/null
+cmake --build --preset "$preset" ${1:+--target "$@"} -- --quiet </dev/null

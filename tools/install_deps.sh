@@ -1,7 +1,8 @@
 #!/bin/bash
 # Installs what building, testing and the demo need on Debian 12; does nothing when all is there.
-# Usage: tools/install_deps.sh [--clang | --bench | --coverage]
+# Usage: tools/install_deps.sh [--clang | --fuzz | --bench | --coverage]
 #     --clang      the second compiler and the code checkers as well
+#     --fuzz       the fuzzers of clang
 #     --bench      what measuring the engine needs, --coverage what counting covered lines needs
 set -euo pipefail
 
@@ -27,6 +28,10 @@ case ${1:-} in
 --clang)
     packages+=(clang:clang++ clang-format:clang-format clang-tidy:clang-tidy)
     packages+=(libclang-rt-14-dev:/usr/lib/llvm-14/lib/clang/14.0.6/lib/linux/libclang_rt.asan-x86_64.a)
+    ;;
+--fuzz)
+    packages+=(clang:clang++)
+    packages+=(libclang-rt-14-dev:/usr/lib/llvm-14/lib/clang/14.0.6/lib/linux/libclang_rt.fuzzer-x86_64.a)
     ;;
 --bench) packages+=(libbenchmark-dev:/usr/include/benchmark/benchmark.h valgrind:valgrind) ;;
 --coverage) packages+=(gcovr:gcovr) ;;

@@ -6,6 +6,7 @@
 #include "engine/format/data.h"
 #include "engine/format/mask_setting.h"
 #include "engine/spin/spin_settings.h"
+#include "win32/heap_watch.h"
 #include "win32/life_guard.h"
 #include "win32/record_store.h"
 #include "win32/regional_settings.h"
@@ -41,7 +42,10 @@ int32_t SetUpControl(HWND hwnd, const EditInitParams& params)
     if (EditInstance* former = GetEditInstance(hwnd))
         WhileAlive(*former, [&] { GiveMarginBack(*former); });
     DiscardRecord(hwnd);
-    EditInstance& edit = NewRecord(hwnd, params);
+    EditInstance* record = NewRecord(hwnd, params);
+    if (!record)
+        return 0;
+    EditInstance& edit = *record;
     return WhileAlive(edit, 0, [&] {
         SetUpSpin(edit, params);
         edit.controlId = static_cast<uint32_t>(GetWindowLongA(hwnd, GWL_ID));
@@ -55,10 +59,11 @@ LRESULT CreateControl(HWND hwnd, WPARAM wParam, LPARAM lParam)
 {
     const auto& creation = *reinterpret_cast<const CREATESTRUCTA*>(lParam);
     const auto* params = static_cast<const EditInitParams*>(creation.lpCreateParams);
-    if (!params || !params->heap)
+    EditInstance* record = params && IsUsableHeap(params->heap) ? NewRecord(hwnd, *params) : nullptr;
+    if (!record)
         return CallBaseEdit(hwnd, WM_CREATE, wParam, lParam);
 
-    EditInstance& edit = NewRecord(hwnd, *params);
+    EditInstance& edit = *record;
     return WhileAlive<LRESULT>(edit, -1, [&] {
         SetUpSpin(edit, *params);
         edit.controlId = static_cast<uint32_t>(reinterpret_cast<uintptr_t>(creation.hMenu));

@@ -6,7 +6,9 @@
 #include "engine/heap_block.h"
 #include "engine/spin/range.h"
 #include "engine/spin/spin_settings.h"
+#include "engine/values/caller_value.h"
 #include "win32/creation.h"
+#include "win32/heap_watch.h"
 #include "win32/library.h"
 #include "win32/life_guard.h"
 #include "win32/record_store.h"
@@ -19,7 +21,7 @@ using namespace zte;
 
 namespace {
 
-// A record on any other window would outlive it, and its heap: nothing would tell when the window goes.
+// A record on any other window would outlive it: nothing would tell when the window goes.
 bool ReachesLibrary(HWND hwnd)
 {
     DWORD process = 0;
@@ -28,11 +30,23 @@ bool ReachesLibrary(HWND hwnd)
            SendMessageA(hwnd, reachMessage, 0, 0) == reinterpret_cast<LRESULT>(libraryInstance);
 }
 
+// Subclassed with the W function the procedure gets wide texts, which it would take for narrow ones.
+bool GetsWideTexts(HWND hwnd)
+{
+    const auto own = reinterpret_cast<LONG_PTR>(&ZTE_SuperEditWndProc);
+    return IsWindowUnicode(hwnd) && GetWindowLongPtrW(hwnd, GWLP_WNDPROC) == own;
+}
+
+bool CanBeControl(HWND hwnd, const EditInitParams& params)
+{
+    return ReachesLibrary(hwnd) && IsUsableHeap(params.heap) && !GetsWideTexts(hwnd);
+}
+
 }  // namespace
 
 int32_t WINAPI ZTE_Init(HWND hwnd, const EditInitParams* params)
 {
-    return params && params->heap && ReachesLibrary(hwnd) ? SetUpControl(hwnd, *params) : 0;
+    return params && CanBeControl(hwnd, *params) ? SetUpControl(hwnd, *params) : 0;
 }
 
 void WINAPI ZTE_SetAutoskip(HWND hwnd, uint32_t on)
@@ -140,7 +154,12 @@ int16_t WINAPI ZTE_GetSpinWidth(HWND hwnd, const RECT* rect)
 int16_t WINAPI ZTE_SpinDateRange(HWND hwnd, DateTimeValue* value, const char* text)
 {
     const EditInstance* edit = GetEditInstance(hwnd);
-    return edit && value && text ? static_cast<int16_t>(ReadRangeEnd(*edit, *value, text)) : int16_t{1};
+    if (!edit || !value || !text)
+        return 1;
+    DateTimeValue end;
+    const int32_t result = ReadRangeEnd(*edit, end, text);
+    WriteValue(value, end);
+    return static_cast<int16_t>(result);
 }
 
 int16_t WINAPI ZTE_SpinRangeCompare(HWND hwnd, const void* first, const void* second)

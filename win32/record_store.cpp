@@ -2,11 +2,15 @@
 #include "win32/record_store.h"
 
 #include <new>
+#include <utility>
 
 #include "engine/format/code_table.h"
 #include "engine/spin/spin_settings.h"
+#include "win32/heap_watch.h"
 #include "win32/life_guard.h"
 #include "win32/regional_settings.h"
+#include "win32/spin_layout.h"
+#include "win32/spin_window.h"
 
 namespace zte {
 
@@ -32,19 +36,71 @@ private:
     EditInstance** address_;
 };
 
+struct HeapEnd : SharedHeapWatcher {
+    EditInstance* edit;
+};
+
 // The record comes first: what hosts find under the property is its address.
 struct Control {
     EditInstance record{};
     StandardField field{record};
+    HeapEnd heapEnd{};
 };
+
+Control& ControlOf(EditInstance& edit)
+{
+    return reinterpret_cast<Control&>(edit);
+}
+
+bool IsOnThisThread(HWND hwnd)
+{
+    return GetWindowThreadProcessId(hwnd, nullptr) == GetCurrentThreadId();
+}
+
+// The spin goes, and the text has its room. False when the control went with it.
+bool TakeSpinAway(EditInstance& edit)
+{
+    return WhileAlive(edit, false, [&] {
+        GiveMarginBack(edit);
+        const LifeCheck life(edit);
+        if (void* spin = std::exchange(edit.hwndSpin, nullptr))
+            DestroyWindow(static_cast<HWND>(spin));
+        life.Check();
+        return true;
+    });
+}
+
+// Another thread's windows cannot be destroyed here: the spin stays as a window without a meaning.
+void ForgetSpin(EditInstance& edit)
+{
+    DropFaces(edit);
+    if (void* spin = std::exchange(edit.hwndSpin, nullptr))
+        DetachEditInstance(static_cast<HWND>(spin));
+}
+
+// The host destroys the heap before the control: the window stays, with its text, as a plain edit.
+void WINAPI LetGoOfHeap(SharedHeapWatcher* watcher)
+{
+    EditInstance& edit = *static_cast<HeapEnd*>(watcher)->edit;
+    const HWND hwnd = WindowOf(edit);
+    if (!IsOnThisThread(hwnd))
+        ForgetSpin(edit);
+    else if (!TakeSpinAway(edit))
+        return;
+    LifeGuard::TellAll(FieldOf(edit));
+    DetachEditInstance(hwnd);
+}
 
 }  // namespace
 
-EditInstance& NewRecord(HWND hwnd, const EditInitParams& params)
+EditInstance* NewRecord(HWND hwnd, const EditInitParams& params)
 {
     auto* control = new (SharedHeapAlloc(params.heap, sizeof(Control), params.heapFlags)) Control;
     EditInstance& edit = control->record;
-    AttachEditInstance(hwnd, &edit);
+    if (!AttachEditInstance(hwnd, &edit)) {
+        SharedHeapFree(params.heap, control);
+        return nullptr;
+    }
     edit.heap = params.heap;
     edit.heapFlags = params.heapFlags;
     edit.dataType = params.dataType;
@@ -53,29 +109,34 @@ EditInstance& NewRecord(HWND hwnd, const EditInitParams& params)
     edit.settings = &regionalSettings;
     edit.clock = Now;
     ApplyOptions(edit, params.options);
-    return edit;
+    control->heapEnd.edit = &edit;
+    WatchHeap(edit.heap, control->heapEnd, LetGoOfHeap);
+    return &edit;
 }
 
 void FreeRecord(HWND hwnd, EditInstance& edit)
 {
     LifeGuard::TellAll(FieldOf(edit));
+    UnwatchHeap(edit.heap, ControlOf(edit).heapEnd);
     DestroyCodeTable(edit);
     DetachEditInstance(hwnd);
     SharedHeapFree(edit.heap, &edit);
 }
 
-void AttachEditInstance(HWND hwnd, EditInstance* edit)
+bool AttachEditInstance(HWND hwnd, EditInstance* edit)
 {
     DetachEditInstance(hwnd);
     HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, sizeof(EditInstance*));
     {
         const LockedBlock locked(block);
         if (!locked.get())
-            return;
+            return false;
         *locked.get() = edit;
     }
-    if (!SetPropA(hwnd, kRecordProperty, block))
+    const bool attached = SetPropA(hwnd, kRecordProperty, block) != FALSE;
+    if (!attached)
         GlobalFree(block);
+    return attached;
 }
 
 EditInstance* GetEditInstance(HWND hwnd)

@@ -8,14 +8,14 @@
 
 namespace zte {
 
-// Makes the record of a control with its field, and attaches it.
-EditInstance& NewRecord(HWND hwnd, const EditInitParams& params);
+// Makes the record of a control with its field, and attaches it; null when the system does not let it be attached.
+EditInstance* NewRecord(HWND hwnd, const EditInitParams& params);
 
 // Frees the record and detaches it.
 void FreeRecord(HWND hwnd, EditInstance& edit);
 
-// Stores the record under the window's property; a block already there is freed first.
-void AttachEditInstance(HWND hwnd, EditInstance* edit);
+// Stores the record under the window's property; a block already there is freed first. False when the system refuses.
+bool AttachEditInstance(HWND hwnd, EditInstance* edit);
 
 // The record of a window, or null.
 EditInstance* GetEditInstance(HWND hwnd);

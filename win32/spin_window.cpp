@@ -140,13 +140,15 @@ bool Route(HWND spin, EditInstance& edit, UINT message, WPARAM wParam, LPARAM lP
     }
 }
 
-// The record knows its spin from here on: the control may be destroyed before its creation is over.
+// The record knows its spin from here on: the control may be destroyed before its creation is over. A spin that cannot know its
+// record is not created.
 LRESULT OnCreate(HWND spin, const CREATESTRUCTA* creation)
 {
     auto* edit = creation ? static_cast<EditInstance*>(creation->lpCreateParams) : nullptr;
     if (!edit)
         return 0;
-    AttachEditInstance(spin, edit);
+    if (!AttachEditInstance(spin, edit))
+        return -1;
     edit->hwndSpin = spin;
     return 0;
 }

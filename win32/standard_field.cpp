@@ -11,14 +11,36 @@ WNDPROC baseEditProc;
 
 namespace {
 
+// One window for each thread. Not a thread_local variable: for that a compiler's runtime may want memory at a thread's first use,
+// and end the process when there is none.
+class WindowOfThread {
+public:
+    WindowOfThread() : slot_(TlsAlloc()) {}
+    WindowOfThread(const WindowOfThread&) = delete;
+    WindowOfThread& operator=(const WindowOfThread&) = delete;
+    ~WindowOfThread() { TlsFree(slot_); }
+
+    void Set(HWND hwnd) const { TlsSetValue(slot_, hwnd); }
+    HWND Get() const
+    {
+        const DWORD error = GetLastError();  // asking clears the host's
+        void* const hwnd = TlsGetValue(slot_);
+        SetLastError(error);
+        return static_cast<HWND>(hwnd);
+    }
+
+private:
+    DWORD slot_;
+};
+
 // The control to which the library is just sending a message that hosts send too. Asked before the record is looked up, which
 // costs a call into the window manager. A control's messages stay on its thread.
-thread_local HWND ownMessageTo = nullptr;
+const WindowOfThread ownMessageTo;
 
 // Announces a message of the library while it lives.
 class OwnMessage {
 public:
-    explicit OwnMessage(HWND hwnd) : hwnd_(hwnd) { ownMessageTo = hwnd; }
+    explicit OwnMessage(HWND hwnd) : hwnd_(hwnd) { ownMessageTo.Set(hwnd); }
     OwnMessage(const OwnMessage&) = delete;
     OwnMessage& operator=(const OwnMessage&) = delete;
     ~OwnMessage() { StandardField::TakeOwnMessage(hwnd_); }
@@ -97,9 +119,9 @@ RECT ClientOf(HWND hwnd)
 
 bool StandardField::TakeOwnMessage(HWND hwnd)
 {
-    const bool isOwn = ownMessageTo == hwnd;
+    const bool isOwn = ownMessageTo.Get() == hwnd;
     if (isOwn)
-        ownMessageTo = nullptr;
+        ownMessageTo.Set(nullptr);
     return isOwn;
 }
 

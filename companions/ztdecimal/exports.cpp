@@ -1,5 +1,6 @@
 // The functions of ztdecimal.dll: exact decimals, worked out by the engine's own values and not by OLE Automation, so that the
 // last digit is the same on every system.
+#include "engine/values/caller_value.h"
 #include "engine/values/decimal_number.h"
 #include "ztdecimal.h"
 
@@ -10,7 +11,7 @@ namespace {
 DecimalValue* Store(DecimalValue* destination, const DecimalValue& value)
 {
     if (destination)
-        *destination = value;
+        zte::WriteValue(destination, value);
     return destination;
 }
 

@@ -2,11 +2,16 @@
 #include "engine/values/date_time.h"
 
 #include "companions/ztshared/conventions.h"
+#include "engine/values/caller_value.h"
 #include "ztshared.h"
 
 int32_t WINAPI SharedParseDateTime(DateTimeValue* value, const char* text, int32_t kind)
 {
-    return value && text && zte::ParseDateTime(*value, text, kind, shared::Conventions()) ? 0 : 1;
+    DateTimeValue read;
+    if (!value || !text || !zte::ParseDateTime(read, text, kind, shared::Conventions()))
+        return 1;
+    zte::WriteValue(value, read);
+    return 0;
 }
 
 void WINAPI SharedDateTimeNow(DateTimeValue* value)
@@ -23,5 +28,5 @@ void WINAPI SharedDateTimeNow(DateTimeValue* value)
     read.hour = static_cast<int8_t>(now.wHour);
     read.minute = static_cast<int8_t>(now.wMinute);
     read.second = static_cast<int8_t>(now.wSecond);
-    *value = read;
+    zte::WriteValue(value, read);
 }

@@ -1,22 +1,71 @@
-// Private heaps that count their live blocks. A host makes one per form and discards it whole.
+// Private heaps that count their live blocks, know who watches them, and are known as long as they live. A host makes one per form
+// and discards it whole.
 #include <cstring>
 
-#include "companions/ztshared/no_memory.h"
+#include "companions/memory/no_memory.h"
 #include "ztshared.h"
 
 // Lives in the heap it describes, so that destroying the heap leaves nothing behind.
 struct SharedHeapData {
     HANDLE handle;
     uint32_t blocks;
+    SharedHeapWatcher* watchers;
+    SharedHeapData* nextAlive;
 };
 
 using shared::RaiseNoMemory;
 
-void shared::RaiseNoMemory()
+namespace {
+
+// All heaps that live: few, one a form. Threads have heaps of their own but share this list.
+SRWLOCK aliveLock = SRWLOCK_INIT;
+SharedHeapData* firstAlive = nullptr;
+
+class AliveLock {
+public:
+    AliveLock() { AcquireSRWLockExclusive(&aliveLock); }
+    AliveLock(const AliveLock&) = delete;
+    AliveLock& operator=(const AliveLock&) = delete;
+    ~AliveLock() { ReleaseSRWLockExclusive(&aliveLock); }
+};
+
+// Where the list refers to a heap; to its end when it does not.
+SharedHeapData** FindAlive(SharedHeap heap)
 {
-    constexpr DWORD kNoMemory = 0xC0000017;  // STATUS_NO_MEMORY
-    RaiseException(kNoMemory, EXCEPTION_NONCONTINUABLE, 0, nullptr);
+    SharedHeapData** at = &firstAlive;
+    while (*at && *at != heap)
+        at = &(*at)->nextAlive;
+    return at;
 }
+
+void EnterAlive(SharedHeap heap)
+{
+    const AliveLock lock;
+    heap->nextAlive = firstAlive;
+    firstAlive = heap;
+}
+
+// False for a heap that is not alive, or whose end has begun already.
+bool LeaveAlive(SharedHeap heap)
+{
+    const AliveLock lock;
+    SharedHeapData** at = FindAlive(heap);
+    if (!*at)
+        return false;
+    *at = heap->nextAlive;
+    return true;
+}
+
+// Each is out of the list before it hears of it: what it does may come back here.
+void TellWatchers(SharedHeap heap)
+{
+    while (SharedHeapWatcher* watcher = heap->watchers) {
+        SharedHeapUnwatch(heap, watcher);
+        watcher->ending(watcher);
+    }
+}
+
+}  // namespace
 
 SharedHeap WINAPI SharedHeapCreate(void)
 {
@@ -26,13 +75,38 @@ SharedHeap WINAPI SharedHeapCreate(void)
         RaiseNoMemory();
     const auto heap = static_cast<SharedHeap>(record);
     heap->handle = handle;
+    EnterAlive(heap);
     return heap;
 }
 
 void WINAPI SharedHeapDestroy(SharedHeap heap)
 {
-    if (heap)
-        HeapDestroy(heap->handle);
+    if (!LeaveAlive(heap))
+        return;
+    TellWatchers(heap);
+    HeapDestroy(heap->handle);
+}
+
+int32_t WINAPI SharedHeapIsAlive(SharedHeap heap)
+{
+    const AliveLock lock;
+    return heap && *FindAlive(heap) ? 1 : 0;
+}
+
+void WINAPI SharedHeapWatch(SharedHeap heap, SharedHeapWatcher* watcher)
+{
+    watcher->previous = nullptr;
+    watcher->next = heap->watchers;
+    if (watcher->next)
+        watcher->next->previous = watcher;
+    heap->watchers = watcher;
+}
+
+void WINAPI SharedHeapUnwatch(SharedHeap heap, SharedHeapWatcher* watcher)
+{
+    if (watcher->next)
+        watcher->next->previous = watcher->previous;
+    (watcher->previous ? watcher->previous->next : heap->watchers) = watcher->next;
 }
 
 uint32_t WINAPI SharedHeapBlockCount(SharedHeap heap)

@@ -1,7 +1,7 @@
 // Lists of borrowed pointers with one cursor each; list and elements' array are two blocks of the list's heap.
 #include <new>
 
-#include "companions/ztshared/no_memory.h"
+#include "companions/memory/no_memory.h"
 #include "engine/values/cursor_list.h"
 #include "ztshared.h"
 

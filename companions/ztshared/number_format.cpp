@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "companions/ztshared/conventions.h"
+#include "engine/values/caller_value.h"
 #include "ztshared.h"
 
 namespace {
@@ -43,5 +44,5 @@ int32_t WINAPI SharedFormatDecimal(char* output, int32_t size, const void* compi
 {
     // Without a value there is nothing to show, not even the format's literals.
     return Render(output, size, value ? compiled : nullptr,
-                  value ? zte::DecimalDigits::FromDecimal(*value) : zte::DecimalDigits());
+                  value ? zte::DecimalDigits::FromDecimal(zte::ReadValue<DecimalValue>(value)) : zte::DecimalDigits());
 }

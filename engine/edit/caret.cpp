@@ -29,15 +29,17 @@ struct LiteralRun {
 
 LiteralRun LiteralsAt(const EditInstance& edit, const Text& text, int32_t position)
 {
+    const PositionsUnder positions(edit, text);
+    const int32_t last = ShownLength(edit, text) - 1;
     for (int32_t length = 0;; ++length) {
         const int32_t at = position + length;
-        if (IsInFraction(edit, text, at))
+        if (positions.IsInFraction(at))
             return {true, length};
-        if (at > ShownLength(edit, text) - 1)
+        if (at > last)
             return {false, length};
-        if (MayTypeAt(edit, text, at))
+        if (positions.MayTypeAt(at))
             return {true, length};
-        if (!PositionAt(edit, text, at).exists)
+        if (!positions.At(at).exists)
             return {false, length};
     }
 }
@@ -46,28 +48,29 @@ LiteralRun LiteralsAt(const EditInstance& edit, const Text& text, int32_t positi
 
 bool IsInFraction(const EditInstance& edit, const Text& text, int32_t position)
 {
-    if (edit.decimalPlaces == 0)
-        return false;
-    const int32_t point = ShownNumber(edit.table->number, *edit.settings, text).Point();
-    return point >= 0 && position > point && position <= point + edit.decimalPlaces;
+    return edit.decimalPlaces != 0 && PositionsUnder(edit, text).IsInFraction(position);
 }
 
 int32_t StepsToEditable(const EditInstance& edit, const Text& text, int32_t position, Direction direction)
 {
+    const PositionsUnder positions(edit, text);
     const int32_t step = direction == Direction::Forward ? 1 : -1;
+    const int32_t last = ShownLength(edit, text) - 1;
     for (int32_t steps = 1;; ++steps) {
         position += step;
-        if (position < 0 || (step > 0 && position > ShownLength(edit, text) - 1))
+        if (position < 0 || (step > 0 && position > last))
             return 0;
-        if (!PositionAt(edit, text, position).exists || MayTypeAt(edit, text, position))
+        if (!positions.At(position).exists || positions.MayTypeAt(position))
             return steps;
     }
 }
 
+// No mask has more literals side by side than it has positions: a longer way, by as many keys, leads over a text set from outside.
 void MoveCaret(EditInstance& edit, Key key, KeyData keyData, bool shift)
 {
     const int32_t step = key == KEY_LEFT ? -1 : 1;
     const Text text = edit.field->ReadText();
+    const PositionsUnder positions(edit, text);
     int32_t position = Caret(edit);
     for (int32_t steps = 1;; ++steps) {
         position += step;
@@ -81,9 +84,9 @@ void MoveCaret(EditInstance& edit, Key key, KeyData keyData, bool shift)
             edit.field->HoldShift(true);  // so that the field selects the character that it passes
             return edit.field->PressArrow(KEY_LEFT, keyData, steps);
         }
-        if (MayTypeAt(edit, text, position))
+        if (positions.MayTypeAt(position) || steps == kMaxMaskLength)
             return edit.field->PressArrow(key, keyData, steps);
-        if (!PositionAt(edit, text, position).exists)
+        if (!positions.At(position).exists)
             return;
     }
 }

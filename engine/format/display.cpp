@@ -2,6 +2,7 @@
 #include "engine/format/display.h"
 
 #include "engine/format/code_table.h"
+#include "engine/values/caller_value.h"
 
 namespace zte {
 
@@ -22,9 +23,9 @@ void ShowThroughCodeTable(EditInstance& edit, const Char* value, Display& displa
 void FormatNumeric(const EditInstance& edit, const void* data, Display& display)
 {
     if (edit.dataType == DT_NUMBER)
-        FormatNumber(edit, data ? *static_cast<const double*>(data) : 0.0, display);
+        FormatNumber(edit, data ? ReadValue<double>(data) : 0.0, display);
     else
-        FormatDecimal(edit, data ? *static_cast<const DecimalValue*>(data) : DecimalValue{}, display);
+        FormatDecimal(edit, data ? ReadValue<DecimalValue>(data) : DecimalValue{}, display);
 }
 
 }  // namespace

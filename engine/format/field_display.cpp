@@ -2,6 +2,7 @@
 #include "engine/format/display.h"
 #include "engine/mask/mask_table.h"
 #include "engine/values/calendar.h"
+#include "engine/values/caller_value.h"
 #include "engine/values/date_time.h"
 #include "engine/values/month_names.h"
 
@@ -88,7 +89,7 @@ public:
         : edit_(edit),
           display_(display),
           text_(static_cast<const Char*>(data)),
-          value_(data && IsDateOrTime(edit.dataType) ? *static_cast<const DateTimeValue*>(data) : kEmptyDateTime)
+          value_(data && IsDateOrTime(edit.dataType) ? ReadValue<DateTimeValue>(data) : kEmptyDateTime)
     {
     }
 

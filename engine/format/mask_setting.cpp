@@ -24,6 +24,12 @@ void KeepLayout(EditInstance& edit, const FieldLayout& layout)
     SetFlag(edit, AMPM, layout.hasAmPm);
 }
 
+// One character more than a mask may have tells that it is none: no more is read of it.
+Text GivenMask(const Char* mask)
+{
+    return mask ? Text(mask, BoundedLength(mask, kMaxMaskLength + 1)) : Text();
+}
+
 // The parent of a new plain edit that is empty hears of no change.
 bool ShowsPlainEmptyText(const EditInstance& edit)
 {
@@ -49,7 +55,7 @@ int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
     edit.dataType = dataType;
     FieldLayout layout{};
     layout.yearDigits = edit.yearDigits;
-    const ChosenMask chosen = ChooseMask(mask ? mask : Text(), dataType, *edit.settings, layout);
+    const ChosenMask chosen = ChooseMask(GivenMask(mask), dataType, *edit.settings, layout);
     KeepLayout(edit, layout);
     InstallMask(edit, chosen.text, chosen.origin, chosen.unitsForced);
     edit.decimalPlaces = edit.table->number.shape.fractionPlaces;

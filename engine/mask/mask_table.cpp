@@ -16,16 +16,6 @@ namespace {
 
 constexpr char kDefaultFormat[] = "#,#.00";
 
-// What a number shows at a position: digits do not stand under their placeholders. At the end of the text a digit may follow.
-MaskPosition NumberPositionAt(const EditInstance& edit, const Text& text, int32_t position)
-{
-    const ShownNumber shown(edit.table->number, *edit.settings, text);
-    const Char character = At(text, position);
-    const bool inNumber = position >= shown.Start() && (position < shown.End() || position >= Length(text));
-    const bool editable = inNumber && (character == Char{} || IsSign(character) || IsDigit(character));
-    return {character, editable ? FieldKind::NumberDigit : FieldKind::Literal, false, true, 0, 0};
-}
-
 // The first run of a letter, in either case, that is a literal neither by "~" nor as a letter of the AM/PM field.
 MaskSpan FindSpan(const MaskPositions& positions, char letter, int32_t ampmPosition, MaskOrigin origin)
 {
@@ -185,9 +175,40 @@ void InstallFieldMask(EditInstance& edit, const Text& mask, MaskOrigin origin)
 
 }  // namespace
 
+PositionsUnder::PositionsUnder(const EditInstance& edit, const Text& text) : edit_(edit), text_(text)
+{
+    if (edit.table->number.format)
+        number_.emplace(edit.table->number, *edit.settings, text);
+}
+
+MaskPosition PositionsUnder::At(int32_t position) const
+{
+    return number_ ? NumberAt(position) : PositionOf(edit_, text_, position);
+}
+
+// What a number shows at a position: digits do not stand under their placeholders. At the end of the text a digit may follow.
+MaskPosition PositionsUnder::NumberAt(int32_t position) const
+{
+    const Char character = zte::At(text_, position);
+    const bool inNumber = position >= number_->Start() && (position < number_->End() || position >= Length(text_));
+    const bool editable = inNumber && (character == Char{} || IsSign(character) || IsDigit(character));
+    return {character, editable ? FieldKind::NumberDigit : FieldKind::Literal, false, true, 0, 0};
+}
+
+bool PositionsUnder::MayTypeAt(int32_t position) const
+{
+    return IsAmPmPosition(edit_, position) || At(position).IsEditable();
+}
+
+bool PositionsUnder::IsInFraction(int32_t position) const
+{
+    const int32_t point = number_ ? number_->Point() : -1;
+    return point >= 0 && position > point && position <= point + edit_.decimalPlaces;
+}
+
 MaskPosition PositionAt(const EditInstance& edit, const Text& text, int32_t position)
 {
-    return edit.table->number.format ? NumberPositionAt(edit, text, position) : PositionOf(edit, text, position);
+    return PositionsUnder(edit, text).At(position);
 }
 
 const MaskPosition& PositionOf(const EditInstance& edit, const Text& text, int32_t position)

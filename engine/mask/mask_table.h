@@ -2,6 +2,8 @@
 // mask's text, so that a mask is one block of the control's heap.
 #pragma once
 
+#include <optional>
+
 #include "engine/mask/mask_positions.h"
 #include "engine/mask/shown_number.h"
 #include "engine/record.h"
@@ -43,6 +45,23 @@ int32_t ShownLength(const EditInstance& edit, const Text& text);
 
 // Where the text shown holds a field.
 int32_t FieldStart(const EditInstance& edit, const Text& text, const MaskSpan& field);
+
+// Positions under one text, asked one after the other: a number is taken apart once for all of them. Control and text stay as they
+// are meanwhile.
+class PositionsUnder {
+public:
+    PositionsUnder(const EditInstance& edit, const Text& text);
+    MaskPosition At(int32_t position) const;
+    bool MayTypeAt(int32_t position) const;
+    bool IsInFraction(int32_t position) const;  // of the mask's fraction digits
+
+private:
+    MaskPosition NumberAt(int32_t position) const;
+
+    const EditInstance& edit_;
+    const Text& text_;
+    std::optional<ShownNumber> number_;  // none under a mask of another type
+};
 
 // True when the position may be typed at: the AM/PM position is not counted here.
 inline bool IsEditable(const EditInstance& edit, const Text& text, int32_t position)

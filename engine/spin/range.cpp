@@ -2,10 +2,10 @@
 #include "engine/spin/range.h"
 
 #include <cmath>
-#include <cstring>
 #include <tuple>
 
 #include "engine/format/date_text.h"
+#include "engine/values/caller_value.h"
 
 namespace zte {
 
@@ -36,10 +36,9 @@ bool IsDateEarlier(const DateTimeValue& first, const DateTimeValue& second)
 // Decimals are compared by their first eight bytes as doubles; kept, callers pass doubles for both types.
 bool IsSmaller(const void* first, const void* second)
 {
-    double numbers[2];
-    std::memcpy(&numbers[0], first, sizeof(double));
-    std::memcpy(&numbers[1], second, sizeof(double));
-    return std::fabs(numbers[0]) > 0.0 && std::fabs(numbers[1]) > 0.0 && numbers[1] < numbers[0];
+    const auto one = ReadValue<double>(first);
+    const auto other = ReadValue<double>(second);
+    return std::fabs(one) > 0.0 && std::fabs(other) > 0.0 && other < one;
 }
 
 }  // namespace
@@ -77,8 +76,8 @@ bool IsOutOfOrder(int32_t dataType, const void* first, const void* second)
 {
     if (IsNumeric(dataType))
         return IsSmaller(first, second);
-    return IsDateOrTime(dataType) && IsOutOfOrder(dataType, *static_cast<const DateTimeValue*>(first),
-                                                  *static_cast<const DateTimeValue*>(second));
+    return IsDateOrTime(dataType) &&
+           IsOutOfOrder(dataType, ReadValue<DateTimeValue>(first), ReadValue<DateTimeValue>(second));
 }
 
 }  // namespace zte

@@ -1,6 +1,8 @@
 // Decimals in and out of their 16-byte record, with the one rounding that every operation shares.
 #include "engine/values/decimal_number.h"
 
+#include "engine/values/caller_value.h"
+
 namespace zte::decimal {
 
 namespace {
@@ -44,11 +46,12 @@ DecimalValue Record(const WideInteger& digits, int64_t scale, bool negative)
 Number Unpack(const DecimalValue* value)
 {
     Number number;
-    if (!value || value->scale > kLargestScale)
+    const auto record = value ? ReadValue<DecimalValue>(value) : DecimalValue{};
+    if (record.scale > kLargestScale)
         return number;
-    number.digits = WideInteger(value->hi32, value->lo64);
-    number.scale = value->scale;
-    number.negative = (value->sign & kNegative) != 0;
+    number.digits = WideInteger(record.hi32, record.lo64);
+    number.scale = record.scale;
+    number.negative = (record.sign & kNegative) != 0;
     return number;
 }
 

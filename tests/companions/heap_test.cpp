@@ -184,4 +184,89 @@ TEST(HeapExhaustion, IsWhatANullHeapCallsFor)
     EXPECT_EQ(EndOf([] { SharedHeapDestroy(SharedHeapCreate()); }), kCameBack);
 }
 
+TEST(HeapLife, IsKnownOfEveryPointer)
+{
+    const SharedHeap first = SharedHeapCreate();
+    const SharedHeap second = SharedHeapCreate();
+    int no = 0;
+    EXPECT_NE(SharedHeapIsAlive(first), 0);
+    EXPECT_NE(SharedHeapIsAlive(second), 0);
+    EXPECT_EQ(SharedHeapIsAlive(nullptr), 0);
+    EXPECT_EQ(SharedHeapIsAlive(reinterpret_cast<SharedHeap>(&no)), 0);
+    SharedHeapDestroy(first);
+    EXPECT_EQ(SharedHeapIsAlive(first), 0);
+    EXPECT_NE(SharedHeapIsAlive(second), 0);
+    SharedHeapDestroy(second);
+    EXPECT_EQ(SharedHeapIsAlive(second), 0);
+}
+
+TEST(HeapLife, EndsOnce)
+{
+    const SharedHeap heap = SharedHeapCreate();
+    SharedHeapDestroy(heap);
+    SharedHeapDestroy(heap);
+    int no = 0;
+    SharedHeapDestroy(reinterpret_cast<SharedHeap>(&no));
+    SUCCEED();
+}
+
+// Hears of the end, and what the heap still holds then.
+struct Watcher : SharedHeapWatcher {
+    explicit Watcher(SharedHeap watched) : SharedHeapWatcher(), heap(watched) { ending = Hear; }
+    static void WINAPI Hear(SharedHeapWatcher* watcher)
+    {
+        auto* self = static_cast<Watcher*>(watcher);
+        ++self->heard;
+        self->blocks = SharedHeapBlockCount(self->heap);
+        SharedHeapDestroy(self->heap);  // has begun already
+        if (self->other)
+            SharedHeapUnwatch(self->heap, self->other);
+    }
+
+    SharedHeap heap;
+    Watcher* other = nullptr;
+    int heard = 0;
+    uint32_t blocks = 0;
+};
+
+TEST(HeapWatching, TellsEachOnceWhileTheBlocksAreThere)
+{
+    const SharedHeap heap = SharedHeapCreate();
+    Watcher first(heap);
+    Watcher second(heap);
+    SharedHeapAlloc(heap, 10, 0);
+    SharedHeapWatch(heap, &first);
+    SharedHeapWatch(heap, &second);
+    SharedHeapDestroy(heap);
+    EXPECT_EQ(first.heard, 1);
+    EXPECT_EQ(second.heard, 1);
+    EXPECT_EQ(first.blocks, 1u);
+}
+
+TEST(HeapWatching, EndsWhereItIsGivenUp)
+{
+    const SharedHeap heap = SharedHeapCreate();
+    std::vector<Watcher> watchers(3, Watcher(heap));
+    for (Watcher& watcher : watchers)
+        SharedHeapWatch(heap, &watcher);
+    SharedHeapUnwatch(heap, &watchers[1]);
+    SharedHeapDestroy(heap);
+    EXPECT_EQ(watchers[0].heard, 1);
+    EXPECT_EQ(watchers[1].heard, 0);
+    EXPECT_EQ(watchers[2].heard, 1);
+}
+
+TEST(HeapWatching, MayBeGivenUpByAnotherWhoHears)
+{
+    const SharedHeap heap = SharedHeapCreate();
+    Watcher first(heap);
+    Watcher second(heap);
+    SharedHeapWatch(heap, &first);
+    SharedHeapWatch(heap, &second);  // told first
+    second.other = &first;
+    SharedHeapDestroy(heap);
+    EXPECT_EQ(second.heard, 1);
+    EXPECT_EQ(first.heard, 0);
+}
+
 }  // namespace

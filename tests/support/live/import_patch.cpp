@@ -1,4 +1,4 @@
-// Finds and replaces an entry of the control library's import address table.
+// Finds and replaces an entry of a library's import address table.
 #include "tests/support/live/import_patch.h"
 
 #include <gtest/gtest.h>
@@ -48,17 +48,17 @@ void WriteSlot(void** slot, void* address)
     VirtualProtect(slot, sizeof *slot, protection, &protection);
 }
 
-// The control library, or the program itself where the library's objects are linked into it.
-HMODULE LibraryModule()
+// The library that imports, or the program itself where the library's objects are linked into it.
+HMODULE ModuleOf(const char* importer)
 {
-    const HMODULE library = GetModuleHandleA("ztedit050.dll");
+    const HMODULE library = GetModuleHandleA(importer ? importer : "ztedit050.dll");
     return library ? library : GetModuleHandleA(nullptr);
 }
 
 }  // namespace
 
-ImportPatch::ImportPatch(const char* dll, const char* function, void* replacement)
-    : ImportPatch(LibraryModule(), dll, function, replacement)
+ImportPatch::ImportPatch(const char* dll, const char* function, void* replacement, const char* importer)
+    : ImportPatch(ModuleOf(importer), dll, function, replacement)
 {
     EXPECT_NE(slot_, nullptr) << "the library does not import " << function;
 }

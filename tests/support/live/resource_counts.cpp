@@ -3,9 +3,8 @@
 
 #include <windows.h>
 
-#include <psapi.h>
-
 #include <cstring>
+#include <vector>
 
 namespace zttest {
 namespace {
@@ -19,6 +18,16 @@ struct GdiEntry {
     BYTE type;  // 0 for a free entry
     BYTE flags;
     ULONGLONG user;
+};
+
+// One entry of the list of all handles.
+struct HandleEntry {
+    ULONG owner;
+    BYTE type;
+    BYTE flags;
+    USHORT value;
+    void* object;
+    ULONG access;
 };
 
 struct ThreadBasics {
@@ -121,19 +130,40 @@ int NamedAtoms()
     return count;
 }
 
+// GetProcessHandleCount counts nothing on some systems; the list of all handles is walked there.
 int ProcessHandles()
 {
     DWORD count = 0;
-    GetProcessHandleCount(GetCurrentProcess(), &count);
+    if (GetProcessHandleCount(GetCurrentProcess(), &count) && count != 0)
+        return static_cast<int>(count);
+    using Query = LONG(WINAPI*)(int, void*, ULONG, ULONG*);
+    const auto query = reinterpret_cast<Query>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("ntdll.dll"), "NtQuerySystemInformation")));
+    constexpr int kAllHandles = 16;
+    std::vector<HandleEntry> list(0x4000);  // the first stands for the number of entries
+    if (query(kAllHandles, list.data(), static_cast<ULONG>(list.size() * sizeof(HandleEntry)), nullptr) != 0)
+        return -1;
+    ULONG entries = 0;
+    std::memcpy(&entries, list.data(), sizeof entries);
+    const auto* entry =
+        reinterpret_cast<const HandleEntry*>(reinterpret_cast<const char*>(list.data()) + sizeof(void*));
+    for (ULONG i = 0; i < entries; ++i)
+        count += entry[i].owner == GetCurrentProcessId();
     return static_cast<int>(count);
 }
 
+// Not by the process's counters, in which some systems leave it out.
 size_t PrivateBytes()
 {
-    PROCESS_MEMORY_COUNTERS_EX counters = {};
-    K32GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
-                            sizeof counters);
-    return counters.PrivateUsage;
+    size_t bytes = 0;
+    MEMORY_BASIC_INFORMATION pages = {};
+    const char* address = nullptr;
+    while (VirtualQuery(address, &pages, sizeof pages) != 0) {
+        if (pages.State == MEM_COMMIT && pages.Type == MEM_PRIVATE)
+            bytes += pages.RegionSize;
+        address = static_cast<const char*>(pages.BaseAddress) + pages.RegionSize;
+    }
+    return bytes;
 }
 
 }  // namespace zttest
