@@ -602,6 +602,7 @@ void PlaySettings(Stage& stage, const Op& op)
         {"iCurrDigits", "-7"                   },
     };
     const zttest::ProfileValue& change = kChanges[op.a % kChanges.size()];
+    stage.NoteSettingsChanged();
     zttest::WriteProfile(change.key, change.value);
     SendMessageA(stage.Control(op.slot), WM_WININICHANGE, 0, Address("intl"));
 }
