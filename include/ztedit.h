@@ -83,8 +83,8 @@ typedef struct FormatResult {
 LRESULT CALLBACK ZTE_SuperEditWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
 /* Configures an existing window whose messages reach ZTE_SuperEditWndProc, for example one from a dialog template. A second
- * call configures the control anew. Returns 1; 0, and nothing is changed, for a heap that is none and for a window that gets
- * wide texts (see above).
+ * call configures the control anew. Returns 1; 0, and nothing is changed, for a heap that is none, for a window whose messages
+ * do not reach that procedure, and for one that gets wide texts (see above).
  *
  *     EditInitParams p = {0};
  *     p.heap = heap;  p.maskText = "MM/DD/YY";  p.dataType = DT_DATE;  p.options = ZTEO_AUTOSKIP;

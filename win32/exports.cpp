@@ -21,7 +21,7 @@ using namespace zte;
 
 namespace {
 
-// A record on any other window would outlive it, and its heap: nothing would tell when the window goes.
+// A record on any other window would outlive it: nothing would tell when the window goes.
 bool ReachesLibrary(HWND hwnd)
 {
     DWORD process = 0;
@@ -39,7 +39,7 @@ bool GetsWideTexts(HWND hwnd)
 
 bool CanBeControl(HWND hwnd, const EditInitParams& params)
 {
-    return IsUsableHeap(params.heap) && ReachesLibrary(hwnd) && !GetsWideTexts(hwnd);
+    return ReachesLibrary(hwnd) && IsUsableHeap(params.heap) && !GetsWideTexts(hwnd);
 }
 
 }  // namespace

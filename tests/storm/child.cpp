@@ -189,7 +189,7 @@ void PlayEpisodes(const Part& part, uint32_t thread)
     for (uint32_t i = thread; i < part.count; i += part.threads) {
         PlayEpisode(part, thread, part.first + i, stage);
         stage.Clear();
-        if (part.threads == 1)
+        if (part.threads == 1 && stage.TakeSettingsChanged())
             PutSettingsBack();
         DrainQueue();
         if (!HeapsAreSound())

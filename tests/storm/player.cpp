@@ -163,26 +163,33 @@ LPARAM ParameterFor(Parameter kind, Stage& stage, HWND hwnd, Random& random)
     return 0;
 }
 
-// A menu waits for a key: it finds one that closes it.
+// A menu waits for a key: it finds one that closes it, which nobody takes away before.
 class EscapesAhead {
 public:
     EscapesAhead(HWND form, bool wanted) : form_(wanted ? form : nullptr)
     {
         for (int i = 0; form_ && i < kEscapes; ++i)
             PostMessageA(form_, WM_KEYDOWN, VK_ESCAPE, 1);
+        depth_ += form_ ? 1 : 0;
     }
     EscapesAhead(const EscapesAhead&) = delete;
     EscapesAhead& operator=(const EscapesAhead&) = delete;
     ~EscapesAhead()
     {
+        depth_ -= form_ ? 1 : 0;
         MSG message;
-        while (form_ && PeekMessageA(&message, form_, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE)) {}
+        while (form_ && depth_ == 0 && PeekMessageA(&message, form_, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE)) {}
     }
+
+    static bool AreWaiting() { return depth_ > 0; }
 
 private:
     static constexpr int kEscapes = 3;
+    static thread_local int depth_;
     HWND form_;
 };
+
+thread_local int EscapesAhead::depth_ = 0;
 
 void Send(const Stage& stage, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
@@ -595,6 +602,7 @@ void PlaySettings(Stage& stage, const Op& op)
         {"iCurrDigits", "-7"                   },
     };
     const zttest::ProfileValue& change = kChanges[op.a % kChanges.size()];
+    stage.NoteSettingsChanged();
     zttest::WriteProfile(change.key, change.value);
     SendMessageA(stage.Control(op.slot), WM_WININICHANGE, 0, Address("intl"));
 }
@@ -617,6 +625,8 @@ void PlayReparent(Stage& stage, const Op& op)
 void PlayPump(Stage&, const Op&)
 {
     constexpr int kMost = 300;
+    if (EscapesAhead::AreWaiting())
+        return;
     MSG message;
     for (int i = 0; i < kMost && PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE); ++i) {
         TranslateMessage(&message);

@@ -148,7 +148,7 @@ Stage::Stage(Cast cast, bool visible) : cast_(cast), buffer_(kRoom)
     bystanders_[1] = CreateChild(Form(), "static", 0, {40, 20}, 101, Instance(), nullptr);
     bystanders_[2] = CreateChild(Form(), "listbox", 0, {40, 20}, 102, Instance(), nullptr);
     bystanders_[3] = CreateChild(Form(), "spin", 0, {40, 20}, 103, library, nullptr);
-    constexpr int kHeights[] = {1, 8, 16, 40, 200};
+    constexpr int kHeights[] = {1, 8, 16, 24, 40};
     for (size_t i = 0; i < sizeof fonts_ / sizeof *fonts_; ++i)
         fonts_[i] = CreateFontA(kHeights[i], 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, "Arial");
     goneFont_ = CreateFontA(20, 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, "Arial");

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "include/ztedit.h"
@@ -63,6 +64,10 @@ public:
     void NoteReconfigured() { ++reconfigured_; }
     uint32_t Reconfigured() const { return reconfigured_; }
 
+    // Whether the profile was written to since this was asked.
+    void NoteSettingsChanged() { settingsChanged_ = true; }
+    bool TakeSettingsChanged() { return std::exchange(settingsChanged_, false); }
+
     // Counts what the host has done inside notifications.
     uint32_t Reacted() const { return reacted_; }
 
@@ -92,6 +97,7 @@ private:
     int depth_ = 0;
     uint32_t reconfigured_ = 0;
     uint32_t reacted_ = 0;
+    bool settingsChanged_ = false;
     std::vector<char> buffer_;
 };
 

@@ -77,7 +77,7 @@ TEST(Storm, OverPlainEditsIsTheMeasure)
 
 TEST(Storm, OnTwoThreadsAtOnceIsSurvived)
 {
-    ExpectNothingFound(TravelWith(Cast::Masked, kThreads, 4));
+    ExpectNothingFound(TravelWith(Cast::Masked, kThreads, 8));
 }
 
 // An episode makes more than ten controls: a block lost with each, or with each message of some kind, would be many.

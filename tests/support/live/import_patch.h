@@ -10,7 +10,7 @@ public:
     // Reports a failure when the library does not import the function. importer: another module than the control library.
     ImportPatch(const char* dll, const char* function, void* replacement, const char* importer = nullptr);
 
-    // The same for an import of any module; nothing is led elsewhere when the module does not import the function.
+    // The same for any module; nothing is led elsewhere when it does not import the function.
     ImportPatch(HMODULE module, const char* dll, const char* function, void* replacement);
     ImportPatch(const ImportPatch&) = delete;
     ImportPatch& operator=(const ImportPatch&) = delete;
