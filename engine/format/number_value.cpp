@@ -1,6 +1,8 @@
 // Number texts with the regional decimal character, and the values that they stand for; percentages.
 #include "engine/format/number_value.h"
 
+#include <optional>
+
 #include <algorithm>
 
 #include "engine/mask/mask_table.h"
@@ -186,6 +188,15 @@ Text Bare(const EditInstance& edit, const Text& text)
     return bare;
 }
 
+// The plain text of a number written under the settings, a percentage as its hundredth; none of any other text.
+std::optional<Text> ReadAsShown(const EditInstance& edit, const Text& text)
+{
+    ShownReader reader(edit, text);
+    if (!reader.Read() || (reader.IsPercentage() && !Has(edit, PERCENT)))
+        return std::nullopt;
+    return reader.IsPercentage() ? Hundredth(reader.Plain(), Char{'.'}, Char{'.'}) : reader.Plain();
+}
+
 bool IsCanonical(const Text& text)
 {
     return IsNumberText(text.c_str(), Char{'.'});
@@ -233,15 +244,14 @@ bool IsNumberOf(const EditInstance& edit, const Text& text)
     return IsGeneral(edit) && reader.Read() && !reader.IsPercentage();
 }
 
+// As the getters return a number, before as the mask shows it: literals may hold digits.
 Text PlainNumberOf(const EditInstance& edit, const Text& text)
 {
     if (!edit.table || IsCanonical(text))
         return text;
-    const Text bare = Bare(edit, text);
-    ShownReader reader(edit, bare);
-    if (!reader.Read() || (reader.IsPercentage() && !Has(edit, PERCENT)))
-        return text;
-    return reader.IsPercentage() ? Hundredth(reader.Plain(), Char{'.'}, Char{'.'}) : reader.Plain();
+    if (const std::optional<Text> returned = ReadAsShown(edit, text))
+        return *returned;
+    return ReadAsShown(edit, Bare(edit, text)).value_or(text);
 }
 
 }  // namespace zte

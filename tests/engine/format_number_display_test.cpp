@@ -368,6 +368,15 @@ const NumberTextCase kNumberTextRows[] = {
 };
 INSTANTIATE_TEST_SUITE_P(, NumberDataText, testing::ValuesIn(kNumberTextRows), RowName<NumberTextCase>);
 
+// A 0 is shown as "1,00" too; what was returned for 1 stays 1.
+TEST_F(ValueTest, ANumberReturnedIsTakenAgainBesideLiteralDigits)
+{
+    const Regional settings(kGerman);
+    Install("~1.00", DT_NUMBER);
+    EXPECT_EQ(ShownFor("1"), "11,00");
+    EXPECT_EQ(ShownFor(Read().c_str()), "11,00");
+}
+
 class DecimalExactness : public ValueTest {};
 
 TEST_F(DecimalExactness, TwentyEightDigitsAreShown)

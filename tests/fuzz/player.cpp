@@ -151,6 +151,7 @@ PlayedControl::PlayedControl(const zte::ControlSetup& setup, const zte::Settings
     CountStep();
     hadUnknownType_ = !HasKnownType(control_.Record());
     properMask_ = HasProperMask(control_.Record());
+    unformatted_ = Has(control_.Record(), zte::CODE_SPIN);
     CheckAlways();
 }
 
@@ -199,7 +200,7 @@ void PlayedControl::ByProgram(Act act)
 
 bool PlayedControl::IsWatched() const
 {
-    return properMask_ && !foreign_ && !foreignSettings_ && !limited_;
+    return properMask_ && !unformatted_ && !foreign_ && !foreignSettings_ && !limited_;
 }
 
 void PlayedControl::CheckAlways() const
@@ -366,10 +367,10 @@ void PlayedControl::LoseFocus()
 
 void PlayedControl::SetMask(const Text& mask, int32_t dataType)
 {
-    foreignSettings_ = false;
     ByProgram([&] {
         zte::SetMask(control_.Record(), mask.c_str(), dataType);
-        foreign_ = Has(control_.Record(), zte::CODE_SPIN);
+        foreign_ = unformatted_ = Has(control_.Record(), zte::CODE_SPIN);
+        foreignSettings_ = false;
         properMask_ = HasProperMask(control_.Record());
         hadUnknownType_ = hadUnknownType_ || !HasKnownType(control_.Record());
     });

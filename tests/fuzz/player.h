@@ -74,7 +74,8 @@ private:
     zte::Settings settings_;
     bool redrawOff_ = false;
     bool properMask_ = true;
-    bool foreign_ = false;          // a text stands there that the library has not made
+    bool unformatted_ = false;  // kept: a mask set while a table's entries are shown does not know its literals at once
+    bool foreign_ = false;      // a text stands there that the library has not made
     bool foreignSettings_ = false;  // the mask was set under others
     bool limited_ = false;
     bool hadUnknownType_ = false;  // kept: a step of an unknown type leaves redrawing off
