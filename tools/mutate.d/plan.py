@@ -32,7 +32,8 @@ class Mutant:
     @property
     def is_fixed(self):
         """Whether the compiler may have evaluated it, so that only building it tells."""
-        return self.file.endswith('.cpp') and (bool(self.site.left_out) or 'mutate::Now(' not in self.site.open)
+        return self.file.endswith('.cpp') and (bool(self.site.left_out) or NUMBER in self.site.open.replace(f'Now({NUMBER}', '') or
+                                              bool(self.site.variable))
 
 
 def read_file(root, file):
@@ -47,7 +48,8 @@ def read_share(share):
 def load(root, tree, jobs):
     """The engine with its copy written; read anew only where something has changed."""
     digest = hashlib.sha256()
-    for path in sorted([*(root / 'engine').rglob('*'), *(root / 'include').rglob('*'), *HERE.glob('*.py'), HERE / 'switches.h']):
+    own = [HERE / 'plan.py', HERE / 'sites.py', HERE / 'switches.h']
+    for path in sorted([*(root / 'engine').rglob('*'), *(root / 'include').rglob('*'), *own]):
         if path.is_file():
             digest.update(str(path).encode() + path.read_bytes())
     kept = tree.parent / 'engine.pickle'

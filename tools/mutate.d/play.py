@@ -228,8 +228,8 @@ class Builder:
         self.compile = {row['file']: row['command'] for row in rows if '/zt_engine.dir/' in row['command']}
         self.links = {}
         for program in PROGRAMS:
-            done = subprocess.run(['ninja', '-C', str(out / 'programs'), '-t', 'commands', '-s', f'test_{program}'], capture_output=True,
-                                  text=True, check=True)
+            done = subprocess.run(['ninja', '-C', str(out / 'programs'), '-t', 'commands', '-s', f'bin/test_{program}'],
+                                  capture_output=True, text=True, check=True)
             self.links[program] = done.stdout.strip().splitlines()[-1]
             shutil.copy(out / f'{program}.record', self.place)
 

@@ -202,7 +202,7 @@ struct Other {
     template <class T>
     static constexpr const T& clamp(const T& value, const T& low, const T& high)
     {
-        const uint32_t at = At(first);
+        uint32_t at = At(first);  // a constant would be the compiler's to evaluate
         return at == 0 ? std::max(value, low) : at == 1 ? std::min(value, high) : std::clamp(value, low, high);
     }
 };
