@@ -222,6 +222,13 @@ TEST_F(SpinOf, AHalfThatIsNotShownStaysAway)
     EXPECT_EQ(Up("05 ", 3), FromAscii("05 "));
 }
 
+// A text of other settings may show a wider half than the display has.
+TEST_F(SpinOf, AFieldBehindAWiderHalfIsNotCutAway)
+{
+    Make("HH AM/PM:MM", DT_TIME);
+    EXPECT_EQ(Up("05 xxxx:30", 8), FromAscii("05 xxxx:30"));
+}
+
 // Hosts see the text of an end appear at once, laid out and drawn.
 TEST_F(SpinOf, AnEndIsShownAsAWhole)
 {
