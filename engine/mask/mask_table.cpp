@@ -145,8 +145,7 @@ void InstallNumberMask(EditInstance& edit, const Text& mask, bool unitsForced)
     NumberMask& number = table->number;
     number.format = Place(block, formatAt, parts.format);
     number.isGeneral = IsGeneralFormat(number.format);
-    if (!number.isGeneral)
-        number.shape = ReadShape(number.format);
+    number.shape = ReadShape(number.format);
     number.before = {Place(block, beforeAt, parts.before), Length(parts.before)};
     number.behind = {Place(block, behindAt, parts.behind), Length(parts.behind)};
 }

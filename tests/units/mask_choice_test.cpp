@@ -324,6 +324,14 @@ TEST_F(MaskInForce, AFieldWithoutDesignatorsTakesNoPlace)
     EXPECT_EQ(PositionOf(record, FromAscii("05 :30"), 3).character, Char{':'});
 }
 
+TEST_F(MaskInForce, FieldsMoveBehindAHalfThatBeginsTheMask)
+{
+    const EditInstance& record = Make("AM/PM HH:MM", DT_TIME);
+    const Text text = FromAscii("AM 05:30");
+    EXPECT_EQ(PositionOf(record, text, 3).kind, FieldKind::Hour);
+    EXPECT_EQ(ShownLength(record, text), 8);
+}
+
 // ---- The half of the day ----
 
 TEST_F(MaskInForce, NothingTypedIsNoHalf)
