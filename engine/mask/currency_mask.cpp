@@ -1,6 +1,8 @@
 // Builds the currency mask of the regional settings.
 #include "engine/mask/currency_mask.h"
 
+#include <algorithm>
+
 namespace zte {
 
 namespace {
@@ -24,7 +26,7 @@ Text FractionPart(int32_t digits)
 {
     if (digits == 0)
         return {};
-    return Char{'.'} + Text(digits > 0 ? static_cast<size_t>(digits) : 0, '0');
+    return Char{'.'} + Text(static_cast<size_t>(std::max(digits, 0)), '0');
 }
 
 bool IsSymbolBehind(int32_t position)

@@ -46,10 +46,10 @@ Expansion ExpandCurrency(const Text& keyword, const Settings& settings)
     constexpr size_t kLongestCount = 19;
     constexpr int16_t kMostDigits = 16;
     const size_t open = keyword.find(Char{'('});
-    const size_t close = open == Text::npos ? open : keyword.find(Char{')'}, open);
+    const size_t close = keyword.find(Char{')'}, open);  // none where nothing opens
     if (close == Text::npos || close - open - 1 > kLongestCount)
         return std::nullopt;
-    const auto digits = static_cast<int16_t>(IntegerOf(keyword.substr(open + 1, close - open - 1)));
+    const auto digits = static_cast<int16_t>(IntegerOf(keyword.c_str() + open + 1));
     if (digits > kMostDigits)
         return std::nullopt;
     const Text mask = BuildCurrencyMask(digits, settings);

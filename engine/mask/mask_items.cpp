@@ -62,7 +62,7 @@ FieldKind KindOf(Char maskChar, int32_t dataType, bool hourBefore)
     for (const MaskItem& item : kMaskItems) {
         if (static_cast<Char>(item.maskChar) != folded || (item.dataType != DT_ANY && item.dataType != dataType))
             continue;
-        return item.kind == FieldKind::Month && dataType == DT_DATETIME && hourBefore ? FieldKind::Minute : item.kind;
+        return item.kind == FieldKind::Month && hourBefore ? FieldKind::Minute : item.kind;
     }
     return FieldKind::Literal;
 }

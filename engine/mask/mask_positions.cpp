@@ -56,14 +56,13 @@ void MaskPositions::CountRuns()
     for (size_t i = 1; i < positions_.size(); ++i) {
         MaskPosition& here = positions_[i];
         const MaskPosition& before = positions_[i - 1];
-        const bool adjoins = offsets_[i] == offsets_[i - 1] + 1 && !before.escaped;
-        if (adjoins && !here.escaped && before.character == here.character)
+        if (!before.escaped && !here.escaped && before.character == here.character)
             here.runBefore = Bounded(size_t{before.runBefore} + 1);
     }
     for (size_t i = positions_.size(); i-- > 1;) {
         MaskPosition& here = positions_[i - 1];
         const MaskPosition& behind = positions_[i];
-        if (!here.escaped && behind.runBefore > 0)
+        if (behind.runBefore > 0)
             here.runAfter = Bounded(size_t{behind.runAfter} + 1);
     }
 }

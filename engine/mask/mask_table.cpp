@@ -25,22 +25,23 @@ MaskSpan FindSpan(const MaskPositions& positions, char letter, int32_t ampmPosit
                AsciiUpper(at.character) == static_cast<Char>(letter);
     };
     for (int32_t position = 0; position < positions.Count(); ++position) {
-        if (!isLetter(position))
-            continue;
-        int32_t length = 1;
+        int32_t length = 0;
         while (isLetter(position + length))
             ++length;
+        if (length == 0)
+            continue;
         const int32_t offset = origin == MaskOrigin::Given ? positions.OffsetOf(position) : position;
         return {offset, length, ampmPosition >= 0 && position > ampmPosition};
     }
-    return {0, 0, false};
+    return {};
 }
 
 bool HasFieldBehind(const MaskPositions& positions, int32_t ampmPosition)
 {
-    const auto first = positions.All().begin() + std::max(ampmPosition, 0);
-    return ampmPosition >= 0 &&
-           std::any_of(first, positions.All().end(), [](const MaskPosition& at) { return at.IsEditable(); });
+    if (ampmPosition < 0)
+        return false;
+    return std::any_of(positions.All().begin() + ampmPosition, positions.All().end(),
+                       [](const MaskPosition& at) { return at.IsEditable(); });
 }
 
 // A "~" at the very end shows nothing.
@@ -53,8 +54,7 @@ int32_t CountShown(const MaskPositions& positions)
 // The words of a regional picture are literals like any other, however they had to be written.
 void MakeLiteralsPlain(MaskPosition* positions, int32_t count)
 {
-    for (int32_t i = 0; i < count; ++i)
-        positions[i].escaped = false;
+    std::for_each_n(positions, count, [](MaskPosition& at) { at.escaped = false; });
 }
 
 // The designator shown is shorter than the field is written.
@@ -67,12 +67,13 @@ int32_t MissingAmPmLetters(const EditInstance& edit, const Text& text)
 class BlockLayout {
 public:
     template <typename T>
-    size_t Take(size_t count)
+    size_t Take(size_t count = 1)
     {
         const size_t at = (size_ + alignof(T) - 1) / alignof(T) * alignof(T);
         size_ = at + count * sizeof(T);
         return at;
     }
+    size_t TakeText(const Text& text) { return Take<Char>(text.size() + 1); }
     size_t Size() const { return size_; }
 
 private:
@@ -129,12 +130,12 @@ void InstallNumberMask(EditInstance& edit, const Text& mask, bool unitsForced)
 {
     const NumberParts parts = CompileNumber(mask, unitsForced, *edit.settings);
     BlockLayout layout;
-    layout.Take<Char>(mask.size() + 1);
-    const size_t tableAt = layout.Take<MaskTable>(1);
-    const size_t compiledAt = layout.Take<services::NumberFormat>(1);
-    const size_t formatAt = layout.Take<Char>(parts.format.size() + 1);
-    const size_t beforeAt = layout.Take<Char>(parts.before.size() + 1);
-    const size_t behindAt = layout.Take<Char>(parts.behind.size() + 1);
+    layout.TakeText(mask);
+    const size_t tableAt = layout.Take<MaskTable>();
+    const size_t compiledAt = layout.Take<services::NumberFormat>();
+    const size_t formatAt = layout.TakeText(parts.format);
+    const size_t beforeAt = layout.TakeText(parts.before);
+    const size_t behindAt = layout.TakeText(parts.behind);
 
     MaskTable* table = NewMaskBlock(edit, mask, MaskPositions(mask, edit.dataType), layout, tableAt);
     auto* block = reinterpret_cast<char*>(edit.mask);
@@ -144,8 +145,7 @@ void InstallNumberMask(EditInstance& edit, const Text& mask, bool unitsForced)
     NumberMask& number = table->number;
     number.format = Place(block, formatAt, parts.format);
     number.isGeneral = IsGeneralFormat(number.format);
-    if (!number.isGeneral)
-        number.shape = ReadShape(number.format);
+    number.shape = ReadShape(number.format);
     number.before = {Place(block, beforeAt, parts.before), Length(parts.before)};
     number.behind = {Place(block, behindAt, parts.behind), Length(parts.behind)};
 }
@@ -155,8 +155,8 @@ void InstallFieldMask(EditInstance& edit, const Text& mask, MaskOrigin origin)
     MaskPositions positions(mask, edit.dataType);
     const int32_t ampmPosition = Has(edit, AMPM) ? positions.MarkAmPm() : -1;
     BlockLayout layout;
-    layout.Take<Char>(mask.size() + 1);
-    const size_t tableAt = layout.Take<MaskTable>(1);
+    layout.TakeText(mask);
+    const size_t tableAt = layout.Take<MaskTable>();
     const size_t positionsAt = layout.Take<MaskPosition>(positions.All().size());
 
     MaskTable* table = NewMaskBlock(edit, mask, positions, layout, tableAt);

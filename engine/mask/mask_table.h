@@ -88,7 +88,7 @@ inline bool MayTypeAt(const EditInstance& edit, const Text& text, int32_t positi
 
 // Gives the control a mask: its text, the table, and displayLength. The mask before it is freed. unitsForced: a number shows its
 // units even where the mask would leave them out.
-void InstallMask(EditInstance& edit, const Text& mask, MaskOrigin origin = MaskOrigin::Given, bool unitsForced = false);
+void InstallMask(EditInstance& edit, const Text& mask, MaskOrigin origin, bool unitsForced);
 
 // Frees the mask.
 void DropMask(EditInstance& edit);

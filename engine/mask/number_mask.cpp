@@ -33,7 +33,7 @@ private:
     // An empty symbol fits anywhere, and so refuses every mask with more than placeholders; kept.
     bool TakeCurrency()
     {
-        const bool taken = !currency_ && !body_;
+        const bool taken = !body_;
         currency_ = body_ = true;
         return taken;
     }
@@ -104,7 +104,7 @@ int32_t FindSymbolBefore(const Text& mask, const Text& symbol)
 int32_t FindSymbolBehind(const Text& mask, const Text& symbol)
 {
     const int32_t at = Length(mask) - Length(symbol);
-    return at > 0 && At(mask, at - 1) != '~' && BeginsWith(mask.c_str() + at, symbol.c_str()) ? at : -1;
+    return at > 0 && BeginsWith(mask.c_str() + at, symbol.c_str()) ? at : -1;
 }
 
 // Where the currency symbol stands in a mask, before the number or behind it; -1 when it does not.
@@ -170,12 +170,14 @@ Text DisplayFormatText(const Text& mask, const Settings& settings)
 
 Text WithUnitsForced(Text format)
 {
-    for (int32_t at = Length(format) - 1; at >= 0; --at) {
-        if (At(format, at) != '#' || At(format, at - 1) == '\\')
-            continue;
-        format[static_cast<size_t>(at)] = '0';
-        break;
+    size_t units = Text::npos;
+    for (size_t at = 0; at < format.size(); ++at) {
+        if (format[at] == '#')
+            units = at;
+        at += format[at] == '\\' ? 1 : 0;
     }
+    if (units != Text::npos)
+        format[units] = '0';
     return format;
 }
 

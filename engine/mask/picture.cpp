@@ -29,8 +29,6 @@ public:
     void PutLiteral(Char character)
     {
         const bool read = character == '~' || IsMaskItem(character, DT_DATETIME);
-        if (read && Length(text_) >= size_ - 2)
-            return Fail(PictureStatus::DoesNotFit);
         if (read)
             Put('~');
         Put(character);
@@ -151,7 +149,7 @@ const Char* TakeAmPm(const Char* picture, MaskWriter& out)
 // Copies literals up to the closing quote, which is consumed.
 const Char* TakeQuoted(const Char* picture, Char quote, MaskWriter& out)
 {
-    while (*picture && *picture != quote && out.IsGoing())
+    while (*picture && *picture != quote)
         out.PutLiteral(*picture++);
     if (*picture == quote)
         return picture + 1;

@@ -11,8 +11,8 @@ namespace {
 
 bool StandsAt(const Text& text, int32_t position, const MaskLiterals& literals)
 {
-    return position >= 0 && text.compare(static_cast<size_t>(position), static_cast<size_t>(literals.length),
-                                         literals.text, static_cast<size_t>(literals.length)) == 0;
+    const auto length = static_cast<size_t>(literals.length);
+    return text.compare(static_cast<size_t>(position), length, literals.text, length) == 0;
 }
 
 bool IsLiteral(const Token& token)

@@ -67,7 +67,7 @@ private:
     const NumberMask& mask_;
     const Text& text_;
     int32_t start_ = 0;
-    int32_t end_ = 0;
+    int32_t end_;
     int32_t sign_ = -1;
     int32_t point_ = -1;
 };

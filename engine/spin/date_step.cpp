@@ -152,20 +152,19 @@ void SetField(const DateStep& step, DateTimeValue& value, int32_t number)
     }
 }
 
-// Only the field itself wraps, nothing is carried. True when it did.
-bool StepField(const DateStep& step, DateTimeValue& value)
+// Only the field itself wraps, nothing is carried.
+void StepField(const DateStep& step, DateTimeValue& value)
 {
     const FieldRange range = RangeOf(step, value);
     const int32_t moved = range.value + (IsUp(step) ? range.unit : -range.unit);
     const bool wrapped = IsUp(step) ? moved > range.last : moved < range.first;
     const int32_t wrappedTo = IsUp(step) ? range.first : range.last;
     SetField(step, value, wrapped ? wrappedTo : moved);
-    return wrapped;
 }
 
 // After the field has moved: up past the maximum goes to the minimum, down past the minimum to the maximum. A day or month
 // first tries its own first or last value.
-StepResult KeepInRange(const DateStep& step, bool wrapped, DateTimeValue& value)
+StepResult KeepInRange(const DateStep& step, DateTimeValue& value)
 {
     const bool up = IsUp(step);
     const bool past = up ? IsAboveMaximum(step, value) : IsBelowMinimum(step, value);
@@ -175,11 +174,6 @@ StepResult KeepInRange(const DateStep& step, bool wrapped, DateTimeValue& value)
         const FieldRange range = RangeOf(step, value);
         SetField(step, value, up ? range.first : range.last);
     }
-    if (!past && !wrapped)
-        return StepResult::Stepped;
-    const bool outside = up ? IsBelowMinimum(step, value) : IsAboveMaximum(step, value);
-    if (outside)
-        return up ? SetToMinimum(step, value) : SetToMaximum(step, value);
     return StepResult::Stepped;
 }
 
@@ -195,13 +189,13 @@ StepResult StepYear(const DateStep& step, DateTimeValue& value)
         return StepResult::Refused;
     if (IsUp(step) && year > kYear3000)
         return GoToMinimum(step, value);
-    if (!IsUp(step) && year < kYear0)
+    if (year < kYear0)
         return GoToMaximum(step, value);
     value.year = static_cast<int16_t>(year);
-    return KeepInRange(step, false, value);
+    return KeepInRange(step, value);
 }
 
-// A last look at both ends.
+// A last look at the other end: a field that wrapped or went to its own end may lie outside it.
 StepResult CheckEnds(const DateStep& step, StepResult result, DateTimeValue& value)
 {
     if (step.direction == StepDirection::Up && IsOutOfOrder(step.dataType, step.minimum, value))
@@ -233,8 +227,8 @@ StepResult StepByField(const DateStep& step, DateTimeValue& value)
         return StepYear(step, value);
     if (!IsSteppable(step.field) || step.direction == StepDirection::Neither)
         return StepResult::Stepped;
-    const bool wrapped = StepField(step, value);
-    return KeepInRange(step, wrapped, value);
+    StepField(step, value);
+    return KeepInRange(step, value);
 }
 
 }  // namespace

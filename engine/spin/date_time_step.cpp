@@ -36,16 +36,13 @@ void FlipAmPm(EditInstance& edit, const Text& text, int32_t caret)
     edit.field->Select(caret, caret + 1);
 }
 
-// Both ends of the range text; out of order they are dropped.
+// Both ends of the range text, empty where they cannot be read; out of order they are dropped.
 void ReadRange(const EditInstance& edit, DateStep& step)
 {
-    step.minimum = step.maximum = kEmptyDateTime;
-    if (!edit.spinRange || !*edit.spinRange)
-        return;
     const RangeText ends = SplitRange(edit.spinRange);
-    const bool hasMinimum = ReadRangeEnd(edit, step.minimum, ends.minimum) == 0;
-    const bool hasMaximum = ReadRangeEnd(edit, step.maximum, ends.maximum) == 0;
-    if (hasMinimum && hasMaximum && IsOutOfOrder(edit.dataType, step.minimum, step.maximum))
+    ReadRangeEnd(edit, step.minimum, ends.minimum);
+    ReadRangeEnd(edit, step.maximum, ends.maximum);
+    if (IsOutOfOrder(edit.dataType, step.minimum, step.maximum))
         step.minimum = step.maximum = kEmptyDateTime;
 }
 

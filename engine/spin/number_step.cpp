@@ -58,7 +58,6 @@ StepRange<Exact> DecimalRange(const EditInstance& edit)
     range.minimum.value = services::DecimalOf(ends.minimum.c_str(), edit.decimalPlaces);
     range.maximum.value = services::DecimalOf(ends.maximum.c_str(), edit.decimalPlaces);
     range.hasMaximum = !ends.maximum.empty();  // a maximum of 0 that is written out counts, unlike for numbers
-    range.raisesWithoutMaximum = false;
     return range;
 }
 

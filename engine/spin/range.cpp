@@ -23,14 +23,15 @@ auto TimePart(const DateTimeValue& value)
     return std::make_tuple(value.hour, value.minute, value.second, value.microsecond);
 }
 
+// Nothing is earlier than what is not there: its hour, or its year, is less than any other.
 bool IsTimeEarlier(const DateTimeValue& first, const DateTimeValue& second)
 {
-    return HasTime(first) && HasTime(second) && TimePart(second) < TimePart(first);
+    return HasTime(second) && TimePart(second) < TimePart(first);
 }
 
 bool IsDateEarlier(const DateTimeValue& first, const DateTimeValue& second)
 {
-    return HasDate(first) && HasDate(second) && DatePart(second) < DatePart(first);
+    return HasDate(second) && DatePart(second) < DatePart(first);
 }
 
 // Decimals are compared by their first eight bytes as doubles; kept, callers pass doubles for both types.

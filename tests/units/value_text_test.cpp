@@ -30,7 +30,7 @@ public:
         if (!mask)
             return;
         EditInstance& record = control_.Record();
-        InstallMask(record, mask);
+        InstallMask(record, mask, MaskOrigin::Given, false);
         record.yearDigits = Text(mask).find("YYYY") == Text::npos ? 2 : 4;
     }
     const EditInstance& operator*() const { return control_.Record(); }
