@@ -2,6 +2,7 @@
 // shapes of number formats.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <limits>
@@ -174,6 +175,14 @@ TEST(StandardConventions, KeepFourCharactersOfTheHalvesOfTheDay)
     Settings settings = StandardSettings();
     Assign(settings.amString, "morning");
     EXPECT_STREQ(settings.amString, "morn");
+}
+
+TEST(StandardConventions, Keep31CharactersOfAMonth)
+{
+    Settings settings = StandardSettings();
+    Assign(settings.monthNames[11], Text(40, 'x'));
+    EXPECT_EQ(MonthName(settings, 11), Text(31, 'x'));
+    EXPECT_EQ(settings.letters, &kAsciiLetters);
 }
 
 TEST(AsciiLetters, AreThe52)
@@ -427,6 +436,16 @@ const TypedCase kTypedRows[] = {
     {"AllNinesDown",      "99",  "994",  2, "99.99" },
 };
 INSTANTIATE_TEST_SUITE_P(, TypedRounding, testing::ValuesIn(kTypedRows), RowName<TypedCase>);
+
+TEST(LaidNumbers, HaveUpTo1023Characters)
+{
+    for (const size_t digits : {1022u, 1023u, 1024u, 5000u}) {
+        TypedNumber number;
+        number.integer.assign(digits, '7');
+        EXPECT_EQ(LayOutDigits("#", ReadShape("#"), number, StandardSettings()),
+                  Text(std::min<size_t>(digits, 1023), '7'));
+    }
+}
 
 // ---- Shapes of formats ----------------------------------------------------------------------------------------------
 
