@@ -18,17 +18,14 @@ const Char* SkipDigits(const Char* text)
     return text;
 }
 
-// The end of the number at text (behind its sign), where there is one.
+// The end of the number at text (behind its sign), where there is one; an exponent may be without its digits.
 const Char* EndOfNumber(const Char* text)
 {
     const Char* end = SkipDigits(text);
     if (*end == '.')
         end = SkipDigits(end + 1);
-    if (*end == 'e' || *end == 'E') {
-        const Char* exponent = end + 1 + (end[1] == '+' || end[1] == '-');
-        if (IsDigit(*exponent))
-            return SkipDigits(exponent);
-    }
+    if (*end == 'e' || *end == 'E')
+        return SkipDigits(end + 1 + (IsSign(end[1]) ? 1 : 0));
     return end;
 }
 
