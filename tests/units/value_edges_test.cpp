@@ -382,6 +382,8 @@ INSTANTIATE_TEST_SUITE_P(, FarNumber, testing::ValuesIn(kFarRows), RowName<FarCa
 
 TEST(NumbersInText, EndWhereTheExponentIsNone)
 {
+    EXPECT_EQ(NumberFromPlainText("12e+3x"), 12000);
+    EXPECT_EQ(NumberFromPlainText("12e-1e5"), 1.2);
     EXPECT_EQ(NumberFromPlainText("12e"), 12);
     EXPECT_EQ(NumberFromPlainText("12e+"), 12);
     EXPECT_EQ(NumberFromPlainText("12e-x"), 12);
