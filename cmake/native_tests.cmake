@@ -48,7 +48,16 @@ target_link_libraries(test_field PRIVATE gtest_main)
 file(GLOB zt_unit_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/units/*.cpp)
 set(zt_unit_support profile.cpp values.cpp native/main.cpp native/profile_store.cpp)
 list(TRANSFORM zt_unit_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
-zt_add_native_tests(units ${zt_unit_sources} ${zt_unit_support})
+# The companions' functions over values, with the tests that their libraries meet under Wine.
+set(zt_value_functions ztdecimal/exports.cpp ztshared/date_time.cpp ztshared/number_format.cpp ztshared/text.cpp)
+list(TRANSFORM zt_value_functions PREPEND ${CMAKE_SOURCE_DIR}/companions/)
+set(zt_value_tests date_time_test.cpp decimal_test.cpp number_format_test.cpp number_text_test.cpp long_decimal.cpp
+    native/conventions.cpp)
+list(TRANSFORM zt_value_tests PREPEND ${CMAKE_SOURCE_DIR}/tests/companions/)
+set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/companions/long_decimal.cpp  # pen and paper take most of the time
+    PROPERTIES COMPILE_OPTIONS -O1 SKIP_PRECOMPILE_HEADERS ON)
+zt_add_native_tests(units ${zt_unit_sources} ${zt_unit_support} ${zt_value_functions} ${zt_value_tests})
+target_include_directories(test_units PRIVATE ${CMAKE_SOURCE_DIR}/tests/companions/native)
 target_precompile_headers(test_units PRIVATE ${zt_common_headers})
 
 # What the fuzzers play, on the inputs that they have found so far.

@@ -1,4 +1,4 @@
-// The canonical texts of dates and times, and the clock.
+// The canonical texts of dates and times.
 #include "engine/values/date_time.h"
 
 #include "companions/ztshared/conventions.h"
@@ -12,21 +12,4 @@ int32_t WINAPI SharedParseDateTime(DateTimeValue* value, const char* text, int32
         return 1;
     zte::WriteValue(value, read);
     return 0;
-}
-
-void WINAPI SharedDateTimeNow(DateTimeValue* value)
-{
-    if (!value)
-        return;
-    SYSTEMTIME now;
-    GetLocalTime(&now);
-    DateTimeValue read = zte::kEmptyDateTime;
-    read.microsecond = now.wMilliseconds * 1000u;
-    read.year = static_cast<int16_t>(now.wYear - zte::kFirstYear);
-    read.month = static_cast<int8_t>(now.wMonth - 1);
-    read.day = static_cast<int8_t>(now.wDay);
-    read.hour = static_cast<int8_t>(now.wHour);
-    read.minute = static_cast<int8_t>(now.wMinute);
-    read.second = static_cast<int8_t>(now.wSecond);
-    zte::WriteValue(value, read);
 }

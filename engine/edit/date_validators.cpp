@@ -88,7 +88,7 @@ Verdict ValidateMonthName(const Entry& entry)
 {
     const Settings& settings = *entry.edit.settings;
     const int32_t index = entry.Index();
-    int32_t month = MonthByPrefix(settings, NamePrefix(entry));
+    int32_t month = MonthByPrefix(settings, NamePrefix(entry), 0);
     if (month < 0)
         return Verdict::Refused();
     const Text start = MonthName(settings, month).substr(0, static_cast<size_t>(index) + 1);

@@ -26,10 +26,9 @@ public:
         return true;
     }
 
-    // Exactly count digits.
+    // Exactly count digits, into a number that is 0.
     bool TakeDigits(int32_t count, int32_t& number)
     {
-        number = 0;
         for (; count > 0; --count, ++at_) {
             if (!IsDigit(*at_))
                 return false;
@@ -38,10 +37,9 @@ public:
         return true;
     }
 
-    // One to six digits, as millionths.
+    // One to six digits, as millionths, into a number that is 0.
     bool TakeFraction(uint32_t& microsecond)
     {
-        microsecond = 0;
         int32_t digits = 0;
         for (; digits < kMicroDigits && IsDigit(*at_); ++digits, ++at_)
             microsecond = microsecond * 10 + static_cast<uint32_t>(DigitValue(*at_));

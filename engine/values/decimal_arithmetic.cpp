@@ -46,7 +46,7 @@ Number Difference(const Number& first, Number second)
     return Sum(first, second);
 }
 
-// Digits are brought down one by one until the division ends or one more than a record holds is known; the rest is told by
+// Digits are brought down one by one until the division ends or more of them than a record holds are known; the rest is told by
 // the inexact mark.
 Number Quotient(const Number& first, const Number& second)
 {
@@ -57,8 +57,7 @@ Number Quotient(const Number& first, const Number& second)
     quotient.scale = first.scale - second.scale;
     WideInteger remainder = first.digits;
     quotient.digits = remainder.DivideByWide(second.digits);
-    while ((!remainder.IsZero() || quotient.scale < 0) && quotient.digits.FitsIn96Bits() &&
-           quotient.scale <= kLargestScale) {
+    while (!remainder.IsZero() && quotient.digits.FitsIn96Bits()) {
         remainder.MultiplyAdd(10, 0);
         quotient.digits.MultiplyAdd(10, NextDigit(remainder, second.digits));
         ++quotient.scale;

@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 
 #include "engine/text/ascii.h"
+#include "engine/values/decimal_number.h"
 #include "engine/values/wide_integer.h"
 
 namespace zte {
@@ -31,13 +33,12 @@ DecimalDigits DecimalDigits::FromDouble(double value)
 
 DecimalDigits DecimalDigits::FromDecimal(const DecimalValue& value)
 {
-    constexpr uint8_t kNegative = 0x80;
     DecimalDigits number;
     for (decimal::WideInteger rest(value.hi32, value.lo64); !rest.IsZero();)
         number.Append(static_cast<char>('0' + rest.Divide(10)));
     std::reverse(number.digits_, number.digits_ + number.count_);
     number.pointPos_ = number.count_ - value.scale;
-    number.negative_ = (value.sign & kNegative) != 0;
+    number.negative_ = (value.sign & decimal::kNegative) != 0;
     number.Normalize();
     return number;
 }
@@ -54,17 +55,23 @@ void DecimalDigits::RoundToCount(int64_t kept)
     if (kept >= count_)
         return;
     const bool up = kept >= 0 && digits_[kept] >= '5';
-    count_ = kept > 0 ? static_cast<int32_t>(kept) : 0;
+    count_ = static_cast<int32_t>(std::max<int64_t>(kept, 0));
     if (up)
         Increment();
     Normalize();
 }
 
+void DecimalDigits::DropTrailing(char digit)
+{
+    const auto kept = std::find_if(std::reverse_iterator(digits_ + count_), std::reverse_iterator(digits_ + 0),
+                                   [digit](char c) { return c != digit; });
+    count_ = static_cast<int32_t>(kept.base() - digits_);
+}
+
 void DecimalDigits::Increment()
 {
-    while (count_ > 0 && digits_[count_ - 1] == '9')
-        --count_;
-    if (count_ > 0) {
+    DropTrailing('9');
+    if (!IsZero()) {
         ++digits_[count_ - 1];
         return;
     }
@@ -74,9 +81,8 @@ void DecimalDigits::Increment()
 
 void DecimalDigits::Normalize()
 {
-    while (count_ > 0 && digits_[count_ - 1] == '0')
-        --count_;
-    if (count_ > 0)
+    DropTrailing('0');
+    if (!IsZero())
         return;
     pointPos_ = 0;
     negative_ = false;

@@ -1,6 +1,7 @@
 // A number as the decimal digits that are shown: the common form of doubles and decimals under the number formats.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 #include "engine/text/text.h"
@@ -24,7 +25,7 @@ public:
 
     int32_t Count() const { return count_; }        // significant digits
     int32_t PointPos() const { return pointPos_; }  // digits before the point; negative: zeros behind it
-    int32_t FractionDigits() const { return IsZero() || count_ < pointPos_ ? 0 : count_ - pointPos_; }
+    int32_t FractionDigits() const { return std::max(count_ - pointPos_, 0); }
 
     // The digit at an index, counted from the first significant one; '0' outside the significant digits.
     Char At(int32_t index) const { return static_cast<Char>(index >= 0 && index < count_ ? digits_[index] : '0'); }
@@ -40,6 +41,7 @@ private:
 
     void Append(char digit) { digits_[count_++] = digit; }
     void RoundToCount(int64_t kept);
+    void DropTrailing(char digit);
     void Increment();
     void Normalize();
 

@@ -1,6 +1,8 @@
 // Decimals in and out of their 16-byte record, with the one rounding that every operation shares.
 #include "engine/values/decimal_number.h"
 
+#include <algorithm>
+
 #include "engine/values/caller_value.h"
 
 namespace zte::decimal {
@@ -9,11 +11,6 @@ namespace {
 
 constexpr WideInteger kLargestDigits(UINT32_MAX, UINT64_MAX);
 constexpr int64_t kNothingLeft = 80;  // more digits dropped than 256 bits hold: the number rounds to zero
-
-int Sign(int64_t number)
-{
-    return (number > 0) - (number < 0);
-}
 
 // The digits divided by 10^count, rounded half to even.
 WideInteger DropDigits(const Number& number, int64_t count)
@@ -25,8 +22,8 @@ WideInteger DropDigits(const Number& number, int64_t count)
         below = below || dropped != 0;
         dropped = kept.Divide(10);
     }
-    const int againstHalf = dropped == 5 ? below : Sign(static_cast<int64_t>(dropped) - 5);
-    if (count > 0 && (againstHalf > 0 || (againstHalf == 0 && kept.IsOdd())))
+    const bool up = dropped == 5 && !below ? kept.IsOdd() : dropped >= 5;
+    if (up)
         kept.MultiplyAdd(1, 1);
     return kept;
 }
@@ -62,22 +59,23 @@ void AddTrailingZeros(Number& number, int64_t count)
     number.scale += count;
 }
 
-// Each try rounds the whole number anew: rounding an already rounded one could go the wrong way.
+// Each try rounds the whole number anew: rounding an already rounded one could go the wrong way. More zeros at the end than a
+// record has places bring any number out of range.
 DecimalValue Pack(const Number& number)
 {
-    int64_t drop = number.scale > kLargestScale ? number.scale - kLargestScale : 0;
+    int64_t drop = std::max<int64_t>(number.scale - kLargestScale, 0);
     if (drop > kNothingLeft)
-        return Record(WideInteger(), kLargestScale, false);
+        return Record(WideInteger(), kLargestScale, number.negative);
     Number whole = number;
-    if (whole.scale < 0 && whole.digits.FitsIn96Bits())
-        AddTrailingZeros(whole, whole.scale < -kLargestScale - 1 ? kLargestScale + 1 : -whole.scale);
+    if (whole.scale < 0 && whole.scale >= -kLargestScale && whole.digits.FitsIn96Bits())
+        AddTrailingZeros(whole, -whole.scale);
     for (; drop <= whole.scale; ++drop) {
         const WideInteger kept = DropDigits(whole, drop);
         if (kept.FitsIn96Bits())
             return Record(kept, whole.scale - drop, whole.negative);
     }
     if (whole.digits.IsZero())
-        return Record(WideInteger(), 0, false);
+        return Record(whole.digits, 0, whole.negative);
     return Record(kLargestDigits, 0, number.negative);
 }
 

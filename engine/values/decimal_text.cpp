@@ -1,4 +1,6 @@
 // Decimals out of a text and out of an unsigned number.
+#include <algorithm>
+
 #include "engine/text/ascii.h"
 #include "engine/values/decimal_number.h"
 
@@ -77,32 +79,22 @@ Number ReadNumber(const Char* text)
     return number;
 }
 
-// Trailing zeros up to the scale wanted, as far as there is room for them.
-void Widen(Number& number, int32_t decimalPlaces)
-{
-    const int64_t wanted = decimalPlaces < kLargestScale ? decimalPlaces : kLargestScale;
-    while (number.scale < wanted) {
-        Number wider = number;
-        AddTrailingZeros(wider, 1);
-        if (!wider.digits.FitsIn96Bits())
-            return;
-        number = wider;
-    }
-}
-
 }  // namespace
 
+// Zeros that there is no room for are dropped again.
 DecimalValue Read(const Char* text, int32_t decimalPlaces)
 {
     const DecimalValue read = Pack(ReadNumber(text));
     Number number = Unpack(&read);
-    Widen(number, decimalPlaces);
+    AddTrailingZeros(number, std::max<int64_t>(std::min(decimalPlaces, kLargestScale) - number.scale, 0));
     return Pack(number);
 }
 
 DecimalValue FromUnsigned(uint32_t number)
 {
-    return Pack({WideInteger(0, number), 0, false, false});
+    Number whole;
+    whole.digits = WideInteger(0, number);
+    return Pack(whole);
 }
 
 }  // namespace zte::decimal

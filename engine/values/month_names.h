@@ -13,6 +13,6 @@ int32_t MonthFromName(const Settings& settings, const Text& text);
 
 // The first month, from one on in calendar order, whose abbreviation begins with the start, compared in upper case; -1 when
 // none does.
-int32_t MonthByPrefix(const Settings& settings, const Text& start, int32_t first = 0);
+int32_t MonthByPrefix(const Settings& settings, const Text& start, int32_t first);
 
 }  // namespace zte

@@ -85,7 +85,7 @@ private:
                 shape_.forcedFraction = shape_.fractionPlaces;
             return;
         }
-        shape_.grouped = shape_.grouped || groupPending_;
+        shape_.grouped = groupPending_;
         ++shape_.integerPlaces;
         if (forced || shape_.forcedInteger > 0)
             ++shape_.forcedInteger;

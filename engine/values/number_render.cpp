@@ -1,4 +1,7 @@
 // Lays decimal digits through a number format: the one renderer behind doubles and decimals.
+#include <algorithm>
+#include <cstdlib>
+
 #include "engine/text/ascii.h"
 #include "engine/values/number_format.h"
 #include "engine/values/typed_number.h"
@@ -59,10 +62,6 @@ public:
               const Settings& settings)
         : output_(output), format_(format), shape_(shape), digits_(digits), settings_(settings)
     {
-        integerDigits_ = Larger(digits_.IntegerDigits(), shape_.forcedInteger);
-        fractionDigits_ = Larger(digits_.FractionDigits(), shape_.forcedFraction);
-        placesLeft_ = shape_.integerPlaces;
-        digitsLeft_ = integerDigits_;
     }
 
     void Run()
@@ -72,8 +71,6 @@ public:
     }
 
 private:
-    static int32_t Larger(int32_t first, int32_t second) { return first > second ? first : second; }
-
     void Show(const Token& token)
     {
         if (IsPlaceholder(token.kind))
@@ -137,10 +134,9 @@ private:
     const FormatShape& shape_;
     const Digits& digits_;
     const Settings& settings_;
-    int32_t integerDigits_ = 0;
-    int32_t fractionDigits_ = 0;
-    int32_t placesLeft_ = 0;  // integer placeholders still to come
-    int32_t digitsLeft_ = 0;  // integer digits still to be shown
+    const int32_t fractionDigits_ = std::max(digits_.FractionDigits(), shape_.forcedFraction);
+    int32_t placesLeft_ = shape_.integerPlaces;  // integer placeholders still to come
+    int32_t digitsLeft_ = std::max(digits_.IntegerDigits(), shape_.forcedInteger);  // integer digits still to be shown
     int32_t fractionShown_ = 0;
     bool inFraction_ = false;
     bool signShown_ = false;
@@ -150,7 +146,7 @@ void PutExponent(Writer& output, int32_t exponent)
 {
     output.Put(Char{'E'});
     output.Put(exponent < 0 ? Char{'-'} : Char{'+'});
-    const int32_t magnitude = exponent < 0 ? -exponent : exponent;
+    const int32_t magnitude = std::abs(exponent);
     if (magnitude >= 100)
         output.Put(DigitChar(magnitude / 100));
     output.Put(DigitChar(magnitude / 10 % 10));
@@ -174,10 +170,6 @@ void PutPlain(Writer& output, const DecimalDigits& number, int32_t integerDigits
 void RenderGeneral(Writer& output, DecimalDigits number, const Settings& settings)
 {
     number.RoundToSignificantDigits(kGeneralDigits);
-    if (number.IsZero()) {
-        output.Put(Char{'0'});
-        return;
-    }
     if (number.IsNegative())
         output.Put(Char{'-'});
     const bool plain = number.PointPos() <= kGeneralDigits && number.PointPos() >= -kGeneralDigits;

@@ -1,6 +1,7 @@
 // Number texts, and the values that they stand for.
 #include "engine/values/number_text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -17,31 +18,25 @@ const Char* SkipDigits(const Char* text)
     return text;
 }
 
-// The end of the number at text (behind its sign), which is text itself where there is none.
+// The end of the number at text (behind its sign), where there is one; an exponent may be without its digits.
 const Char* EndOfNumber(const Char* text)
 {
     const Char* end = SkipDigits(text);
-    int32_t digits = static_cast<int32_t>(end - text);
-    if (*end == '.') {
-        const Char* fraction = end + 1;
-        end = SkipDigits(fraction);
-        digits += static_cast<int32_t>(end - fraction);
-    }
-    if (digits == 0)
-        return text;
-    if (*end == 'e' || *end == 'E') {
-        const Char* exponent = end + 1 + (end[1] == '+' || end[1] == '-');
-        if (IsDigit(*exponent))
-            return SkipDigits(exponent);
-    }
+    if (*end == '.')
+        end = SkipDigits(end + 1);
+    if (*end == 'e' || *end == 'E')
+        return SkipDigits(end + 1 + (IsSign(end[1]) ? 1 : 0));
     return end;
 }
 
-// A number out of a double's range: too large, unless it begins with 0 or its exponent is negative.
+// A number out of a double's range: too large or too small, as the power of ten of its first digit tells.
 double OutOfRange(const std::string& number)
 {
-    const bool tiny = number[0] == '0' || number[0] == '.' || number.find('-') != std::string::npos;
-    return tiny ? 0.0 : HUGE_VAL;
+    const size_t end = std::min(number.find_first_of("eE"), number.size());
+    const size_t point = std::min(number.find('.'), end);
+    const auto power = static_cast<int64_t>(point) - static_cast<int64_t>(number.find_first_of("123456789"));
+    const int64_t exponent = end < number.size() ? IntegerOf(FromAscii(number.c_str() + end + 1)) : 0;
+    return power + exponent > 0 ? HUGE_VAL : 0.0;
 }
 
 const Char* SkipBlanks(const Char* text)
@@ -80,7 +75,7 @@ double NumberFromPlainText(const Char* text)
     const std::string number(text, EndOfNumber(text));
     double value = 0.0;
     const auto parsed = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (!number.empty() && parsed.ec == std::errc::result_out_of_range)
+    if (parsed.ec == std::errc::result_out_of_range)
         value = OutOfRange(number);
     return negative ? -value : value;
 }

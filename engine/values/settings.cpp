@@ -34,8 +34,9 @@ Settings StandardSettings()
     Assign(settings.pmString, FromAscii("PM"));
     Assign(settings.shortDate, FromAscii("m/d/yy"));
     Assign(settings.timeSeparator, FromAscii(":"));
-    for (int32_t month = 0; month < kMonths; ++month)
-        Assign(settings.monthNames[month], FromAscii(kMonthNames[month]));
+    const char* const* name = kMonthNames;
+    for (auto& month : settings.monthNames)
+        Assign(month, FromAscii(*name++));
     settings.letters = &kAsciiLetters;
     return settings;
 }

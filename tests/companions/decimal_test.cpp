@@ -85,20 +85,6 @@ std::string RandomText(std::mt19937& random, int mostDigits)
     return random() % 2 ? "-" + text : text;
 }
 
-TEST(DecimalRecord, IsUnderstoodByOleAutomation)
-{
-    const HMODULE automation = LoadLibraryA("oleaut32.dll");
-    ASSERT_NE(automation, nullptr);
-    using Convert = HRESULT(WINAPI*)(const DecimalValue*, double*);
-    const auto convert = reinterpret_cast<Convert>(reinterpret_cast<void*>(GetProcAddress(automation, "VarR8FromDec")));
-    ASSERT_NE(convert, nullptr);
-    const DecimalValue value = Decimal("-18446744073709551616.125");
-    double number = 0;
-    EXPECT_EQ(convert(&value, &number), S_OK);
-    EXPECT_DOUBLE_EQ(number, -18446744073709551616.125);
-    FreeLibrary(automation);
-}
-
 TEST(DecimalRecord, WritesItsReservedFieldAsZero)
 {
     DecimalValue value;
@@ -186,6 +172,7 @@ TEST(DecimalReading, KeepsADigitThatStandsHundredsOfPlacesBehindATie)
     const std::string tie = "0.00000000000000000000000000005";
     EXPECT_EQ(Read(tie + std::string(500, '0')), "0");
     EXPECT_EQ(Read(tie + std::string(500, '0') + "1"), "0.0000000000000000000000000001");
+    EXPECT_EQ(Read(tie + std::string(500, '0') + "10"), "0.0000000000000000000000000001");
 }
 
 TEST(DecimalReading, TakesTextsOfAnyLength)
@@ -195,6 +182,9 @@ TEST(DecimalReading, TakesTextsOfAnyLength)
     EXPECT_EQ(Read(std::string(100000, '0') + "12.5"), "12.5");
     EXPECT_EQ(Read("1" + std::string(1000, '0') + "e-1000"), "1");
     EXPECT_EQ(Read("0." + std::string(999, '0') + "125e1000"), "1.25");
+    EXPECT_EQ(Read(std::string(1000, '0') + "1" + std::string(1000, '0') + "e-1000"), "1");
+    // the product with its power of ten is small again in 256 bits
+    EXPECT_EQ(Read("573992965558300112334183729786566828019444640986046840e28"), kLargestDecimal);
 }
 
 TEST(DecimalReading, ReadsNullAsZero)
@@ -211,6 +201,23 @@ TEST(DecimalReading, GivesZeroNoSign)
     EXPECT_EQ(Decimal("-1e-100").sign, 0);
 }
 
+TEST(DecimalReading, TakesNoExponentWithoutDigitsBeforeIt)
+{
+    for (const char* text : {"e-5", ".e-5", "-e-5", "E-5"})
+        EXPECT_EQ(Decimal(text).scale, 0) << text;
+}
+
+TEST(DecimalReading, HasTheScaleOfTheText)
+{
+    EXPECT_EQ(Decimal("1.50").scale, 2);
+    EXPECT_EQ(Decimal("5e1").scale, 0);
+    EXPECT_EQ(Decimal("1e28").scale, 0);
+    EXPECT_EQ(Decimal("15e-4").scale, 4);
+    EXPECT_EQ(Decimal("0e28").scale, 0);
+    EXPECT_EQ(Decimal("0e100").scale, 0);
+    EXPECT_EQ(Decimal("1e-100").scale, 28);
+}
+
 TEST(DecimalReading, KeepsTheDigitsWhateverTheHint)
 {
     for (const int32_t places : {-1000000, -1, 0, 1, 2, 27, 28, 29, 1000000}) {
@@ -222,7 +229,12 @@ TEST(DecimalReading, KeepsTheDigitsWhateverTheHint)
 
 TEST(DecimalReading, WidensToTheScaleOfTheHintWhereThereIsRoom)
 {
+    EXPECT_EQ(Decimal("12", 1).scale, 1);
     EXPECT_EQ(Decimal("12", 2).scale, 2);
+    EXPECT_EQ(Decimal("1.5", 28).scale, 28);
+    EXPECT_EQ(Decimal("1.5", -3).scale, 1);
+    EXPECT_EQ(Decimal("0", 1000000).scale, 28);
+    EXPECT_EQ(Decimal("0", 29).scale, 28);
     EXPECT_EQ(Decimal("1.250", 2).scale, 3);
     EXPECT_EQ(Decimal("7", 28).scale, 28);
     EXPECT_EQ(Decimal("8", 28).scale, 27);
@@ -306,6 +318,7 @@ constexpr Calculation kQuotients[] = {
     {"HalfToEvenZero",    "0.0000000000000000000000000001", '/', "2",                              "0"},
     {"HalfToEvenUp",      "0.0000000000000000000000000003", '/', "2",                              "0.0000000000000000000000000002"},
     {"HalfToEvenDown",    "0.0000000000000000000000000005", '/', "2",                              "0.0000000000000000000000000002"},
+    {"RestBehindATie",    "18",                             '/', "19",                             "0.9473684210526315789473684211"},
     {"LargestByTen",      kMost,                            '/', "10",                             "7922816251426433759354395033.5"},
     {"LargestHalved",     kMost,                            '/', "2",                              "39614081257132168796771975168"},
     {"TwoLessHalved",     "79228162514264337593543950333",  '/', "2",                              "39614081257132168796771975166"},
@@ -360,6 +373,28 @@ TEST(DecimalSum, AgreesWithPenAndPaperOnRandomNumbers)
         ASSERT_EQ(Subtract(a, b), ToText(AsDecimalValue(zttest::Sum(first, zttest::Negated(second)))))
             << a << " - " << b;
         ASSERT_EQ(Order(a, b), zttest::Compare(first, second)) << a << " <=> " << b;
+    }
+}
+
+TEST(DecimalQuotient, HasNoMoreDigitsThanItNeeds)
+{
+    const struct {
+        const char* first;
+        const char* second;
+        uint8_t scale;
+    } rows[] = {
+        {"1",     "4",    2 },
+        {"12.5",  "100",  3 },
+        {"10.00", "2",    2 },
+        {"10.00", "2.00", 0 },
+        {"5",     "0.10", 0 },
+        {"1",     "3",    28},
+    };
+    for (const auto& row : rows) {
+        const DecimalValue first = Decimal(row.first);
+        const DecimalValue second = Decimal(row.second);
+        DecimalValue quotient;
+        EXPECT_EQ(DecDivide(&quotient, &first, &second)->scale, row.scale) << row.first << " / " << row.second;
     }
 }
 

@@ -171,6 +171,8 @@ constexpr ShowCase kShowCases[] = {
     {"SignBehindCurrency",            "$#,##0.00",        "-5",                   "$-5.00"              },
     {"SignBeforePointBehindText",     "$#.00",            "-0.25",                "$-.25"               },
     {"SignBehindEscapes",             "\\#\\-0",          "-5",                   "#--5"                },
+    {"SignBehindEmptyPlaces",         "##x##",            "-5",                   "x-5"                 },
+    {"SignBehindTextBeforeThePoint",  "#x.0",             "-0.5",                 "x-.5"                },
     {"SignBehindLongPrefix",          "EUR #,#.00",       "-1234.5",              "EUR -1,234.50"       },
     {"TextBehind",                    "#,##0.00 DM",      "1234.5",               "1,234.50 DM"         },
     {"TextBehindZero",                "#,#.00F",          "0",                    ".00F"                },
@@ -237,6 +239,10 @@ TEST_F(NumberFormat, ShowsEveryDigitOfTheLargestNumbers)
     EXPECT_EQ(Show("0.0", 5e-324), "0.0");
     EXPECT_EQ(Show("[GENERAL]", DBL_MAX), "1.79769313486232E+308");
     EXPECT_EQ(Show("[GENERAL]", -5e-324), "-5E-324");
+    EXPECT_EQ(Show("[GENERAL]", 1e99), "1E+99");
+    EXPECT_EQ(Show("[GENERAL]", 1e100), "1E+100");
+    EXPECT_EQ(Show("[GENERAL]", 1e199), "1E+199");
+    EXPECT_EQ(Show("[GENERAL]", 1e-99), "1E-99");
     std::string grouped = "1";
     for (int group = 0; group < 100; ++group)
         grouped += ",000";
@@ -590,7 +596,7 @@ TEST_F(NumberFormat, ReadBackGivesTheRoundedDecimal)
         const RandomFormat format = MakeFormat(random);
         DecimalValue value{};
         value.lo64 = static_cast<uint64_t>(random()) << 32 | random();
-        value.hi32 = random() % 2 ? random() : 0;
+        value.hi32 = random() % 2 ? static_cast<uint32_t>(random()) : 0;
         value.lo64 >>= random() % 64;
         value.scale = static_cast<uint8_t>(random() % 29);
         value.sign = random() % 2 ? 0x80 : 0;

@@ -1,12 +1,11 @@
 // Regional settings for the length of a test: written into the profile section "intl", told to the services, put back.
 #pragma once
 
-#include <windows.h>
-
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "tests/support/profile.h"
 #include "ztshared.h"
 
 namespace zttest {
@@ -18,8 +17,8 @@ public:
     explicit ScopedProfile(const Values& values)
     {
         for (const auto& [key, value] : values) {
-            previous_.emplace_back(key, Read(key));
-            Write(key, value);
+            previous_.emplace_back(key, ReadProfile(key.c_str()));
+            Write(key, value ? value : kAbsent);
         }
         SharedReadRegionalSettings();
     }
@@ -28,23 +27,14 @@ public:
     ~ScopedProfile()
     {
         for (const auto& [key, value] : previous_)
-            Write(key, value == kAbsent ? nullptr : value.c_str());
+            Write(key, value);
         SharedReadRegionalSettings();
     }
 
     // Changes a key without telling the services; the destructor puts back what was there before the object.
-    static void Write(const std::string& key, const char* value) { WriteProfileStringA("intl", key.c_str(), value); }
+    static void Write(const std::string& key, const std::string& value) { WriteProfile(key.c_str(), value); }
 
 private:
-    static constexpr const char* kAbsent = "\x01";
-
-    static std::string Read(const std::string& key)
-    {
-        char value[300];
-        GetProfileStringA("intl", key.c_str(), kAbsent, value, sizeof value);
-        return value;
-    }
-
     std::vector<std::pair<std::string, std::string>> previous_;
 };
 
