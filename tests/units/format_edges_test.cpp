@@ -597,6 +597,14 @@ TEST_F(FormatEdges, LiteralsBehindANumberAreNotOfIt)
     EXPECT_EQ(NumberIn(record, FromAscii("$125")), FromAscii("12"));
 }
 
+TEST_F(FormatEdges, ALoneSignReadsAsTheMasksBlankReads)
+{
+    const EditInstance& plain = Make("#,##0", DT_NUMBER);
+    EXPECT_EQ(NumberShown(plain, FromAscii("-")), FromAscii("0"));
+    const EditInstance& dollars = Make("$#,##0", DT_NUMBER);
+    EXPECT_EQ(NumberShown(dollars, FromAscii("$-")), NumberShown(dollars, FromAscii("$")));
+}
+
 TEST_F(FormatEdges, ANumberAndNothingElse)
 {
     const EditInstance& general = Make("[GENERAL]", DT_NUMBER);
