@@ -207,7 +207,7 @@ Text NumberShown(const EditInstance& edit, const Text& text)
 {
     const ShownNumber shown(edit.table->number, *edit.settings, text);
     const Text kept = Kept(edit, text, shown.Start(), shown.End());
-    if (IsLoneSign(kept) && shown.Start() == 0 && shown.End() == 1)
+    if (IsLoneSign(kept) && shown.End() == 1)  // nothing stands in front of it either
         return FromAscii("0");
     return ValueOfWritten(edit, WithoutSignOfZero(kept));
 }
