@@ -7,7 +7,6 @@
 #include "engine/edit/plain_edit.h"
 #include "engine/format/data.h"
 #include "engine/format/mask_setting.h"
-#include "engine/mask/mask_table.h"
 #include "engine/own_heap.h"
 #include "engine/spin/spin_settings.h"
 #include "engine/spin/step.h"
@@ -41,9 +40,7 @@ MemoryControl::MemoryControl(const ControlSetup& setup, const Settings& settings
 
 MemoryControl::~MemoryControl()
 {
-    DropSpinTexts(record_);
-    DropMask(record_);
-    DestroyHeap(record_.heap);
+    DestroyHeap(record_.heap);  // with all that the record points to
 }
 
 void MemoryControl::KeyDown(int32_t key)
@@ -74,7 +71,7 @@ void MemoryControl::UseMouse(Mouse mouse)
 {
     ForgetPassed(record_);
     mouse();
-    if (!IsPlainEdit(record_) && IsClickCorrected(record_) && !field_.Shown().empty())
+    if (!IsPlainEdit(record_) && IsClickCorrected(record_))
         CorrectClick(record_);
 }
 

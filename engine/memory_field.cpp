@@ -31,7 +31,7 @@ Char FoldAscii(Char character, LetterCase letterCase)
 
 int32_t WordLeft(const Text& text, int32_t position)
 {
-    while (position > 0 && At(text, position - 1) == ' ')
+    while (At(text, position - 1) == ' ')
         --position;
     while (position > 0 && At(text, position - 1) != ' ')
         --position;
@@ -43,7 +43,7 @@ int32_t WordRight(const Text& text, int32_t position)
     const int32_t length = Length(text);
     while (position < length && At(text, position) != ' ')
         ++position;
-    while (position < length && At(text, position) == ' ')
+    while (At(text, position) == ' ')
         ++position;
     return position;
 }
@@ -51,9 +51,10 @@ int32_t WordRight(const Text& text, int32_t position)
 // A single line takes what is copied up to its first line break.
 int32_t FirstLineLength(const Text& text)
 {
-    const size_t end = std::min(text.find(Char{'\n'}), text.size());
-    const bool afterReturn = end < text.size() && end > 0 && text[end - 1] == '\r';
-    return static_cast<int32_t>(afterReturn ? end - 1 : end);
+    const int32_t end = Find(text, Char{'\n'});
+    if (end < 0)
+        return Length(text);
+    return At(text, end - 1) == '\r' ? end - 1 : end;
 }
 
 }  // namespace
@@ -165,7 +166,7 @@ void MemoryField::RememberRemoval(Selection range)
 {
     const auto start = static_cast<size_t>(range.start);
     const size_t count = static_cast<size_t>(range.end) - start;
-    const bool goesOn = insertedCount_ == 0 && !removed_.empty();
+    const bool goesOn = insertedCount_ == 0;
     if (goesOn && range.start == undoPosition_) {
         removed_.append(text_, start, count);
     } else if (goesOn && range.end == undoPosition_) {

@@ -21,19 +21,16 @@ uint32_t TableSize(int32_t slots)
     return static_cast<uint32_t>(sizeof(CodeTable) + static_cast<size_t>(slots) * sizeof(CodeTableEntry));
 }
 
-// Makes room for the entry at an index; the table may move.
+// Makes room for the entry at an index, behind those written so far; the table may move.
 CodeTable* GrowFor(const EditInstance& edit, CodeTable* table, int32_t index)
 {
     const int32_t old = table ? table->capacity : 0;
-    if (table && index < old)
+    if (index < old)
         return table;
     const int32_t capacity = index + kGrowth;
-    const bool isNew = table == nullptr;
     table = static_cast<CodeTable*>(services::Reallocate(edit.heap, table, TableSize(capacity), edit.heapFlags));
-    if (isNew)
-        new (table) CodeTable{};
+    new (table) CodeTable{static_cast<int16_t>(capacity), static_cast<int16_t>(index), nullptr};
     std::fill(table->Entries() + old, table->Entries() + capacity, CodeTableEntry{});
-    table->capacity = static_cast<int16_t>(capacity);
     return table;
 }
 
@@ -85,8 +82,7 @@ private:
         table_ = GrowFor(edit_, table_, index_);
         FreeBlock(edit_, table_->Entries()[index_].*member);  // behind a second tab the entry shows what stood before that one
         table_->Entries()[index_].*member = Duplicate(edit_, part_);
-        if (table_->count < index_ + 1)
-            table_->count = static_cast<int16_t>(index_ + 1);
+        table_->count = static_cast<int16_t>(index_ + 1);
         part_.clear();
     }
 
@@ -114,13 +110,14 @@ void FillCycle(const EditInstance& edit, CodeTable& table)
             services::Append(table.cycle, &table.Entries()[i]);
 }
 
-// The first entry of the cycle whose member equals text; the table's cursor stands on it afterwards.
+// The first entry of the cycle whose member equals text; the table's cursor stands on it afterwards. What has a data value has a
+// display text as well: the tab between them writes it.
 const CodeTableEntry* FindEntry(const EditInstance& edit, Char* CodeTableEntry::*member, const Text& text)
 {
     SharedList cycle = edit.codeTable->cycle;
     for (void* item = services::First(cycle); item; item = services::Next(cycle)) {
         const auto* entry = static_cast<const CodeTableEntry*>(item);
-        if (entry->*member && text == entry->*member)
+        if (text == entry->*member)
             return entry;
     }
     return nullptr;

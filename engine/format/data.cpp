@@ -12,12 +12,7 @@ namespace zte {
 
 namespace {
 
-// A data pointer as the text to look up in the code table: none stands for no data.
-const Char* LookupText(const EditInstance& edit, const void* data)
-{
-    return edit.dataType == DT_STRING ? static_cast<const Char*>(data) : nullptr;
-}
-
+// Strings are looked up in the code table as they are, and no data is for every type.
 bool CanLookUp(const EditInstance& edit, const void* data)
 {
     return !data || edit.dataType == DT_STRING;
@@ -31,7 +26,7 @@ bool ShowCode(EditInstance& edit, const void* data)
         ShowText(edit, Text().c_str());
         return true;
     }
-    const Char* entry = CanLookUp(edit, data) ? DisplayTextForValue(edit, LookupText(edit, data)) : nullptr;
+    const Char* entry = CanLookUp(edit, data) ? DisplayTextForValue(edit, static_cast<const Char*>(data)) : nullptr;
     if (entry) {
         edit.flags |= CODE_POSITIONED;
         ShowText(edit, Text(entry).c_str());  // a copy: the parent may set another table meanwhile
@@ -107,7 +102,7 @@ int32_t SetDataString(EditInstance& edit, const Char* text)
 void ChooseEditMode(EditInstance& edit)
 {
     const bool hasLiterals = (edit.formatFlags & FORMAT_HAS_LITERALS) != 0;
-    SetFlag(edit, CHARWISE, hasLiterals || !IsNumeric(edit.dataType) || !edit.table->number.Grows());
+    SetFlag(edit, CHARWISE, hasLiterals || !edit.table->number.Grows());
 }
 
 }  // namespace zte

@@ -1,6 +1,8 @@
 // Reads the fields of a date or time display text, position by position under the mask, into a value.
 #include "engine/format/date_text.h"
 
+#include <optional>
+
 #include "engine/mask/half_of_day.h"
 #include "engine/mask/mask_table.h"
 #include "engine/services.h"
@@ -39,23 +41,21 @@ public:
     }
 
 private:
-    // A number of a fixed count of characters; false when they are none.
-    bool ReadNumber(int32_t position, int32_t length, int32_t& number) const
+    // A number of a fixed count of characters; none when they are no number.
+    std::optional<int32_t> NumberAt(int32_t position, int32_t length) const
     {
         const Text digits = Slice(text_, position, length);
         if (!services::IsNumber(digits.c_str(), *edit_.settings))
-            return false;
-        number = IntegerOf(digits);
-        return true;
+            return std::nullopt;
+        return IntegerOf(digits);
     }
 
     bool Store(int32_t position, int8_t& field)
     {
-        int32_t number = 0;
-        if (!ReadNumber(position, 2, number))
-            return false;
-        field = static_cast<int8_t>(number);
-        return true;
+        const std::optional<int32_t> number = NumberAt(position, 2);
+        if (number)
+            field = static_cast<int8_t>(*number);
+        return number.has_value();
     }
 
     // The hour of the 12-hour clock becomes that of the day by the marker shown in the text being read.
@@ -76,59 +76,58 @@ private:
     // Month 00 is stored as month 0 as it is; the day tells an empty date.
     bool ReadMonthNumber(int32_t position)
     {
-        int32_t number = 0;
-        if (!ReadNumber(position, 2, number))
-            return false;
-        value_.month = static_cast<int8_t>(number == 0 ? 0 : number - 1);
-        return true;
+        const std::optional<int32_t> number = NumberAt(position, 2);
+        if (number)
+            value_.month = static_cast<int8_t>(*number == 0 ? 0 : *number - 1);
+        return number.has_value();
     }
 
     bool ReadMonthName(int32_t position)
     {
         const int32_t month = MonthFromName(*edit_.settings, Slice(text_, position, 3));
-        value_.month = month < 0 ? value_.month : static_cast<int8_t>(month);
-        return month >= 0;
+        if (month < 0)
+            return false;
+        value_.month = static_cast<int8_t>(month);
+        return true;
     }
 
     bool ReadFraction(int32_t position, int32_t run)
     {
-        int32_t number = 0;
-        if (!ReadNumber(position, run, number))
+        std::optional<int32_t> number = NumberAt(position, run);
+        if (!number)
             return false;
         for (int32_t i = run; i < kMicroDigits; ++i)
-            number *= 10;
-        value_.microsecond = static_cast<uint32_t>(number);
+            *number *= 10;
+        value_.microsecond = static_cast<uint32_t>(*number);
         return true;
     }
 
     // A day of the year that was read before the year is turned into month and day now.
     bool ReadYear(int32_t position, int32_t run)
     {
-        int32_t number = 0;
-        if (!ReadNumber(position, run == 2 ? 2 : 4, number))
+        const std::optional<int32_t> number = NumberAt(position, run == 2 ? 2 : 4);
+        if (!number)
             return false;
-        value_.year = static_cast<int16_t>(YearValue(number, run));
-        yearSeen_ = true;
-        if (dayPending_)
-            TakeDayOfYear();
-        dayPending_ = false;
+        value_.year = static_cast<int16_t>(YearValue(*number, run));
+        if (dayOfYear_)
+            TakeDayOfYear(*dayOfYear_);
         return true;
     }
 
+    // It waits for a year that is still to come.
     bool ReadDayOfYear(int32_t position)
     {
-        pendingDay_ = IntegerOf(Slice(text_, position, 3));
-        dayPending_ = !yearSeen_;
-        if (yearSeen_)
-            TakeDayOfYear();
+        dayOfYear_ = IntegerOf(Slice(text_, position, 3));
+        if (HasDate(value_))
+            TakeDayOfYear(*dayOfYear_);
         return true;
     }
 
     // A day that the year does not have makes no date.
-    void TakeDayOfYear()
+    void TakeDayOfYear(int32_t day)
     {
-        if (pendingDay_ >= 1 && pendingDay_ <= DaysInYear(edit_.yearDigits, value_.year))
-            DateFromDayOfYear(edit_.yearDigits, pendingDay_, value_);
+        if (day >= 1 && day <= DaysInYear(edit_.yearDigits, value_.year))
+            DateFromDayOfYear(edit_.yearDigits, day, value_);
         else
             value_.year = kEmptyDateTime.year;
     }
@@ -136,9 +135,7 @@ private:
     const EditInstance& edit_;
     const Text& text_;
     DateTimeValue& value_;
-    bool yearSeen_ = false;
-    bool dayPending_ = false;  // a day of the year waits for its year
-    int32_t pendingDay_ = 0;
+    std::optional<int32_t> dayOfYear_;
 };
 
 // Whether a text handed in may be display text: it has the length of the mask's display or, under an AM/PM mask, shows the

@@ -12,41 +12,6 @@ namespace {
 
 constexpr Char kBlank = ' ';
 
-// The display being written. A field may write more than it takes: what is left over is overwritten by what follows, or cut.
-class Output {
-public:
-    int32_t Position() const { return position_; }
-    void Write(const Text& text)
-    {
-        const size_t end = Here() + text.size();
-        if (text_.size() < end)
-            text_.resize(end, kBlank);
-        text_.replace(Here(), text.size(), text);
-    }
-    void Take(int32_t positions)
-    {
-        position_ += positions;
-        if (text_.size() < Here())
-            text_.resize(Here(), kBlank);
-    }
-    void Put(Char c)
-    {
-        Write(Text(1, c));
-        Take(1);
-    }
-    Text Finish()
-    {
-        text_.resize(Here());
-        return std::move(text_);
-    }
-
-private:
-    size_t Here() const { return static_cast<size_t>(position_); }
-
-    Text text_;
-    int32_t position_ = 0;
-};
-
 Text TwoDigits(int32_t number)
 {
     return NumberText(static_cast<uint32_t>(number), 2);
@@ -64,7 +29,7 @@ Text YearText(const DateTimeValue& value, int32_t run)
 Text MonthText(const EditInstance& edit, const DateTimeValue& value, int32_t run)
 {
     if (!HasDate(value))
-        return run == 2 ? Text(2, '0') : Text(3, kBlank);
+        return run == 2 ? TwoDigits(0) : Text();
     return run == 2 ? TwoDigits(value.month + 1) : MonthName(*edit.settings, value.month);
 }
 
@@ -78,7 +43,7 @@ Text HourText(const EditInstance& edit, int32_t hour)
 {
     if (!HasAmPmField(edit))
         return TwoDigits(hour);
-    const int32_t shown = hour > 12 ? hour - 12 : hour;
+    const int32_t shown = hour % 12;
     return TwoDigits(shown == 0 ? 12 : shown);
 }
 
@@ -97,7 +62,6 @@ public:
     {
         for (int32_t position = 0; position < edit_.table->count;)
             position += TakeItem(edit_.table->positions[position]);
-        display_.text = output_.Finish();
     }
 
 private:
@@ -107,7 +71,7 @@ private:
         if (mask.kind != FieldKind::Literal)
             return TakeField(mask);
         if (mask.character != Char{})  // a lone "~" at the end shows nothing
-            output_.Put(mask.character);
+            display_.text += mask.character;
         display_.formatFlags |= FORMAT_HAS_LITERALS | (fieldSeen_ && !mask.escaped ? FORMAT_LITERAL_AFTER : 0);
         return 1;
     }
@@ -115,7 +79,7 @@ private:
     int32_t TakeField(const MaskPosition& mask)
     {
         if (!fieldSeen_)
-            display_.firstFieldPos = output_.Position();
+            display_.firstFieldPos = Length(display_.text);
         fieldSeen_ = true;
         if (mask.kind == FieldKind::AmPm) {
             const Text marker = value_.hour < 12 ? edit_.settings->amString : edit_.settings->pmString;
@@ -130,10 +94,11 @@ private:
         return run;
     }
 
-    void WriteField(const Text& text, int32_t taken)
+    // Cut, or filled with blanks, to what the field takes.
+    void WriteField(Text text, int32_t taken)
     {
-        output_.Write(text);
-        output_.Take(taken);
+        text.resize(static_cast<size_t>(taken), kBlank);
+        display_.text += text;
     }
 
     Text FieldText(FieldKind kind, int32_t run) const
@@ -144,7 +109,7 @@ private:
         case FieldKind::Month: return MonthText(edit_, value_, run);
         case FieldKind::Day: return TwoDigits(HasDate(value_) ? value_.day : 0);
         case FieldKind::DayOfYear: return DayOfYearText(edit_, value_);
-        case FieldKind::Hour: return noTime ? Text(2, '0') : HourText(edit_, value_.hour);
+        case FieldKind::Hour: return noTime ? TwoDigits(0) : HourText(edit_, value_.hour);
         case FieldKind::Minute: return TwoDigits(noTime ? 0 : value_.minute);
         case FieldKind::Second: return TwoDigits(noTime ? 0 : value_.second);
         case FieldKind::Fraction: return NumberText(noTime ? 0 : value_.microsecond, kMicroDigits);
@@ -181,7 +146,6 @@ private:
     Display& display_;
     const Char* text_;
     DateTimeValue value_;
-    Output output_;
     size_t cursor_ = 0;   // of the string value
     bool ended_ = false;  // the string value is used up
     bool fieldSeen_ = false;

@@ -58,14 +58,14 @@ bool IsLoneSign(const Text& number)
 // Zero has no sign, also while one is being typed before it.
 Text WithoutSignOfZero(const Text& number)
 {
-    return !number.empty() && number[0] == '-' && IsZero(number) ? number.substr(1) : number;
+    return At(number, 0) == '-' && IsZero(number) ? number.substr(1) : number;
 }
 
 // The point moved two digits to the left, in the plain form: digits only, so that not one is lost.
 Text Hundredth(const Text& percentage, Char pointRead, Char pointWritten)
 {
-    const bool negative = !percentage.empty() && percentage[0] == '-';
-    Text integer = percentage.substr(!percentage.empty() && IsSign(percentage[0]) ? 1 : 0);
+    const bool negative = At(percentage, 0) == '-';
+    Text integer = percentage.substr(IsSign(At(percentage, 0)) ? 1 : 0);
     Text fraction;
     const int32_t point = Find(integer, pointRead);
     if (point >= 0) {
@@ -86,7 +86,7 @@ Text Hundredth(const Text& percentage, Char pointRead, Char pointWritten)
 Text WithoutSymbol(Text text, const Settings& settings)
 {
     const Text symbol = settings.currencySymbol;
-    const size_t at = symbol.empty() ? Text::npos : text.find(symbol);
+    const size_t at = text.find(symbol);
     return at == Text::npos ? text : text.erase(at, symbol.size());
 }
 
@@ -183,7 +183,7 @@ Text Bare(const EditInstance& edit, const Text& text)
     const bool percentage = At(text, Length(text) - 1) == '%';
     Text bare = Slice(text, shown.Start(), shown.End() - shown.Start());
     bare = WithoutSymbol(bare, *edit.settings);
-    if (percentage && (bare.empty() || bare.back() != '%'))
+    if (percentage && At(bare, Length(bare) - 1) != '%')
         bare += Char{'%'};
     return bare;
 }
@@ -218,7 +218,7 @@ Text NumberShown(const EditInstance& edit, const Text& text)
 {
     const ShownNumber shown(edit.table->number, *edit.settings, text);
     const Text kept = Kept(edit, text, shown.Start(), shown.End());
-    if (IsLoneSign(kept) && shown.Start() == 0 && shown.End() == 1)
+    if (IsLoneSign(kept) && shown.End() == 1)  // nothing stands in front of it either
         return FromAscii("0");
     return ValueOfWritten(edit, WithoutSignOfZero(kept));
 }

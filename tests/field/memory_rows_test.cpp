@@ -90,5 +90,118 @@ TEST(FieldInMemoryForTheEngine, ListenersMayChangeTheTextUnderAnInsertion)
     EXPECT_EQ(field.Shown(), zte::FromAscii("12x"));
 }
 
+TEST(FieldInMemoryForTheEngine, KeysPressedWithShiftSelect)
+{
+    zte::MemoryField field;
+    field.SetText(zte::FromAscii("abcd").c_str());
+    field.Press(zte::KEY_RIGHT, true, false);
+    EXPECT_EQ(field.Anchor(), 0);
+    EXPECT_EQ(field.Caret(), 1);
+}
+
+TEST(FieldInMemoryForTheEngine, TellsWhichKeysAreHeld)
+{
+    zte::MemoryField field;
+    EXPECT_FALSE(field.IsHeld(zte::KEY_RIGHT));
+    field.HoldRight(true);
+    EXPECT_TRUE(field.IsHeld(zte::KEY_RIGHT));
+    EXPECT_FALSE(field.IsHeld(zte::KEY_DOWN));
+    field.HoldRight(false);
+    EXPECT_FALSE(field.IsHeld(zte::KEY_RIGHT));
+}
+
+TEST(FieldInMemoryForTheEngine, TellsOfLayoutAndPainting)
+{
+    zte::MemoryField field;
+    field.KeepLayout();
+    field.Repaint();
+    field.Repaint();
+    field.RepaintSpin();
+    field.RepaintSpin();
+    field.RepaintSpin();
+    EXPECT_EQ(field.Count(zte::FieldEvent::Layout), 1);
+    EXPECT_EQ(field.Count(zte::FieldEvent::Repaint), 2);
+    EXPECT_EQ(field.Count(zte::FieldEvent::RepaintSpin), 3);
+    field.ForgetCounts();
+    EXPECT_EQ(field.Count(zte::FieldEvent::RepaintSpin), 0);
+}
+
+TEST(FieldInMemoryForTheEngine, ReplacesBehindTheLimitAndKeepsIt)
+{
+    zte::MemoryField field;
+    field.SetText(zte::FromAscii("abcd").c_str());
+    field.SetLimit(2);
+    field.ReplaceSelection(zte::FromAscii("").c_str());
+    EXPECT_EQ(field.Limit(), 2);
+}
+
+// As the system's control has them.
+TEST(FieldInMemoryForTheEngine, HasTheLimitsOfTheSystem)
+{
+    zte::MemoryField field;
+    EXPECT_EQ(field.Limit(), 30000);
+    field.SetLimit(0);
+    EXPECT_EQ(field.Limit(), 0x7FFFFFFE);
+}
+
+TEST(FieldInMemoryForTheEngine, CountsAsModifiedWhenToldSo)
+{
+    zte::MemoryField field;
+    field.SetModifiedFlag(true);
+    EXPECT_TRUE(field.IsModified());
+    field.SetModifiedFlag(false);
+    EXPECT_FALSE(field.IsModified());
+}
+
+TEST(FieldInMemoryForTheEngine, HasNothingToUndoAtFirst)
+{
+    zte::MemoryField field;
+    EXPECT_FALSE(field.CanUndo());
+    field.Type(zte::Char{'x'});
+    EXPECT_TRUE(field.CanUndo());
+}
+
+TEST(FieldInMemoryForTheEngine, NothingUndoneAtFirstIsAtTheStart)
+{
+    zte::MemoryField field;
+    field.SetText(zte::FromAscii("ab").c_str());
+    field.SetSelection(2, 2);
+    field.Undo();
+    EXPECT_EQ(field.Caret(), 0);
+}
+
+// A letter becomes the next one: what is folded twice is seen.
+zte::Char NextLetter(zte::Char letter, zte::LetterCase)
+{
+    return static_cast<zte::Char>(letter + 1);
+}
+
+TEST(FieldInMemoryForTheEngine, FoldsWhatIsPutInByTheHostsFunction)
+{
+    zte::FieldStyle style;
+    style.letterCase = zte::LetterCase::Upper;
+    style.foldCase = NextLetter;
+    zte::MemoryField field(style);
+    field.SetText(zte::FromAscii("ab").c_str());
+    field.Type(zte::Char{'a'});
+    EXPECT_EQ(field.Shown(), zte::FromAscii("bbc"));
+}
+
+TEST(FieldInMemoryForTheEngine, ClicksOutsideOfTheTextAreBroughtIntoIt)
+{
+    zte::MemoryField field;
+    field.SetText(zte::FromAscii("ab cd").c_str());
+    field.Click(-5);
+    EXPECT_EQ(field.Caret(), 0);
+    field.Click(99);
+    EXPECT_EQ(field.Caret(), 5);
+    field.DoubleClick(-5);
+    EXPECT_EQ(field.Anchor(), 0);
+    EXPECT_EQ(field.Caret(), 3);
+    field.DoubleClick(99);
+    EXPECT_EQ(field.Anchor(), 3);
+    EXPECT_EQ(field.Caret(), 5);
+}
+
 }  // namespace
 }  // namespace zttest

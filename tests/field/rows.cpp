@@ -17,6 +17,7 @@ const std::vector<FieldCase> kFieldCases = {
     {"CapitalsAreMadeOfWhatIsTyped",      kUpper,    "|",           "aB1",                           "AB1|",          "UCUCUC",     true },
     {"CapitalsAreMadeOfWhatIsSet",        kUpper,    "|",           "{text:abc}",                    "|ABC",          "UC",         false},
     {"SmallLettersAreMadeOfWhatIsPut",    kLower,    "[AB|]C",      "{replaceU:XyZ}",                "xyz|c",         "UC",         true },
+    {"SmallLettersAreMadeOfWhatIsTyped",  kLower,    "|",           "AbZ1",                          "abz1|",         "UCUCUCUC",   true },
     {"OnlyDigitsAreTyped",                kDigits,   "|",           "1a-2 ",                         "12|",           "UCUC",       true },
     {"OtherTextsArePastedAmongDigits",    kDigits,   "a|b",         "{clip:x1}{paste}",              "ax1|b",         "UC",         true },
 
@@ -33,6 +34,9 @@ const std::vector<FieldCase> kFieldCases = {
     {"CtrlRightGoesToTheNextWord",        kPlain,    "o|ne  two",   "{Ctrl+Right}",                  "one  |two",     "",           false},
     {"CtrlLeftGoesToTheStartOfAWord",     kPlain,    "one  two|",   "{Ctrl+Left}{Ctrl+Left}",        "|one  two",     "",           false},
     {"CtrlShiftLeftSelectsAWord",         kPlain,    "one  two|",   "{Ctrl+Shift+Left}",             "one  [|two]",   "",           false},
+    {"CtrlRightInTheLastWordEndsThere",   kPlain,    "one t|wo",    "{Ctrl+Right}",                  "one two|",      "",           false},
+    {"CtrlLeftOverBlanksStopsAtTheStart", kPlain,    "  |one",      "{Ctrl+Left}",                   "|  one",        "",           false},
+    {"CtrlRightOverBlanksStopsAtTheEnd",  kPlain,    "one|  ",      "{Ctrl+Right}",                  "one  |",        "",           false},
     {"PagesDoNotMoveTheCaret",            kPlain,    "a[b|]c",      "{PgUp}{PgDn}{Tab}{Enter}{Esc}", "a[b|]c",        "",           false},
 
     // selections by message
@@ -69,6 +73,8 @@ const std::vector<FieldCase> kFieldCases = {
     {"TheEngineReplacesBehindTheLimit",   kPlain,    "a[bc|]d",     "{limit:2}{put:xy}z",            "axy|d",         "UCMUC",      false},
     {"APasteIsCutAtTheLimit",             kPlain,    "ab|",         "{limit:4}{clip:xyz}{paste}",    "abxy|",         "MUC",        true },
     {"ALimitOfZeroIsNone",                kPlain,    "ab|",         "{limit:1}{limit:0}x",           "abx|",          "UC",         true },
+    {"NothingThatFitsLeavesTheStep",      kPlain,    "a|",          "b{limit:2}{replace:c}",         "ab|",           "UCMUC",      true },
+    {"NothingThatFitsElsewhereLeavesIt",  kPlain,    "ab|",         "x{limit:3}{Home}{replaceU:c}",  "|abx",          "UCMUC",      true },
 
     // undo
     {"UndoTakesBackAllThatWasTyped",      kPlain,    "a|b",         "xyz{undo}",                     "a|b",           "UCUCUCUCC",  true },
@@ -81,6 +87,19 @@ const std::vector<FieldCase> kFieldCases = {
     {"UndoIsTypedAsCtrlZ",                kPlain,    "a|b",         "x\x1a",                         "a|b",           "UCUCC",      true },
     {"NothingToUndoStillTellsAChange",    kPlain,    "|ab",         "{undo}",                        "|ab",           "C",          false},
     {"AForgottenStepIsNotUndone",         kPlain,    "a|b",         "xy{forget}{undo}",              "a|xyb",         "UCUCC",      false},
+    {"AForgottenDeletionIsNoStep",        kPlain,    "a|b",         "{Del}{forget}",                 "a|",            "UC",         false},
+    {"ATextPutInWithoutUndoEndsTheStep",  kPlain,    "a|",          "b{replace:c}",                  "abc|",          "UCUC",       false},
+    {"ADeletionWithoutUndoEndsTheStep",   kPlain,    "a|b",         "x{sel:0,1}{replace:}",          "|xb",           "UCUC",       false},
+    {"NothingPutByTheEngineEndsTheStep",  kPlain,    "a|b",         "x{put:}",                       "ax|b",          "UC",         false},
+    {"NoTextSetWhereNoneIsLeavesTheStep", kPlain,    "|",           "x\b{text:}",                    "|",             "UCUCUC",     true },
+    {"NoTextSetWhereOneIsEndsTheStep",    kPlain,    "a|",          "x{text:}",                      "|",             "UCUC",       false},
+    {"ATextSetWhereNoneIsEndsTheStep",    kPlain,    "|",           "x\b{text:ab}",                  "|ab",           "UCUCUC",     false},
+    {"ADeletionOfWhatReplacedIsAStep",    kPlain,    "a[b|]c",      "x{Left}{Del}{undo}",            "a[x|]c",        "UCUCUCC",    true },
+    {"ADeletionElsewhereIsAStep",         kPlain,    "ab|cd",       "{Del}{Home}{Del}{undo}",        "[a|]bd",        "UCUCUCC",    true },
+    {"ADeletionInFrontOfTypedTextIsAStep",kPlain,    "a|b",         "x{Home}{Del}{undo}",            "[a|]xb",        "UCUCUCC",    true },
+    {"TypingElsewhereForgetsTheReplaced", kPlain,    "a[b|]cd",     "x{End}y{undo}",                 "axcd|",         "UCUCUCC",    true },
+    {"TypingElsewhereCountsAnew",         kPlain,    "ab|cd",       "x{Home}y{undo}",                "|abxcd",        "UCUCUCC",    true },
+    {"AStepKnowsNothingOfTheOneBefore",   kPlain,    "a|bc",        "{Del}\x1a{End}\b\x1a\x1a",     "ab|",           "UCUCCUCUCCUCC",true },
     {"UndoIsCutAtTheLimit",               kPlain,    "ab[cd|]",     "\b{limit:3}{undo}",             "ab[c|]",        "UCMUCC",     true },
 
     // the clipboard
@@ -90,6 +109,10 @@ const std::vector<FieldCase> kFieldCases = {
     {"CutByCharacter",                    kPlain,    "a[bc|]d",     "\x18{End}{paste}",              "adbc|",         "UCUC",       true },
     {"NothingCopiedLeavesTheClipboard",   kPlain,    "a|b",         "{clip:x}{copy}{cut}{paste}",    "ax|b",          "UC",         true },
     {"APasteEndsAtTheFirstLineBreak",     kPlain,    "a|b",         "{clip:x\r\ny}{paste}",          "ax|b",          "UC",         true },
+    {"CtrlShiftInsertPastesAsWell",       kPlain,    "a|b",         "{clip:x}{Ctrl+Shift+Ins}",      "ax|b",          "UC",         true },
+    {"APasteEndsAtALineFeedAlone",        kPlain,    "a|b",         "{clip:x\ny}{paste}",            "ax|b",          "UC",         true },
+    {"APasteWithoutALineFeedIsWhole",     kPlain,    "a|b",         "{clip:x\r}{paste}",             "ax\r|b",        "UC",         true },
+    {"NothingInFrontOfALineFeedIsPasted", kPlain,    "a[b|]c",      "{clip:\nx}{paste}",             "a|c",           "UC",         true },
     {"AnEmptyClipboardPastesNothing",     kPlain,    "a[b|]c",      "{noclip}{paste}",               "a[b|]c",        "",           false},
 
     // read-only
@@ -97,6 +120,7 @@ const std::vector<FieldCase> kFieldCases = {
     {"ReadOnlyMovesTheCaret",             kReadOnly, "a|bc",        "{Right}{Shift+End}",            "ab[c|]",        "",           false},
     {"ReadOnlyTakesWhatAProgramPutsIn",   kReadOnly, "a|c",         "{replaceU:b}{undo}",            "ab|c",          "UC",         true },
     {"ReadOnlyIsCopiedByTheMessageToCut", kReadOnly, "a[b|]c",      "{cut}{readonly:0}{End}{paste}", "abcb|",         "UC",         true },
+    {"ReadOnlyIsNotCopiedByTheKeysToCut", kReadOnly, "[b|]c",       "{clip:z}{Shift+Del}{readonly:0}{paste}", "z|c",  "UC",       true },
 
     // the mouse
     {"AClickPutsTheCaret",                kPlain,    "a[bc|]d",     "{click:3}",                     "abc|d",         "",           false},
