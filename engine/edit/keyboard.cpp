@@ -51,7 +51,7 @@ void FinishBackspace(EditInstance& edit)
 // did.
 bool EndSpunText(EditInstance& edit)
 {
-    const bool fromTable = edit.codeTable && Has(edit, CODE_SPIN) && !Has(edit, CODE_PICKLIST);
+    const bool fromTable = edit.codeTable && Has(edit, CODE_SPIN);
     if (fromTable)
         SetFlag(edit, CODE_POSITIONED, false);
     const bool ended = fromTable && Has(edit, SPUN);
@@ -95,7 +95,6 @@ void CutSelection(EditInstance& edit, KeyData keyData)
 {
     if (edit.field->ReadSelection().IsEmpty())
         return;
-    ForgetPassed(edit);
     CutByKey(edit, keyData);
 }
 
@@ -119,7 +118,6 @@ std::optional<Reply> Obey(EditInstance& edit, uint32_t typed, KeyData keyData)
         if (!IsPickList(edit))
             Paste(edit);
         return Keep();
-    default: break;
     }
     if (IsPickList(edit))
         return Keep();
