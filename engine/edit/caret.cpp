@@ -97,7 +97,7 @@ CarriedOver TakeCarriedOver(EditInstance& edit)
 
 bool IsCarriedLiteral(EditInstance& edit, const Text& text, CarriedOver carried, int32_t caret, Char typed)
 {
-    if (carried.to == 0 || carried.to != caret || caret > Length(text))
+    if (carried.to != caret || caret > Length(text))
         return false;
     for (int32_t i = carried.from; i < carried.to; ++i) {
         if (At(text, i) != typed)

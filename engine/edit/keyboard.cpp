@@ -52,8 +52,7 @@ void FinishBackspace(EditInstance& edit)
 bool EndSpunText(EditInstance& edit)
 {
     const bool fromTable = edit.codeTable && Has(edit, CODE_SPIN);
-    if (fromTable)
-        SetFlag(edit, CODE_POSITIONED, false);
+    SetFlag(edit, CODE_POSITIONED, false);
     const bool ended = fromTable && Has(edit, SPUN);
     if (ended) {
         SetFlag(edit, CODE_SPIN, false);
@@ -124,7 +123,7 @@ std::optional<Reply> Obey(EditInstance& edit, uint32_t typed, KeyData keyData)
     return IsLeftToTheForm(typed) ? std::optional<Reply>(Keep(0)) : std::nullopt;
 }
 
-// selection: before the character; the caret where one was deleted.
+// selection: before the character; where it has been deleted, the caret stands at its start.
 Reply Enter(EditInstance& edit, uint32_t typed, Selection selection)
 {
     if (IsPickList(edit)) {
@@ -238,7 +237,7 @@ Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData)
     }
     if (deleted && typed == kBackspace)
         return Finish(edit, Keep());
-    return Finish(edit, Enter(edit, typed, deleted ? edit.field->ReadSelection() : selection));
+    return Finish(edit, Enter(edit, typed, selection));
 }
 
 void OnTextSetFromOutside(EditInstance& edit)

@@ -203,6 +203,7 @@ TEST(Verdicts, AreGivenByTheFieldAndWhatStandsInIt)
         {"MM/DD/YY", DT_DATE, "02/01/95", 3, '3', "03", true },
         {"MM/DD/YY", DT_DATE, "02/09/95", 3, '2', "20", true },
         // the day of the year
+        {"JJJYY",    DT_DATE, "00095", 0, '1', "1", false},
         {"JJJ/YYYY", DT_DATE, "000/1995", 0, '3', "3", false},
         {"JJJ/YYYY", DT_DATE, "365/1995", 2, '6', nullptr, false},
         {"JJJ/YYYY", DT_DATE, "365/1996", 2, '6', "6", false},

@@ -449,7 +449,7 @@ private:
     bool done_ = false;
 };
 
-TEST(Typing, GoesWhereTheProgramHasPutTheCaretWhenTheSelectionWent)
+TEST(Typing, TakesThePlaceOfTheSelectionThoughTheProgramMovesTheCaretMeanwhile)
 {
     Spied spied({"XX-XX", DT_STRING});
     spied.Show("[ab]-cd");
