@@ -79,7 +79,8 @@ const MoveRow kMoves[] = {
     {"ShiftIsOneLeftForBackspace",         kDate,     "07/0|4/95", KEY_BACKSPACE, kData,  true,  {"Left x1 data 5"}},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, CaretMove, testing::ValuesIn(kMoves), [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, CaretMove, testing::ValuesIn(kMoves),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(CaretMove, ByRightWithShiftHeldTellsNobodyThatTheFieldIsFull)
 {
@@ -161,7 +162,8 @@ const StepsRow kSteps[] = {
     {"OnTheLastOfSeveral",    kPhone, "(555) 123",  5, 1, 2},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, StepsTo, testing::ValuesIn(kSteps), [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, StepsTo, testing::ValuesIn(kSteps),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 struct FractionRow {
     const char* mask;
@@ -173,15 +175,24 @@ struct FractionRow {
 TEST(Fraction, IsWhatStandsBehindThePointForTheMasksDigits)
 {
     constexpr FractionRow kRows[] = {
-        {"#,##0.00", "1,234.50", 5, false}, {"#,##0.00", "1,234.50", 6, true},  {"#,##0.00", "1,234.50", 7, true},
-        {"#,##0.00", "1,234.50", 8, false}, {"#,#.00",   ".50",      0, false}, {"#,#.00",   ".50",      1, true},
-        {"#,#.00",   ".50",      3, false}, {"0.0",      "1.5",      2, true},  {"0.0",      "1.5",      3, false},
-        {"#,##0",    "1,234",    1, false}, {"#,##0",    "1,234",    2, false}, {"#,##0.00", "1234",     1, false},
+        {"#,##0.00", "1,234.50", 5, false},
+        {"#,##0.00", "1,234.50", 6, true },
+        {"#,##0.00", "1,234.50", 7, true },
+        {"#,##0.00", "1,234.50", 8, false},
+        {"#,#.00",   ".50",      0, false},
+        {"#,#.00",   ".50",      1, true },
+        {"#,#.00",   ".50",      3, false},
+        {"0.0",      "1.5",      2, true },
+        {"0.0",      "1.5",      3, false},
+        {"#,##0",    "1,234",    1, false},
+        {"#,##0",    "1,234",    2, false},
+        {"#,##0.00", "1234",     1, false},
         {"#,##0.00", "1234",     0, false},
     };
     for (const FractionRow& row : kRows) {
         Spied spied({row.mask, DT_NUMBER});
-        EXPECT_EQ(IsInFraction(spied.Record(), FromAscii(row.text), row.position), row.is) << row.mask << row.text << row.position;
+        EXPECT_EQ(IsInFraction(spied.Record(), FromAscii(row.text), row.position), row.is)
+            << row.mask << row.text << row.position;
     }
 }
 
@@ -224,7 +235,8 @@ const SkipRow kSkips[] = {
     {"OfAnAmPmField",           {"HH:MM AM/PM", DT_TIME}, "02:30 PM|", 5, 6},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, LiteralsSkipped, testing::ValuesIn(kSkips), [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, LiteralsSkipped, testing::ValuesIn(kSkips),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 // ---- literals typed behind themselves
 
@@ -276,7 +288,8 @@ const CarriedRow kCarried[] = {
     {"OneAtTheEndOfTheText",       {2, 7}, 7, ')', true,  {3, 7}},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, CarriedLiteral, testing::ValuesIn(kCarried), [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, CarriedLiteral, testing::ValuesIn(kCarried),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 // ---- clicks
 

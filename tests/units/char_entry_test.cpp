@@ -65,7 +65,8 @@ const EntryRow kEntries[] = {
     {"BehindTheLastIsDropped",                 kPhone,     "(555) 123|",       '1',  "(555) 123|",       0},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, CharEntry, testing::ValuesIn(kEntries), [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, CharEntry, testing::ValuesIn(kEntries),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(MonthNames, WithADoubleLetterInFrontLeaveTheCaretOnTheirSecond)
 {
@@ -215,7 +216,8 @@ TEST(Verdicts, AreGivenByTheFieldAndWhatStandsInIt)
         Spied spied({row.mask, row.type});
         const Text text = FromAscii(row.text);
         const Verdict verdict = Validate({spied.Record(), text, row.position, static_cast<Char>(row.typed)});
-        const std::string where = std::string(row.text) + " at " + std::to_string(row.position) + " '" + row.typed + "'";
+        const std::string where =
+            std::string(row.text) + " at " + std::to_string(row.position) + " '" + row.typed + "'";
         EXPECT_EQ(verdict.accepted, row.placed != nullptr) << where;
         EXPECT_EQ(Text(verdict.placed), FromAscii(row.placed ? row.placed : "")) << where;
         EXPECT_EQ(verdict.padded, row.padded) << where;

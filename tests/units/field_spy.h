@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "engine/memory_control.h"
 #include "engine/format/data.h"
+#include "engine/memory_control.h"
 #include "engine/services.h"
 #include "tests/support/marked_text.h"
 #include "tests/support/values.h"
@@ -50,8 +50,10 @@ public:
     }
     void PressArrow(zte::Key key, zte::KeyData keyData, int32_t times) override
     {
-        Note(std::string(key == zte::KEY_LEFT ? "Left" : key == zte::KEY_RIGHT ? "Right" : "?") + " x" + std::to_string(times) +
-             " data " + std::to_string(keyData));
+        Note(std::string(key == zte::KEY_LEFT    ? "Left"
+                         : key == zte::KEY_RIGHT ? "Right"
+                                                 : "?") +
+             " x" + std::to_string(times) + " data " + std::to_string(keyData));
         under_.PressArrow(key, keyData, times);
     }
     void PressDelete(zte::KeyData keyData) override
@@ -74,7 +76,10 @@ public:
     void NotifyStepped() override { under_.NotifyStepped(); }
 
     const std::vector<std::string>& Calls() const { return calls_; }
-    int Count(const std::string& call) const { return static_cast<int>(std::count(calls_.begin(), calls_.end(), call)); }
+    int Count(const std::string& call) const
+    {
+        return static_cast<int>(std::count(calls_.begin(), calls_.end(), call));
+    }
     void Forget() { calls_.clear(); }
 
 private:
@@ -94,14 +99,16 @@ struct SpiedSetup {
 // A control and the spy before its field.
 class Spied {
 public:
-    explicit Spied(const SpiedSetup& setup) : mask_(zte::FromAscii(setup.mask)), codes_(zte::FromAscii(setup.codes ? setup.codes : ""))
+    explicit Spied(const SpiedSetup& setup)
+        : mask_(zte::FromAscii(setup.mask)), codes_(zte::FromAscii(setup.codes ? setup.codes : ""))
     {
         zte::ControlSetup made;
         made.mask = mask_.c_str();
         made.dataType = setup.type;
         made.options = setup.options;
         made.codeTable = setup.codes ? codes_.c_str() : nullptr;
-        control_ = std::make_unique<zte::MemoryControl>(made, settings_, [] { return DateTimeValue{0, 95, 6, 4, 12, 0, 0, 0}; });
+        control_ = std::make_unique<zte::MemoryControl>(made, settings_,
+                                                        [] { return DateTimeValue{0, 95, 6, 4, 12, 0, 0, 0}; });
         spy_ = std::make_unique<FieldSpy>(control_->Edit());
         control_->Record().field = spy_.get();
     }

@@ -92,7 +92,8 @@ const ReplyRow kReplies[] = {
     {"PickListIsChosenFrom",            kPickList,  "[Re]d",      false, 'G',  true,  1, "|Green",     0},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, CharReply, testing::ValuesIn(kReplies), [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, CharReply, testing::ValuesIn(kReplies),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 struct KeyReplyRow {
     const char* name;
@@ -138,7 +139,8 @@ const KeyReplyRow kKeyReplies[] = {
     {"AKeyMarkedAsTwoTabsIsPassedOn",         kDate,   "07/|04/95", 0x00120000u | KEY_DELETE,        false, 0, "07/|04/95" },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, KeyReply, testing::ValuesIn(kKeyReplies), [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, KeyReply, testing::ValuesIn(kKeyReplies),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 // ---- the character of a Backspace
 
@@ -221,7 +223,8 @@ const BackspaceRow kBackspaces[] = {
     {"LeavesADatesDigitsToBeTyped",       kDate,   "07/04|/95", {kPressed, Typed('5')},                       "07/05/|95", 0},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, BackspaceChar, testing::ValuesIn(kBackspaces), [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, BackspaceChar, testing::ValuesIn(kBackspaces),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(BackspaceKey, IsMarkedInTheRecordUntilItsCharacterMayNoMoreCome)
 {
@@ -338,12 +341,13 @@ TEST_P(Forgetting, IsWhatAKeyDoesThatMovesOrDeletes)
 }
 
 INSTANTIATE_TEST_SUITE_P(Keys, Forgetting,
-                         testing::Values(KEY_BACKSPACE, KEY_PAGE_UP, KEY_PAGE_DOWN, KEY_END, KEY_HOME, KEY_LEFT, KEY_UP, KEY_RIGHT,
-                                         KEY_DOWN, KEY_INSERT, KEY_DELETE));
+                         testing::Values(KEY_BACKSPACE, KEY_PAGE_UP, KEY_PAGE_DOWN, KEY_END, KEY_HOME, KEY_LEFT, KEY_UP,
+                                         KEY_RIGHT, KEY_DOWN, KEY_INSERT, KEY_DELETE));
 
 TEST(Forgetting, IsNotWhatOtherKeysDo)
 {
-    for (const uint32_t key : {uint32_t{KEY_SHIFT}, uint32_t{KEY_TAB}, kLetterA, uint32_t{KEY_PAGE_UP - 1}, uint32_t{KEY_DELETE + 1}}) {
+    for (const uint32_t key :
+         {uint32_t{KEY_SHIFT}, uint32_t{KEY_TAB}, kLetterA, uint32_t{KEY_PAGE_UP - 1}, uint32_t{KEY_DELETE + 1}}) {
         Spied spied(kDate);
         spied.Show("|00/00/00");
         spied.Type("07");
@@ -405,7 +409,8 @@ const SpunRow kSpun[] = {
     {"WithoutAMaskStaysUnderControl",      kCodeField,       "\x05", true,  "|Red"  },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, SpunText, testing::ValuesIn(kSpun), [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, SpunText, testing::ValuesIn(kSpun),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(CodeText, ThatIsShownForDataStandsUnderAControlCharacter)
 {

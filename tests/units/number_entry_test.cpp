@@ -80,7 +80,8 @@ const EntryRow kKeys[] = {
     {"ALongNumberKeepsItsDigits",           "000",           "1|2345",   "7",      "17|345",    0},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, NumberKeys, testing::ValuesIn(kKeys), [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, NumberKeys, testing::ValuesIn(kKeys),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(NumberKeys, ASymbolThatBeginsWithThePointIsThePoint)
 {
@@ -152,7 +153,8 @@ const DeletionRow kDeletions[] = {
     {"OverThePoint",                        "#,##0.00",  "1[2.5]0",    "1|.00"    },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, NumberDelete, testing::ValuesIn(kDeletions), [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, NumberDelete, testing::ValuesIn(kDeletions),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 class NumberBackspace : public testing::TestWithParam<DeletionRow> {};
 
@@ -176,7 +178,8 @@ const DeletionRow kBackspaces[] = {
     {"BehindTheSign",             "#,##0.00",   "-|12.50",  "|12.50"  },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, NumberBackspace, testing::ValuesIn(kBackspaces), [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rows, NumberBackspace, testing::ValuesIn(kBackspaces),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 // ---- what is asked of the field
 
