@@ -21,29 +21,6 @@ void MoveAtEnd(EditInstance& edit, const Text& text, int32_t position, int32_t s
         edit.field->PressArrow(KEY_RIGHT, keyData, steps);
 }
 
-// The literals between a position and the next one that may be typed at.
-struct LiteralRun {
-    bool found;      // false: the end of the display comes first
-    int32_t length;  // literals to pass
-};
-
-LiteralRun LiteralsAt(const EditInstance& edit, const Text& text, int32_t position)
-{
-    const PositionsUnder positions(edit, text);
-    const int32_t last = ShownLength(edit, text) - 1;
-    for (int32_t length = 0;; ++length) {
-        const int32_t at = position + length;
-        if (positions.IsInFraction(at))
-            return {true, length};
-        if (at > last)
-            return {false, length};
-        if (positions.MayTypeAt(at))
-            return {true, length};
-        if (!positions.At(at).exists)
-            return {false, length};
-    }
-}
-
 }  // namespace
 
 bool IsInFraction(const EditInstance& edit, const Text& text, int32_t position)
@@ -97,15 +74,18 @@ void MoveOnWhenFull(EditInstance& edit)
         edit.field->NotifyFull();
 }
 
-bool SkipLiterals(EditInstance& edit, const Text& text, int32_t position)
+void SkipLiterals(EditInstance& edit, const Text& text, int32_t position)
 {
-    const LiteralRun literals = LiteralsAt(edit, text, position);
-    if (!literals.found || literals.length == 0)
-        return literals.found;
+    const PositionsUnder positions(edit, text);
+    const int32_t end = ShownLength(edit, text);
+    int32_t next = position;
+    while (next < end && !positions.MayTypeAt(next))
+        ++next;
+    if (next >= end || next == position)
+        return;
     edit.carriedFrom = position;
-    edit.carriedTo = position + literals.length;
-    PlaceCaret(edit, edit.carriedTo);
-    return true;
+    edit.carriedTo = next;
+    PlaceCaret(edit, next);
 }
 
 CarriedOver TakeCarriedOver(EditInstance& edit)
@@ -117,7 +97,7 @@ CarriedOver TakeCarriedOver(EditInstance& edit)
 
 bool IsCarriedLiteral(EditInstance& edit, const Text& text, CarriedOver carried, int32_t caret, Char typed)
 {
-    if (carried.to == 0 || carried.to != caret || caret > Length(text))
+    if (carried.to != caret || caret > Length(text))
         return false;
     for (int32_t i = carried.from; i < carried.to; ++i) {
         if (At(text, i) != typed)

@@ -20,8 +20,10 @@ int32_t PlaceToType(const EditInstance& edit, const Text& text, int32_t caret)
 std::optional<HalfOfDay> HalfMeant(const EditInstance& edit, const Text& text, int32_t caret, Char typed)
 {
     const std::optional<HalfOfDay> half = HalfTyped(edit, text, typed);
-    const int32_t place = half ? PlaceToType(edit, text, caret) : 0;
-    const bool taken = half && place < ShownLength(edit, text) && Validate({edit, text, place, typed}).accepted;
+    if (!half)
+        return std::nullopt;
+    const int32_t place = PlaceToType(edit, text, caret);
+    const bool taken = place < ShownLength(edit, text) && Validate({edit, text, place, typed}).accepted;
     return taken ? std::nullopt : half;
 }
 
@@ -46,10 +48,10 @@ bool IsSecondDigitOfTwo(const EditInstance& edit, const Text& text, int32_t posi
     return IsPaddable(mask.kind) && mask.runBefore == 1 && mask.runAfter == 0;
 }
 
-// A single digit before the separator typed becomes "0" and the digit.
+// A single digit before the separator typed, which stands further on, becomes "0" and the digit.
 void PadFieldDigit(EditInstance& edit, const Text& text, int32_t position)
 {
-    if (position < 1 || position >= Length(text) || !IsSecondDigitOfTwo(edit, text, position))
+    if (!IsSecondDigitOfTwo(edit, text, position))
         return;
     const Char digit = At(text, position - 1);
     if (!IsDigit(digit) || digit == '0')
@@ -65,7 +67,7 @@ void PadFieldDigit(EditInstance& edit, const Text& text, int32_t position)
 // next position, so that typing can go on there.
 int32_t CaretBehind(const EditInstance& edit, int32_t placedAt, Char typed)
 {
-    const bool fills = edit.typedChar[0] == '0' && edit.typedChar[1] == typed && typed != '0';
+    const bool fills = edit.typedChar[0] == '0' && typed != '0';
     return placedAt + (fills ? 2 : 1);
 }
 
@@ -121,20 +123,18 @@ void PlaceHalf(EditInstance& edit, const Text& text, HalfOfDay half)
 void SkipAhead(EditInstance& edit, const Text& text, int32_t position, Char typed)
 {
     const int32_t literal = FindLiteralAhead(edit, text, position, typed);
-    if (literal <= 0)
+    if (literal < 0)
         return edit.field->Beep();
-    if (IsDateOrTime(edit.dataType))
-        PadFieldDigit(edit, text, position);
+    PadFieldDigit(edit, text, position);
     PlaceCaret(edit, literal + 1);
     GoOn(edit, text, literal + 1);
 }
 
-// True when the character was accepted, with the verdict in the record.
+// True when the character was accepted. The verdict is in the record.
 bool IsAccepted(EditInstance& edit, const Text& text, int32_t position, Char typed)
 {
     const Verdict verdict = Validate({edit, text, position, typed});
-    if (verdict.accepted)
-        KeepVerdict(edit, verdict);
+    KeepVerdict(edit, verdict);
     return verdict.accepted;
 }
 

@@ -33,8 +33,7 @@ bool IsClickCorrected(EditInstance& edit)
         SetFlag(edit, CODE_POSITIONED, false);
         return false;
     }
-    const bool freeNumber = IsNumeric(edit.dataType) && edit.maskJustSet && !Has(edit, CHARWISE);
-    return HasMask(edit) && !freeNumber;
+    return HasMask(edit) && Has(edit, CHARWISE);
 }
 
 bool CorrectClick(EditInstance& edit)

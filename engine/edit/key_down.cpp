@@ -12,11 +12,6 @@ namespace zte {
 
 namespace {
 
-bool IsNumericMode(const EditInstance& edit)
-{
-    return IsNumeric(edit.dataType) && edit.maskJustSet != 0;
-}
-
 // Never the decimal character or a literal.
 bool CanDeleteAt(const EditInstance& edit, const Text& text, int32_t caret)
 {
@@ -66,7 +61,7 @@ bool HandleDeletion(EditInstance& edit, Key key, KeyData keyData)
 {
     if (edit.field->RefusesInput())
         return true;
-    if (!IsNumericMode(edit))
+    if (!IsNumeric(edit.dataType))
         return DeleteAtPosition(edit, key, keyData);
     HandleNumberDeletion(edit, key);
     return true;
@@ -85,7 +80,7 @@ bool HandleDelete(EditInstance& edit, KeyData keyData)
 
 bool HandleArrow(EditInstance& edit, Key key, KeyData keyData)
 {
-    if (edit.field->IsHeld(KEY_SHIFT) || (IsNumericMode(edit) && !Has(edit, CHARWISE)))
+    if (edit.field->IsHeld(KEY_SHIFT) || !Has(edit, CHARWISE))
         return false;
     MoveCaret(edit, key, keyData, false);
     return true;

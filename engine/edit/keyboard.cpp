@@ -51,9 +51,8 @@ void FinishBackspace(EditInstance& edit)
 // did.
 bool EndSpunText(EditInstance& edit)
 {
-    const bool fromTable = edit.codeTable && Has(edit, CODE_SPIN) && !Has(edit, CODE_PICKLIST);
-    if (fromTable)
-        SetFlag(edit, CODE_POSITIONED, false);
+    const bool fromTable = edit.codeTable && Has(edit, CODE_SPIN);
+    SetFlag(edit, CODE_POSITIONED, false);
     const bool ended = fromTable && Has(edit, SPUN);
     if (ended) {
         SetFlag(edit, CODE_SPIN, false);
@@ -95,7 +94,6 @@ void CutSelection(EditInstance& edit, KeyData keyData)
 {
     if (edit.field->ReadSelection().IsEmpty())
         return;
-    ForgetPassed(edit);
     CutByKey(edit, keyData);
 }
 
@@ -119,14 +117,13 @@ std::optional<Reply> Obey(EditInstance& edit, uint32_t typed, KeyData keyData)
         if (!IsPickList(edit))
             Paste(edit);
         return Keep();
-    default: break;
     }
     if (IsPickList(edit))
         return Keep();
     return IsLeftToTheForm(typed) ? std::optional<Reply>(Keep(0)) : std::nullopt;
 }
 
-// selection: before the character; the caret where one was deleted.
+// selection: before the character; where it has been deleted, the caret stands at its start.
 Reply Enter(EditInstance& edit, uint32_t typed, Selection selection)
 {
     if (IsPickList(edit)) {
@@ -240,7 +237,7 @@ Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData)
     }
     if (deleted && typed == kBackspace)
         return Finish(edit, Keep());
-    return Finish(edit, Enter(edit, typed, deleted ? edit.field->ReadSelection() : selection));
+    return Finish(edit, Enter(edit, typed, selection));
 }
 
 void OnTextSetFromOutside(EditInstance& edit)

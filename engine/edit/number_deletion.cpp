@@ -95,9 +95,7 @@ void DeleteFromGrowing(NumberEdit& number, Selection selection)
 {
     const ShownNumber& shown = number.Shown();
     const int32_t point = shown.Point() >= 0 ? shown.Point() : shown.End();
-    const int32_t start = std::clamp(selection.start, shown.Start(), shown.End());
-    const bool inFraction = shown.IsInFraction(start);
-    const DigitPlace place = shown.PlaceAt(inFraction ? start : std::max(start, std::min(selection.end, point)));
+    const DigitPlace place = shown.PlaceAt(std::max(selection.start, std::min(selection.end, point)));
     ShowLeft(number, Without(shown, selection, false), place);
 }
 
@@ -106,10 +104,9 @@ void DeleteFromGrowing(NumberEdit& number, Selection selection)
 void DeleteFromZeros(NumberEdit& number, Selection selection)
 {
     const ShownNumber& shown = number.Shown();
-    const int32_t start = std::clamp(selection.start, shown.Start(), shown.End());
     const bool isForeign = !number.IsInForm();
-    DigitPlace place = shown.PlaceAt(start);
-    if (!place.inFraction && shown.IsAtFront(start))
+    DigitPlace place = shown.PlaceAt(selection.start);
+    if (shown.IsAtFront(selection.start))
         place.digits = std::max(place.digits, number.Mask().shape.forcedInteger);
     number.LayOut(Without(shown, selection, true), place);
     if (place.inFraction)
@@ -124,7 +121,7 @@ void DeleteFromZeros(NumberEdit& number, Selection selection)
 void DeleteSelected(NumberEdit& number, Selection selection)
 {
     const bool isBehind = selection.start >= number.Shown().End();
-    const bool isBeforeSign = selection.start <= number.Shown().Sign() && selection.end <= number.Shown().Sign();
+    const bool isBeforeSign = selection.end <= number.Shown().Sign();
     if (number.Mask().Grows())
         DeleteFromGrowing(number, selection);
     else
@@ -138,13 +135,12 @@ void DeleteSelected(NumberEdit& number, Selection selection)
 bool DeleteDigitBefore(NumberEdit& number)
 {
     const ShownNumber& shown = number.Shown();
-    const DigitPlace place = shown.PlaceAt(std::clamp(number.Caret(), shown.Start(), shown.End()));
+    const DigitPlace place = shown.PlaceAt(number.Caret());
     const bool grows = number.Mask().Grows();
-    const int32_t right = place.inFraction ? 0 : place.digits;
     if (place.inFraction && place.digits > 0)
         DeleteInFraction(number, place.digits - 1, place.digits <= number.Mask().shape.forcedFraction);
-    else if (right < Length(number.Digits().integer))
-        grows ? DeleteBeforePoint(number, right) : ZeroBeforePoint(number, right);
+    else if (place.digits < Length(number.Digits().integer))
+        grows ? DeleteBeforePoint(number, place.digits) : ZeroBeforePoint(number, place.digits);
     else if (shown.Sign() >= 0 && number.Caret() > shown.Sign())
         DeleteSign(number);
     else

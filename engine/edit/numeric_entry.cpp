@@ -76,7 +76,7 @@ int32_t FindSpelled(const EditInstance& edit, const NumberEdit& number, const Nu
     if (literals.text[key.spelled] == key.typed && (key.spelled > 0 || !BeginsNumber(edit, key.typed)))
         return key.spelled;
     const int32_t symbol = SymbolStart(literals, *edit.settings);
-    const bool begins = key.spelled == 0 && symbol > 0 && caret == number.Shown().Start();
+    const bool begins = key.spelled == 0 && caret == number.Shown().Start();
     return begins && literals.text[symbol] == key.typed && !BeginsNumber(edit, key.typed) ? symbol : -1;
 }
 
@@ -113,8 +113,6 @@ void LeaveLiterals(NumberEdit& number)
 Outcome TypeIntoFraction(NumberEdit& number, const NumericKey& key, int32_t index)
 {
     const int32_t places = number.Mask().shape.fractionPlaces;
-    if (index >= places)
-        return Outcome::Dropped;
     TypedNumber typed = number.Digits();
     const auto at = static_cast<size_t>(index);
     if (key.insertsIntoFraction || index >= Length(typed.fraction))
@@ -135,9 +133,7 @@ Outcome GoOn(const EditInstance& edit, NumberEdit& number, int32_t right)
     const ShownNumber& shown = number.Shown();
     if (right == 0 && edit.decimalPlaces == 0)
         return Outcome::Filled;
-    const int32_t next = right == 0 ? shown.Point() + 1 : shown.NextDigit(number.Caret());
-    if (next != number.Caret())
-        number.CarryTo(next);
+    number.CarryTo(right == 0 ? shown.Point() + 1 : shown.NextDigit(number.Caret()));
     return Outcome::Taken;
 }
 
@@ -211,8 +207,6 @@ Outcome TypePoint(EditInstance& edit, NumberEdit& number)
         return Outcome::Refused;
     TypedNumber typed = number.Digits();
     typed.negative = typed.negative && number.Caret() > shown.Sign();
-    if (number.Mask().Grows())
-        typed.integer = number.HeldInteger();
     const int32_t dropped = std::min(shown.PlaceAt(number.Caret()).digits, Length(typed.integer));
     typed.integer.resize(typed.integer.size() - static_cast<size_t>(dropped));
     number.LayOut(dropped > 0 ? number.WithoutZerosInFront(typed) : typed, {true, 0});
@@ -293,7 +287,7 @@ void DeleteBy(EditInstance& edit, Selection selection, bool (*deleteDigit)(Numbe
 // Any other key that is taken has begun the number, a 0 that shows nothing too: literals are no more typed before it.
 void NoteSpelled(EditInstance& edit, const NumericKey& key, Outcome outcome)
 {
-    if (outcome == Outcome::Refused || outcome == Outcome::Dropped)
+    if (outcome == Outcome::Refused)
         edit.spelled = key.spelled;
     else if (edit.spelled == 0)
         edit.spelled = kNoMore;
@@ -307,7 +301,7 @@ void EnterNumericChar(EditInstance& edit, Char typed, Selection selection)
     edit.field->KeepLayout();
     const CarriedOver carried = TakeCarriedOver(edit);
     const int32_t spelled = std::exchange(edit.spelled, 0);
-    if (!IsTypedInto(edit) || (IsControl(typed) && !selection.IsEmpty()))
+    if (!IsTypedInto(edit))
         return edit.field->Beep();
     NumberEdit number(edit, selection.start);
     NumericKey key = {typed, selection.IsEmpty() ? spelled : 0, false};

@@ -26,7 +26,7 @@ const CodeTableEntry* FindFrom(SharedList cycle, void* item, Char first)
 // to the next entry, whether or not the cursor counts as standing on the entry shown.
 void TypeAhead(EditInstance& edit, Char typed)
 {
-    if (!edit.codeTable || !typed)
+    if (!edit.codeTable)
         return;
     SharedList cycle = edit.codeTable->cycle;
     const int32_t former = services::Tell(cycle);

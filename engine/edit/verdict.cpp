@@ -8,7 +8,6 @@ namespace zte {
 void ForgetVerdict(EditInstance& edit)
 {
     edit.typedChar[0] = Char{};
-    SetFlag(edit, ZERO_PADDED, false);
 }
 
 void KeepVerdict(EditInstance& edit, const Verdict& verdict)

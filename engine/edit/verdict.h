@@ -48,7 +48,7 @@ struct Verdict {
     }
 };
 
-// Forgets the verdict before, and copies a new one into the record.
+// Forgets the verdict before, whose padding ended when it was placed, and copies a new one into the record.
 void ForgetVerdict(EditInstance& edit);
 void KeepVerdict(EditInstance& edit, const Verdict& verdict);
 

@@ -1,0 +1,235 @@
+// Characters typed into dates, times and strings, on texts that no typing leaves there, and what is asked of the field for them.
+#include <gtest/gtest.h>
+
+#include "engine/edit/char_entry.h"
+#include "engine/edit/validators.h"
+#include "tests/units/field_spy.h"
+
+namespace zttest {
+namespace {
+
+using namespace zte;
+
+using Calls = std::vector<std::string>;
+
+constexpr SpiedSetup kDate = {"MM/DD/YY", DT_DATE};
+
+// ---- what is shown
+
+struct EntryRow {
+    const char* name;
+    SpiedSetup setup;
+    const char* before;
+    uint32_t typed;
+    const char* after;
+    int beeps;
+};
+void PrintTo(const EntryRow& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class CharEntry : public testing::TestWithParam<EntryRow> {};
+
+TEST_P(CharEntry, Leaves)
+{
+    const EntryRow& row = GetParam();
+    Spied spied(row.setup);
+    spied.Show(row.before);
+    spied.Control().Type(row.typed);
+    EXPECT_EQ(spied.Shown(), row.after);
+    EXPECT_EQ(spied.Beeps(), row.beeps);
+}
+
+constexpr SpiedSetup kNameFirst = {"MMM-DD-YYYY HH:MM AM/PM", DT_DATETIME};
+constexpr SpiedSetup kPhone = {"(###) ###", DT_STRING};
+
+// clang-format off
+const EntryRow kEntries[] = {
+    {"AHalfOnALiteralIsTheMarkers",            kNameFirst, "JUL|-04-1995 02:30 PM", 'a',  "JUL-04-1995 02:30 AM|", 0},
+    {"AHalfAtTheEndIsTheMarkers",              kNameFirst, "JUL-04-1995 02:30 PM|", 'a',  "JUL-04-1995 02:30 AM|", 0},
+    {"AHalfAtAMonthNameIsTheName",             kNameFirst, "|JUL-04-1995 02:30 PM", 'a',  "A|PR-04-1995 02:30 PM", 0},
+    {"AHalfAtADigitIsTheMarkers",              kNameFirst, "JUL-0|4-1995 02:30 PM", 'a',  "JUL-04-1995 02:30 AM|", 0},
+    {"ANulSkipsNowhereInAShortText",           kDate,      "0|7",              0,    "0|7",              1},
+    {"ALiteralsCharacterBehindTheMaskIsNone",  kPhone,     "(555) 1|23(",      '(',  "(555) 1|23(",      1},
+    {"ALiteralFurtherOnIsSkippedTo",           kPhone,     "(5|55) 123",       ')',  "(555) |123",       0},
+    {"ASingleDigitIsPadded",                   kDate,      "7|0/04/95",        '/',  "07/|04/95",        0},
+    {"AZeroIsNotPadded",                       kDate,      "0|7/04/95",        '/',  "07/|04/95",        0},
+    {"ALetterFromOutsideIsNotPadded",          kDate,      "a|7/04/95",        '/',  "a7/|04/95",        0},
+    {"AStringsDigitIsNotPadded",      {"##/##", DT_STRING}, "7|0/04",          '/',  "70/|04",           0},
+    {"AThirdDigitIsNotPadded",        {"JJJ/YYYY", DT_DATE}, "12|3/1995",      '/',  "123/|1995",        0},
+    {"TheSecondOfThreeIsNotPadded",   {"JJJ/YYYY", DT_DATE}, "1|23/1995",      '/',  "123/|1995",        0},
+    {"ADayOfTheYearTooLateTakesTheNextToo", {"JJJ/YYYY", DT_DATE}, "4|55/1995", '0', "400/|1995",        0},
+    {"OnALiteralBehindTheFirstFieldIsRefused", kPhone,     "(555|) 123",       '1',  "(555|) 123",       1},
+    {"BeforeTheFirstFieldBeginsIt",            kPhone,     "|(555) 123",       '1',  "(1|55) 123",       0},
+    {"BehindTheLastIsDropped",                 kPhone,     "(555) 123|",       '1',  "(555) 123|",       0},
+};
+// clang-format on
+INSTANTIATE_TEST_SUITE_P(Rows, CharEntry, testing::ValuesIn(kEntries),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(MonthNames, WithADoubleLetterInFrontLeaveTheCaretOnTheirSecond)
+{
+    Spied spied(kNameFirst);
+    Assign(spied.Regional().monthNames[0], FromAscii("SSX"));
+    spied.Show("|JUL-04-1995 02:30 PM");
+    spied.Type("S");
+    EXPECT_EQ(spied.Shown(), "S|SX-04-1995 02:30 PM");
+}
+
+// ---- what is asked of the field
+
+TEST(CharEntryCalls, KeepTheLayoutFirstAndReplaceOnce)
+{
+    Spied spied(kDate);
+    spied.Show("|01/04/95");
+    EnterChar(spied.Record(), '1', 0);
+    EXPECT_EQ(spied.Spy().Calls(), (Calls{"KeepLayout", "Select 0-1", "ReplaceSelection"}));
+}
+
+TEST(CharEntryCalls, OfAPaddedDigitPutTheCaretOverTheLiteral)
+{
+    Spied spied(kDate);
+    spied.Show("|01/04/95");
+    EnterChar(spied.Record(), '7', 0);
+    EXPECT_EQ(spied.Spy().Calls(), (Calls{"KeepLayout", "Select 0-2", "ReplaceSelection", "Select 2-2", "Select 3-3"}));
+}
+
+TEST(CharEntryCalls, OfAMonthNamesLastLetterAreThoseOfOneCharacter)
+{
+    Spied spied(kNameFirst);
+    spied.Show("JU|N-04-1995 02:30 PM");
+    EnterChar(spied.Record(), 'L', 2);
+    EXPECT_EQ(spied.Spy().Calls(), (Calls{"KeepLayout", "Select 2-3", "ReplaceSelection", "Select 4-4"}));
+    EXPECT_EQ(spied.Shown(), "JUL-|04-1995 02:30 PM");
+}
+
+TEST(CharEntryCalls, OfASwallowedDigitLeaveTheTextAlone)
+{
+    Spied spied(kDate);
+    spied.Show("0|7/31/95");
+    EnterChar(spied.Record(), '6', 1);
+    EXPECT_EQ(spied.Spy().Count("ReplaceSelection"), 0);
+    EXPECT_EQ(spied.Beeps(), 0);
+    EXPECT_EQ(spied.Edit().ReadText(), FromAscii("07/31/95"));
+}
+
+// ---- the verdict in the record
+
+TEST(VerdictInTheRecord, IsWhatWasPlacedAndNoMorePadded)
+{
+    Spied spied(kDate);
+    spied.Show("|01/04/95");
+    EnterChar(spied.Record(), '7', 0);
+    EXPECT_EQ(Text(spied.Record().typedChar), FromAscii("07"));
+    EXPECT_FALSE(Has(spied.Record(), ZERO_PADDED));
+    EXPECT_FALSE(Has(spied.Record(), SPIN_UP));
+}
+
+TEST(VerdictInTheRecord, IsNothingBehindACharacterThatIsNotTaken)
+{
+    for (const int32_t caret : {3, 8}) {  // refused, and dropped at the end
+        Spied spied(kDate);
+        spied.Show("|01/04/95");
+        EnterChar(spied.Record(), '7', 0);
+        EnterChar(spied.Record(), 'x', caret);
+        EXPECT_EQ(Text(spied.Record().typedChar), Text());
+    }
+}
+
+// ---- validators by themselves
+
+struct VerdictRow {
+    const char* mask;
+    int32_t type;
+    const char* text;
+    int32_t position;
+    char typed;
+    const char* placed;  // null: refused
+    bool padded;
+};
+
+TEST(Verdicts, AreGivenByTheFieldAndWhatStandsInIt)
+{
+    // clang-format off
+    const VerdictRow kRows[] = {
+        // the month, by digits
+        {"MM/DD/YY", DT_DATE, "00/00/00", 0, '0', "0",  false},
+        {"MM/DD/YY", DT_DATE, "00/00/00", 0, '1', "1",  false},
+        {"MM/DD/YY", DT_DATE, "00/00/00", 0, '2', "02", true },
+        {"MM/DD/YY", DT_DATE, "03/00/00", 0, '1', "10", true },
+        {"MM/DD/YY", DT_DATE, "02/00/00", 0, '1', "1",  false},
+        {"MM/DD/YY", DT_DATE, "10/00/00", 1, '3', nullptr, false},
+        {"MM/DD/YY", DT_DATE, "10/00/00", 1, '2', "2",  false},
+        {"MM/DD/YY", DT_DATE, "00/00/00", 0, 'x', nullptr, false},
+        {"MM/DD/YY", DT_DATE, "07/31/95", 0, 'x', nullptr, false},
+        // a day that the month to be does not have
+        {"MM/DD/YY", DT_DATE, "07/31/95", 1, '6', "",   false},
+        {"MM/DD/YY", DT_DATE, "07/31/95", 1, '0', "0",  false},  // no month: any day
+        {"MM/DD/YY", DT_DATE, "01/31/95", 1, '2', "",   false},
+        {"MM/DD/YY", DT_DATE, "01/31/95", 0, '2', "",   false},
+        {"MM/DD/YY", DT_DATE, "01/31/95", 0, '3', "03", true },
+        {"MM/DD/YY", DT_DATE, "02/31/95", 0, '1', "1",  false},  // December
+        {"MM/DD/YY", DT_DATE, "01/31/95", 0, '1', "",   false},  // November
+        {"MM/DD/YY", DT_DATE, "03/31/95", 0, '1', "10", true },  // October
+        {"MM/DD/YY", DT_DATE, "12/31/95", 1, '1', "",   false},
+        // the month, by names
+        {"MMM-DD-YYYY", DT_DATE, "MAR-31-1995", 0, 'J', "JAN", true },
+        {"MMM-DD-YYYY", DT_DATE, "MAR-31-1995", 0, 'F', "",    false},
+        {"MMM-DD-YYYY", DT_DATE, "MAR-31-1995", 0, 'A', "AUG", true },  // April is too short
+        {"MMM-DD-YYYY", DT_DATE, "JAN-31-1995", 1, 'U', "UL",  true },  // June is too short
+        {"MMM-DD-YYYY", DT_DATE, "JUL-31-1995", 2, 'N', "",    false},
+        {"MMM-DD-YYYY", DT_DATE, "JUL-30-1995", 2, 'N', "N",   true },
+        {"MMM-DD-YYYY", DT_DATE, "JUN-30-1995", 2, 'L', "L",   true },
+        {"MMM-DD-YYYY", DT_DATE, "MAR-31-1995", 0, 'X', nullptr, false},
+        {"MMM-DD-YYYY", DT_DATE, "MAR-31-1995", 1, 'X', nullptr, false},
+        // the year, by its last digit
+        {"MM/DD/YYYY", DT_DATE, "07/04/1995", 6, '3', nullptr, false},
+        {"MM/DD/YYYY", DT_DATE, "07/04/1995", 6, '2', "2", false},
+        {"MM/DD/YY",   DT_DATE, "02/29/96", 7, '2', "2", false},
+        {"MM/DD/YY",   DT_DATE, "02/29/96", 7, '5', nullptr, false},
+        {"MM/DD/YY",   DT_DATE, "02/28/96", 7, '5', "5", false},
+        {"MM/DD/YY",   DT_DATE, "03/29/96", 7, '5', "5", false},
+        {"MM/DD/YY",   DT_DATE, "02/29/96", 6, '5', "5", false},  // not completed yet
+        {"MM/DD/YYYY", DT_DATE, "02/29/1996", 7, '8', "8", false},
+        {"MM/DD/YYYY", DT_DATE, "02/29/1996", 9, '5', nullptr, false},
+        // the day
+        {"MM/DD/YY", DT_DATE, "00/00/00", 3, '3', "3",  false},
+        {"MM/DD/YY", DT_DATE, "00/01/00", 3, '3', "3",  false},
+        {"MM/DD/YY", DT_DATE, "00/02/00", 3, '3', "30", true },
+        {"MM/DD/YY", DT_DATE, "00/30/00", 4, '1', "1",  false},
+        {"MM/DD/YY", DT_DATE, "00/30/00", 4, '2', nullptr, false},
+        {"MM/DD/YY", DT_DATE, "01/30/95", 4, '1', "1",  false},
+        {"MM/DD/YY", DT_DATE, "04/30/95", 4, '1', nullptr, false},
+        {"MM/DD/YY", DT_DATE, "02/01/95", 3, '3', "03", true },
+        {"MM/DD/YY", DT_DATE, "02/09/95", 3, '2', "20", true },
+        // the day of the year
+        {"JJJYY",    DT_DATE, "00095", 0, '1', "1", false},
+        {"JJJ/YYYY", DT_DATE, "000/1995", 0, '3', "3", false},
+        {"JJJ/YYYY", DT_DATE, "365/1995", 2, '6', nullptr, false},
+        {"JJJ/YYYY", DT_DATE, "365/1996", 2, '6', "6", false},
+        {"JJJ/YYYY", DT_DATE, "367/1995", 0, '4', "04", false},
+        {"JJJ/YYYY", DT_DATE, "300/1995", 1, '7', "07", false},
+    };
+    // clang-format on
+    for (const VerdictRow& row : kRows) {
+        Spied spied({row.mask, row.type});
+        const Text text = FromAscii(row.text);
+        const Verdict verdict = Validate({spied.Record(), text, row.position, static_cast<Char>(row.typed)});
+        const std::string where =
+            std::string(row.text) + " at " + std::to_string(row.position) + " '" + row.typed + "'";
+        EXPECT_EQ(verdict.accepted, row.placed != nullptr) << where;
+        EXPECT_EQ(Text(verdict.placed), FromAscii(row.placed ? row.placed : "")) << where;
+        EXPECT_EQ(verdict.padded, row.padded) << where;
+    }
+}
+
+TEST(Verdicts, OfOneCharacterAreNotPadded)
+{
+    EXPECT_FALSE(Verdict::Placing(Char{'x'}).padded);
+    EXPECT_TRUE(Verdict::Swallowed().accepted);
+    EXPECT_FALSE(Verdict::Refused().accepted);
+}
+
+}  // namespace
+}  // namespace zttest
