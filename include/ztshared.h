@@ -39,8 +39,8 @@ typedef struct SharedHeapWatcher {
     struct SharedHeapWatcher* next;
 } SharedHeapWatcher;
 
-/* Begins and ends watching; a watcher watches one heap. Unwatching is for heaps that are alive; a watcher that has been
- * told watches no longer. */
+/* Begins and ends watching; a watcher watches one heap. Unwatching is for heaps that are alive, or just telling of
+ * their end; a watcher that has been told, or has been unwatched, watches no longer, and unwatching it does nothing. */
 void WINAPI SharedHeapWatch(SharedHeap heap, SharedHeapWatcher* watcher);
 void WINAPI SharedHeapUnwatch(SharedHeap heap, SharedHeapWatcher* watcher);
 

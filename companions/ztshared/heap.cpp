@@ -104,9 +104,12 @@ void WINAPI SharedHeapWatch(SharedHeap heap, SharedHeapWatcher* watcher)
 
 void WINAPI SharedHeapUnwatch(SharedHeap heap, SharedHeapWatcher* watcher)
 {
+    if (!watcher->previous && heap->watchers != watcher)
+        return;  // watches no longer
     if (watcher->next)
         watcher->next->previous = watcher->previous;
     (watcher->previous ? watcher->previous->next : heap->watchers) = watcher->next;
+    watcher->previous = watcher->next = nullptr;
 }
 
 uint32_t WINAPI SharedHeapBlockCount(SharedHeap heap)

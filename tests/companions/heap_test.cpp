@@ -221,6 +221,7 @@ struct Watcher : SharedHeapWatcher {
         SharedHeapDestroy(self->heap);  // has begun already
         if (self->other)
             SharedHeapUnwatch(self->heap, self->other);
+        SharedHeapUnwatch(self->heap, self);  // has been told: watches no longer
     }
 
     SharedHeap heap;
