@@ -50,7 +50,7 @@ protected:
     {
         EditInstance& record = Make(mask, dataType);
         if (Text(record.mask) != mask_)
-            InstallMask(record, mask_);
+            InstallMask(record, mask_, MaskOrigin::Given, false);
         SetFlag(record, PERCENT, record.table->number.shape.percent);
         record.yearDigits = mask_.find(FromAscii("YYYY")) == Text::npos ? 2 : 4;
         return record;
@@ -246,7 +246,7 @@ TEST_F(FormatEdges, ATildeAtTheEndShowsNothing)
 TEST_F(FormatEdges, ADateWithoutAMaskShowsNothing)
 {
     EditInstance& record = Make("MM/DD/YY", DT_DATE);
-    InstallMask(record, Text());
+    InstallMask(record, Text(), MaskOrigin::Given, false);
     DateTimeValue value = kNoon;
     value.microsecond = 0x41424344;  // as a text it would be letters
     EXPECT_EQ(FormatValue(record, &value).text, Text());
