@@ -23,11 +23,6 @@ endfunction()
 # The headers that every test reads are compiled once.
 set(zt_common_headers <gtest/gtest.h> <memory> <ostream> <string> <vector>)
 
-file(GLOB zt_engine_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/engine/*.cpp ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
-    ${CMAKE_SOURCE_DIR}/tests/support/native/*.cpp)
-zt_add_native_tests(engine ${zt_engine_sources})
-target_precompile_headers(test_engine PRIVATE ${zt_common_headers})
-
 # The field in memory by its examples; under Wine they are played on the system's own edit control as well.
 file(GLOB zt_field_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/field/*.cpp)
 list(FILTER zt_field_sources EXCLUDE REGEX "real_|differential_")
@@ -49,9 +44,25 @@ set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/companions/long_decimal.cp
 zt_add_native_tests(units ${zt_unit_sources} ${zt_unit_support} ${zt_value_functions} ${zt_value_tests})
 target_include_directories(test_units PRIVATE ${CMAKE_SOURCE_DIR}/tests/companions/native)
 target_precompile_headers(test_units PRIVATE ${zt_common_headers})
+zt_compile_together(test_units)
 
-# Once is enough for these: on 64 bits. What 32 bits do otherwise shows in the suites above, and on x86 windows.
+# What the fuzzers play, on the inputs that they have found so far.
+file(GLOB zt_fuzz_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/*.cpp)
+list(FILTER zt_fuzz_sources EXCLUDE REGEX "/fuzzer\\.cpp$")
+add_executable(test_fuzz ${zt_fuzz_sources} ${CMAKE_SOURCE_DIR}/tests/support/currencies.cpp)
+target_link_libraries(test_fuzz PRIVATE zt_engine)
+add_test(NAME fuzz COMMAND test_fuzz ${CMAKE_SOURCE_DIR}/tests/fuzz/corpus)
+set_tests_properties(fuzz PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
+
+# Once is enough for these: on 64 bits. What 32 bits do otherwise shows in the suites above, and on windows of x86.
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    # The tests that are played on live windows as well, here on fields in memory.
+    file(GLOB zt_engine_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/engine/*.cpp ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
+        ${CMAKE_SOURCE_DIR}/tests/support/native/*.cpp)
+    zt_add_native_tests(engine ${zt_engine_sources})
+    target_precompile_headers(test_engine PRIVATE ${zt_common_headers})
+    zt_compile_together(test_engine)
+
     # Laws over many random inputs; a sample of the law of typing stands among the tests of the engine, too.
     file(GLOB zt_property_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/properties/*.cpp)
     set(zt_property_support currencies.cpp keyboard.cpp number_law.cpp profile.cpp native/profile_store.cpp)
@@ -59,14 +70,6 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     zt_add_native_tests(properties ${zt_property_sources} ${zt_property_support})
     target_link_libraries(test_properties PRIVATE gtest_main)
     target_compile_options(test_properties PRIVATE -O1)
-
-    # What the fuzzers play, on the inputs that they have found so far.
-    file(GLOB zt_fuzz_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/*.cpp)
-    list(FILTER zt_fuzz_sources EXCLUDE REGEX "/fuzzer\\.cpp$")
-    add_executable(test_fuzz ${zt_fuzz_sources} ${CMAKE_SOURCE_DIR}/tests/support/currencies.cpp)
-    target_link_libraries(test_fuzz PRIVATE zt_engine)
-    add_test(NAME fuzz COMMAND test_fuzz ${CMAKE_SOURCE_DIR}/tests/fuzz/corpus)
-    set_tests_properties(fuzz PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
 
     # Texts that no careful caller hands in, by every door of a control, and memory that ends before an inaccessible page.
     file(GLOB zt_text_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/texts/*.cpp)

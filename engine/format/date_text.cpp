@@ -41,6 +41,8 @@ public:
     }
 
 private:
+    static constexpr int32_t kNoDay = INT32_MIN;  // three characters stand for no such number
+
     // A number of a fixed count of characters; none when they are no number.
     std::optional<int32_t> NumberAt(int32_t position, int32_t length) const
     {
@@ -109,8 +111,8 @@ private:
         if (!number)
             return false;
         value_.year = static_cast<int16_t>(YearValue(*number, run));
-        if (dayOfYear_)
-            TakeDayOfYear(*dayOfYear_);
+        if (dayOfYear_ != kNoDay)
+            TakeDayOfYear();
         return true;
     }
 
@@ -119,15 +121,15 @@ private:
     {
         dayOfYear_ = IntegerOf(Slice(text_, position, 3));
         if (HasDate(value_))
-            TakeDayOfYear(*dayOfYear_);
+            TakeDayOfYear();
         return true;
     }
 
     // A day that the year does not have makes no date.
-    void TakeDayOfYear(int32_t day)
+    void TakeDayOfYear()
     {
-        if (day >= 1 && day <= DaysInYear(edit_.yearDigits, value_.year))
-            DateFromDayOfYear(edit_.yearDigits, day, value_);
+        if (dayOfYear_ >= 1 && dayOfYear_ <= DaysInYear(edit_.yearDigits, value_.year))
+            DateFromDayOfYear(edit_.yearDigits, dayOfYear_, value_);
         else
             value_.year = kEmptyDateTime.year;
     }
@@ -135,7 +137,7 @@ private:
     const EditInstance& edit_;
     const Text& text_;
     DateTimeValue& value_;
-    std::optional<int32_t> dayOfYear_;
+    int32_t dayOfYear_ = kNoDay;
 };
 
 // Whether a text handed in may be display text: it has the length of the mask's display or, under an AM/PM mask, shows the

@@ -68,20 +68,20 @@ TEST_P(ClerkTypesADate, OverAnotherDateWhollySelected)
 
 INSTANTIATE_TEST_SUITE_P(Dates, ClerkTypesADate, testing::ValuesIn(kDates), RowName<DateCase>);
 
-struct KeywordCase {
+struct KeywordDateCase {
     const char* name;
     const RegionalSet* settings;
     const char* keys;
     const char* text;
 };
 
-void PrintTo(const KeywordCase& row, std::ostream* out)
+void PrintTo(const KeywordDateCase& row, std::ostream* out)
 {
     *out << row.name;
 }
 
 // clang-format off
-const KeywordCase kKeywordDates[] = {
+const KeywordDateCase kKeywordDates[] = {
     {"AmericanDigits",     &kUnitedStates, "07041995", "07/04/1995"},
     {"AmericanSeparators", &kUnitedStates, "7/4/1995", "07/04/1995"},
     {"GermanDigits",       &kGerman,       "04071995", "04.07.1995"},
@@ -91,7 +91,7 @@ const KeywordCase kKeywordDates[] = {
 };
 // clang-format on
 
-class ClerkTypesARegionalDate : public Clerk, public testing::WithParamInterface<KeywordCase> {};
+class ClerkTypesARegionalDate : public Clerk, public testing::WithParamInterface<KeywordDateCase> {};
 
 TEST_P(ClerkTypesARegionalDate, IntoAKeywordField)
 {
@@ -103,7 +103,7 @@ TEST_P(ClerkTypesARegionalDate, IntoAKeywordField)
     EXPECT_EQ(Beeps(), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Dates, ClerkTypesARegionalDate, testing::ValuesIn(kKeywordDates), RowName<KeywordCase>);
+INSTANTIATE_TEST_SUITE_P(Dates, ClerkTypesARegionalDate, testing::ValuesIn(kKeywordDates), RowName<KeywordDateCase>);
 
 TEST_F(Clerk, ReadsTheDateTyped)
 {
@@ -304,7 +304,7 @@ TEST_F(Clerk, PastesADateAndATimeFromALetter)
 
 // ---- Slips ----------------------------------------------------------------------------------------------------------
 
-struct FieldCase {
+struct SlipCase {
     const char* name;
     const char* mask;
     int32_t type;
@@ -312,13 +312,13 @@ struct FieldCase {
     const char* wrong;  // a key that the field refuses everywhere
 };
 
-void PrintTo(const FieldCase& row, std::ostream* out)
+void PrintTo(const SlipCase& row, std::ostream* out)
 {
     *out << row.name;
 }
 
 // clang-format off
-const FieldCase kFields[] = {
+const SlipCase kFields[] = {
     {"Date",            "MM/DD/YY",       DT_DATE,     "1995-07-04",       "?"},
     {"DateWithName",    "DD-MMM-YYYY",    DT_DATE,     "1995-07-04",       "?"},
     {"DayOfYear",       "JJJ/YYYY",       DT_DATE,     "1995-07-04",       "?"},
@@ -338,7 +338,7 @@ const FieldCase kFields[] = {
 };
 // clang-format on
 
-class ClerkSlips : public Clerk, public testing::WithParamInterface<FieldCase> {
+class ClerkSlips : public Clerk, public testing::WithParamInterface<SlipCase> {
 protected:
     void MakeField() { Field(GetParam().mask, GetParam().type, GetParam().data); }
 };
@@ -417,7 +417,7 @@ TEST_P(ClerkSlips, DeletedFieldsKeepTheirLength)
     EXPECT_EQ(Text().size(), length);
 }
 
-INSTANTIATE_TEST_SUITE_P(Fields, ClerkSlips, testing::ValuesIn(kFields), RowName<FieldCase>);
+INSTANTIATE_TEST_SUITE_P(Fields, ClerkSlips, testing::ValuesIn(kFields), RowName<SlipCase>);
 
 // ---- Fast typing ----------------------------------------------------------------------------------------------------
 

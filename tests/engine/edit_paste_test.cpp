@@ -66,7 +66,7 @@ TEST_P(Paste, Shows)
 INSTANTIATE_TEST_SUITE_P(Rows, Paste, testing::ValuesIn(kRows), RowName<PasteCase>);
 
 // clang-format off
-const PasteCase kGermanRows[] = {
+const PasteCase kGermanPastes[] = {
     {"ANumberAsShown",           "",              DT_NUMBER,  "|,00",    "1.234,50",    "1.234,50",    0},
     {"AFractionIsKept",          "",              DT_NUMBER,  "|,00",    "12,75",       "12,75",       0},
     {"ADecimalKeepsItsFraction", "",              DT_DECIMAL, "|,00",    "12,75",       "12,75",       0},
@@ -83,7 +83,7 @@ TEST_P(GermanPaste, Shows)
     Check();
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, GermanPaste, testing::ValuesIn(kGermanRows), RowName<PasteCase>);
+INSTANTIATE_TEST_SUITE_P(Rows, GermanPaste, testing::ValuesIn(kGermanPastes), RowName<PasteCase>);
 
 enum class Way { Message, CtrlV, ShiftInsert };
 

@@ -143,9 +143,9 @@ TEST_F(NullDates, NullIsTheEmptyTime)
 }
 
 // The AM and PM strings of the settings.
-class Designators : public ValueTest {};
+class DesignatorsShown : public ValueTest {};
 
-TEST_F(Designators, OfFourCharactersAreShown)
+TEST_F(DesignatorsShown, OfFourCharactersAreShown)
 {
     const Regional settings(With(kUnitedStates, {
                                                     {"s1159", "a.m."},
@@ -155,7 +155,7 @@ TEST_F(Designators, OfFourCharactersAreShown)
     EXPECT_EQ(ShownFor("13:05"), "01:05 p.m.");
 }
 
-TEST_F(Designators, OfOneCharacterAreShown)
+TEST_F(DesignatorsShown, OfOneCharacterAreShown)
 {
     const Regional settings(With(kUnitedStates, {
                                                     {"s1159", "a"},
@@ -165,7 +165,7 @@ TEST_F(Designators, OfOneCharacterAreShown)
     EXPECT_EQ(ShownFor("13:05"), "01:05 p");
 }
 
-TEST_F(Designators, KeepWhatFollowsThem)
+TEST_F(DesignatorsShown, KeepWhatFollowsThem)
 {
     const Regional settings(With(kUnitedStates, {
                                                     {"s1159", "a.m."},
@@ -175,7 +175,7 @@ TEST_F(Designators, KeepWhatFollowsThem)
     EXPECT_EQ(ShownFor("01:05"), "01 a.m.:05");
 }
 
-TEST_F(Designators, AreReadBackFromTheWindow)
+TEST_F(DesignatorsShown, AreReadBackFromTheWindow)
 {
     const Regional settings(With(kUnitedStates, {
                                                     {"s1159", "vorm"},

@@ -256,8 +256,8 @@ TEST_F(Cycling, SurvivesATableReplacedInItsNotice)
 }
 
 constexpr char kWeekdays[] = "Monday\tMO/Tuesday\tTU/Wednesday\tWE/Thursday\tTH/Friday\tFR";
-constexpr uint32_t kThroughCodes = ZTEO_SPIN | ZTEO_CODE_DISPLAY;
-constexpr uint32_t kPickList = kThroughCodes | ZTEO_CODE_PICK;
+constexpr uint32_t kThroughTable = ZTEO_SPIN | ZTEO_CODE_DISPLAY;
+constexpr uint32_t kPickList = kThroughTable | ZTEO_CODE_PICK;
 
 // A list of weekdays; the first press goes on from the day shown, whatever has brought it there.
 struct Weekdays {
@@ -390,7 +390,7 @@ TEST_P(TypedWeekday, BeginsAtItsEndAfterTypingThatIsNoDay)
     EXPECT_EQ(Text(), "Friday");
 }
 
-constexpr Weekdays kTyped[] = {{"UnderAMask", "XXXXXXXXX", kThroughCodes}, {"WithoutAMask", "", kThroughCodes}};
+constexpr Weekdays kTyped[] = {{"UnderAMask", "XXXXXXXXX", kThroughTable}, {"WithoutAMask", "", kThroughTable}};
 constexpr Weekdays kPicked[] = {{"PickListUnderAMask", "XXXXXXXXX", kPickList}, {"PickListWithoutAMask", "", kPickList}};
 INSTANTIATE_TEST_SUITE_P(Typed, WeekdayList, testing::ValuesIn(kTyped), RowName<Weekdays>);
 INSTANTIATE_TEST_SUITE_P(Picked, WeekdayList, testing::ValuesIn(kPicked), RowName<Weekdays>);

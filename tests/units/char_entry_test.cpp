@@ -12,7 +12,7 @@ using namespace zte;
 
 using Calls = std::vector<std::string>;
 
-constexpr SpiedSetup kDate = {"MM/DD/YY", DT_DATE};
+constexpr SpiedSetup kDateMask = {"MM/DD/YY", DT_DATE};
 
 // ---- what is shown
 
@@ -42,7 +42,7 @@ TEST_P(CharEntry, Leaves)
 }
 
 constexpr SpiedSetup kNameFirst = {"MMM-DD-YYYY HH:MM AM/PM", DT_DATETIME};
-constexpr SpiedSetup kPhone = {"(###) ###", DT_STRING};
+constexpr SpiedSetup kPhoneMask = {"(###) ###", DT_STRING};
 
 // clang-format off
 const EntryRow kEntries[] = {
@@ -50,19 +50,19 @@ const EntryRow kEntries[] = {
     {"AHalfAtTheEndIsTheMarkers",              kNameFirst, "JUL-04-1995 02:30 PM|", 'a',  "JUL-04-1995 02:30 AM|", 0},
     {"AHalfAtAMonthNameIsTheName",             kNameFirst, "|JUL-04-1995 02:30 PM", 'a',  "A|PR-04-1995 02:30 PM", 0},
     {"AHalfAtADigitIsTheMarkers",              kNameFirst, "JUL-0|4-1995 02:30 PM", 'a',  "JUL-04-1995 02:30 AM|", 0},
-    {"ANulSkipsNowhereInAShortText",           kDate,      "0|7",              0,    "0|7",              1},
-    {"ALiteralsCharacterBehindTheMaskIsNone",  kPhone,     "(555) 1|23(",      '(',  "(555) 1|23(",      1},
-    {"ALiteralFurtherOnIsSkippedTo",           kPhone,     "(5|55) 123",       ')',  "(555) |123",       0},
-    {"ASingleDigitIsPadded",                   kDate,      "7|0/04/95",        '/',  "07/|04/95",        0},
-    {"AZeroIsNotPadded",                       kDate,      "0|7/04/95",        '/',  "07/|04/95",        0},
-    {"ALetterFromOutsideIsNotPadded",          kDate,      "a|7/04/95",        '/',  "a7/|04/95",        0},
+    {"ANulSkipsNowhereInAShortText",           kDateMask,      "0|7",              0,    "0|7",              1},
+    {"ALiteralsCharacterBehindTheMaskIsNone",  kPhoneMask,     "(555) 1|23(",      '(',  "(555) 1|23(",      1},
+    {"ALiteralFurtherOnIsSkippedTo",           kPhoneMask,     "(5|55) 123",       ')',  "(555) |123",       0},
+    {"ASingleDigitIsPadded",                   kDateMask,      "7|0/04/95",        '/',  "07/|04/95",        0},
+    {"AZeroIsNotPadded",                       kDateMask,      "0|7/04/95",        '/',  "07/|04/95",        0},
+    {"ALetterFromOutsideIsNotPadded",          kDateMask,      "a|7/04/95",        '/',  "a7/|04/95",        0},
     {"AStringsDigitIsNotPadded",      {"##/##", DT_STRING}, "7|0/04",          '/',  "70/|04",           0},
     {"AThirdDigitIsNotPadded",        {"JJJ/YYYY", DT_DATE}, "12|3/1995",      '/',  "123/|1995",        0},
     {"TheSecondOfThreeIsNotPadded",   {"JJJ/YYYY", DT_DATE}, "1|23/1995",      '/',  "123/|1995",        0},
     {"ADayOfTheYearTooLateTakesTheNextToo", {"JJJ/YYYY", DT_DATE}, "4|55/1995", '0', "400/|1995",        0},
-    {"OnALiteralBehindTheFirstFieldIsRefused", kPhone,     "(555|) 123",       '1',  "(555|) 123",       1},
-    {"BeforeTheFirstFieldBeginsIt",            kPhone,     "|(555) 123",       '1',  "(1|55) 123",       0},
-    {"BehindTheLastIsDropped",                 kPhone,     "(555) 123|",       '1',  "(555) 123|",       0},
+    {"OnALiteralBehindTheFirstFieldIsRefused", kPhoneMask,     "(555|) 123",       '1',  "(555|) 123",       1},
+    {"BeforeTheFirstFieldBeginsIt",            kPhoneMask,     "|(555) 123",       '1',  "(1|55) 123",       0},
+    {"BehindTheLastIsDropped",                 kPhoneMask,     "(555) 123|",       '1',  "(555) 123|",       0},
 };
 // clang-format on
 INSTANTIATE_TEST_SUITE_P(Rows, CharEntry, testing::ValuesIn(kEntries),
@@ -81,7 +81,7 @@ TEST(MonthNames, WithADoubleLetterInFrontLeaveTheCaretOnTheirSecond)
 
 TEST(CharEntryCalls, KeepTheLayoutFirstAndReplaceOnce)
 {
-    Spied spied(kDate);
+    Spied spied(kDateMask);
     spied.Show("|01/04/95");
     EnterChar(spied.Record(), '1', 0);
     EXPECT_EQ(spied.Spy().Calls(), (Calls{"KeepLayout", "Select 0-1", "ReplaceSelection"}));
@@ -89,7 +89,7 @@ TEST(CharEntryCalls, KeepTheLayoutFirstAndReplaceOnce)
 
 TEST(CharEntryCalls, OfAPaddedDigitPutTheCaretOverTheLiteral)
 {
-    Spied spied(kDate);
+    Spied spied(kDateMask);
     spied.Show("|01/04/95");
     EnterChar(spied.Record(), '7', 0);
     EXPECT_EQ(spied.Spy().Calls(), (Calls{"KeepLayout", "Select 0-2", "ReplaceSelection", "Select 2-2", "Select 3-3"}));
@@ -106,7 +106,7 @@ TEST(CharEntryCalls, OfAMonthNamesLastLetterAreThoseOfOneCharacter)
 
 TEST(CharEntryCalls, OfASwallowedDigitLeaveTheTextAlone)
 {
-    Spied spied(kDate);
+    Spied spied(kDateMask);
     spied.Show("0|7/31/95");
     EnterChar(spied.Record(), '6', 1);
     EXPECT_EQ(spied.Spy().Count("ReplaceSelection"), 0);
@@ -118,7 +118,7 @@ TEST(CharEntryCalls, OfASwallowedDigitLeaveTheTextAlone)
 
 TEST(VerdictInTheRecord, IsWhatWasPlacedAndNoMorePadded)
 {
-    Spied spied(kDate);
+    Spied spied(kDateMask);
     spied.Show("|01/04/95");
     EnterChar(spied.Record(), '7', 0);
     EXPECT_EQ(Text(spied.Record().typedChar), FromAscii("07"));
@@ -129,7 +129,7 @@ TEST(VerdictInTheRecord, IsWhatWasPlacedAndNoMorePadded)
 TEST(VerdictInTheRecord, IsNothingBehindACharacterThatIsNotTaken)
 {
     for (const int32_t caret : {3, 8}) {  // refused, and dropped at the end
-        Spied spied(kDate);
+        Spied spied(kDateMask);
         spied.Show("|01/04/95");
         EnterChar(spied.Record(), '7', 0);
         EnterChar(spied.Record(), 'x', caret);

@@ -60,7 +60,7 @@ constexpr StepResult kFromToday = StepResult::FromToday;
 constexpr char kNow[] = "1995-07-04 13:14:15:160000";
 
 // clang-format off
-const StepRow kSteps[] = {
+const StepRow kFieldSteps[] = {
     {"AMonthAlone",       DT_DATETIME, F::Month,     kUp, "", "", kNow, "1995-08-04 13:14:15:160000", kStepped},
     {"ADayAlone",         DT_DATETIME, F::Day,       kUp, "", "", kNow, "1995-07-05 13:14:15:160000", kStepped},
     {"ADayOfTheYearAlone", DT_DATETIME, F::DayOfYear, kUp, "", "", kNow, "1995-07-05 13:14:15:160000", kStepped},
@@ -98,7 +98,7 @@ const StepRow kSteps[] = {
     {"AYearInNoDirection", DT_DATE, F::Year, kNeither, "", "", "1995-07-04", "1996-07-04", kStepped},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(, DateTimeStep, testing::ValuesIn(kSteps), RowName<StepRow>);
+INSTANTIATE_TEST_SUITE_P(, DateTimeStep, testing::ValuesIn(kFieldSteps), RowName<StepRow>);
 
 DateStep StepOf(FieldKind field, StepDirection direction)
 {

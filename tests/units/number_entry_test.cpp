@@ -168,7 +168,7 @@ TEST_P(NumberBackspace, Leaves)
 }
 
 // clang-format off
-const DeletionRow kBackspaces[] = {
+const DeletionRow kNumberBackspaces[] = {
     {"BehindTheLiterals",         "#,##0.00%",  "12.56%|",  "12.5|0%" },
     {"BehindLiteralsOfNoPoint",   "#,##0%",     "12%|",     "1|%"     },
     {"BehindThePoint",            "#,##0.00",   "12.|56",   "1|.56"   },
@@ -178,7 +178,7 @@ const DeletionRow kBackspaces[] = {
     {"BehindTheSign",             "#,##0.00",   "-|12.50",  "|12.50"  },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, NumberBackspace, testing::ValuesIn(kBackspaces),
+INSTANTIATE_TEST_SUITE_P(Rows, NumberBackspace, testing::ValuesIn(kNumberBackspaces),
                          [](const auto& row) { return std::string(row.param.name); });
 
 // ---- what is asked of the field
