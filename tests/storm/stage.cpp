@@ -133,7 +133,7 @@ const Trigger& TriggerOf(uint32_t number)
     return Random(number).Of(kTriggers);
 }
 
-Stage::Stage(Cast cast, bool visible) : cast_(cast), buffer_(kRoom)
+Stage::Stage(Cast cast, bool visible, bool alone) : cast_(cast), buffer_(kRoom)
 {
     RegisterForm(FormProc);
     for (HWND& form : forms_) {
@@ -151,14 +151,22 @@ Stage::Stage(Cast cast, bool visible) : cast_(cast), buffer_(kRoom)
     constexpr int kHeights[] = {1, 8, 16, 24, 40};
     for (size_t i = 0; i < sizeof fonts_ / sizeof *fonts_; ++i)
         fonts_[i] = CreateFontA(kHeights[i], 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, "Arial");
-    goneFont_ = CreateFontA(20, 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, "Arial");
-    DeleteObject(goneFont_);
     memoryDc_ = CreateCompatibleDC(nullptr);
     bitmap_ = CreateBitmap(64, 64, 1, 32, nullptr);
     formerBitmap_ = SelectObject(memoryDc_, bitmap_);
+    if (alone)
+        LoseObjects();
+    heap_ = SharedHeapCreate();
+}
+
+// Objects of graphics that are gone, handed in like others. The system gives their numbers to new objects before long, which may be
+// another thread's, and nobody may draw on those: with another thread beside it a stage has numbers that never were an object's.
+void Stage::LoseObjects()
+{
+    goneFont_ = CreateFontA(20, 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, "Arial");
+    DeleteObject(goneFont_);
     goneDc_ = CreateCompatibleDC(nullptr);
     DeleteDC(goneDc_);
-    heap_ = SharedHeapCreate();
 }
 
 Stage::~Stage()

@@ -34,7 +34,7 @@ struct Reaction {
 
 class Stage {
 public:
-    Stage(Cast cast, bool visible);
+    Stage(Cast cast, bool visible, bool alone);
     Stage(const Stage&) = delete;
     Stage& operator=(const Stage&) = delete;
     ~Stage();
@@ -77,6 +77,9 @@ public:
     EditInitParams Params(const Op& op);
 
 private:
+    static constexpr uintptr_t kNoObject = 0x7ABC;
+
+    void LoseObjects();
     static LRESULT CALLBACK FormProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
     static LRESULT CALLBACK HostProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
     void OnTrigger(Trigger::Way way, UINT code, HWND control);
@@ -87,9 +90,9 @@ private:
     HWND controls_[kSlots] = {};
     HWND bystanders_[4] = {};
     HFONT fonts_[5] = {};
-    HFONT goneFont_ = nullptr;
+    HFONT goneFont_ = reinterpret_cast<HFONT>(kNoObject);
     HDC memoryDc_ = nullptr;
-    HDC goneDc_ = nullptr;
+    HDC goneDc_ = reinterpret_cast<HDC>(kNoObject);
     HBITMAP bitmap_ = nullptr;
     HGDIOBJ formerBitmap_ = nullptr;
     SharedHeap heap_ = nullptr;

@@ -79,12 +79,8 @@ TEST(Storm, OverPlainEditsIsTheMeasure)
         std::printf("A plain edit: %s\n", finding.c_str());
 }
 
-// Not in the short run yet: two threads at once end in a crash below the edit control now and then, under another timing each time, and
-// whether plain edits do so too is not known. Played by tools/fuzz_windows.sh.
 TEST(Storm, OnTwoThreadsAtOnceIsSurvived)
 {
-    if (!std::getenv("ZT_STORM_OPERATIONS"))
-        GTEST_SKIP() << "two threads are played by tools/fuzz_windows.sh";
     ExpectNothingFound(TravelWith(Cast::Masked, kThreads, 8));
 }
 
