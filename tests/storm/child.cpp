@@ -198,7 +198,7 @@ private:
 
 void PlayEpisodes(const Part& part, uint32_t thread)
 {
-    Stage stage(part.cast, thread == 0, part.threads == 1);
+    Stage stage(part.cast, thread, part.threads == 1);
     const ReactionCount reactions(stage);
     DrainQueue();
     int windows = 0;

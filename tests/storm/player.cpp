@@ -210,6 +210,8 @@ Message MessageFor(Stage& stage, HWND hwnd, const Op& op)
     const MessageShape shape = ShapeOf(message);
     if (shape.wParam == Parameter::LeftOut)
         return {WM_NULL, 0, 0};
+    if (message == WM_CREATE && !stage.IsAlone())  // the control would go back to the font of all
+        return {WM_NULL, 0, 0};
     Random first(op.b);
     Random second(op.c);
     const auto wParam = static_cast<WPARAM>(ParameterFor(shape.wParam, stage, hwnd, first));

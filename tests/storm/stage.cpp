@@ -113,6 +113,28 @@ SIZE SizeOf(uint32_t number)
     return Random(number).Of(kSizes);
 }
 
+// Held by one thread at a time, which goes on answering the others' messages while it waits.
+class Turn {
+public:
+    Turn()
+    {
+        while (MsgWaitForMultipleObjects(1, &Mutex(), FALSE, INFINITE, QS_SENDMESSAGE) != WAIT_OBJECT_0) {
+            MSG message;
+            PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+        }
+    }
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+    ~Turn() { ReleaseMutex(Mutex()); }
+
+private:
+    static HANDLE& Mutex()
+    {
+        static HANDLE mutex = CreateMutexA(nullptr, FALSE, nullptr);
+        return mutex;
+    }
+};
+
 // The record of a control, where hosts find it.
 const zte::EditInstance* RecordOf(HWND hwnd)
 {
@@ -133,7 +155,7 @@ const Trigger& TriggerOf(uint32_t number)
     return Random(number).Of(kTriggers);
 }
 
-Stage::Stage(Cast cast, bool visible, bool alone) : cast_(cast), buffer_(kRoom)
+Stage::Stage(Cast cast, uint32_t thread, bool alone) : cast_(cast), alone_(alone), buffer_(kRoom)
 {
     RegisterForm(FormProc);
     for (HWND& form : forms_) {
@@ -141,7 +163,7 @@ Stage::Stage(Cast cast, bool visible, bool alone) : cast_(cast), buffer_(kRoom)
             CreateWindowExA(0, kFormClass, "form", WS_POPUP, 20, 20, 400, 200, nullptr, nullptr, Instance(), nullptr);
         SetWindowLongPtrA(form, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     }
-    if (visible)
+    if (thread == 0)
         ShowWindow(Form(), SW_SHOWNA);
     const HINSTANCE library = GetModuleHandleA("ztedit050.dll");
     bystanders_[0] = CreateChild(Form(), "button", WS_VISIBLE, {40, 20}, 100, Instance(), nullptr);
@@ -150,11 +172,11 @@ Stage::Stage(Cast cast, bool visible, bool alone) : cast_(cast), buffer_(kRoom)
     bystanders_[3] = CreateChild(Form(), "spin", 0, {40, 20}, 103, library, nullptr);
     constexpr int kHeights[] = {1, 8, 16, 24, 40};
     for (size_t i = 0; i < sizeof fonts_ / sizeof *fonts_; ++i)
-        fonts_[i] = CreateFontA(kHeights[i], 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, "Arial");
+        fonts_[i] = CreateFontA(kHeights[i] + static_cast<int>(thread), 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, "Arial");
     memoryDc_ = CreateCompatibleDC(nullptr);
     bitmap_ = CreateBitmap(64, 64, 1, 32, nullptr);
     formerBitmap_ = SelectObject(memoryDc_, bitmap_);
-    if (alone)
+    if (alone_)
         LoseObjects();
     heap_ = SharedHeapCreate();
 }
@@ -226,10 +248,11 @@ int Stage::SlotOf(HWND hwnd) const
     return -1;
 }
 
+// On two threads each has fonts of its own; see MakeInTurn.
 HFONT Stage::Font(uint32_t number) const
 {
     Random random(number);
-    if (random.OneIn(8))
+    if (alone_ && random.OneIn(8))
         return random.OneIn(2) ? goneFont_ : nullptr;
     return random.Of(fonts_);
 }
@@ -262,8 +285,25 @@ HWND Stage::CreateWindowOf(const Op& op, void* params, bool byClass) const
     return CreateChild(parent, name, StyleOf(op.c >> 4), SizeOf(op.c >> 8), op.slot + 1, Instance(), params);
 }
 
-// By class with the configuration, by class and configured later, by subclassing, and without any configuration.
 void Stage::Make(const Op& op)
+{
+    if (alone_)
+        MakeControl(op);
+    else
+        MakeInTurn(op);
+}
+
+// Some systems keep the shapes of a font's characters for all threads together, unguarded, so that two edit controls of one font which
+// are drawn at once end the program. A new control draws with the font of all; nobody else makes one until it has its own.
+void Stage::MakeInTurn(const Op& op)
+{
+    const Turn turn;
+    MakeControl(op);
+    SendMessageA(controls_[op.slot], WM_SETFONT, reinterpret_cast<WPARAM>(Font(op.b)), FALSE);
+}
+
+// By class with the configuration, by class and configured later, by subclassing, and without any configuration.
+void Stage::MakeControl(const Op& op)
 {
     DestroyWindow(controls_[op.slot]);
     EditInitParams params = Params(op);

@@ -34,7 +34,7 @@ struct Reaction {
 
 class Stage {
 public:
-    Stage(Cast cast, bool visible, bool alone);
+    Stage(Cast cast, uint32_t thread, bool alone);
     Stage(const Stage&) = delete;
     Stage& operator=(const Stage&) = delete;
     ~Stage();
@@ -50,6 +50,7 @@ public:
     int SlotOf(HWND hwnd) const;
     SharedHeap Heap() const { return heap_; }
     bool IsMasked() const { return cast_ == Cast::Masked; }
+    bool IsAlone() const { return alone_; }  // no other thread has a stage
     HFONT Font(uint32_t number) const;
     HDC MemoryDc() const { return memoryDc_; }
     HDC Dc(uint32_t number) const;  // or one that is gone, or none at all
@@ -80,12 +81,15 @@ private:
     static constexpr uintptr_t kNoObject = 0x7ABC;
 
     void LoseObjects();
+    void MakeControl(const Op& op);
+    void MakeInTurn(const Op& op);
     static LRESULT CALLBACK FormProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
     static LRESULT CALLBACK HostProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
     void OnTrigger(Trigger::Way way, UINT code, HWND control);
     HWND CreateWindowOf(const Op& op, void* params, bool byClass) const;
 
     Cast cast_;
+    bool alone_;
     HWND forms_[2] = {};
     HWND controls_[kSlots] = {};
     HWND bystanders_[4] = {};

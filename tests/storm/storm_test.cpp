@@ -79,6 +79,14 @@ TEST(Storm, OverPlainEditsIsTheMeasure)
         std::printf("A plain edit: %s\n", finding.c_str());
 }
 
+TEST(Storm, OnTwoThreadsOverPlainEditsIsTheMeasure)
+{
+    const Tour tour = TravelWith(Cast::Plain, kThreads, 8);
+    EXPECT_GT(tour.played, 0u);
+    for (const std::string& finding : tour.findings)
+        std::printf("A plain edit: %s\n", finding.c_str());
+}
+
 TEST(Storm, OnTwoThreadsAtOnceIsSurvived)
 {
     ExpectNothingFound(TravelWith(Cast::Masked, kThreads, 8));
