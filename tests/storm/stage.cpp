@@ -172,7 +172,8 @@ Stage::Stage(Cast cast, uint32_t thread, bool alone) : cast_(cast), alone_(alone
     bystanders_[3] = CreateChild(Form(), "spin", 0, {40, 20}, 103, library, nullptr);
     constexpr int kHeights[] = {1, 8, 16, 24, 40};
     for (size_t i = 0; i < sizeof fonts_ / sizeof *fonts_; ++i)
-        fonts_[i] = CreateFontA(kHeights[i] + static_cast<int>(thread), 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, "Arial");
+        fonts_[i] = CreateFontA(kHeights[i] + static_cast<int>(thread), 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0,
+                                0, 0, "Arial");
     memoryDc_ = CreateCompatibleDC(nullptr);
     bitmap_ = CreateBitmap(64, 64, 1, 32, nullptr);
     formerBitmap_ = SelectObject(memoryDc_, bitmap_);
