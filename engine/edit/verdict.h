@@ -27,7 +27,7 @@ struct Verdict {
     static constexpr int32_t kRoom = 10;  // as in the record: 9 characters and a terminator
 
     bool accepted = false;
-    bool padded = false;    // a padded digit or the rest of a month name: two or more positions at once
+    bool padded = false;  // a padded digit or the rest of a month name: two or more positions at once
     Char placed[kRoom] = {};
 
     static Verdict Refused() { return {}; }

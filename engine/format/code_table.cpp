@@ -80,7 +80,8 @@ private:
     void Store(Char* CodeTableEntry::*member)
     {
         table_ = GrowFor(edit_, table_, index_);
-        FreeBlock(edit_, table_->Entries()[index_].*member);  // behind a second tab the entry shows what stood before that one
+        FreeBlock(edit_,
+                  table_->Entries()[index_].*member);  // behind a second tab the entry shows what stood before that one
         table_->Entries()[index_].*member = Duplicate(edit_, part_);
         table_->count = static_cast<int16_t>(index_ + 1);
         part_.clear();

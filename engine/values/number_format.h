@@ -31,7 +31,7 @@ struct FormatShape {
     int32_t forcedInteger = 0;   // integer digits that are always shown
     int32_t fractionPlaces = 0;  // placeholders behind the point
     int32_t forcedFraction = 0;  // fraction digits that are always shown
-    int32_t room = 0;  // characters that the format has before the point, without literals before the number
+    int32_t room = 0;            // characters that the format has before the point, without literals before the number
     int32_t literalsInside = 0;  // of these, literals
     bool point = false;
     bool grouped = false;

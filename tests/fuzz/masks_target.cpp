@@ -79,7 +79,7 @@ void PlayMasks(const uint8_t* data, size_t size)
     Bytes bytes(data, size);
     const zte::Settings& settings = RegionalSettings(bytes.Take());
     const auto type = static_cast<int32_t>(bytes.TakeBelow(8));
-    const Text mask = bytes.TakeRest();
+    const Text mask = bytes.TakeRest().substr(0, zte::kMaxMaskLength + 1);  // no more of a mask is looked at
     zte::FieldLayout layout{};
     const zte::ChosenMask chosen = zte::ChooseMask(mask, type, settings, layout);
     CountStep();

@@ -124,10 +124,22 @@ bool HasZeroField(const EditInstance& edit, const Text& text, zte::FieldKind kin
     return false;
 }
 
+// Free text beside the fields of a date or time is no part of the value.
+bool HasFreeText(const EditInstance& edit, const Text& text)
+{
+    const auto isFree = [](zte::FieldKind kind) {
+        return kind == zte::FieldKind::Any || kind == zte::FieldKind::UpperCase || kind == zte::FieldKind::LowerCase;
+    };
+    for (int32_t at = 0; at < zte::Length(text); ++at)
+        if (isFree(zte::PositionOf(edit, text, at).kind) && zte::At(text, at) != ' ')
+            return true;
+    return false;
+}
+
 bool IsWholeDateOrTime(const EditInstance& edit, const Text& text)
 {
     DateTimeValue value;
-    return zte::IsDateOrTime(edit.dataType) && zte::ReadDisplayText(edit, text, value) &&
+    return zte::IsDateOrTime(edit.dataType) && zte::ReadDisplayText(edit, text, value) && !HasFreeText(edit, text) &&
            !HasZeroField(edit, text, zte::FieldKind::Day) && !HasZeroField(edit, text, zte::FieldKind::Month) &&
            !(zte::HasAmPmField(edit) && HasZeroField(edit, text, zte::FieldKind::Hour));
 }
