@@ -53,7 +53,7 @@ report()
     coverage=$(grep -ao 'cov: [0-9]*' "$log" | tail -1 | tr -dc 0-9)
     total=$(sed -n 's/^INFO: Loaded 1 modules *(\([0-9]*\) .*/\1/p' "$log")
     printf '%-15s %12d %14d %12s %9s %6d/%d   %s\n' "$target" "${executions:-0}" "${steps:-0}" "${seconds:-?}" \
-        "$(awk -v s="${steps:-0}" -v t="${seconds:-1}" 'BEGIN { printf "%d", t > 0 ? s / t : 0 }')" \
+        "$(awk -v s="${steps:-0}" -v t="${seconds:-1}" 'BEGIN { printf "%d", (t > 0 ? s / t : 0) }')" \
         "${coverage:-0}" "${total:-0}" "$([ "$result" -eq 0 ] && echo none || echo "FOUND, see $log")"
 }
 
