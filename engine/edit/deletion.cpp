@@ -16,7 +16,7 @@ namespace {
 Text BlankOf(EditInstance& edit, Selection selection)
 {
     Text blank = FormatValue(edit, nullptr).text;
-    if (HasAmPmField(edit) && ShownHalf(edit, blank)) {
+    if (HasAmPmField(edit)) {
         const Text text = edit.field->ReadText();
         const int32_t marker = edit.table->ampmPosition;
         blank.replace(static_cast<size_t>(marker), static_cast<size_t>(AmPmWidth(edit, blank)),

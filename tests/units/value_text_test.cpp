@@ -101,6 +101,7 @@ const NumberCase kNumberRows[] = {
     {"Empty",         "",      0,     0    },
     {"SignAlone",     "-",     0,     0    },
     {"Exponent",      "1e3",   1000,  1000 },
+    {"BehindAPoint",  "1.e-2", 0.01,  0.01 },
 };
 INSTANTIATE_TEST_SUITE_P(, NumberTexts, testing::ValuesIn(kNumberRows), RowName<NumberCase>);
 
