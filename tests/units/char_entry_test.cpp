@@ -64,7 +64,7 @@ const EntryRow kEntries[] = {
     {"OnALiteralBehindTheFirstFieldIsRefused", kPhoneMask,     "(555|) 123",       '1',  "(555|) 123",       1},
     {"BeforeTheFirstFieldBeginsIt",            kPhoneMask,     "|(555) 123",       '1',  "(1|55) 123",       0},
     {"BehindTheLastIsDropped",                 kPhoneMask,     "(555) 123|",       '1',  "(555) 123|",       0},
-    {"AHalfAtTheEndIsTheMarkersWhateverTheMaskBeginsWith", {"X HH:MM AM/PM", DT_TIME}, "x 02:30 PM|", 'a', "x 02:30 AM|", 0},
+    {"AHalfAtTheEndIsTheMarkersWhateverTheMaskBeginsWith", {"X AM/PM HH:MM", DT_TIME}, "x PM 02:30|", 'a', "x AM |02:30", 0},
     {"TheSecondLetterOfAMonthNameIsNotPadded", {"DD-MMM-YYYY", DT_DATE}, "04-1|07-1995", '-', "04-107-|1995", 0},
     {"TheThirdLetterOfAMonthNameIsNotPadded",  {"DD-MMM-YYYY", DT_DATE}, "04-01|7-1995", '-', "04-017-|1995", 0},
     {"AMaskThatShowsNothingRefusesEverything", {"~", kUnknownType},      "|",            'x', "|",            1},
@@ -102,6 +102,17 @@ TEST(MonthNames, AreTheOnlySettingsSearched)
     spied.Show("|DEC-04-1995 02:30 PM");
     spied.Type("J");
     EXPECT_EQ(spied.Shown(), "J|AN-04-1995 02:30 PM");
+}
+
+// Of the mask before, where the code table shows a text that no mask was asked for.
+TEST(FirstField, ThatIsALiteralByNowIsPassed)
+{
+    Spied spied({"##((##", DT_STRING});
+    spied.Show("12|((34");
+    spied.Record().firstFieldPos = 3;
+    spied.Type("5");
+    EXPECT_EQ(spied.Shown(), "12((|34");
+    EXPECT_EQ(spied.Beeps(), 0);
 }
 
 TEST(LiteralsPassed, AreTypedNoMoreOnceASelectionGaveWay)
@@ -233,6 +244,11 @@ TEST(Verdicts, AreGivenByTheFieldAndWhatStandsInIt)
         {"MM/DD/YYYY", DT_DATE, "02/29/1996", 9, '5', nullptr, false},
         {"MM/DD/YYYY", DT_DATE, "02/29/1904", 9, '0', "0", false},  // the year meant is taken for 1940 ...
         {"MM/DD/YYYY", DT_DATE, "02/29/1900", 9, '4', "4", false},  // ... and for 1904
+        // the month, and the name of one, with a day from outside that no month has
+        {"DD/MM/YY", DT_DATE, "99/10/95", 3, '0', "0", false},
+        {"DD/MM/YY", DT_DATE, "99/01/95", 4, '1', "",  false},
+        {"DD/MM/YY", DT_DATE, "99/10/95", 4, '5', nullptr, false},
+        {"DD-MMM-YYYY", DT_DATE, "99-JAN-1995", 3, 'J', "", false},
         // the day
         {"MM/DD/YY", DT_DATE, "00/00/00", 3, '3', "3",  false},
         {"MM/DD/YY", DT_DATE, "00/01/00", 3, '3', "3",  false},

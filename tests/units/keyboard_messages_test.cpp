@@ -442,8 +442,8 @@ TEST(CodeText, IsNotPickedFromWhereTheTableIsNotShown)
 
 TEST(CodeText, IsTypedIntoAsItStandsWhereThereIsNoTable)
 {
-    Spied spied({"##", DT_STRING, nullptr, ZTEO_SPIN | ZTEO_CODE_DISPLAY});
-    SetData(spied.Record(), FromAscii("12").c_str());
+    Spied spied({"MM/DD/YY", DT_DATE, nullptr, ZTEO_SPIN | ZTEO_CODE_DISPLAY});
+    SetData(spied.Record(), nullptr);
     ASSERT_EQ(spied.Shown(), "|");
     ASSERT_TRUE(Has(spied.Record(), SPUN));
     spied.Type("1");
@@ -455,6 +455,7 @@ TEST(SteppedValue, IsOneUnderAControlCharacterToo)
 {
     Spied spied({"MM/DD/YY", DT_DATE, nullptr, ZTEO_SPIN});
     spied.Control().Step(true);
+    spied.Control().Select(0, 0);
     spied.Type("\x05");
     EXPECT_TRUE(Has(spied.Record(), SPUN));
     spied.Type("1");

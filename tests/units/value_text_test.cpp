@@ -105,6 +105,11 @@ const NumberCase kNumberRows[] = {
 };
 INSTANTIATE_TEST_SUITE_P(, NumberTexts, testing::ValuesIn(kNumberRows), RowName<NumberCase>);
 
+TEST(SmallNumbers, HaveNoExponentBehindABlank)
+{
+    EXPECT_EQ(NumberFromPlainText(("0." + std::string(400, '0') + "1e 900").c_str()), 0.0);
+}
+
 TEST(PlainPoint, StandsForTheRegionalCharacter)
 {
     const Regional settings(kGerman);
