@@ -1,6 +1,7 @@
 // Key and character messages one by one, in orders that no keyboard sends too: the reply, and what is asked of the field.
 #include <gtest/gtest.h>
 
+#include "engine/edit/deletion.h"
 #include "engine/edit/keyboard.h"
 #include "tests/units/field_spy.h"
 
@@ -276,6 +277,16 @@ TEST(HalfOfTheDay, StaysUnderADeletionThoughTheOtherHalfHasNoName)
     spied.Show("[02:30 PM]");
     spied.Control().KeyDown(KEY_DELETE);
     EXPECT_EQ(spied.Shown(), "|00:00 PM");
+}
+
+TEST(HalfOfTheDay, IsNotLookedForInTheEntryOfACodeTableForNoValue)
+{
+    for (const char* entry : {"none", "no time at all"}) {
+        Spied spied({"HH:MM AM/PM", DT_TIME, (std::string(entry) + "\tnull!").c_str(), ZTEO_SPIN | ZTEO_CODE_DISPLAY});
+        spied.Show("[02:30 PM]");
+        EXPECT_TRUE(DeleteSelection(spied.Record(), {0, 8}));
+        EXPECT_EQ(spied.Shown(), "|" + std::string(entry).substr(0, 8));
+    }
 }
 
 // ---- cutting
