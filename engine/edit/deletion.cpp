@@ -12,11 +12,12 @@ namespace zte {
 
 namespace {
 
-// What the selected positions show when nothing is typed there. The AM/PM field stays: it has no blank.
+// What the selected positions show when nothing is typed there. The AM/PM field stays: it has no blank. A code table may have an entry
+// for no value, which is no display of fields.
 Text BlankOf(EditInstance& edit, Selection selection)
 {
     Text blank = FormatValue(edit, nullptr).text;
-    if (HasAmPmField(edit) && ShownHalf(edit, blank)) {
+    if (HasAmPmField(edit) && !Has(edit, CODE_POSITIONED)) {
         const Text text = edit.field->ReadText();
         const int32_t marker = edit.table->ampmPosition;
         blank.replace(static_cast<size_t>(marker), static_cast<size_t>(AmPmWidth(edit, blank)),

@@ -201,6 +201,10 @@ TEST(FieldInMemoryForTheEngine, ClicksOutsideOfTheTextAreBroughtIntoIt)
     field.DoubleClick(99);
     EXPECT_EQ(field.Anchor(), 3);
     EXPECT_EQ(field.Caret(), 5);
+    field.SetText(zte::FromAscii("ab cd  ").c_str());
+    field.DoubleClick(99);
+    EXPECT_EQ(field.Anchor(), 3);
+    EXPECT_EQ(field.Caret(), 7);
 }
 
 }  // namespace

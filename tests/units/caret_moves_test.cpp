@@ -101,6 +101,16 @@ TEST(CaretMove, WithShiftButAnotherKeyTellsThatTheFieldIsFull)
     EXPECT_EQ(spied.Spy().Count("Full"), 1);
 }
 
+TEST(CaretMove, OverATextFromOutsideIsNoLongerThanAMask)
+{
+    Spied spied({"#,##0", DT_NUMBER});
+    spied.Edit().SetText((FromAscii("1") + Text(300, 'x') + FromAscii("2")).c_str());
+    spied.Control().Select(1, 1);
+    spied.Spy().Forget();
+    MoveCaret(spied.Record(), KEY_RIGHT, kData, false);
+    EXPECT_EQ(spied.Spy().Calls(), Calls{"Right x255 data 5"});
+}
+
 TEST(FullField, IsToldUnlessShiftAndRightAreHeld)
 {
     for (const bool shift : {false, true})

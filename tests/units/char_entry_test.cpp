@@ -43,6 +43,7 @@ TEST_P(CharEntry, Leaves)
 
 constexpr SpiedSetup kNameFirst = {"MMM-DD-YYYY HH:MM AM/PM", DT_DATETIME};
 constexpr SpiedSetup kPhoneMask = {"(###) ###", DT_STRING};
+constexpr int32_t kUnknownType = 9;  // takes any mask
 
 // clang-format off
 const EntryRow kEntries[] = {
@@ -63,6 +64,11 @@ const EntryRow kEntries[] = {
     {"OnALiteralBehindTheFirstFieldIsRefused", kPhoneMask,     "(555|) 123",       '1',  "(555|) 123",       1},
     {"BeforeTheFirstFieldBeginsIt",            kPhoneMask,     "|(555) 123",       '1',  "(1|55) 123",       0},
     {"BehindTheLastIsDropped",                 kPhoneMask,     "(555) 123|",       '1',  "(555) 123|",       0},
+    {"AHalfAtTheEndIsTheMarkersWhateverTheMaskBeginsWith", {"X AM/PM HH:MM", DT_TIME}, "x PM 02:30|", 'a', "x AM |02:30", 0},
+    {"TheSecondLetterOfAMonthNameIsNotPadded", {"DD-MMM-YYYY", DT_DATE}, "04-1|07-1995", '-', "04-107-|1995", 0},
+    {"TheThirdLetterOfAMonthNameIsNotPadded",  {"DD-MMM-YYYY", DT_DATE}, "04-01|7-1995", '-', "04-017-|1995", 0},
+    {"AMaskThatShowsNothingRefusesEverything", {"~", kUnknownType},      "|",            'x', "|",            1},
+    {"BeforeALeadingMarkerTheCaretGoesThere",  {"(AM/PM HH:MM)", DT_TIME}, "|(AM 02:30)", '5', "(|AM 02:30)", 0},
 };
 // clang-format on
 INSTANTIATE_TEST_SUITE_P(Rows, CharEntry, testing::ValuesIn(kEntries),
@@ -75,6 +81,49 @@ TEST(MonthNames, WithADoubleLetterInFrontLeaveTheCaretOnTheirSecond)
     spied.Show("|JUL-04-1995 02:30 PM");
     spied.Type("S");
     EXPECT_EQ(spied.Shown(), "S|SX-04-1995 02:30 PM");
+}
+
+TEST(MonthNames, ThatBeginAlikeAreNotLookedThroughAtTheThirdLetter)
+{
+    Spied spied({"DD-MMM-YYYY", DT_DATE});
+    Assign(spied.Regional().monthNames[5], FromAscii("JUIN"));
+    Assign(spied.Regional().monthNames[6], FromAscii("JUIL"));
+    spied.Show("31-JU|X-1995");
+    spied.Type("I");
+    EXPECT_EQ(spied.Shown(), "31-JU|X-1995") << "swallowed by June, which July does not stand in for";
+    EXPECT_EQ(spied.Beeps(), 0);
+}
+
+TEST(MonthNames, AreTheOnlySettingsSearched)
+{
+    Spied spied(kNameFirst);
+    Assign(spied.Regional().shortDate, Text(99, 'J'));
+    Assign(spied.Regional().timeSeparator, Text(9, 'J'));
+    spied.Show("|DEC-04-1995 02:30 PM");
+    spied.Type("J");
+    EXPECT_EQ(spied.Shown(), "J|AN-04-1995 02:30 PM");
+}
+
+// Of the mask before, where the code table shows a text that no mask was asked for.
+TEST(FirstField, ThatIsALiteralByNowIsPassed)
+{
+    Spied spied({"##((##", DT_STRING});
+    spied.Show("12|((34");
+    spied.Record().firstFieldPos = 3;
+    spied.Type("5");
+    EXPECT_EQ(spied.Shown(), "12((|34");
+    EXPECT_EQ(spied.Beeps(), 0);
+}
+
+TEST(LiteralsPassed, AreTypedNoMoreOnceASelectionGaveWay)
+{
+    Spied spied(kDateMask);
+    spied.Show("|01/04/95");
+    spied.Type("07");
+    ASSERT_EQ(spied.Shown(), "07/|04/95");
+    spied.Edit().SetSelection(3, 5);
+    spied.Type("/");
+    EXPECT_EQ(spied.Shown(), "07/00/|95");
 }
 
 // ---- what is asked of the field
@@ -193,6 +242,13 @@ TEST(Verdicts, AreGivenByTheFieldAndWhatStandsInIt)
         {"MM/DD/YY",   DT_DATE, "02/29/96", 6, '5', "5", false},  // not completed yet
         {"MM/DD/YYYY", DT_DATE, "02/29/1996", 7, '8', "8", false},
         {"MM/DD/YYYY", DT_DATE, "02/29/1996", 9, '5', nullptr, false},
+        {"MM/DD/YYYY", DT_DATE, "02/29/1904", 9, '0', "0", false},  // the year meant is taken for 1940 ...
+        {"MM/DD/YYYY", DT_DATE, "02/29/1900", 9, '4', "4", false},  // ... and for 1904
+        // the month, and the name of one, with a day from outside that no month has
+        {"DD/MM/YY", DT_DATE, "99/10/95", 3, '0', "0", false},
+        {"DD/MM/YY", DT_DATE, "99/01/95", 4, '1', "",  false},
+        {"DD/MM/YY", DT_DATE, "99/10/95", 4, '5', nullptr, false},
+        {"DD-MMM-YYYY", DT_DATE, "99-JAN-1995", 3, 'J', "", false},
         // the day
         {"MM/DD/YY", DT_DATE, "00/00/00", 3, '3', "3",  false},
         {"MM/DD/YY", DT_DATE, "00/01/00", 3, '3', "3",  false},

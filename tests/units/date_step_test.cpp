@@ -66,6 +66,7 @@ const StepRow kFieldSteps[] = {
     {"ADayOfTheYearAlone", DT_DATETIME, F::DayOfYear, kUp, "", "", kNow, "1995-07-05 13:14:15:160000", kStepped},
     {"AnHourAlone",       DT_DATETIME, F::Hour,      kUp, "", "", kNow, "1995-07-04 14:14:15:160000", kStepped},
     {"AMinuteAlone",      DT_DATETIME, F::Minute,    kUp, "", "", kNow, "1995-07-04 13:15:15:160000", kStepped},
+    {"AMinuteAloneDown",  DT_DATETIME, F::Minute,    kDown, "", "", kNow, "1995-07-04 13:13:15:160000", kStepped},
     {"ASecondAlone",      DT_DATETIME, F::Second,    kUp, "", "", kNow, "1995-07-04 13:14:16:160000", kStepped},
     {"AFractionAlone",    DT_DATETIME, F::Fraction,  kUp, "", "", kNow, "1995-07-04 13:14:15:170000", kStepped},
     {"AYearAlone",        DT_DATETIME, F::Year,      kDown, "", "", kNow, "1994-07-04 13:14:15:160000", kStepped},

@@ -195,6 +195,24 @@ TEST_F(FormatEdges, AMaskWithoutAYearLeavesTheDigitsOfTheLastOne)
     EXPECT_EQ(record.yearDigits, 4);
 }
 
+// What is no keyword within the characters of a mask, and one more, is none.
+TEST_F(FormatEdges, AKeywordIsNoLongerThanAMask)
+{
+    EditInstance& record = Make("0", DT_NUMBER);
+    const Text longest = FromAscii("[currency") + Text(244, ' ') + FromAscii("(9)");
+    EXPECT_EQ(SetMask(record, longest.c_str(), DT_NUMBER), 1);
+    EXPECT_EQ(Text(record.mask), FromAscii("$#,###,###.00"));
+    const Text longer = FromAscii("[currency") + Text(245, ' ') + FromAscii("(9)");
+    EXPECT_EQ(SetMask(record, longer.c_str(), DT_NUMBER), 0);
+    EXPECT_EQ(Text(record.mask), FromAscii("#,#.00"));
+}
+
+TEST_F(FormatEdges, AnUnknownTypeIsNoPlainEdit)
+{
+    Make("", kUnknownType);
+    EXPECT_EQ(Changes(), 1) << "it tells its empty text, new as it is";
+}
+
 // ---- Displays ----
 
 struct FlagsCase {
@@ -241,6 +259,12 @@ TEST_F(FormatEdges, AStringWithoutAMaskBeginsAtTheStart)
 TEST_F(FormatEdges, ATildeAtTheEndShowsNothing)
 {
     EXPECT_EQ(FormatValue(Make("##~", DT_STRING), FromAscii("12").c_str()).text, FromAscii("12"));
+    EXPECT_EQ(FormatValue(MakeUnchecked("##~", DT_STRING), FromAscii("12").c_str()).text, FromAscii("12"));
+}
+
+TEST_F(FormatEdges, AnUnknownTypeWithoutAValueShowsBlanks)
+{
+    EXPECT_EQ(FormatValue(Make("XX", kUnknownType), nullptr).text, FromAscii("  "));
 }
 
 TEST_F(FormatEdges, ADateWithoutAMaskShowsNothing)
@@ -350,6 +374,14 @@ TEST_F(FormatEdges, ADateIsNotLookedUpAsAText)
     EXPECT_EQ(FormatValue(record, &kNoon).text, FromAscii("07/04/95"));
 }
 
+TEST_F(FormatEdges, ADateThatIsSetIsNotLookedUpAsAText)
+{
+    DateTimeValue value = kNoon;
+    value.microsecond = 'R';
+    SetData(MakeCoded("MM/DD/YY", DT_DATE, "Red\tR"), &value);
+    EXPECT_EQ(Shown(), FromAscii("07/04/95"));
+}
+
 TEST_F(FormatEdges, ADateIsReadByTheEntryShown)
 {
     EditInstance& record = MakeCoded("MM/DD/YYYY", DT_DATE, "Independence\t1776-07-04");
@@ -401,6 +433,15 @@ TEST_F(FormatEdges, ACodeTableGrowsWithItsEntries)
         ASSERT_NE(display, nullptr) << i;
         EXPECT_EQ(Text(display), FromAscii(("Entry" + std::to_string(i)).c_str()));
     }
+}
+
+TEST_F(FormatEdges, ACodeTableHoldsNoMoreEntriesThanItsRecordCanCount)
+{
+    constexpr int kMost = 32767 - 51;  // and room to grow once more
+    std::string codes;
+    for (int i = 0; i < kMost + 100; ++i)
+        codes += "x/";
+    EXPECT_EQ(MakeCoded("", DT_STRING, codes.c_str()).codeTable->count, kMost);
 }
 
 TEST_F(FormatEdges, ACodeTableWithoutEntriesIsEmpty)
@@ -464,6 +505,20 @@ TEST_F(FormatEdges, AnEscapedLiteralIsOnePositionUnlessToldOtherwise)
     EXPECT_EQ(value.month, 6);
     EXPECT_TRUE(ReadDisplayText(record, FromAscii("1995X08"), value));
     EXPECT_EQ(value.month, 7);
+}
+
+// Behind a mask without escapes its first position goes on.
+TEST_F(FormatEdges, ATextIsReadAsFarAsAMaskReachesAndOneCharacterMore)
+{
+    const EditInstance& record = MakeUnchecked("FHH", DT_TIME);
+    DateTimeValue value = kNoon;
+    Text text(300, '0');
+    text.replace(253, 4, FromAscii("3456"));
+    EXPECT_TRUE(ReadFields(record, text, value));
+    EXPECT_EQ(value.microsecond, 500000u);
+    text.resize(255);
+    EXPECT_TRUE(ReadFields(record, text, value));
+    EXPECT_EQ(value.microsecond, 400000u);
 }
 
 struct PossibleCase {
@@ -560,6 +615,7 @@ const NumberTextCase kNumberTextRows[] = {
     {"APercentage",                  "#,##0%",    "1,250%",    "12.5"    },
     {"ZeroPercentHasNoSign",         "#0%",       "-0%",       "0"       },
     {"APercentageWithoutItsBlank",   "#0 %",      "12%",       "0.12"    },
+    {"APercentageWithoutItsBlankBehindALiteral", "~T #0 %", "T 12%", "0.12" },
     {"APercentageUnderAnotherMask",  "#0",        "12%",       "12%"     },
 };
 INSTANTIATE_TEST_SUITE_P(Rows, NumberGiven, testing::ValuesIn(kNumberTextRows),
@@ -617,6 +673,13 @@ TEST_F(FormatEdges, ANumberAndNothingElse)
     const EditInstance& number = Make("#,##0", DT_NUMBER);
     EXPECT_TRUE(IsNumberOf(number, FromAscii("1234")));
     EXPECT_FALSE(IsNumberOf(number, FromAscii("1,234")));
+}
+
+TEST_F(FormatEdges, WithoutAMaskANumberIsReadAsItStands)
+{
+    EditInstance& record = Make("#,##0", DT_NUMBER);
+    DropMask(record);
+    EXPECT_EQ(PlainNumberOf(record, FromAscii("1,234")), FromAscii("1,234"));
 }
 
 TEST_F(FormatEdges, WithoutAMaskThereIsNoExponent)

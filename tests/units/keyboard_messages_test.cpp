@@ -1,6 +1,7 @@
 // Key and character messages one by one, in orders that no keyboard sends too: the reply, and what is asked of the field.
 #include <gtest/gtest.h>
 
+#include "engine/edit/deletion.h"
 #include "engine/edit/keyboard.h"
 #include "tests/units/field_spy.h"
 
@@ -269,6 +270,25 @@ TEST(BackspaceKey, InAReadOnlyControlDoesNothing)
     EXPECT_EQ(spied.Shown(), "07/[04]/95");
 }
 
+TEST(HalfOfTheDay, StaysUnderADeletionThoughTheOtherHalfHasNoName)
+{
+    Spied spied({"HH:MM AM/PM", DT_TIME});
+    Assign(spied.Regional().amString, Text());
+    spied.Show("[02:30 PM]");
+    spied.Control().KeyDown(KEY_DELETE);
+    EXPECT_EQ(spied.Shown(), "|00:00 PM");
+}
+
+TEST(HalfOfTheDay, IsNotLookedForInTheEntryOfACodeTableForNoValue)
+{
+    for (const char* entry : {"none", "no time at all"}) {
+        Spied spied({"HH:MM AM/PM", DT_TIME, (std::string(entry) + "\tnull!").c_str(), ZTEO_SPIN | ZTEO_CODE_DISPLAY});
+        spied.Show("[02:30 PM]");
+        EXPECT_TRUE(DeleteSelection(spied.Record(), {0, 8}));
+        EXPECT_EQ(spied.Shown(), "|" + std::string(entry).substr(0, 8));
+    }
+}
+
 // ---- cutting
 
 TEST(Cutting, CopiesFromAReadOnlyControlByItsOwnKeyOnly)
@@ -429,6 +449,39 @@ TEST(CodeText, IsNotPickedFromWhereTheTableIsNotShown)
     spied.Show("|     ");
     spied.Type("G");
     EXPECT_EQ(spied.Shown(), "G|    ");
+}
+
+TEST(CodeText, IsTypedIntoAsItStandsWhereThereIsNoTable)
+{
+    Spied spied({"MM/DD/YY", DT_DATE, nullptr, ZTEO_SPIN | ZTEO_CODE_DISPLAY});
+    SetData(spied.Record(), nullptr);
+    ASSERT_EQ(spied.Shown(), "|");
+    ASSERT_TRUE(Has(spied.Record(), SPUN));
+    spied.Type("1");
+    EXPECT_EQ(spied.Shown(), "1|");
+    EXPECT_FALSE(Has(spied.Record(), SPUN));
+}
+
+TEST(SteppedValue, IsOneUnderAControlCharacterToo)
+{
+    Spied spied({"MM/DD/YY", DT_DATE, nullptr, ZTEO_SPIN});
+    spied.Control().Step(true);
+    spied.Control().Select(0, 0);
+    spied.Type("\x05");
+    EXPECT_TRUE(Has(spied.Record(), SPUN));
+    spied.Type("1");
+    EXPECT_FALSE(Has(spied.Record(), SPUN));
+}
+
+// A step of a type that is none leaves drawing off.
+TEST(SteppedValue, OfAnUnknownTypeIsDrawnAgainWithAnyCharacter)
+{
+    Spied spied({"XX", 9, nullptr, ZTEO_SPIN});
+    spied.Control().Step(true);
+    ASSERT_EQ(spied.Edit().Count(FieldEvent::RedrawOff), 1);
+    ASSERT_EQ(spied.Edit().Count(FieldEvent::RedrawOn), 0);
+    spied.Type("\x05");
+    EXPECT_EQ(spied.Edit().Count(FieldEvent::RedrawOn), 1);
 }
 
 TEST(SpinKey, PaintsTheSpinAnew)

@@ -4,6 +4,8 @@
 
 #include "engine/edit/numeric_entry.h"
 #include "engine/edit/paste.h"
+#include "engine/format/mask_setting.h"
+#include "engine/mask/mask_table.h"
 #include "tests/units/field_spy.h"
 
 namespace zttest {
@@ -56,6 +58,7 @@ const EntryRow kKeys[] = {
     {"AShortLiteralBeforeTheSymbol",        "~T$#,#.00",     "T$|.00",   "$5",     "T$5|.00",   0},
     {"ALiteralThatIsNoSymbol",              "~T~ ~x#,#.00",  "T x|.00",  "x",      "T x|.00",   1},
     {"ADashBeginsTheNumber",                "~-~x#,#.00",    "-x|.00",   "-",      "-x-|.00",   0},
+    {"ADashFromTheFrontBeginsIt",           "~-~x#,#.00",    "|-x.00",   "-",      "-x-|.00",   0},
     {"APointBeginsTheNumber",               "~.~x#,#.00",    ".x|.00",   ".",      ".x.|00",    0},
     {"APointFromTheFrontBeginsIt",          "~.~x#,#.00",    "|.x.00",   ".",      ".x.|00",    0},
     {"ALiteralDigitIsSpelledBehindAnother", "~A~1#,#.00",    "|A1.00",   "A1",     "A1|.00",    0},
@@ -63,9 +66,11 @@ const EntryRow kKeys[] = {
     // what stands at the caret is passed
     {"NothingAtTheEndIsNotPassed",          "####",          "|",        "\x1e",   "|",         1},
     {"ThePointIsPassedAsItStands",          "#,##0.00",      "007|.50",  ".",      "007.|50",   0},
+    {"ThePointOfAShortFractionIsPassed",    "#,##0.00",      "12|.5",    ".",      "12.|5",     0},
     {"ASecondPointIsNone",                  "#,##0.00",      "1.2|.3",   ".",      "1.2|3",     1},
     // digits
     {"AZeroWhereNoneIsShownGoesToThePoint", "~x.00",         "|x.00",    "0",      "x|.00",     0},
+    {"AZeroBehindTheLiteralsGoesToTheNumber", ".00%",        "5%|",      "0",      "5|%",       0},
     {"TypedOverALiteralTheLastDigitFallsOff", "#,##0.00",    "12.[x]56", "7",      "12.7|5",    0},
     {"ASeparatorTakesRoom",                 "#,##.00",       "|.00",     "1234",   "123.4|0",   0},
     {"BehindAFullNumberDigitsAreDropped",   "#,##0.00",      "1.23|",    "4",      "1.23|",     0},
@@ -92,6 +97,17 @@ TEST(NumberKeys, ASymbolThatBeginsWithThePointIsThePoint)
     EXPECT_EQ(spied.Shown(), "T.-.|00");
 }
 
+TEST(NumberKeys, APointThatBeginsTheSymbolBehindTheNumberIsPassed)
+{
+    Spied spied({"0", DT_NUMBER});
+    Assign(spied.Regional().currencySymbol, FromAscii(".-"));
+    spied.Regional().currencyPosition = 1;
+    ASSERT_EQ(SetMask(spied.Record(), FromAscii("[currency(5)]").c_str(), DT_NUMBER), 1);
+    spied.Show("12.50|.-");
+    spied.Type(".");
+    EXPECT_EQ(spied.Shown(), "12.50.|-");
+}
+
 TEST(NumberKeys, ANulIsNoCharacterOfTheEnd)
 {
     Spied spied({"####", DT_NUMBER});
@@ -109,6 +125,19 @@ TEST(NumberKeys, WhatTheFieldItselfSelectsIsTypedOverFromTheStart)
     spied.Type("T $5");
     EXPECT_EQ(spied.Shown(), "T $5|.00");
     EXPECT_EQ(spied.Beeps(), 0);
+}
+
+// The longest number that is one, and one digit more.
+TEST(NumberKeys, ChangeNumbersOfUpTo254Digits)
+{
+    for (const size_t digits : {254, 255}) {
+        Spied spied({"###0.00", DT_NUMBER});
+        const Text integer(digits - 2, '1');
+        spied.Edit().SetText((integer + FromAscii(".23")).c_str());
+        spied.Control().Select(static_cast<int32_t>(digits) - 1, static_cast<int32_t>(digits) - 1);
+        spied.Type("7");
+        EXPECT_EQ(spied.Edit().ReadText(), integer + FromAscii(digits == 254 ? ".73" : ".23"));
+    }
 }
 
 // ---- deletion
@@ -209,6 +238,21 @@ TEST(NumberCompletion, LeavesAllButAMinusBeforeNothingAlone)
         spied.Control().LoseFocus();
         EXPECT_EQ(spied.Spy().Calls(), Calls{}) << shown;
     }
+    for (const char* shown : {"-|0", "-|", "|-", "-0|."}) {
+        Spied general({"[GENERAL]", DT_NUMBER});
+        general.Show(shown);
+        general.Control().LoseFocus();
+        EXPECT_EQ(general.Shown(), shown) << "nobody has typed it";
+    }
+    Spied text({"-##", DT_STRING});
+    text.Show("-|  ");
+    text.Control().LoseFocus();
+    EXPECT_EQ(text.Shown(), "-|  ");
+    Spied maskless({"#,##0.00", DT_NUMBER});
+    DropMask(maskless.Record());
+    maskless.Show("-0|.00");
+    maskless.Control().LoseFocus();
+    EXPECT_EQ(maskless.Shown(), "-0|.00");
     Spied negative({"#,##0.00", DT_NUMBER});
     negative.Show("-0|.00");
     negative.Control().LoseFocus();
@@ -229,6 +273,15 @@ TEST(PasteResult, TellsWhetherTheTextWasTaken)
     spied.Edit().SetReadOnly(true);
     EXPECT_FALSE(PasteClipboard(spied.Record()));
     EXPECT_EQ(spied.Edit().ReadText(), FromAscii("12.00"));
+}
+
+TEST(PasteResult, IsNothingWhereNoMaskEverWas)
+{
+    Spied spied({"", DT_STRING});
+    DropMask(spied.Record());
+    spied.Edit().SetClipboard(FromAscii("12"));
+    EXPECT_FALSE(PasteClipboard(spied.Record()));
+    EXPECT_FALSE(spied.Edit().IsModified());
 }
 
 TEST(PlainEditWithASpin, IsNoMoreSpunOnceACharacterIsTyped)

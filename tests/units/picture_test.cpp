@@ -165,6 +165,12 @@ TEST_P(SmallRoom, HoldsTheStartOfTheMask)
 
 INSTANTIATE_TEST_SUITE_P(, SmallRoom, testing::Range(0, 39));
 
+TEST(PictureRoom, TellsOfAnUnclosedQuoteOnlyWhereItFits)
+{
+    EXPECT_EQ(Convert("'bcegi", 6).status, PictureStatus::Unclosed);
+    EXPECT_EQ(Convert("'bcegi", 5).status, PictureStatus::DoesNotFit);
+}
+
 TEST(PictureRoom, AnErrorInThePictureIsNotHiddenByRoomLeft)
 {
     EXPECT_EQ(Convert("yyy", 255).status, PictureStatus::BadYear);

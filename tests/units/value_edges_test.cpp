@@ -93,6 +93,17 @@ TEST(MonthNames, ThatAreNoneAreMinusOne)
     EXPECT_EQ(MonthByPrefix(settings, "d", 11), 11);
 }
 
+TEST(MonthNames, AreTheTwelveAlone)
+{
+    Settings settings = StandardSettings();
+    const Text before(21, 'J');  // what ends the settings in front of the names, as a name would read it
+    Assign(settings.shortDate, Text(99, 'J'));
+    Assign(settings.timeSeparator, Text(9, 'J'));
+    Assign(settings.monthNames[0], before);
+    EXPECT_EQ(MonthFromName(settings, before), 0);
+    EXPECT_EQ(MonthName(settings, -1), "");
+}
+
 // ---- Lists ----------------------------------------------------------------------------------------------------------
 
 class Cursor : public testing::Test {
@@ -210,6 +221,13 @@ TEST(DecimalComparison, TellsMinusOneZeroOrOne)
     EXPECT_EQ(decimal::Compare(NumberOf("1.5"), NumberOf("-20")), 1);
     EXPECT_EQ(decimal::Compare(NumberOf("-20"), NumberOf("1.5")), -1);
     EXPECT_EQ(decimal::Compare(NumberOf("1.0"), NumberOf("1.00")), 0);
+}
+
+TEST(DecimalZero, WithMoreZerosThanADecimalHasPlacesHasNone)
+{
+    decimal::Number zero;
+    zero.scale = -50;
+    EXPECT_EQ(decimal::Pack(zero).scale, 0);
 }
 
 TEST(DecimalSign, IsTheHighestBitAlone)

@@ -101,8 +101,14 @@ const NumberCase kNumberRows[] = {
     {"Empty",         "",      0,     0    },
     {"SignAlone",     "-",     0,     0    },
     {"Exponent",      "1e3",   1000,  1000 },
+    {"BehindAPoint",  "1.e-2", 0.01,  0.01 },
 };
 INSTANTIATE_TEST_SUITE_P(, NumberTexts, testing::ValuesIn(kNumberRows), RowName<NumberCase>);
+
+TEST(SmallNumbers, HaveNoExponentBehindABlank)
+{
+    EXPECT_EQ(NumberFromPlainText(("0." + std::string(400, '0') + "1e 900").c_str()), 0.0);
+}
 
 TEST(PlainPoint, StandsForTheRegionalCharacter)
 {
