@@ -1,5 +1,20 @@
 # zt_add_library: one of the three DLLs, from the sources of some folders.
 
+# zt_read_windows_once(<target>): the system's header, which takes longer to read than most files to compile, is read once for all targets of
+# this. The second compiler reads it in every file, so that each names what it needs.
+function(zt_read_windows_once target)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+        return()
+    endif()
+    get_property(reader GLOBAL PROPERTY zt_windows_reader)
+    if(reader)
+        target_precompile_headers(${target} REUSE_FROM ${reader})
+    else()
+        target_precompile_headers(${target} PRIVATE <windows.h>)
+        set_property(GLOBAL PROPERTY zt_windows_reader ${target})
+    endif()
+endfunction()
+
 # zt_add_library(<name> FOLDERS <folder>... [STATIC <static library>...] LINK <library>...)
 #
 # Makes of the folders' sources
@@ -21,6 +36,7 @@ function(zt_add_library name)
     endforeach()
     add_library(${name}_objects OBJECT ${sources})
     target_link_libraries(${name}_objects PUBLIC zt_build_flags)
+    zt_read_windows_once(${name}_objects)
 
     set(import_library ${CMAKE_ARCHIVE_OUTPUT_DIRECTORY}/lib${name}.dll.a)
     add_custom_command(
