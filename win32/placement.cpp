@@ -10,16 +10,16 @@ namespace zte {
 
 namespace {
 
-void Invalidate(HWND hwnd)
-{
-    InvalidateRect(hwnd, nullptr, TRUE);
-}
-
 bool IsEmptyWindow(HWND hwnd)
 {
     RECT rect{};
     GetWindowRect(hwnd, &rect);
     return rect.right <= rect.left || rect.bottom <= rect.top;
+}
+
+bool IsShown(HWND spin)
+{
+    return (GetWindowLongA(spin, GWL_STYLE) & WS_VISIBLE) != 0 && !IsEmptyWindow(spin);
 }
 
 // The spin sits flush right inside the client area, as high as it.
@@ -60,23 +60,15 @@ Reply OnSize(EditInstance& edit, WPARAM wParam, LPARAM lParam)
     return PassOnAndKeepTextOffSpin(edit, WM_SIZE, wParam, lParam);
 }
 
-Reply OnFocus(EditInstance& edit)
-{
-    if (edit.hwndSpin)
-        Invalidate(SpinOf(edit));
-    return kPassOn;
-}
-
-// A spin that came with ZTE_Init has seen no WM_SIZE yet; the first paint places it.
+// A spin that came with ZTE_Init has seen no WM_SIZE yet; the first paint places it. One that somebody has hidden is shown again. What the
+// base paints never reaches a spin that is there: its window is painted when the system finds it touched.
 Reply OnPaint(EditInstance& edit)
 {
-    if (!edit.hwndSpin)
+    if (!edit.hwndSpin || IsShown(SpinOf(edit)))
         return kPassOn;
     if (IsEmptyWindow(SpinOf(edit)))
         PlaceSpin(edit);
     ShowWindow(SpinOf(edit), SW_SHOW);
-    Invalidate(SpinOf(edit));
-    UpdateWindow(SpinOf(edit));
     return kPassOn;
 }
 

@@ -5,7 +5,6 @@
 #include <initializer_list>
 
 #include "tests/support/live/spin_window_test.h"
-#include "tests/support/live/import_patch.h"
 
 namespace zttest {
 namespace {
@@ -431,61 +430,33 @@ TEST_F(SpinPaint, TheCountOfObjectsSeesOneLeftBehind)
     DeleteObject(left);
 }
 
-// ---- Objects that cannot be had, and odd rectangles
-
-HBITMAP WINAPI NoBitmap(HDC, int, int)
-{
-    return nullptr;
-}
-HDC WINAPI NoContext(HDC)
-{
-    return nullptr;
-}
-HPEN WINAPI NoPen(int, int, COLORREF)
-{
-    return nullptr;
-}
-HBRUSH WINAPI NoBrush(COLORREF)
-{
-    return nullptr;
-}
-
-struct MissingObject {
-    const char* name;
-    const char* function;
-    void* replacement;
-};
-void PrintTo(const MissingObject& row, std::ostream* out)
-{
-    *out << row.name;
-}
-
-class SpinPaintWithout : public SpinPaint, public testing::WithParamInterface<MissingObject> {};
-
-TEST_P(SpinPaintWithout, GoesOnWithTheArrows)
+TEST_F(SpinPaint, TheContextKeepsItsColoursAndItsDrawingMode)
 {
     const RECT rect = RectOfHeight(20);
-    ZTE_SetSpinBkColor(Window(), RGB(1, 2, 3));
-    const HGDIOBJ pen = GetCurrentObject(canvas_.dc(), OBJ_PEN);
-    {
-        const ImportPatch missing("gdi32.dll", GetParam().function, GetParam().replacement);
-        Paint(rect);
-        EXPECT_EQ(canvas_.At(46, 12), kBlack);  // the two apexes
-        EXPECT_EQ(canvas_.At(46, 25), kBlack);
-        ZTE_PaintSpinOnce(&rect, canvas_.dc());
-        EXPECT_EQ(canvas_.At(45, 12), kBlack);
-        EXPECT_EQ(canvas_.At(45, 25), kBlack);
-    }
-    EXPECT_EQ(GetCurrentObject(canvas_.dc(), OBJ_PEN), pen);
+    SetDCPenColor(canvas_.dc(), RGB(1, 2, 3));
+    SetDCBrushColor(canvas_.dc(), RGB(4, 5, 6));
+    SetROP2(canvas_.dc(), R2_NOT);
+    ZTE_SetSpinBkColor(Window(), RGB(7, 8, 9));
+    Paint(rect);
+    ZTE_PaintSpinOnce(&rect, canvas_.dc());
+    Paint(RectOfHeight(5));  // a face without room for its edges is clipped
+    EXPECT_EQ(GetDCPenColor(canvas_.dc()), RGB(1, 2, 3));
+    EXPECT_EQ(GetDCBrushColor(canvas_.dc()), RGB(4, 5, 6));
+    EXPECT_EQ(GetROP2(canvas_.dc()), R2_NOT);
+    RECT clip{};
+    GetClipBox(canvas_.dc(), &clip);
+    EXPECT_EQ(clip.bottom, kSide);
 }
 
-const MissingObject kMissing[] = {
-    {"Bitmaps",  "CreateCompatibleBitmap", reinterpret_cast<void*>(NoBitmap) },
-    {"Contexts", "CreateCompatibleDC",     reinterpret_cast<void*>(NoContext)},
-    {"Pens",     "CreatePen",              reinterpret_cast<void*>(NoPen)    },
-    {"Brushes",  "CreateSolidBrush",       reinterpret_cast<void*>(NoBrush)  },
-};
-INSTANTIATE_TEST_SUITE_P(Objects, SpinPaintWithout, testing::ValuesIn(kMissing), RowName<MissingObject>);
+TEST_F(SpinPaint, IsTheSamePictureInAnyDrawingMode)
+{
+    const RECT rect = RectOfHeight(20);
+    SetROP2(canvas_.dc(), R2_NOT);
+    Paint(rect);
+    Expected picture(kSide, kSide);
+    DrawSpin(picture, rect, Pressed::None);
+    EXPECT_EQ(Difference(canvas_, picture), "");
+}
 
 TEST_F(SpinPaint, OddRectanglesAndContextsAreHarmless)
 {
