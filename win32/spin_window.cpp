@@ -245,6 +245,8 @@ LRESULT CALLBACK ZTE_SpinWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 {
     if (message == WM_CREATE)
         return OnCreate(hwnd, reinterpret_cast<const CREATESTRUCTA*>(lParam));
+    if (message == WM_NCPAINT)  // there is no frame; the system would ask for a context first, and then see that
+        return 0;
     EditInstance* edit = IsRouted(message) ? GetEditInstance(hwnd) : nullptr;
     if (edit && WhileAlive(*edit, true, [&] { return Route(hwnd, *edit, message, wParam, lParam); }))
         return 0;

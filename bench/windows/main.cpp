@@ -87,6 +87,11 @@ void Count(const Operation& operation)
             PlayBurst(side, operation.burst);
             Mark("end");
         }
+        if (!side.window)
+            continue;
+        char shown[64] = "";
+        GetWindowTextA(static_cast<HWND>(side.window), shown, sizeof shown);
+        std::printf("%s, %s: %s\n", operation.name.c_str(), side.name.c_str(), shown);
     }
 }
 

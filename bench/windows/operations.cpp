@@ -28,7 +28,7 @@ Side Typing(const std::string& name, HWND window, const std::string& keys, bool 
         TypeKey(window, keys[static_cast<size_t>(number) % keys.size()]);
         Paint(window);
     };
-    return {name, prepare, play};
+    return {name, prepare, play, window};
 }
 
 // A picker has no start of the text: its keys go into the field of the date that has them last.
@@ -52,7 +52,7 @@ Side Stepping(const std::string& name, HWND window, const std::function<void()>&
         PressKey(window, VK_UP);
         Paint(window);
     };
-    return {name, prepare, play};
+    return {name, prepare, play, window};
 }
 
 Side Plain(const std::string& name, const std::function<void(int)>& play)
@@ -203,7 +203,7 @@ double BytesPerControl(Make&& make)
 std::vector<Operation> MakeOperations(Form& form)
 {
     const std::string dateKeys = "07041995";
-    const std::string numberKeys = "1234567.89";
+    const std::string numberKeys = "123.45";
     return {SpinPainting(form),
             Keys(form, "date key, hidden", kDateMask, DT_DATE, dateKeys, Visibility::Hidden),
             Keys(form, "date key, visible", kDateMask, DT_DATE, dateKeys, Visibility::Visible),

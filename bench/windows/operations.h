@@ -13,6 +13,7 @@ struct Side {
     std::string name;
     std::function<void()> prepare;
     std::function<void(int number)> play;
+    void* window = nullptr;  // that is played on; its text tells whether what was typed has been taken
 };
 
 struct Operation {
