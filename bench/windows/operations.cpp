@@ -108,25 +108,32 @@ Operation DateStep(const Form& form)
     };
 }
 
-Operation SpinPainting(const Form& form)
+constexpr RECT kSpinPlace = {700, 500, 716, 524};
+
+// Both halves as the system draws such buttons.
+Side SystemButtons(const std::shared_ptr<std::remove_pointer_t<HDC>>& dc)
+{
+    return Plain("DrawFrameControl x 2", [dc](int) {
+        RECT upper = kSpinPlace;
+        RECT lower = kSpinPlace;
+        upper.bottom = lower.top = (kSpinPlace.top + kSpinPlace.bottom) / 2;
+        DrawFrameControl(dc.get(), &upper, DFC_SCROLL, DFCS_SCROLLUP);
+        DrawFrameControl(dc.get(), &lower, DFC_SCROLL, DFCS_SCROLLDOWN);
+    });
+}
+
+// The spin of a control, which is looked up for it, and a spin without one.
+std::vector<Operation> SpinPainting(const Form& form)
 {
     const HWND control = form.MakeControl("##0", DT_NUMBER, Visibility::Visible, ZTEO_SPIN);
     const std::shared_ptr<std::remove_pointer_t<HDC>> dc(GetDC(form.Window()),
                                                          [&form](HDC gone) { ReleaseDC(form.Window(), gone); });
+    const auto ofControl = [control, dc](int) { ZTE_PaintSpin(control, dc.get(), &kSpinPlace); };
+    const auto once = [dc](int) { ZTE_PaintSpinOnce(&kSpinPlace, dc.get()); };
+    constexpr int kBurst = 50;
     return {
-        "spin painted",
-        50,
-        {Plain("control",
-          [control, dc](int) {
-                   const RECT rect = {700, 500, 716, 524};
-                   ZTE_PaintSpin(control, dc.get(), &rect);
-               }),
-          Plain("DrawFrameControl x 2", [dc](int) {
-             RECT upper = {700, 500, 716, 512};
-             RECT lower = {700, 512, 716, 524};
-             DrawFrameControl(dc.get(), &upper, DFC_SCROLL, DFCS_SCROLLUP);
-             DrawFrameControl(dc.get(), &lower, DFC_SCROLL, DFCS_SCROLLDOWN);
-         })}
+        {"spin painted",                   kBurst, {Plain("control", ofControl), SystemButtons(dc)}},
+        {"spin painted without a control", kBurst, {Plain("control", once), SystemButtons(dc)}     }
     };
 }
 
@@ -204,20 +211,23 @@ std::vector<Operation> MakeOperations(Form& form)
 {
     const std::string dateKeys = "07041995";
     const std::string numberKeys = "123.45";
-    return {SpinPainting(form),
-            Keys(form, "date key, hidden", kDateMask, DT_DATE, dateKeys, Visibility::Hidden),
-            Keys(form, "date key, visible", kDateMask, DT_DATE, dateKeys, Visibility::Visible),
-            Keys(form, "date key, visible, with spin", kDateMask, DT_DATE, dateKeys, Visibility::Visible, ZTEO_SPIN),
-            Keys(form, "string key, hidden", kPhoneMask, DT_STRING, "5551234567", Visibility::Hidden),
-            Keys(form, "string key, visible", kPhoneMask, DT_STRING, "5551234567", Visibility::Visible),
-            Keys(form, "number key, hidden", kNumberMask, DT_NUMBER, numberKeys, Visibility::Hidden),
-            Keys(form, "number key, visible", kNumberMask, DT_NUMBER, numberKeys, Visibility::Visible),
-            NumberStep(form, "number step, visible", DT_NUMBER),
-            NumberStep(form, "decimal step, visible", DT_DECIMAL),
-            DateStep(form),
-            Lives(form, "create and destroy", 0),
-            Lives(form, "create and destroy, with spin", ZTEO_SPIN),
-            SetAndGet(form)};
+    std::vector<Operation> operations = SpinPainting(form);
+    const std::vector<Operation> others = {
+        Keys(form, "date key, hidden", kDateMask, DT_DATE, dateKeys, Visibility::Hidden),
+        Keys(form, "date key, visible", kDateMask, DT_DATE, dateKeys, Visibility::Visible),
+        Keys(form, "date key, visible, with spin", kDateMask, DT_DATE, dateKeys, Visibility::Visible, ZTEO_SPIN),
+        Keys(form, "string key, hidden", kPhoneMask, DT_STRING, "5551234567", Visibility::Hidden),
+        Keys(form, "string key, visible", kPhoneMask, DT_STRING, "5551234567", Visibility::Visible),
+        Keys(form, "number key, hidden", kNumberMask, DT_NUMBER, numberKeys, Visibility::Hidden),
+        Keys(form, "number key, visible", kNumberMask, DT_NUMBER, numberKeys, Visibility::Visible),
+        NumberStep(form, "number step, visible", DT_NUMBER),
+        NumberStep(form, "decimal step, visible", DT_DECIMAL),
+        DateStep(form),
+        Lives(form, "create and destroy", 0),
+        Lives(form, "create and destroy, with spin", ZTEO_SPIN),
+        SetAndGet(form)};
+    operations.insert(operations.end(), others.begin(), others.end());
+    return operations;
 }
 
 HeapBytes MeasureHeap(Form& form)
