@@ -2,6 +2,7 @@
 #include "win32/mouse.h"
 
 #include "engine/edit/click.h"
+#include "win32/placement.h"
 #include "win32/standard_field.h"
 
 namespace zte {
@@ -9,7 +10,7 @@ namespace zte {
 Reply OnButtonDown(EditInstance& edit)
 {
     ForgetPassed(edit);
-    return kPassOn;
+    return OnFocus(edit);
 }
 
 // Where nothing is corrected the base sees the release a second time; it is used to that.

@@ -60,8 +60,16 @@ Reply OnSize(EditInstance& edit, WPARAM wParam, LPARAM lParam)
     return PassOnAndKeepTextOffSpin(edit, WM_SIZE, wParam, lParam);
 }
 
-// A spin that came with ZTE_Init has seen no WM_SIZE yet; the first paint places it. One that somebody has hidden is shown again. What the
-// base paints never reaches a spin that is there: its window is painted when the system finds it touched.
+// The base may paint itself whole in these messages, without asking for what lies over it.
+Reply OnFocus(EditInstance& edit)
+{
+    if (edit.hwndSpin)
+        InvalidateRect(SpinOf(edit), nullptr, TRUE);
+    return kPassOn;
+}
+
+// A spin that came with ZTE_Init has seen no WM_SIZE yet; the first paint places it. One that somebody has hidden is shown again. All
+// else that a paint of the base touches the system has found touched itself.
 Reply OnPaint(EditInstance& edit)
 {
     if (!edit.hwndSpin || IsShown(SpinOf(edit)))

@@ -9,6 +9,7 @@ namespace zte {
 
 Reply OnMove(EditInstance& edit);
 Reply OnSize(EditInstance& edit, WPARAM wParam, LPARAM lParam);
+Reply OnFocus(EditInstance& edit);
 Reply OnPaint(EditInstance& edit);
 Reply OnSetFont(EditInstance& edit, WPARAM wParam, LPARAM lParam);
 

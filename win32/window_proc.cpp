@@ -24,7 +24,7 @@ Reply OnPaste(EditInstance& edit)
 Reply OnKillFocus(EditInstance& edit)
 {
     OnFocusLost(edit);
-    return kPassOn;
+    return OnFocus(edit);
 }
 
 Reply OnTextSet(EditInstance& edit)
@@ -71,6 +71,7 @@ bool Dispatch(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, Handler&& h
     switch (message) {
     case WM_MOVE: return handle([](EditInstance& edit) { return OnMove(edit); });
     case WM_SIZE: return handle([=](EditInstance& edit) { return OnSize(edit, wParam, lParam); });
+    case WM_SETFOCUS: return handle([](EditInstance& edit) { return OnFocus(edit); });
     case WM_KILLFOCUS: return handle([](EditInstance& edit) { return OnKillFocus(edit); });
     case WM_PAINT: return handle([](EditInstance& edit) { return OnPaint(edit); });
     case WM_SETFONT: return handle([=](EditInstance& edit) { return OnSetFont(edit, wParam, lParam); });

@@ -349,26 +349,130 @@ TEST_F(SpinPaint, WithoutARectangleItIsTheSpinsOwn)
     EXPECT_EQ(Difference(canvas_, picture), "");
 }
 
-TEST_F(SpinPaint, TheWindowShowsWhatItPaints)
+// A control with its spin on a form that is shown.
+class ShownSpin : public testing::Test {
+protected:
+    ShownSpin()
+    {
+        ZTE_CreateSpin(Edit());
+        spin_ = GetWindow(Edit(), GW_CHILD);
+        PaintAll();
+    }
+
+    HWND Edit() const { return control_.hwnd(); }
+    HWND Spin() const { return spin_; }
+    void PaintAll() const { RedrawWindow(Edit(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); }
+
+    // What stands on the screen where the spin is, against the picture of an unpressed one; "" when all is as it should be.
+    std::string Wrong() const
+    {
+        RECT client{};
+        GetClientRect(spin_, &client);
+        const HDC dc = GetDC(spin_);
+        const Canvas copy(static_cast<int>(client.right), static_cast<int>(client.bottom));
+        BitBlt(copy.dc(), 0, 0, copy.width(), copy.height(), dc, 0, 0, SRCCOPY);
+        ReleaseDC(spin_, dc);
+        Expected picture(copy.width(), copy.height());
+        picture.Fill(client, RGB(255, 255, 255));  // of the window class
+        DrawSpin(picture, client, Pressed::None);
+        return Difference(copy, picture);
+    }
+
+private:
+    static Config Number()
+    {
+        Config config;
+        config.mask = "##0";
+        config.type = DT_NUMBER;
+        return config;
+    }
+
+    Form form_{true};
+    Control control_{form_.hwnd(), 3, Number()};
+    HWND spin_ = nullptr;
+};
+
+TEST_F(ShownSpin, ShowsWhatItPaints)
 {
-    const Form shown(true);
-    Config config;
-    config.mask = "##0";
-    config.type = DT_NUMBER;
-    const Control control(shown.hwnd(), 3, config);
-    ZTE_CreateSpin(control.hwnd());
-    const HWND spin = GetWindow(control.hwnd(), GW_CHILD);
-    RECT client{};
-    GetClientRect(spin, &client);
-    RedrawWindow(control.hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    const HDC dc = GetDC(spin);
-    const Canvas copy(static_cast<int>(client.right), static_cast<int>(client.bottom));
-    BitBlt(copy.dc(), 0, 0, copy.width(), copy.height(), dc, 0, 0, SRCCOPY);
-    ReleaseDC(spin, dc);
-    Expected picture(copy.width(), copy.height());
-    picture.Fill(client, RGB(255, 255, 255));  // of the window class
-    DrawSpin(picture, client, Pressed::None);
-    EXPECT_EQ(Difference(copy, picture), "");
+    RedrawWindow(Edit(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    EXPECT_EQ(Wrong(), "");
+}
+
+void Nothing(HWND, HWND) {}
+void TypeADigit(HWND edit, HWND)
+{
+    SendMessageA(edit, EM_SETSEL, 0, 0);
+    SendMessageA(edit, WM_CHAR, '5', 1);
+}
+void StepUp(HWND edit, HWND)
+{
+    SendMessageA(edit, WM_KEYDOWN, VK_UP, 1);
+    SendMessageA(edit, WM_KEYUP, VK_UP, 1);
+}
+void GiveAndTakeTheFocus(HWND edit, HWND)
+{
+    SetFocus(edit);
+    SetFocus(GetParent(edit));
+}
+void SetAText(HWND edit, HWND)
+{
+    SetWindowTextA(edit, "123");
+}
+void PressAndRelease(HWND, HWND spin)
+{
+    SendMessageA(spin, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    UpdateWindow(spin);
+    SendMessageA(spin, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+}
+void HideIt(HWND edit, HWND spin)
+{
+    SendMessageA(spin, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(edit, nullptr, TRUE);
+}
+void PaintItFirst(HWND edit, HWND spin)
+{
+    InvalidateRect(edit, nullptr, TRUE);
+    UpdateWindow(spin);
+}
+void CoverAndUncoverIt(HWND edit, HWND)
+{
+    const HWND cover = CreateWindowExA(0, "static", "over it", WS_CHILD | WS_VISIBLE, 0, 0, 400, 200, GetParent(edit),
+                                       nullptr, nullptr, nullptr);
+    SetWindowPos(cover, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    UpdateWindow(cover);
+    DestroyWindow(cover);
+}
+void Enable(HWND edit, HWND)
+{
+    EnableWindow(edit, FALSE);
+    EnableWindow(edit, TRUE);
+}
+
+struct Happening {
+    const char* name;
+    void (*happen)(HWND edit, HWND spin);
+};
+constexpr Happening kHappenings[] = {
+    {"Nothing",        Nothing            },
+    {"ADigit",         TypeADigit         },
+    {"AStep",          StepUp             },
+    {"TheFocus",       GiveAndTakeTheFocus},
+    {"AText",          SetAText           },
+    {"APress",         PressAndRelease    },
+    {"Hiding",         HideIt             },
+    {"ItsOwnPaint",    PaintItFirst       },
+    {"AnotherWindow",  CoverAndUncoverIt  },
+    {"BeingDisabled",  Enable             },
+};
+
+// All on one form: showing a window takes the system its time.
+TEST_F(ShownSpin, LooksTheSameWhateverHappens)
+{
+    for (const Happening& row : kHappenings) {
+        row.happen(Edit(), Spin());
+        PaintAll();
+        EXPECT_EQ(Wrong(), "") << row.name;
+    }
 }
 
 TEST_F(SpinPaint, FacesAreNotKeptBetweenPaints)
