@@ -1,21 +1,13 @@
 #!/bin/bash
-# Measures the engine on this machine: times by Google Benchmark, and instructions per key as callgrind counts them, which are
-# the same in every run, so that a change can be compared exactly.
-# Usage: ./bench.sh [--native]
+# Measures what the library costs.
+# Usage: ./bench.sh [x86 | x64]   on live windows under Wine, of both architectures or of one: the median time of an operation, what it is
+#                                 of a plain edit's and of the system's own control's, measured in turns in one process, and the round
+#                                 trips to the window server
+#        ./bench.sh --native      the engine on this machine: times by Google Benchmark, and instructions per key as callgrind counts them,
+#                                 which are the same in every run, so that a change can be compared exactly
 set -euo pipefail
-cd "$(dirname "$0")"
-case ${1:---native} in
---native) ;;
-*)
-    echo "usage: ./bench.sh [--native]" >&2
-    exit 2
-    ;;
-esac
-
-tools/install_deps.sh --bench
-tools/build.sh native-release
-program=build/native-release/bin/keystrokes
-"$program" --benchmark_min_time=0.2
+root=$(cd "$(dirname "$0")" && pwd)
+cd "$root"
 
 instructions()
 {
@@ -23,10 +15,78 @@ instructions()
         sed -n 's/^==.*refs: *//p' | tr -d ,
 }
 
-printf '\n%-12s %18s\n' "case" "instructions a key"
-for name in date month_name time string number decimal; do
-    keys=$("$program" --play "$name" 0)
-    few=$(instructions "$name" 100)
-    many=$(instructions "$name" 1100)
-    printf '%-12s %18d\n' "$name" $(((many - few) / (1000 * keys)))
-done
+measure_engine()
+{
+    local name keys few many
+    tools/install_deps.sh --bench
+    tools/build.sh native-release
+    program=build/native-release/bin/keystrokes
+    "$program" --benchmark_min_time=0.2
+    printf '\n%-12s %18s\n' "case" "instructions a key"
+    for name in date month_name time string number decimal; do
+        keys=$("$program" --play "$name" 0)
+        few=$(instructions "$name" 100)
+        many=$(instructions "$name" 1100)
+        printf '%-12s %18d\n' "$name" $(((many - few) / (1000 * keys)))
+    done
+}
+
+# Requests between the marks of a trace, a line for each side of each operation.
+count_round_trips()
+{
+    awk -F'|' '
+        /open_mutex\(.*round-trips begin/ {
+            split($1, word, ":")
+            thread = word[1]
+            side = $2 "|" $3
+            plays[side] += $4
+            counting = 1
+            next
+        }
+        /open_mutex\(.*round-trips end/ { counting = 0 }
+        counting && index($0, thread ": ") == 1 && /^[0-9a-f]+: [a-z_]+\(/ && !/\(\) = / { requests[side]++ }
+        END { for (side in plays) printf "%s|%.1f\n", side, requests[side] / plays[side] }' "$1"
+}
+
+# One architecture, in a Wine prefix and on a display of its own.
+measure_windows()
+{
+    local preset=$1 trace=build/bench-$1.trace times=build/bench-$1.times counts=build/bench-$1.counts
+    ZT_WINEPREFIX=$root/build/wineprefix-$preset
+    . tools/wine_session.sh
+    start_wine_session new-display
+    wine "build/$preset/bin/window_costs.exe" </dev/null 2>/dev/null | tr -d '\r' >"$times"
+    # The server writes its trace to the standard error of the program that started it, so it is started anew by this one.
+    wineserver -k || true
+    wineserver -w || true
+    WINEDEBUG=+server wine "build/$preset/bin/window_costs.exe" --count </dev/null 2>"$trace" >/dev/null
+    wineserver -k || true
+    count_round_trips "$trace" >"$counts"
+    rm -f "$trace"
+    printf '\n=== %s ===\n%-32s %-20s %10s %8s %8s\n' "$preset" operation of microseconds ratio trips
+    awk -F'|' '
+        FNR == NR { trips[$1 "|" $2] = $3; next }
+        $1 == "time" {
+            first = $2 != before
+            before = $2
+            printf "%-32s %-20s %10.1f %8s %8s\n", first ? $2 : "", $3, $4, first ? "" : $5, trips[$2 "|" $3]
+        }
+        $1 == "heap" { printf "%-32s control %s, edit %s, ratio %s\n", "heap bytes", $2, $3, $4 }' "$counts" "$times"
+}
+
+case ${1:-both} in
+--native) measure_engine ;;
+x86 | x64 | both)
+    tools/install_deps.sh
+    presets=${1:-both}
+    [ "$presets" = both ] && presets="x86 x64"
+    for preset in $presets; do
+        tools/build.sh "$preset" window_costs
+        (measure_windows "$preset")
+    done
+    ;;
+*)
+    echo "usage: ./bench.sh [x86 | x64 | --native]" >&2
+    exit 2
+    ;;
+esac

@@ -10,16 +10,16 @@ namespace zte {
 
 namespace {
 
-void Invalidate(HWND hwnd)
-{
-    InvalidateRect(hwnd, nullptr, TRUE);
-}
-
 bool IsEmptyWindow(HWND hwnd)
 {
     RECT rect{};
     GetWindowRect(hwnd, &rect);
     return rect.right <= rect.left || rect.bottom <= rect.top;
+}
+
+bool IsShown(HWND spin)
+{
+    return (GetWindowLongA(spin, GWL_STYLE) & WS_VISIBLE) != 0 && !IsEmptyWindow(spin);
 }
 
 // The spin sits flush right inside the client area, as high as it.
@@ -60,23 +60,23 @@ Reply OnSize(EditInstance& edit, WPARAM wParam, LPARAM lParam)
     return PassOnAndKeepTextOffSpin(edit, WM_SIZE, wParam, lParam);
 }
 
+// The base may paint itself whole in these messages, without asking for what lies over it.
 Reply OnFocus(EditInstance& edit)
 {
     if (edit.hwndSpin)
-        Invalidate(SpinOf(edit));
+        InvalidateRect(SpinOf(edit), nullptr, TRUE);
     return kPassOn;
 }
 
-// A spin that came with ZTE_Init has seen no WM_SIZE yet; the first paint places it.
+// A spin that came with ZTE_Init has seen no WM_SIZE yet; the first paint places it. One that somebody has hidden is shown again. All
+// else that a paint of the base touches the system has found touched itself.
 Reply OnPaint(EditInstance& edit)
 {
-    if (!edit.hwndSpin)
+    if (!edit.hwndSpin || IsShown(SpinOf(edit)))
         return kPassOn;
     if (IsEmptyWindow(SpinOf(edit)))
         PlaceSpin(edit);
     ShowWindow(SpinOf(edit), SW_SHOW);
-    Invalidate(SpinOf(edit));
-    UpdateWindow(SpinOf(edit));
     return kPassOn;
 }
 

@@ -8,6 +8,7 @@
 #include "engine/spin/spin_settings.h"
 #include "win32/heap_watch.h"
 #include "win32/life_guard.h"
+#include "win32/open_deletion.h"
 #include "win32/regional_settings.h"
 #include "win32/spin_layout.h"
 #include "win32/spin_window.h"
@@ -118,6 +119,7 @@ void FreeRecord(HWND hwnd, EditInstance& edit)
 {
     LifeGuard::TellAll(FieldOf(edit));
     UnwatchHeap(edit.heap, ControlOf(edit).heapEnd);
+    ForgetDeletion(edit);
     DestroyCodeTable(edit);
     DetachEditInstance(hwnd);
     SharedHeapFree(edit.heap, &edit);

@@ -1,4 +1,4 @@
-// Painting of the spin: two button faces, raised or sunken, with an arrow each.
+// Painting of the spin: two button faces, raised or sunken, with an arrow each, drawn straight into the context.
 #include <algorithm>
 #include <array>
 #include <initializer_list>
@@ -13,6 +13,7 @@ namespace zte {
 namespace {
 
 constexpr COLORREF kFaceColour = RGB(192, 192, 192);  // fixed, not a system colour
+constexpr COLORREF kBlack = RGB(0, 0, 0);
 
 // The measures of a spin painted into a rectangle; pixels.
 struct SpinMeasures {
@@ -41,77 +42,150 @@ SpinMeasures Measure(const RECT& rect)
     return {rect, height, ButtonWidth(height), half, rect.top + half + (height & 1)};
 }
 
-void DrawPolyline(HDC dc, std::initializer_list<POINT> points)
-{
-    Polyline(dc, points.begin(), static_cast<int>(points.size()));
-}
+// The colours of a context's own pen and brush, and plain drawing whatever a host has set; all put back at the end. Nothing is created.
+class DrawingTools {
+public:
+    explicit DrawingTools(HDC dc)
+        : dc_(dc),
+          pen_(dc, GetStockObject(DC_PEN)),
+          brush_(dc, GetStockObject(DC_BRUSH)),
+          penColour_(GetDCPenColor(dc)),
+          brushColour_(GetDCBrushColor(dc)),
+          mode_(SetROP2(dc, R2_COPYPEN))
+    {
+    }
+    DrawingTools(const DrawingTools&) = delete;
+    DrawingTools& operator=(const DrawingTools&) = delete;
+    ~DrawingTools()
+    {
+        SetDCPenColor(dc_, penColour_);
+        SetDCBrushColor(dc_, brushColour_);
+        SetROP2(dc_, mode_);
+    }
 
-void FillFace(HDC dc, int32_t width, int32_t height)
-{
-    const GdiObject grey(CreateSolidBrush(kFaceColour));
-    const RECT face = {0, 0, width, height};
-    FillRect(dc, &face, static_cast<HBRUSH>(grey.get()));
-    const DcSelection hollow(dc, GetStockObject(NULL_BRUSH));
-    Rectangle(dc, 0, 0, width, height);
-}
+    void Use(COLORREF line, COLORREF fill)
+    {
+        SetDCPenColor(dc_, line);
+        SetDCBrushColor(dc_, fill);
+    }
+    void UseLine(COLORREF line) { SetDCPenColor(dc_, line); }
+
+private:
+    HDC dc_;
+    DcSelection pen_;
+    DcSelection brush_;
+    COLORREF penColour_;
+    COLORREF brushColour_;
+    int mode_;
+};
+
+// Lines collected to be drawn by one call.
+class Polylines {
+public:
+    void Add(POINT origin, std::initializer_list<POINT> points)
+    {
+        for (const POINT& point : points)
+            points_[pointCount_++] = {origin.x + point.x, origin.y + point.y};
+        lengths_[lineCount_++] = static_cast<DWORD>(points.size());
+    }
+    void Draw(HDC dc) const
+    {
+        if (lineCount_ > 0)
+            PolyPolyline(dc, points_.data(), lengths_.data(), lineCount_);
+    }
+
+private:
+    static constexpr size_t kMost = 4;  // two for each of two faces
+
+    std::array<POINT, 3 * kMost> points_{};
+    std::array<DWORD, kMost> lengths_{};
+    DWORD pointCount_ = 0;
+    DWORD lineCount_ = 0;
+};
+
+// A button's face at its place; the measures of the edges are those of the button.
+struct Face {
+    POINT origin;
+    bool pressed;
+};
 
 // Light from the upper left.
-void DrawRaisedEdges(HDC dc, int32_t width, int32_t height)
+void AddHighlight(Polylines& lines, const Face& face, int32_t width, int32_t height)
 {
-    const GdiObject highlight(CreatePen(PS_SOLID, 1, GetSysColor(COLOR_BTNHIGHLIGHT)));
-    const GdiObject shadow(CreatePen(PS_SOLID, 1, GetSysColor(COLOR_BTNSHADOW)));
-    const DcSelection lit(dc, highlight.get());
-    DrawPolyline(dc, {
-                         {1,         height - 2},
-                         {1,         1         },
-                         {width - 2, 1         }
-    });
-    const DcSelection dark(dc, shadow.get());
-    DrawPolyline(dc, {
-                         {width - 2, 1         },
-                         {width - 2, height - 2},
-                         {0,         height - 2}
-    });
-    DrawPolyline(dc, {
-                         {width - 3, 2         },
-                         {width - 3, height - 3},
-                         {1,         height - 3}
-    });
+    if (!face.pressed)
+        lines.Add(face.origin, {
+                                   {1,         height - 2},
+                                   {1,         1         },
+                                   {width - 2, 1         }
+        });
 }
 
-void DrawSunkenEdge(HDC dc, int32_t width, int32_t height)
+void AddShadow(Polylines& lines, const Face& face, int32_t width, int32_t height)
 {
-    const GdiObject shadow(CreatePen(PS_SOLID, 1, GetSysColor(COLOR_BTNSHADOW)));
-    const DcSelection dark(dc, shadow.get());
-    DrawPolyline(dc, {
-                         {1,         height - 1},
-                         {1,         1         },
-                         {width - 1, 1         }
-    });
-}
-
-using EdgeDrawer = void (*)(HDC dc, int32_t width, int32_t height);
-
-// A button face as a bitmap, null when it could not be made.
-HBITMAP BuildFace(HDC dc, const SpinMeasures& spin, EdgeDrawer drawEdges)
-{
-    const MemoryDc memory(dc);
-    if (!memory.get() || spin.half <= 0)
-        return nullptr;
-    HBITMAP face = CreateCompatibleBitmap(dc, spin.buttonWidth, spin.half);
-    const DcSelection drawing(memory.get(), face);
-    FillFace(memory.get(), spin.buttonWidth, spin.half);
-    drawEdges(memory.get(), spin.buttonWidth, spin.half);
-    return face;
-}
-
-void CopyFace(HDC dc, const SpinMeasures& spin, HGDIOBJ face, int32_t top)
-{
-    const MemoryDc memory(dc);
-    if (!memory.get() || !face)
+    if (face.pressed) {
+        lines.Add(face.origin, {
+                                   {1,         height - 1},
+                                   {1,         1         },
+                                   {width - 1, 1         }
+        });
         return;
-    const DcSelection source(memory.get(), face);
-    BitBlt(dc, spin.ButtonLeft(), top, spin.buttonWidth, spin.half, memory.get(), 0, 0, SRCCOPY);
+    }
+    lines.Add(face.origin, {
+                               {width - 2, 1         },
+                               {width - 2, height - 2},
+                               {0,         height - 2}
+    });
+    lines.Add(face.origin, {
+                               {width - 3, 2         },
+                               {width - 3, height - 3},
+                               {1,         height - 3}
+    });
+}
+
+// All that has one colour is drawn at once. Each call costs more than what it draws.
+void DrawFaces(HDC dc, DrawingTools& tools, const SpinMeasures& spin, std::initializer_list<Face> faces)
+{
+    Polylines highlight;
+    Polylines shadow;
+    tools.Use(kBlack, kFaceColour);
+    for (const Face& face : faces) {
+        const POINT& at = face.origin;
+        Rectangle(dc, at.x, at.y, at.x + spin.buttonWidth, at.y + spin.half);
+        AddHighlight(highlight, face, spin.buttonWidth, spin.half);
+        AddShadow(shadow, face, spin.buttonWidth, spin.half);
+    }
+    tools.UseLine(GetSysColor(COLOR_BTNHIGHLIGHT));
+    highlight.Draw(dc);
+    tools.UseLine(GetSysColor(COLOR_BTNSHADOW));
+    shadow.Draw(dc);
+}
+
+// The edges of a face lower than three pixels would leave it.
+void DrawFaceInside(HDC dc, DrawingTools& tools, const SpinMeasures& spin, const Face& face)
+{
+    const int saved = SaveDC(dc);
+    IntersectClipRect(dc, face.origin.x, face.origin.y, face.origin.x + spin.buttonWidth, face.origin.y + spin.half);
+    DrawFaces(dc, tools, spin, {face});
+    RestoreDC(dc, saved);
+}
+
+void DrawButtons(HDC dc, DrawingTools& tools, const SpinMeasures& spin, bool upPressed, bool downPressed)
+{
+    constexpr int32_t kRoomForEdges = 3;
+    const Face up = {
+        {spin.ButtonLeft(), spin.rect.top},
+        upPressed
+    };
+    const Face down = {
+        {spin.ButtonLeft(), spin.lowerTop},
+        downPressed
+    };
+    if (spin.half >= kRoomForEdges)
+        return DrawFaces(dc, tools, spin, {up, down});
+    if (spin.half > 0) {
+        DrawFaceInside(dc, tools, spin, up);
+        DrawFaceInside(dc, tools, spin, down);
+    }
 }
 
 // Where the arrows stand: their centre column, and how far their points lie from the outer edges.
@@ -143,56 +217,52 @@ void DrawArrow(HDC dc, const ArrowMeasures& arrow, int32_t apexRow, int32_t dire
     Polygon(dc, corners.data(), static_cast<int>(corners.size()));
 }
 
-void DrawArrows(HDC dc, const SpinMeasures& spin, const ArrowMeasures& arrow, bool upPressed, bool downPressed)
+void DrawArrows(HDC dc, DrawingTools& tools, const SpinMeasures& spin, const ArrowMeasures& arrow, bool upPressed,
+                bool downPressed)
 {
-    const DcSelection brush(dc, GetStockObject(BLACK_BRUSH));
-    const DcSelection pen(dc, GetStockObject(BLACK_PEN));
+    tools.Use(kBlack, kBlack);
     DrawArrow(dc, arrow, spin.rect.top + arrow.margin, 1, upPressed);
     DrawArrow(dc, arrow, spin.rect.top + spin.height - arrow.margin - 1, -1, downPressed);
 }
 
-void FillBackground(HDC dc, const RECT& rect, COLORREF colour)
+void FillBackground(HDC dc, DrawingTools& tools, const RECT& rect, COLORREF colour)
 {
-    const GdiObject brush(CreateSolidBrush(colour));
-    const GdiObject pen(CreatePen(PS_SOLID, 1, colour));
-    const DcSelection useBrush(dc, brush.get());
-    const DcSelection usePen(dc, pen.get());
+    tools.Use(colour, colour);
     Rectangle(dc, rect.left, rect.top, rect.right, rect.bottom);
 }
 
 void DrawBorder(HDC dc, const SpinMeasures& spin)
 {
-    const DcSelection pen(dc, GetStockObject(BLACK_PEN));
     const LONG right = spin.ButtonLeft();
-    DrawPolyline(dc, {
-                         {0,     spin.rect.bottom - 1},
-                         {right, spin.rect.bottom - 1}
-    });
-    DrawPolyline(dc, {
-                         {0,     0},
-                         {right, 0}
-    });
-}
-
-void PaintSpin(EditInstance& edit, HDC dc, const RECT& rect)
-{
-    if (edit.spinBkColor != 0)
-        FillBackground(dc, rect, edit.spinBkColor);
-    const SpinMeasures spin = Measure(rect);
-    DropFaces(edit);
-    edit.spinFaceNormal = BuildFace(dc, spin, DrawRaisedEdges);
-    edit.spinFacePressed = BuildFace(dc, spin, DrawSunkenEdge);
-    const bool up = Has(edit, SPIN_UP);
-    const bool down = Has(edit, SPIN_DOWN);
-    CopyFace(dc, spin, up ? edit.spinFacePressed : edit.spinFaceNormal, spin.rect.top);
-    CopyFace(dc, spin, down ? edit.spinFacePressed : edit.spinFaceNormal, spin.lowerTop);
-    DrawArrows(dc, spin, MeasureArrows(spin, spin.rect.right), up, down);
-    DropFaces(edit);
-    if (Has(edit, SPIN_BORDER))
-        DrawBorder(dc, spin);
+    Polylines lines;
+    lines.Add(
+        {
+            0, spin.rect.bottom - 1
+    },
+        {{0, 0}, {right, 0}});
+    lines.Add(
+        {
+            0, 0
+    },
+        {{0, 0}, {right, 0}});
+    lines.Draw(dc);
 }
 
 }  // namespace
+
+void PaintSpin(const EditInstance& edit, HDC dc, const RECT& rect)
+{
+    DrawingTools tools(dc);
+    if (edit.spinBkColor != 0)
+        FillBackground(dc, tools, rect, edit.spinBkColor);
+    const SpinMeasures spin = Measure(rect);
+    const bool up = Has(edit, SPIN_UP);
+    const bool down = Has(edit, SPIN_DOWN);
+    DrawButtons(dc, tools, spin, up, down);
+    DrawArrows(dc, tools, spin, MeasureArrows(spin, spin.rect.right), up, down);
+    if (Has(edit, SPIN_BORDER))
+        DrawBorder(dc, spin);
+}
 
 }  // namespace zte
 
@@ -200,7 +270,7 @@ using namespace zte;
 
 void WINAPI ZTE_PaintSpin(HWND hwnd, HDC dc, const RECT* rect)
 {
-    EditInstance* edit = GetEditInstance(hwnd);
+    const EditInstance* edit = GetEditInstance(hwnd);
     if (!edit)
         return;
     PaintSpin(*edit, dc, rect ? *rect : ClientOf(SpinOf(*edit)));
@@ -212,9 +282,8 @@ int16_t WINAPI ZTE_PaintSpinOnce(const RECT* rect, HDC dc)
     if (!rect)
         return 0;
     const SpinMeasures spin = Measure(*rect);
-    const GdiObject face(BuildFace(dc, spin, DrawRaisedEdges));
-    CopyFace(dc, spin, face.get(), spin.rect.top);
-    CopyFace(dc, spin, face.get(), spin.lowerTop);
-    DrawArrows(dc, spin, MeasureArrows(spin, spin.rect.right - 1), false, false);
+    DrawingTools tools(dc);
+    DrawButtons(dc, tools, spin, false, false);
+    DrawArrows(dc, tools, spin, MeasureArrows(spin, spin.rect.right - 1), false, false);
     return static_cast<int16_t>(spin.buttonWidth);
 }

@@ -51,7 +51,8 @@ void OnPaint(HWND spin, const EditInstance& edit)
 {
     PAINTSTRUCT paint;
     HDC dc = BeginPaint(spin, &paint);
-    ZTE_PaintSpin(WindowOf(edit), dc, nullptr);
+    PaintSpin(edit, dc, ClientOf(spin));
+    FieldOf(edit).arrowsShown = ArrowsPressed(edit);
     EndPaint(spin, &paint);
 }
 
@@ -120,6 +121,21 @@ void OnSetRedraw(HWND spin, WPARAM on)
 {
     if (on)
         ShowWindow(spin, SW_HIDE);
+}
+
+// What Route takes; for all others the record is not looked up, which is a call into the window manager.
+bool IsRouted(UINT message)
+{
+    switch (message) {
+    case WM_DESTROY:
+    case WM_SETREDRAW:
+    case WM_PAINT:
+    case WM_TIMER:
+    case WM_MOUSEMOVE:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP: return true;
+    default: return false;
+    }
 }
 
 // True when the message is handled, with the result 0.
@@ -229,7 +245,9 @@ LRESULT CALLBACK ZTE_SpinWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
 {
     if (message == WM_CREATE)
         return OnCreate(hwnd, reinterpret_cast<const CREATESTRUCTA*>(lParam));
-    EditInstance* edit = GetEditInstance(hwnd);
+    if (message == WM_NCPAINT)  // there is no frame; the system would ask for a context first, and then see that
+        return 0;
+    EditInstance* edit = IsRouted(message) ? GetEditInstance(hwnd) : nullptr;
     if (edit && WhileAlive(*edit, true, [&] { return Route(hwnd, *edit, message, wParam, lParam); }))
         return 0;
     return DefWindowProcA(hwnd, message, wParam, lParam);

@@ -3,6 +3,7 @@
 
 #include "win32/life_guard.h"
 #include "win32/spin_layout.h"
+#include "win32/window_of_thread.h"
 #include "ztedit.h"
 
 namespace zte {
@@ -10,28 +11,6 @@ namespace zte {
 WNDPROC baseEditProc;
 
 namespace {
-
-// One window for each thread. Not a thread_local variable: for that a compiler's runtime may want memory at a thread's first use,
-// and end the process when there is none.
-class WindowOfThread {
-public:
-    WindowOfThread() : slot_(TlsAlloc()) {}
-    WindowOfThread(const WindowOfThread&) = delete;
-    WindowOfThread& operator=(const WindowOfThread&) = delete;
-    ~WindowOfThread() { TlsFree(slot_); }
-
-    void Set(HWND hwnd) const { TlsSetValue(slot_, hwnd); }
-    HWND Get() const
-    {
-        const DWORD error = GetLastError();  // asking clears the host's
-        void* const hwnd = TlsGetValue(slot_);
-        SetLastError(error);
-        return static_cast<HWND>(hwnd);
-    }
-
-private:
-    DWORD slot_;
-};
 
 // The control to which the library is just sending a message that hosts send too. Asked before the record is looked up, which
 // costs a call into the window manager. A control's messages stay on its thread.
@@ -266,7 +245,7 @@ void StandardField::Repaint()
 
 void StandardField::RepaintSpin()
 {
-    if (edit_.hwndSpin)
+    if (edit_.hwndSpin && ArrowsPressed(edit_) != arrowsShown)
         InvalidateRect(SpinOf(edit_), nullptr, FALSE);
 }
 

@@ -55,6 +55,7 @@ public:
     void ToControl(UINT message, WPARAM wParam, LPARAM lParam);
 
     uint16_t stripInMargin = 0;  // pixels of the right margin that the spin's strip takes, beside the host's own
+    uint32_t arrowsShown = 0;    // the arrows that the spin's window shows pressed
     LifeGuard* guard = nullptr;  // innermost entry into the library that works on this control
 
 private:
@@ -75,6 +76,12 @@ inline HWND SpinOf(const EditInstance& edit)
 inline StandardField& FieldOf(const EditInstance& edit)
 {
     return static_cast<StandardField&>(*edit.field);
+}
+
+// The arrows of the spin that are pressed: SPIN_UP, SPIN_DOWN, or none.
+inline uint32_t ArrowsPressed(const EditInstance& edit)
+{
+    return edit.flags & (SPIN_UP | SPIN_DOWN);
 }
 
 // The client rectangle of a window, in pixels.

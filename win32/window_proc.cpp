@@ -1,10 +1,12 @@
 // The window procedure of the masked edit: finds the record, routes the message, and keeps it or passes it on.
+#include "engine/edit/key_down.h"
 #include "engine/edit/paste.h"
 #include "engine/edit/plain_edit.h"
 #include "win32/creation.h"
 #include "win32/library.h"
 #include "win32/life_guard.h"
 #include "win32/mouse.h"
+#include "win32/open_deletion.h"
 #include "win32/placement.h"
 #include "win32/record_store.h"
 #include "win32/regional_settings.h"
@@ -44,6 +46,11 @@ bool IsInput(UINT message)
     }
 }
 
+bool IsKeyMessage(UINT message)
+{
+    return message == WM_KEYDOWN || message == WM_KEYUP || message == WM_CHAR;
+}
+
 // What a user does to a control that is told from a plain edit by nothing.
 Reply OnPlainInput(EditInstance& edit, UINT message, WPARAM wParam)
 {
@@ -55,8 +62,8 @@ Reply OnPlainInput(EditInstance& edit, UINT message, WPARAM wParam)
     }
 }
 
-// Routes a message that the control handles. False for all others, the library's own EM_ messages among them: they are passed
-// on without a look-up of the record.
+// Routes a message that the control handles. False for all others, the library's own EM_ messages among them, and a key's way down
+// and up where only its character matters: they are passed on without a look-up of the record, which is a call into the window manager.
 template <typename Handler>
 bool Dispatch(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, Handler&& handle)
 {
@@ -68,8 +75,10 @@ bool Dispatch(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, Handler&& h
     case WM_KILLFOCUS: return handle([](EditInstance& edit) { return OnKillFocus(edit); });
     case WM_PAINT: return handle([](EditInstance& edit) { return OnPaint(edit); });
     case WM_SETFONT: return handle([=](EditInstance& edit) { return OnSetFont(edit, wParam, lParam); });
-    case WM_KEYDOWN: return handle([=](EditInstance& edit) { return OnKeyDown(edit, number, lParam); });
-    case WM_KEYUP: return handle([=](EditInstance& edit) { return OnKeyUp(edit, number); });
+    case WM_KEYDOWN:
+        return (ConcernsKeyDown(number) || DeletionIsOpen()) &&
+               handle([=](EditInstance& edit) { return OnKeyDown(edit, number, lParam); });
+    case WM_KEYUP: return DeletionIsOpen() && handle([=](EditInstance& edit) { return OnKeyUp(edit, number); });
     case WM_CHAR: return handle([=](EditInstance& edit) { return OnChar(edit, number, lParam); });
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK: return handle([](EditInstance& edit) { return OnButtonDown(edit); });
@@ -92,8 +101,12 @@ bool IsKept(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resu
         if (!edit)
             return false;
         const bool isPlain = IsInput(message) && IsPlainEdit(*edit);
-        const Reply reply =
-            WhileAlive(*edit, Keep(0), [&] { return isPlain ? OnPlainInput(*edit, message, wParam) : work(*edit); });
+        const Reply reply = WhileAlive(*edit, Keep(0), [&] {
+            const Reply done = isPlain ? OnPlainInput(*edit, message, wParam) : work(*edit);
+            if (IsKeyMessage(message))
+                NoteDeletion(*edit);
+            return done;
+        });
         result = reply.result;
         return reply.kept;
     });

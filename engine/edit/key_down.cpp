@@ -101,6 +101,12 @@ bool MovesOrDeletes(int32_t key)
 
 }  // namespace
 
+// In the upper half hosts mark keys; see OnKeyDown.
+bool ConcernsKeyDown(uint32_t key)
+{
+    return key >> 16 != 0 || MovesOrDeletes(static_cast<int32_t>(key));
+}
+
 bool HandleSpinKey(EditInstance& edit, int32_t key)
 {
     if ((key != KEY_UP && key != KEY_DOWN) || !edit.hwndSpin || edit.field->RefusesInput())

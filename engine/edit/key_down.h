@@ -5,6 +5,9 @@
 
 namespace zte {
 
+// Whether a key does anything on its way down, as what a key-down message carries; all others only type.
+bool ConcernsKeyDown(uint32_t key);
+
 // True when the key was consumed, false to leave it to the edit control underneath.
 bool HandleKeyDown(EditInstance& edit, int32_t key, KeyData keyData);
 

@@ -5,7 +5,6 @@
 #include <initializer_list>
 
 #include "tests/support/live/spin_window_test.h"
-#include "tests/support/live/import_patch.h"
 
 namespace zttest {
 namespace {
@@ -350,26 +349,130 @@ TEST_F(SpinPaint, WithoutARectangleItIsTheSpinsOwn)
     EXPECT_EQ(Difference(canvas_, picture), "");
 }
 
-TEST_F(SpinPaint, TheWindowShowsWhatItPaints)
+// A control with its spin on a form that is shown.
+class ShownSpin : public testing::Test {
+protected:
+    ShownSpin()
+    {
+        ZTE_CreateSpin(Edit());
+        spin_ = GetWindow(Edit(), GW_CHILD);
+        PaintAll();
+    }
+
+    HWND Edit() const { return control_.hwnd(); }
+    HWND Spin() const { return spin_; }
+    void PaintAll() const { RedrawWindow(Edit(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); }
+
+    // What stands on the screen where the spin is, against the picture of an unpressed one; "" when all is as it should be.
+    std::string Wrong() const
+    {
+        RECT client{};
+        GetClientRect(spin_, &client);
+        const HDC dc = GetDC(spin_);
+        const Canvas copy(static_cast<int>(client.right), static_cast<int>(client.bottom));
+        BitBlt(copy.dc(), 0, 0, copy.width(), copy.height(), dc, 0, 0, SRCCOPY);
+        ReleaseDC(spin_, dc);
+        Expected picture(copy.width(), copy.height());
+        picture.Fill(client, RGB(255, 255, 255));  // of the window class
+        DrawSpin(picture, client, Pressed::None);
+        return Difference(copy, picture);
+    }
+
+private:
+    static Config Number()
+    {
+        Config config;
+        config.mask = "##0";
+        config.type = DT_NUMBER;
+        return config;
+    }
+
+    Form form_{true};
+    Control control_{form_.hwnd(), 3, Number()};
+    HWND spin_ = nullptr;
+};
+
+TEST_F(ShownSpin, ShowsWhatItPaints)
 {
-    const Form shown(true);
-    Config config;
-    config.mask = "##0";
-    config.type = DT_NUMBER;
-    const Control control(shown.hwnd(), 3, config);
-    ZTE_CreateSpin(control.hwnd());
-    const HWND spin = GetWindow(control.hwnd(), GW_CHILD);
-    RECT client{};
-    GetClientRect(spin, &client);
-    RedrawWindow(control.hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    const HDC dc = GetDC(spin);
-    const Canvas copy(static_cast<int>(client.right), static_cast<int>(client.bottom));
-    BitBlt(copy.dc(), 0, 0, copy.width(), copy.height(), dc, 0, 0, SRCCOPY);
-    ReleaseDC(spin, dc);
-    Expected picture(copy.width(), copy.height());
-    picture.Fill(client, RGB(255, 255, 255));  // of the window class
-    DrawSpin(picture, client, Pressed::None);
-    EXPECT_EQ(Difference(copy, picture), "");
+    RedrawWindow(Edit(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    EXPECT_EQ(Wrong(), "");
+}
+
+void Nothing(HWND, HWND) {}
+void TypeADigit(HWND edit, HWND)
+{
+    SendMessageA(edit, EM_SETSEL, 0, 0);
+    SendMessageA(edit, WM_CHAR, '5', 1);
+}
+void StepUp(HWND edit, HWND)
+{
+    SendMessageA(edit, WM_KEYDOWN, VK_UP, 1);
+    SendMessageA(edit, WM_KEYUP, VK_UP, 1);
+}
+void GiveAndTakeTheFocus(HWND edit, HWND)
+{
+    SetFocus(edit);
+    SetFocus(GetParent(edit));
+}
+void SetAText(HWND edit, HWND)
+{
+    SetWindowTextA(edit, "123");
+}
+void PressAndRelease(HWND, HWND spin)
+{
+    SendMessageA(spin, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    UpdateWindow(spin);
+    SendMessageA(spin, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+}
+void HideIt(HWND edit, HWND spin)
+{
+    SendMessageA(spin, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(edit, nullptr, TRUE);
+}
+void PaintItFirst(HWND edit, HWND spin)
+{
+    InvalidateRect(edit, nullptr, TRUE);
+    UpdateWindow(spin);
+}
+void CoverAndUncoverIt(HWND edit, HWND)
+{
+    const HWND cover = CreateWindowExA(0, "static", "over it", WS_CHILD | WS_VISIBLE, 0, 0, 400, 200, GetParent(edit),
+                                       nullptr, nullptr, nullptr);
+    SetWindowPos(cover, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    UpdateWindow(cover);
+    DestroyWindow(cover);
+}
+void Enable(HWND edit, HWND)
+{
+    EnableWindow(edit, FALSE);
+    EnableWindow(edit, TRUE);
+}
+
+struct Happening {
+    const char* name;
+    void (*happen)(HWND edit, HWND spin);
+};
+constexpr Happening kHappenings[] = {
+    {"Nothing",        Nothing            },
+    {"ADigit",         TypeADigit         },
+    {"AStep",          StepUp             },
+    {"TheFocus",       GiveAndTakeTheFocus},
+    {"AText",          SetAText           },
+    {"APress",         PressAndRelease    },
+    {"Hiding",         HideIt             },
+    {"ItsOwnPaint",    PaintItFirst       },
+    {"AnotherWindow",  CoverAndUncoverIt  },
+    {"BeingDisabled",  Enable             },
+};
+
+// All on one form: showing a window takes the system its time.
+TEST_F(ShownSpin, LooksTheSameWhateverHappens)
+{
+    for (const Happening& row : kHappenings) {
+        row.happen(Edit(), Spin());
+        PaintAll();
+        EXPECT_EQ(Wrong(), "") << row.name;
+    }
 }
 
 TEST_F(SpinPaint, FacesAreNotKeptBetweenPaints)
@@ -431,61 +534,33 @@ TEST_F(SpinPaint, TheCountOfObjectsSeesOneLeftBehind)
     DeleteObject(left);
 }
 
-// ---- Objects that cannot be had, and odd rectangles
-
-HBITMAP WINAPI NoBitmap(HDC, int, int)
-{
-    return nullptr;
-}
-HDC WINAPI NoContext(HDC)
-{
-    return nullptr;
-}
-HPEN WINAPI NoPen(int, int, COLORREF)
-{
-    return nullptr;
-}
-HBRUSH WINAPI NoBrush(COLORREF)
-{
-    return nullptr;
-}
-
-struct MissingObject {
-    const char* name;
-    const char* function;
-    void* replacement;
-};
-void PrintTo(const MissingObject& row, std::ostream* out)
-{
-    *out << row.name;
-}
-
-class SpinPaintWithout : public SpinPaint, public testing::WithParamInterface<MissingObject> {};
-
-TEST_P(SpinPaintWithout, GoesOnWithTheArrows)
+TEST_F(SpinPaint, TheContextKeepsItsColoursAndItsDrawingMode)
 {
     const RECT rect = RectOfHeight(20);
-    ZTE_SetSpinBkColor(Window(), RGB(1, 2, 3));
-    const HGDIOBJ pen = GetCurrentObject(canvas_.dc(), OBJ_PEN);
-    {
-        const ImportPatch missing("gdi32.dll", GetParam().function, GetParam().replacement);
-        Paint(rect);
-        EXPECT_EQ(canvas_.At(46, 12), kBlack);  // the two apexes
-        EXPECT_EQ(canvas_.At(46, 25), kBlack);
-        ZTE_PaintSpinOnce(&rect, canvas_.dc());
-        EXPECT_EQ(canvas_.At(45, 12), kBlack);
-        EXPECT_EQ(canvas_.At(45, 25), kBlack);
-    }
-    EXPECT_EQ(GetCurrentObject(canvas_.dc(), OBJ_PEN), pen);
+    SetDCPenColor(canvas_.dc(), RGB(1, 2, 3));
+    SetDCBrushColor(canvas_.dc(), RGB(4, 5, 6));
+    SetROP2(canvas_.dc(), R2_NOT);
+    ZTE_SetSpinBkColor(Window(), RGB(7, 8, 9));
+    Paint(rect);
+    ZTE_PaintSpinOnce(&rect, canvas_.dc());
+    Paint(RectOfHeight(5));  // a face without room for its edges is clipped
+    EXPECT_EQ(GetDCPenColor(canvas_.dc()), RGB(1, 2, 3));
+    EXPECT_EQ(GetDCBrushColor(canvas_.dc()), RGB(4, 5, 6));
+    EXPECT_EQ(GetROP2(canvas_.dc()), R2_NOT);
+    RECT clip{};
+    GetClipBox(canvas_.dc(), &clip);
+    EXPECT_EQ(clip.bottom, kSide);
 }
 
-const MissingObject kMissing[] = {
-    {"Bitmaps",  "CreateCompatibleBitmap", reinterpret_cast<void*>(NoBitmap) },
-    {"Contexts", "CreateCompatibleDC",     reinterpret_cast<void*>(NoContext)},
-    {"Pens",     "CreatePen",              reinterpret_cast<void*>(NoPen)    },
-    {"Brushes",  "CreateSolidBrush",       reinterpret_cast<void*>(NoBrush)  },
-};
-INSTANTIATE_TEST_SUITE_P(Objects, SpinPaintWithout, testing::ValuesIn(kMissing), RowName<MissingObject>);
+TEST_F(SpinPaint, IsTheSamePictureInAnyDrawingMode)
+{
+    const RECT rect = RectOfHeight(20);
+    SetROP2(canvas_.dc(), R2_NOT);
+    Paint(rect);
+    Expected picture(kSide, kSide);
+    DrawSpin(picture, rect, Pressed::None);
+    EXPECT_EQ(Difference(canvas_, picture), "");
+}
 
 TEST_F(SpinPaint, OddRectanglesAndContextsAreHarmless)
 {
