@@ -4,6 +4,7 @@
 # DEF, OUTPUT   the files read and written            OBJECTS     object files of the DLL
 # DLLTOOL, NM   the tools of the target               PROCESSOR   x86 or another
 
+list(FILTER OBJECTS EXCLUDE REGEX "\\.gch$")  # headers compiled beforehand
 set(tool_def ${DEF})
 if(PROCESSOR STREQUAL "x86")
     execute_process(COMMAND ${NM} --defined-only --extern-only ${OBJECTS} OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
