@@ -95,26 +95,6 @@ HWND WINAPI GateCreateWindow(DWORD exStyle, const char* className, const char* t
     return CreateWindowExA(exStyle, className, text, style, x, y, width, height, parent, menu, instance, parameter);
 }
 
-HBRUSH WINAPI GateCreateSolidBrush(COLORREF colour)
-{
-    return Refuses(Refusal::System) ? nullptr : CreateSolidBrush(colour);
-}
-
-HPEN WINAPI GateCreatePen(int style, int width, COLORREF colour)
-{
-    return Refuses(Refusal::System) ? nullptr : CreatePen(style, width, colour);
-}
-
-HDC WINAPI GateCreateCompatibleDc(HDC dc)
-{
-    return Refuses(Refusal::System) ? nullptr : CreateCompatibleDC(dc);
-}
-
-HBITMAP WINAPI GateCreateCompatibleBitmap(HDC dc, int width, int height)
-{
-    return Refuses(Refusal::System) ? nullptr : CreateCompatibleBitmap(dc, width, height);
-}
-
 UINT_PTR WINAPI GateSetTimer(HWND hwnd, UINT_PTR id, UINT milliseconds, TIMERPROC procedure)
 {
     return Refuses(Refusal::System) ? 0 : SetTimer(hwnd, id, milliseconds, procedure);
@@ -135,7 +115,6 @@ constexpr const char* kShared = "ztshared.dll";
 constexpr const char* kRuntime = "msvcrt.dll";
 constexpr const char* kKernel = "kernel32.dll";
 constexpr const char* kUser = "user32.dll";
-constexpr const char* kGraphics = "gdi32.dll";
 
 template <class Function>
 void* Address(Function* function)
@@ -153,29 +132,25 @@ Gate::Gate()
         const char* function;
         void* replacement;
     } rows[] = {
-        {kControl, kRuntime,  "abort",                  Address(GateAbort)                 },
-        {kControl, kRuntime,  "malloc",                 Address(GateMalloc)                },
-        {kControl, kRuntime,  "calloc",                 Address(GateCalloc)                },
-        {kControl, kRuntime,  "realloc",                Address(GateRealloc)               },
-        {kControl, kRuntime,  "free",                   Address(GateFree)                  },
-        {kShared,  kRuntime,  "abort",                  Address(GateAbort)                 },
-        {kShared,  kRuntime,  "malloc",                 Address(GateMalloc)                },
-        {kShared,  kRuntime,  "calloc",                 Address(GateCalloc)                },
-        {kShared,  kRuntime,  "realloc",                Address(GateRealloc)               },
-        {kShared,  kRuntime,  "free",                   Address(GateFree)                  },
-        {kShared,  kKernel,   "HeapAlloc",              Address(GateHeapAlloc)             },
-        {kShared,  kKernel,   "HeapReAlloc",            Address(GateHeapReAlloc)           },
-        {kControl, kKernel,   "GlobalAlloc",            Address(GateGlobalAlloc)           },
-        {kControl, kKernel,   "GlobalFree",             Address(GateGlobalFree)            },
-        {kControl, kUser,     "SetPropA",               Address(GateSetProp)               },
-        {kControl, kUser,     "CreateWindowExA",        Address(GateCreateWindow)          },
-        {kControl, kUser,     "SetTimer",               Address(GateSetTimer)              },
-        {kControl, kUser,     "OpenClipboard",          Address(GateOpenClipboard)         },
-        {kControl, kUser,     "GetClipboardData",       Address(GateGetClipboardData)      },
-        {kControl, kGraphics, "CreateSolidBrush",       Address(GateCreateSolidBrush)      },
-        {kControl, kGraphics, "CreatePen",              Address(GateCreatePen)             },
-        {kControl, kGraphics, "CreateCompatibleDC",     Address(GateCreateCompatibleDc)    },
-        {kControl, kGraphics, "CreateCompatibleBitmap", Address(GateCreateCompatibleBitmap)},
+        {kControl, kRuntime, "abort",            Address(GateAbort)           },
+        {kControl, kRuntime, "malloc",           Address(GateMalloc)          },
+        {kControl, kRuntime, "calloc",           Address(GateCalloc)          },
+        {kControl, kRuntime, "realloc",          Address(GateRealloc)         },
+        {kControl, kRuntime, "free",             Address(GateFree)            },
+        {kShared,  kRuntime, "abort",            Address(GateAbort)           },
+        {kShared,  kRuntime, "malloc",           Address(GateMalloc)          },
+        {kShared,  kRuntime, "calloc",           Address(GateCalloc)          },
+        {kShared,  kRuntime, "realloc",          Address(GateRealloc)         },
+        {kShared,  kRuntime, "free",             Address(GateFree)            },
+        {kShared,  kKernel,  "HeapAlloc",        Address(GateHeapAlloc)       },
+        {kShared,  kKernel,  "HeapReAlloc",      Address(GateHeapReAlloc)     },
+        {kControl, kKernel,  "GlobalAlloc",      Address(GateGlobalAlloc)     },
+        {kControl, kKernel,  "GlobalFree",       Address(GateGlobalFree)      },
+        {kControl, kUser,    "SetPropA",         Address(GateSetProp)         },
+        {kControl, kUser,    "CreateWindowExA",  Address(GateCreateWindow)    },
+        {kControl, kUser,    "SetTimer",         Address(GateSetTimer)        },
+        {kControl, kUser,    "OpenClipboard",    Address(GateOpenClipboard)   },
+        {kControl, kUser,    "GetClipboardData", Address(GateGetClipboardData)},
     };
     for (const auto& row : rows)
         patches_.emplace_back(row.dll, row.function, row.replacement, row.importer);
