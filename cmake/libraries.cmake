@@ -1,7 +1,7 @@
 # zt_add_library: one of the three DLLs, from the sources of some folders.
 
-# zt_read_windows_once(<target>): the system's header, which takes longer to read than most files to compile, is read once for all targets of
-# this. The second compiler reads it in every file, so that each names what it needs.
+# zt_read_windows_once(<target>): the system's header, which takes longer to read than most files to compile, is read once for all
+# targets of this. The second compiler reads it in every file, so that each names what it needs.
 function(zt_read_windows_once target)
     if(NOT CMAKE_CXX_COMPILER_ID STREQUAL GNU)
         return()
