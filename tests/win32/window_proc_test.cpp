@@ -1,10 +1,12 @@
 // What the window procedure keeps and what it passes on.
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 
 #include "tests/support/live/base_recorder.h"
 #include "tests/support/clipboard.h"
+#include "tests/support/live/spin_window_test.h"
 #include "tests/support/live/window_test.h"
 
 namespace zttest {
@@ -108,6 +110,64 @@ TEST_F(WindowProc, KeyReleaseIsPassedOn)
     recorder_.Forget();
     Send(WM_KEYUP, 'A', 1);
     EXPECT_EQ(PassedOn(WM_KEYUP), 1u);
+}
+
+// Between a Backspace's way down and what belongs to it a key that only types is looked at, too.
+class OpenDeletion : public SpinWindowTest {
+protected:
+    OpenDeletion()
+    {
+        Given("##0", DT_NUMBER, "|0");
+        Config config;
+        config.mask = "##0";
+        config.type = DT_NUMBER;
+        other_ = std::make_unique<Control>(form_.hwnd(), 77, config);
+    }
+
+    HWND Other() const { return other_->hwnd(); }
+    void DestroyOther() { other_.reset(); }
+    static void Down(HWND hwnd, WPARAM key) { SendMessageA(hwnd, WM_KEYDOWN, key, 1); }
+    static void Up(HWND hwnd, WPARAM key) { SendMessageA(hwnd, WM_KEYUP, key, 1); }
+    static bool IsOpen(HWND hwnd) { return RecordOf(hwnd)->deletePending != 0; }
+
+private:
+    std::unique_ptr<Control> other_;
+};
+
+TEST_F(OpenDeletion, EndsWithTheNextKeyDown)
+{
+    Down(Window(), VK_BACK);
+    EXPECT_TRUE(IsOpen(Window()));
+    Down(Window(), '8');
+    EXPECT_FALSE(IsOpen(Window()));
+}
+
+TEST_F(OpenDeletion, EndsWithTheNextKeyUp)
+{
+    Down(Window(), VK_BACK);
+    Up(Window(), '8');
+    EXPECT_FALSE(IsOpen(Window()));
+}
+
+TEST_F(OpenDeletion, EndsInEachOfTwoControls)
+{
+    Down(Window(), VK_BACK);
+    Down(Other(), VK_BACK);
+    Up(Other(), VK_BACK);
+    EXPECT_TRUE(IsOpen(Window()));
+    EXPECT_FALSE(IsOpen(Other()));
+    Down(Other(), '8');
+    Down(Window(), '8');
+    EXPECT_FALSE(IsOpen(Window()));
+}
+
+TEST_F(OpenDeletion, OfADestroyedControlLeavesTheOthers)
+{
+    Down(Window(), VK_BACK);
+    Down(Other(), VK_BACK);
+    DestroyOther();
+    Down(Window(), '8');
+    EXPECT_FALSE(IsOpen(Window()));
 }
 
 struct PlainMessage {
