@@ -355,6 +355,7 @@ protected:
     ShownSpin()
     {
         ZTE_CreateSpin(Edit());
+        ZTE_SetSpin(Edit(), 1, nullptr, nullptr, 0);
         spin_ = GetWindow(Edit(), GW_CHILD);
         PaintAll();
     }
@@ -378,7 +379,6 @@ protected:
         return Difference(copy, picture);
     }
 
-private:
     static Config Number()
     {
         Config config;
@@ -464,6 +464,25 @@ constexpr Happening kHappenings[] = {
     {"AnotherWindow",  CoverAndUncoverIt  },
     {"BeingDisabled",  Enable             },
 };
+
+// A parent that paints the spin inside the notification of a step shows its arrow pressed; after the step it is not.
+TEST_F(ShownSpin, IsNotPressedAfterAStepThatWasPaintedMeanwhile)
+{
+    std::string meanwhile;
+    form_.onNotification = [&](const Notification& notification) {
+        if (notification.code != EN_CHANGE)
+            return;
+        InvalidateRect(Spin(), nullptr, TRUE);
+        UpdateWindow(Spin());
+        meanwhile = Wrong();
+    };
+    StepUp(Edit(), Spin());
+    form_.onNotification = nullptr;
+    EXPECT_EQ(control_.Text(), "1");
+    EXPECT_NE(meanwhile, "") << "the step was not painted";
+    PaintAll();
+    EXPECT_EQ(Wrong(), "");
+}
 
 // All on one form: showing a window takes the system its time.
 TEST_F(ShownSpin, LooksTheSameWhateverHappens)
