@@ -6,9 +6,10 @@ set(BUILD_GMOCK OFF)
 add_subdirectory(${ZT_GOOGLETEST_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
 
 target_compile_options(gtest PRIVATE -O0)
+zt_add_rows()
 
 add_library(zt_native_test_flags INTERFACE)
-target_link_libraries(zt_native_test_flags INTERFACE zt_engine gtest)
+target_link_libraries(zt_native_test_flags INTERFACE zt_engine zt_rows)
 target_include_directories(zt_native_test_flags INTERFACE ${CMAKE_SOURCE_DIR}/tests)
 target_compile_definitions(zt_native_test_flags INTERFACE ZTE_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
 
@@ -59,6 +60,7 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     # The tests that are played on live windows as well, here on fields in memory.
     file(GLOB zt_engine_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/engine/*.cpp ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
         ${CMAKE_SOURCE_DIR}/tests/support/native/*.cpp)
+    list(FILTER zt_engine_sources EXCLUDE REGEX "/rows\\.cpp$")
     zt_add_native_tests(engine ${zt_engine_sources})
     target_precompile_headers(test_engine PRIVATE ${zt_common_headers})
     zt_compile_together(test_engine)

@@ -7,8 +7,10 @@ add_subdirectory(${ZT_GOOGLETEST_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FRO
 # Here the tests of tests/engine run on live windows; on fields in memory see native_tests.cmake.
 file(GLOB zt_support_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
     ${CMAKE_SOURCE_DIR}/tests/support/live/*.cpp)
+list(FILTER zt_support_sources EXCLUDE REGEX "/rows\\.cpp$")
+zt_add_rows()
 add_library(zt_test_flags INTERFACE)
-target_link_libraries(zt_test_flags INTERFACE zt_build_flags gtest user32 gdi32)
+target_link_libraries(zt_test_flags INTERFACE zt_build_flags zt_rows user32 gdi32)
 target_include_directories(zt_test_flags INTERFACE ${CMAKE_SOURCE_DIR}/tests)
 # A customer's link must be free of warnings as well. (clang's own objects differ in size from libstdc++'s, which ld reports.)
 target_link_options(zt_test_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wl,--fatal-warnings>)

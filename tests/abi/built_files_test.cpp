@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tests/abi/image_file.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -70,15 +71,15 @@ TEST(ControlLibrary, ExportsItsFunctionsUnderPlainNamesAndNothingElse)
     EXPECT_EQ(image.ExportCount(), kExports.size());
 }
 
-class BuiltLibrary : public testing::TestWithParam<NeededCase> {};
+class BuiltLibrary : public RowTest<NeededCase> {};
 
-TEST_P(BuiltLibrary, IsMadeForTheMachineOfItsFolder)
+ROW_TEST(BuiltLibrary, IsMadeForTheMachineOfItsFolder)
 {
     EXPECT_EQ(ImageFile(BuiltFile(GetParam().library)).Machine(),
               sizeof(void*) == 4 ? IMAGE_FILE_MACHINE_I386 : IMAGE_FILE_MACHINE_AMD64);
 }
 
-TEST_P(BuiltLibrary, NeedsOnlyWindowsAndItsCompanions)
+ROW_TEST(BuiltLibrary, NeedsOnlyWindowsAndItsCompanions)
 {
     std::vector<std::string> needed = ImageFile(BuiltFile(GetParam().library)).ImportedLibraries();
     std::transform(needed.begin(), needed.end(), needed.begin(), Lower);
@@ -86,7 +87,7 @@ TEST_P(BuiltLibrary, NeedsOnlyWindowsAndItsCompanions)
     EXPECT_EQ(needed, GetParam().needed);
 }
 
-TEST_P(BuiltLibrary, TellsVersionAndName)
+ROW_TEST(BuiltLibrary, TellsVersionAndName)
 {
     const std::string path = BuiltFile(GetParam().library);
     std::vector<char> block(GetFileVersionInfoSizeA(path.c_str(), nullptr));
@@ -112,23 +113,28 @@ const NeededCase kLibraries[] = {
     {kControlLibrary, {"gdi32.dll", "kernel32.dll", "msvcrt.dll", "user32.dll", "ztdecimal.dll", "ztshared.dll"}},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Libraries, BuiltLibrary, testing::ValuesIn(kLibraries),
-                         [](const auto& row) { return StemOf(row.param.library); });
 
-class MonthName : public testing::TestWithParam<UINT> {};
+std::string StemOfRow(const NeededCase& row)
+{
+    return StemOf(row.library);
+}
 
-TEST_P(MonthName, IsAStringResource)
+TEST_ROWS_NAMED(Libraries, BuiltLibrary, StemOfRow, kLibraries);
+
+class MonthName : public RowTest<int> {};
+
+ROW_TEST(MonthName, IsAStringResource)
 {
     constexpr char kNames[] = "JANFEBMARAPRMAYJUNJULAUGSEPOCTNOVDEC";
     const HMODULE library = LoadLibraryA(kControlLibrary);
     ASSERT_NE(library, nullptr);
     char text[16] = "";
-    EXPECT_EQ(LoadStringA(library, 2000 + GetParam(), text, sizeof text), 3);
+    EXPECT_EQ(LoadStringA(library, 2000 + static_cast<UINT>(GetParam()), text, sizeof text), 3);
     EXPECT_EQ(text, std::string(kNames + 3 * GetParam(), 3));
     FreeLibrary(library);
 }
 
-INSTANTIATE_TEST_SUITE_P(Months, MonthName, testing::Range(0u, 12u));
+TEST_ROWS(Months, MonthName, Integers(0, 12));
 
 }  // namespace
 }  // namespace zttest

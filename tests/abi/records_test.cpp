@@ -7,6 +7,8 @@
 
 #include "ztedit.h"
 
+#include "tests/support/rows.h"
+
 namespace {
 
 constexpr bool kIs32Bit = sizeof(void*) == 4;
@@ -23,9 +25,9 @@ void PrintTo(const FieldCase& row, std::ostream* out)
     *out << row.name;
 }
 
-class RecordLayout : public testing::TestWithParam<FieldCase> {};
+class RecordLayout : public zttest::RowTest<FieldCase> {};
 
-TEST_P(RecordLayout, IsFixed)
+ROW_TEST(RecordLayout, IsFixed)
 {
     EXPECT_EQ(GetParam().actual, kIs32Bit ? GetParam().on32Bit : GetParam().on64Bit);
 }
@@ -71,13 +73,8 @@ const FieldCase kSizes[] = {
     {"DecimalPlatformSize", sizeof(DECIMAL),        16, 16},
 };
 
-std::string NameOf(const testing::TestParamInfo<FieldCase>& row)
-{
-    return row.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Offsets, RecordLayout, testing::ValuesIn(kFields), NameOf);
-INSTANTIATE_TEST_SUITE_P(Sizes, RecordLayout, testing::ValuesIn(kSizes), NameOf);
+TEST_ROWS(Offsets, RecordLayout, kFields);
+TEST_ROWS(Sizes, RecordLayout, kSizes);
 
 TEST(Records, ArePlainDataThatMayBeCopiedByteByByte)
 {

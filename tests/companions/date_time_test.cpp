@@ -7,8 +7,8 @@
 #include <regex>
 #include <string>
 
-#include "tests/companions/rows.h"
 #include "tests/companions/scoped_profile.h"
+#include "tests/support/rows.h"
 #include "ztshared.h"
 
 namespace {
@@ -54,12 +54,12 @@ void PrintTo(const TextCase& row, std::ostream* out)
     *out << '"' << row.text << "\" of kind " << row.kind;
 }
 
-class CanonicalText : public testing::TestWithParam<TextCase> {
+class CanonicalText : public zttest::RowTest<TextCase> {
 protected:
     const ScopedProfile profile_{kPlainHalves};
 };
 
-TEST_P(CanonicalText, IsReadOrRefused)
+ROW_TEST(CanonicalText, IsReadOrRefused)
 {
     EXPECT_EQ(Read(GetParam().text, GetParam().kind), GetParam().read);
 }
@@ -161,7 +161,7 @@ constexpr TextCase kTextCases[] = {
     {"KindNegative",            -1, "12:00",                      kRefused                        },
 };
 
-INSTANTIATE_TEST_SUITE_P(Texts, CanonicalText, testing::ValuesIn(kTextCases), zttest::RowName<TextCase>);
+TEST_ROWS(Texts, CanonicalText, kTextCases);
 
 TEST(DateTimeParsing, RefusesNull)
 {
@@ -185,9 +185,9 @@ void PrintTo(const HalfCase& row, std::ostream* out)
     *out << '"' << row.text << "\" with " << row.morning << " and " << row.evening;
 }
 
-class RegionalHalves : public testing::TestWithParam<HalfCase> {};
+class RegionalHalves : public zttest::RowTest<HalfCase> {};
 
-TEST_P(RegionalHalves, AreReadInAnyCase)
+ROW_TEST(RegionalHalves, AreReadInAnyCase)
 {
     const ScopedProfile::Values halves = {
         {"s1159", GetParam().morning},
@@ -212,7 +212,7 @@ constexpr HalfCase kHalves[] = {
     {"AllOfALongWord",            "morning", "evening", 3, "09:00 evening",         kRefused},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Words, RegionalHalves, testing::ValuesIn(kHalves), zttest::RowName<HalfCase>);
+TEST_ROWS(Words, RegionalHalves, kHalves);
 
 TEST(DateTimeParsing, FallsBackToThePlainHalves)
 {

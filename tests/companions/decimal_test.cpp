@@ -7,7 +7,7 @@
 #include <string>
 
 #include "tests/companions/long_decimal.h"
-#include "tests/companions/rows.h"
+#include "tests/support/rows.h"
 #include "ztdecimal.h"
 
 namespace {
@@ -107,9 +107,9 @@ void PrintTo(const ReadCase& row, std::ostream* out)
     *out << row.name << " \"" << row.text << '"';
 }
 
-class DecimalReading : public testing::TestWithParam<ReadCase> {};
+class DecimalReading : public zttest::RowTest<ReadCase> {};
 
-TEST_P(DecimalReading, GivesTheValue)
+ROW_TEST(DecimalReading, GivesTheValue)
 {
     EXPECT_EQ(Read(GetParam().text), GetParam().value);
 }
@@ -165,7 +165,7 @@ constexpr ReadCase kReadCases[] = {
     {"LastKeptDigitDown",             "1.00000000000000000000000000004",         "1"                             },
 };
 
-INSTANTIATE_TEST_SUITE_P(Texts, DecimalReading, testing::ValuesIn(kReadCases), zttest::RowName<ReadCase>);
+TEST_ROWS(Texts, DecimalReading, kReadCases);
 
 TEST(DecimalReading, KeepsADigitThatStandsHundredsOfPlacesBehindATie)
 {
@@ -270,9 +270,9 @@ void PrintTo(const Calculation& row, std::ostream* out)
     *out << row.first << ' ' << row.operation << ' ' << row.second;
 }
 
-class DecimalCalculation : public testing::TestWithParam<Calculation> {};
+class DecimalCalculation : public zttest::RowTest<Calculation> {};
 
-TEST_P(DecimalCalculation, GivesTheResult)
+ROW_TEST(DecimalCalculation, GivesTheResult)
 {
     const auto calculate = GetParam().operation == '+' ? Add : GetParam().operation == '-' ? Subtract : Divide;
     EXPECT_EQ(calculate(GetParam().first, GetParam().second), GetParam().result);
@@ -329,8 +329,8 @@ constexpr Calculation kQuotients[] = {
     {"TooSmall",          "-8",                             '/', "0.0000000000000000000000000001", kLeast},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Sums, DecimalCalculation, testing::ValuesIn(kSums), zttest::RowName<Calculation>);
-INSTANTIATE_TEST_SUITE_P(Quotients, DecimalCalculation, testing::ValuesIn(kQuotients), zttest::RowName<Calculation>);
+TEST_ROWS(Sums, DecimalCalculation, kSums);
+TEST_ROWS(Quotients, DecimalCalculation, kQuotients);
 
 TEST(DecimalSum, KeepsTheLargerScale)
 {
@@ -431,14 +431,14 @@ void PrintTo(const OrderCase& row, std::ostream* out)
     *out << row.first << " and " << row.second;
 }
 
-class DecimalOrder : public testing::TestWithParam<OrderCase> {};
+class DecimalOrder : public zttest::RowTest<OrderCase> {};
 
-TEST_P(DecimalOrder, LooksAtTheValueAndNotAtTheScale)
+ROW_TEST(DecimalOrder, LooksAtTheValueAndNotAtTheScale)
 {
     EXPECT_EQ(Order(GetParam().first, GetParam().second), GetParam().order);
 }
 
-TEST_P(DecimalOrder, IsTheOppositeTheOtherWayRound)
+ROW_TEST(DecimalOrder, IsTheOppositeTheOtherWayRound)
 {
     EXPECT_EQ(Order(GetParam().second, GetParam().first), -GetParam().order);
 }
@@ -454,7 +454,7 @@ constexpr OrderCase kOrders[] = {
     {"LeastAndMost",       kLeast, kMost,                            -1},
     {"LargestAndItself",   kMost,  kMost,                            0 },
 };
-INSTANTIATE_TEST_SUITE_P(Pairs, DecimalOrder, testing::ValuesIn(kOrders), zttest::RowName<OrderCase>);
+TEST_ROWS(Pairs, DecimalOrder, kOrders);
 
 TEST(DecimalRecord, WithASignAndNoDigitsIsZero)
 {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/companions/rows.h"
+#include "tests/support/rows.h"
 
 namespace {
 
@@ -21,9 +21,9 @@ void PrintTo(const ExportCase& row, std::ostream* out)
     *out << row.library << ' ' << row.name;
 }
 
-class Export : public testing::TestWithParam<ExportCase> {};
+class Export : public zttest::RowTest<ExportCase> {};
 
-TEST_P(Export, IsFoundByNameAndOrdinal)
+ROW_TEST(Export, IsFoundByNameAndOrdinal)
 {
     const HMODULE library = GetModuleHandleA(GetParam().library);
     ASSERT_NE(library, nullptr);
@@ -73,7 +73,7 @@ constexpr ExportCase kExports[] = {
     {"ztdecimal.dll", "DecCopy",                    31 },
 };
 
-INSTANTIATE_TEST_SUITE_P(Functions, Export, testing::ValuesIn(kExports), zttest::RowName<ExportCase>);
+TEST_ROWS(Functions, Export, kExports);
 
 // The tables of a loaded library.
 class Image {
@@ -108,9 +108,14 @@ private:
     const unsigned char* base_;
 };
 
-class LibraryImage : public testing::TestWithParam<const char*> {};
+std::string StemOf(const char* const& library)
+{
+    return std::string(library, std::string(library).find('.'));
+}
 
-TEST_P(LibraryImage, ExportsTheFunctionsOfItsHeaderAndNoOther)
+class LibraryImage : public zttest::RowTest<const char*> {};
+
+ROW_TEST(LibraryImage, ExportsTheFunctionsOfItsHeaderAndNoOther)
 {
     std::vector<std::string> expected;
     for (const ExportCase& row : kExports)
@@ -120,7 +125,6 @@ TEST_P(LibraryImage, ExportsTheFunctionsOfItsHeaderAndNoOther)
     EXPECT_EQ(Image(GetParam()).ExportedNames(), expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Libraries, LibraryImage, testing::Values("ztshared.dll", "ztdecimal.dll"),
-                         [](const auto& row) { return std::string(row.param, std::string(row.param).find('.')); });
+TEST_ROWS_NAMED(Libraries, LibraryImage, StemOf, std::vector{"ztshared.dll", "ztdecimal.dll"});
 
 }  // namespace

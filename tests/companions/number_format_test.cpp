@@ -11,8 +11,8 @@
 #include <string>
 
 #include "tests/companions/long_decimal.h"
-#include "tests/companions/rows.h"
 #include "tests/companions/scoped_profile.h"
+#include "tests/support/rows.h"
 #include "ztshared.h"
 
 namespace {
@@ -87,17 +87,17 @@ void PrintTo(const ShowCase& row, std::ostream* out)
     *out << row.value << " under \"" << row.format << '"';
 }
 
-class ShownNumber : public testing::TestWithParam<ShowCase> {
+class ShownNumber : public zttest::RowTest<ShowCase> {
 protected:
     const ScopedProfile profile_{zttest::kPointAndComma};
 };
 
-TEST_P(ShownNumber, OfADouble)
+ROW_TEST(ShownNumber, OfADouble)
 {
     EXPECT_EQ(Show(GetParam().format, std::atof(GetParam().value)), GetParam().shown);
 }
 
-TEST_P(ShownNumber, OfADecimal)
+ROW_TEST(ShownNumber, OfADecimal)
 {
     EXPECT_EQ(ShowDecimal(GetParam().format, GetParam().value), GetParam().shown);
 }
@@ -209,7 +209,7 @@ constexpr ShowCase kShowCases[] = {
     {"GeneralLargeNegative",          "[GENERAL]",        "-1e20",                "-1E+20"              },
 };
 
-INSTANTIATE_TEST_SUITE_P(Values, ShownNumber, testing::ValuesIn(kShowCases), zttest::RowName<ShowCase>);
+TEST_ROWS(Values, ShownNumber, kShowCases);
 
 TEST_F(NumberFormat, ShowsInfinitiesAndNoNumberAsZero)
 {
@@ -284,9 +284,9 @@ struct RegionalCase {
     const char* general;  // -0.5 under [GENERAL]
 };
 
-class RegionalNumber : public testing::TestWithParam<RegionalCase> {};
+class RegionalNumber : public zttest::RowTest<RegionalCase> {};
 
-TEST_P(RegionalNumber, HasTheCharactersOfTheProfile)
+ROW_TEST(RegionalNumber, HasTheCharactersOfTheProfile)
 {
     const ScopedProfile profile(GetParam().profile);
     EXPECT_EQ(Show("#,##0.00", 1234567.5), GetParam().shown);
@@ -302,7 +302,7 @@ const RegionalCase kRegionalCases[] = {
     {"Absent",        zttest::kAbsentCharacters, "1,234,567.50", "-0.5"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Profiles, RegionalNumber, testing::ValuesIn(kRegionalCases), zttest::RowName<RegionalCase>);
+TEST_ROWS(Profiles, RegionalNumber, kRegionalCases);
 
 TEST_F(NumberFormat, TakesTheFirstCharacterOfALongerSetting)
 {
@@ -341,9 +341,9 @@ void PrintTo(const ValidityCase& row, std::ostream* out)
     *out << '"' << row.format << '"';
 }
 
-class FormatValidity : public testing::TestWithParam<ValidityCase> {};
+class FormatValidity : public zttest::RowTest<ValidityCase> {};
 
-TEST_P(FormatValidity, IsToldByTheResult)
+ROW_TEST(FormatValidity, IsToldByTheResult)
 {
     EXPECT_EQ(Compiles(GetParam().format), GetParam().valid);
 }
@@ -385,7 +385,7 @@ constexpr ValidityCase kValidityCases[] = {
     {"GeneralUnclosed",         "[GENERAL",   false},
 };
 
-INSTANTIATE_TEST_SUITE_P(Formats, FormatValidity, testing::ValuesIn(kValidityCases), zttest::RowName<ValidityCase>);
+TEST_ROWS(Formats, FormatValidity, kValidityCases);
 
 TEST_F(NumberFormat, Of255CharactersFitsInto256Bytes)
 {

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "tests/companions/rows.h"
 #include "tests/companions/scoped_profile.h"
+#include "tests/support/rows.h"
 #include "ztshared.h"
 
 namespace {
@@ -22,12 +22,12 @@ void PrintTo(const NumberCase& row, std::ostream* out)
     *out << '"' << row.text << '"';
 }
 
-class NumberTest : public testing::TestWithParam<NumberCase> {
+class NumberTest : public zttest::RowTest<NumberCase> {
 protected:
     const ScopedProfile profile_{zttest::kPointAndComma};
 };
 
-TEST_P(NumberTest, TellsNumbersFromOtherTexts)
+ROW_TEST(NumberTest, TellsNumbersFromOtherTexts)
 {
     EXPECT_EQ(SharedIsNumber(GetParam().text) != 0, GetParam().number);
 }
@@ -65,7 +65,7 @@ constexpr NumberCase kNumberCases[] = {
     {"LineEnd",          "1\n",                                                                  false},
 };
 
-INSTANTIATE_TEST_SUITE_P(Texts, NumberTest, testing::ValuesIn(kNumberCases), zttest::RowName<NumberCase>);
+TEST_ROWS(Texts, NumberTest, kNumberCases);
 
 struct RegionalNumberCase {
     const char* name;
@@ -79,9 +79,9 @@ void PrintTo(const RegionalNumberCase& row, std::ostream* out)
     *out << '"' << row.text << '"';
 }
 
-class NumberTestRegional : public testing::TestWithParam<RegionalNumberCase> {};
+class NumberTestRegional : public zttest::RowTest<RegionalNumberCase> {};
 
-TEST_P(NumberTestRegional, TakesTheRegionalPointAndThePlainOne)
+ROW_TEST(NumberTestRegional, TakesTheRegionalPointAndThePlainOne)
 {
     const ScopedProfile profile(*GetParam().profile);
     EXPECT_EQ(SharedIsNumber(GetParam().text) != 0, GetParam().number);
@@ -99,8 +99,7 @@ const RegionalNumberCase kRegionalNumberCases[] = {
     {"CommaWithoutASetting", &zttest::kEmptyCharacters, "1,5",   false},
 };
 
-INSTANTIATE_TEST_SUITE_P(Texts, NumberTestRegional, testing::ValuesIn(kRegionalNumberCases),
-                         zttest::RowName<RegionalNumberCase>);
+TEST_ROWS(Texts, NumberTestRegional, kRegionalNumberCases);
 
 TEST(NumberTestNull, IsNoNumber)
 {

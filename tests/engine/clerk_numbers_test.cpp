@@ -1,5 +1,6 @@
 // Numbers as clerks type them all day: with Tab (which selects everything), Home, Backspace, a minus, a point, a wrong key.
 #include "tests/engine/clerk.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -170,9 +171,9 @@ const HabitCase kHabits[] = {
 };
 // clang-format on
 
-class ClerkWithHabits : public Clerk, public testing::WithParamInterface<HabitCase> {};
+class ClerkWithHabits : public Clerk, public OfRow<HabitCase> {};
 
-TEST_P(ClerkWithHabits, GetsTheNumber)
+ROW_TEST(ClerkWithHabits, GetsTheNumber)
 {
     const HabitCase& row = GetParam();
     Field(row.mask, DT_NUMBER, row.value);
@@ -187,7 +188,7 @@ TEST_P(ClerkWithHabits, GetsTheNumber)
     EXPECT_EQ(Beeps(), row.beeps);
 }
 
-INSTANTIATE_TEST_SUITE_P(Numbers, ClerkWithHabits, testing::ValuesIn(kHabits), RowName<HabitCase>);
+TEST_ROWS(Numbers, ClerkWithHabits, kHabits);
 
 }  // namespace
 }  // namespace zttest

@@ -4,6 +4,7 @@
 
 #include "tests/engine/clerk.h"
 #include "tests/support/clipboard.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -47,9 +48,9 @@ const DateCase kDates[] = {
 };
 // clang-format on
 
-class ClerkTypesADate : public Clerk, public testing::WithParamInterface<DateCase> {};
+class ClerkTypesADate : public Clerk, public OfRow<DateCase> {};
 
-TEST_P(ClerkTypesADate, IntoAnEmptyField)
+ROW_TEST(ClerkTypesADate, IntoAnEmptyField)
 {
     Field(GetParam().mask, DT_DATE);
     Type(GetParam().keys);
@@ -57,7 +58,7 @@ TEST_P(ClerkTypesADate, IntoAnEmptyField)
     EXPECT_EQ(Beeps(), 0);
 }
 
-TEST_P(ClerkTypesADate, OverAnotherDateWhollySelected)
+ROW_TEST(ClerkTypesADate, OverAnotherDateWhollySelected)
 {
     Field(GetParam().mask, DT_DATE, "2004-02-29");
     TabInto();
@@ -66,7 +67,7 @@ TEST_P(ClerkTypesADate, OverAnotherDateWhollySelected)
     EXPECT_EQ(Beeps(), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Dates, ClerkTypesADate, testing::ValuesIn(kDates), RowName<DateCase>);
+TEST_ROWS(Dates, ClerkTypesADate, kDates);
 
 struct KeywordDateCase {
     const char* name;
@@ -91,9 +92,9 @@ const KeywordDateCase kKeywordDates[] = {
 };
 // clang-format on
 
-class ClerkTypesARegionalDate : public Clerk, public testing::WithParamInterface<KeywordDateCase> {};
+class ClerkTypesARegionalDate : public Clerk, public OfRow<KeywordDateCase> {};
 
-TEST_P(ClerkTypesARegionalDate, IntoAKeywordField)
+ROW_TEST(ClerkTypesARegionalDate, IntoAKeywordField)
 {
     const Regional regional(*GetParam().settings);
     Field("[date]", DT_DATE);
@@ -103,7 +104,7 @@ TEST_P(ClerkTypesARegionalDate, IntoAKeywordField)
     EXPECT_EQ(Beeps(), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Dates, ClerkTypesARegionalDate, testing::ValuesIn(kKeywordDates), RowName<KeywordDateCase>);
+TEST_ROWS(Dates, ClerkTypesARegionalDate, kKeywordDates);
 
 TEST_F(Clerk, ReadsTheDateTyped)
 {
@@ -255,9 +256,9 @@ const CopyCase kCopies[] = {
 };
 // clang-format on
 
-class ClerkCopies : public Clerk, public testing::WithParamInterface<CopyCase> {};
+class ClerkCopies : public Clerk, public OfRow<CopyCase> {};
 
-TEST_P(ClerkCopies, AndPastesTheSameValue)
+ROW_TEST(ClerkCopies, AndPastesTheSameValue)
 {
     const Regional regional(*GetParam().settings);
     Field(GetParam().mask, GetParam().type, GetParam().data);
@@ -272,7 +273,7 @@ TEST_P(ClerkCopies, AndPastesTheSameValue)
     EXPECT_EQ(Beeps(), 0);
 }
 
-TEST_P(ClerkCopies, AndPastesItOverItself)
+ROW_TEST(ClerkCopies, AndPastesItOverItself)
 {
     const Regional regional(*GetParam().settings);
     Field(GetParam().mask, GetParam().type, GetParam().data);
@@ -283,7 +284,7 @@ TEST_P(ClerkCopies, AndPastesItOverItself)
     EXPECT_EQ(Text(), text);
 }
 
-INSTANTIATE_TEST_SUITE_P(Values, ClerkCopies, testing::ValuesIn(kCopies), RowName<CopyCase>);
+TEST_ROWS(Values, ClerkCopies, kCopies);
 
 TEST_F(Clerk, PastesADateFromALetter)
 {
@@ -338,12 +339,12 @@ const SlipCase kFields[] = {
 };
 // clang-format on
 
-class ClerkSlips : public Clerk, public testing::WithParamInterface<SlipCase> {
+class ClerkSlips : public Clerk, public OfRow<SlipCase> {
 protected:
     void MakeField() { Field(GetParam().mask, GetParam().type, GetParam().data); }
 };
 
-TEST_P(ClerkSlips, AWrongKeyChangesNothingAndMovesNothing)
+ROW_TEST(ClerkSlips, AWrongKeyChangesNothingAndMovesNothing)
 {
     MakeField();
     const std::string text = Text();
@@ -368,7 +369,7 @@ std::string LiteralsOf(const std::string& text)
     return literals;
 }
 
-TEST_P(ClerkSlips, BackspaceAnywhereLeavesTheLiterals)
+ROW_TEST(ClerkSlips, BackspaceAnywhereLeavesTheLiterals)
 {
     MakeField();
     const std::string text = Text();
@@ -380,7 +381,7 @@ TEST_P(ClerkSlips, BackspaceAnywhereLeavesTheLiterals)
     }
 }
 
-TEST_P(ClerkSlips, DeleteAnywhereLeavesTheLiterals)
+ROW_TEST(ClerkSlips, DeleteAnywhereLeavesTheLiterals)
 {
     MakeField();
     const std::string text = Text();
@@ -392,7 +393,7 @@ TEST_P(ClerkSlips, DeleteAnywhereLeavesTheLiterals)
     }
 }
 
-TEST_P(ClerkSlips, DeletingAnySelectionLeavesTheLiterals)
+ROW_TEST(ClerkSlips, DeletingAnySelectionLeavesTheLiterals)
 {
     MakeField();
     const std::string text = Text();
@@ -406,7 +407,7 @@ TEST_P(ClerkSlips, DeletingAnySelectionLeavesTheLiterals)
         }
 }
 
-TEST_P(ClerkSlips, DeletedFieldsKeepTheirLength)
+ROW_TEST(ClerkSlips, DeletedFieldsKeepTheirLength)
 {
     if (GetParam().type == DT_NUMBER || GetParam().type == DT_DECIMAL)
         return;  // numbers get shorter
@@ -417,7 +418,7 @@ TEST_P(ClerkSlips, DeletedFieldsKeepTheirLength)
     EXPECT_EQ(Text().size(), length);
 }
 
-INSTANTIATE_TEST_SUITE_P(Fields, ClerkSlips, testing::ValuesIn(kFields), RowName<SlipCase>);
+TEST_ROWS(Fields, ClerkSlips, kFields);
 
 // ---- Fast typing ----------------------------------------------------------------------------------------------------
 
@@ -449,9 +450,9 @@ const FastCase kFast[] = {
 };
 // clang-format on
 
-class ClerkTypesFast : public Clerk, public testing::WithParamInterface<FastCase> {};
+class ClerkTypesFast : public Clerk, public OfRow<FastCase> {};
 
-TEST_P(ClerkTypesFast, EachKeyGoesDownBeforeTheLastIsUp)
+ROW_TEST(ClerkTypesFast, EachKeyGoesDownBeforeTheLastIsUp)
 {
     Field(GetParam().mask, GetParam().type);
     const std::string keys = GetParam().keys;
@@ -465,7 +466,7 @@ TEST_P(ClerkTypesFast, EachKeyGoesDownBeforeTheLastIsUp)
     EXPECT_EQ(Beeps(), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, ClerkTypesFast, testing::ValuesIn(kFast), RowName<FastCase>);
+TEST_ROWS(Texts, ClerkTypesFast, kFast);
 
 // ---- Fields that take no input --------------------------------------------------------------------------------------
 
@@ -482,7 +483,7 @@ void PrintTo(const LockCase& row, std::ostream* out)
     *out << row.name;
 }
 
-class ClerkAtALockedField : public Clerk, public testing::WithParamInterface<LockCase> {
+class ClerkAtALockedField : public Clerk, public OfRow<LockCase> {
 protected:
     void LockedField(const char* mask, int32_t type, const char* data)
     {
@@ -501,7 +502,7 @@ protected:
     }
 };
 
-TEST_P(ClerkAtALockedField, ChangesNoDate)
+ROW_TEST(ClerkAtALockedField, ChangesNoDate)
 {
     LockedField("MM/DD/YY", DT_DATE, "1995-07-04");
     CopyToClipboard("2001-12-31");
@@ -510,7 +511,7 @@ TEST_P(ClerkAtALockedField, ChangesNoDate)
     EXPECT_EQ(Text(), "07/04/95");
 }
 
-TEST_P(ClerkAtALockedField, ChangesNoDateWhollySelected)
+ROW_TEST(ClerkAtALockedField, ChangesNoDateWhollySelected)
 {
     LockedField("MM/DD/YY", DT_DATE, "1995-07-04");
     CopyToClipboard("2001-12-31");
@@ -519,7 +520,7 @@ TEST_P(ClerkAtALockedField, ChangesNoDateWhollySelected)
     EXPECT_EQ(Text(), "07/04/95");
 }
 
-TEST_P(ClerkAtALockedField, ChangesNoNumber)
+ROW_TEST(ClerkAtALockedField, ChangesNoNumber)
 {
     LockedField("#,##0.00", DT_NUMBER, "1234.5");
     CopyToClipboard("77");
@@ -528,7 +529,7 @@ TEST_P(ClerkAtALockedField, ChangesNoNumber)
     EXPECT_EQ(Text(), "1,234.50");
 }
 
-TEST_P(ClerkAtALockedField, ChangesNoNumberWhollySelected)
+ROW_TEST(ClerkAtALockedField, ChangesNoNumberWhollySelected)
 {
     LockedField("#,##0.00", DT_NUMBER, "1234.5");
     CopyToClipboard("77");
@@ -537,7 +538,7 @@ TEST_P(ClerkAtALockedField, ChangesNoNumberWhollySelected)
     EXPECT_EQ(Text(), "1,234.50");
 }
 
-TEST_P(ClerkAtALockedField, SeesValuesSetByTheProgram)
+ROW_TEST(ClerkAtALockedField, SeesValuesSetByTheProgram)
 {
     LockedField("MM/DD/YY", DT_DATE, "1995-07-04");
     control_->SetDataString("2001-12-31");
@@ -564,7 +565,7 @@ const LockCase kLocks[] = {
 };
 // clang-format on
 
-INSTANTIATE_TEST_SUITE_P(Locks, ClerkAtALockedField, testing::ValuesIn(kLocks), RowName<LockCase>);
+TEST_ROWS(Locks, ClerkAtALockedField, kLocks);
 
 TEST_F(Clerk, PastesNothingIntoAReadOnlyFieldByMessage)
 {

@@ -1,5 +1,6 @@
 // Arrow keys, Home and End, and clicks: where the caret may stand.
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -37,12 +38,12 @@ const KeyCase kMoves[] = {
 
 class CaretKeys : public KeyTable {};
 
-TEST_P(CaretKeys, LeadTo)
+ROW_TEST(CaretKeys, LeadTo)
 {
     Check(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, CaretKeys, testing::ValuesIn(kMoves), RowName<KeyCase>);
+TEST_ROWS(Rows, CaretKeys, kMoves);
 
 struct ClickCase {
     const char* name;
@@ -76,9 +77,9 @@ const ClickCase kClicks[] = {
 };
 // clang-format on
 
-class ClickAt : public EditTest, public testing::WithParamInterface<ClickCase> {};
+class ClickAt : public EditTest, public OfRow<ClickCase> {};
 
-TEST_P(ClickAt, LeadsTo)
+ROW_TEST(ClickAt, LeadsTo)
 {
     const ClickCase& row = GetParam();
     Given(row.mask, row.type, row.text);
@@ -86,7 +87,7 @@ TEST_P(ClickAt, LeadsTo)
     EXPECT_EQ(Shown(), row.shown);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, ClickAt, testing::ValuesIn(kClicks), RowName<ClickCase>);
+TEST_ROWS(Rows, ClickAt, kClicks);
 
 class Mouse : public EditTest {};
 

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -85,12 +86,12 @@ const KeyCase kSteps[] = {
 
 class CharEntry : public KeyTable {};
 
-TEST_P(CharEntry, LeadsTo)
+ROW_TEST(CharEntry, LeadsTo)
 {
     Check(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, CharEntry, testing::ValuesIn(kSteps), RowName<KeyCase>);
+TEST_ROWS(Rows, CharEntry, kSteps);
 
 // Fields behind the AM/PM field stand further left than the mask writes them.
 // clang-format off
@@ -114,12 +115,12 @@ const KeyCase kBehindAmPm[] = {
 
 class BehindAmPm : public KeyTable {};
 
-TEST_P(BehindAmPm, LeadsTo)
+ROW_TEST(BehindAmPm, LeadsTo)
 {
     Check(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, BehindAmPm, testing::ValuesIn(kBehindAmPm), RowName<KeyCase>);
+TEST_ROWS(Rows, BehindAmPm, kBehindAmPm);
 
 // Other designators than AM and PM: given and shown are times under them.
 struct DesignatorCase {
@@ -137,9 +138,9 @@ void PrintTo(const DesignatorCase& row, std::ostream* out)
     *out << row.keys << " over " << row.given << " under " << row.mask;
 }
 
-class Designators : public EditTest, public testing::WithParamInterface<DesignatorCase> {};
+class Designators : public EditTest, public OfRow<DesignatorCase> {};
 
-TEST_P(Designators, ArePlacedWhole)
+ROW_TEST(Designators, ArePlacedWhole)
 {
     const DesignatorCase& row = GetParam();
     const Regional settings(With(kUnitedStates, {
@@ -173,7 +174,7 @@ const DesignatorCase kDesignators[] = {
 };
 // clang-format on
 
-INSTANTIATE_TEST_SUITE_P(Rows, Designators, testing::ValuesIn(kDesignators), RowName<DesignatorCase>);
+TEST_ROWS(Rows, Designators, kDesignators);
 
 // A display that was laid out under other settings keeps its fields where they are.
 TEST_F(EditTest, FieldsStayWhenTheDesignatorsChange)
@@ -396,7 +397,7 @@ protected:
     FieldRecorder recorder_;
 };
 
-TEST_P(RedrawIsOn, AfterTheKeys)
+ROW_TEST(RedrawIsOn, AfterTheKeys)
 {
     const KeyCase& row = GetParam();
     Given(row.mask, row.type, row.given);
@@ -419,7 +420,7 @@ TEST_F(Redraw, IsOffWhileTheCharacterIsSelectedAndOnBeforeItIsReplaced)
     EXPECT_EQ(recorder_.Told(), (std::vector<std::string>{"redraw off", "redraw on", "text"}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, RedrawIsOn, testing::ValuesIn(kRedrawRows), RowName<KeyCase>);
+TEST_ROWS(Rows, RedrawIsOn, kRedrawRows);
 
 }  // namespace
 }  // namespace zttest

@@ -1,5 +1,6 @@
 // Backspace and Delete: in fields with literals nothing shifts, in the others they work as in a plain edit.
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -40,12 +41,12 @@ const KeyCase kDeletions[] = {
 
 class Deletion : public KeyTable {};
 
-TEST_P(Deletion, LeadsTo)
+ROW_TEST(Deletion, LeadsTo)
 {
     Check(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, Deletion, testing::ValuesIn(kDeletions), RowName<KeyCase>);
+TEST_ROWS(Rows, Deletion, kDeletions);
 
 // clang-format off
 const KeyCase kNumberDeletions[] = {
@@ -80,12 +81,12 @@ const KeyCase kNumberDeletions[] = {
 
 class NumberDeletion : public KeyTable {};
 
-TEST_P(NumberDeletion, LeadsTo)
+ROW_TEST(NumberDeletion, LeadsTo)
 {
     Check(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, NumberDeletion, testing::ValuesIn(kNumberDeletions), RowName<KeyCase>);
+TEST_ROWS(Rows, NumberDeletion, kNumberDeletions);
 
 class BackspaceKey : public EditTest {};
 
@@ -151,9 +152,9 @@ const UndoCase kUndoRows[] = {
 };
 // clang-format on
 
-class Undo : public EditTest, public testing::WithParamInterface<UndoCase> {};
+class Undo : public EditTest, public OfRow<UndoCase> {};
 
-TEST_P(Undo, BringsBackNoTextThatBreaksTheMask)
+ROW_TEST(Undo, BringsBackNoTextThatBreaksTheMask)
 {
     const UndoCase& row = GetParam();
     Given(row.mask, row.type, row.given);
@@ -168,7 +169,7 @@ TEST_P(Undo, BringsBackNoTextThatBreaksTheMask)
     EXPECT_EQ(found, literals);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, Undo, testing::ValuesIn(kUndoRows), RowName<UndoCase>);
+TEST_ROWS(Rows, Undo, kUndoRows);
 
 }  // namespace
 }  // namespace zttest

@@ -1,6 +1,7 @@
 // Keys that are no characters of a value: cutting, copying, selecting, and control characters, which leave a field alone.
 #include "tests/support/clipboard.h"
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -38,7 +39,7 @@ const Kind kOthers[] = {
 };
 // clang-format on
 
-class EveryKind : public EditTest, public testing::WithParamInterface<Kind> {
+class EveryKind : public EditTest, public OfRow<Kind> {
 protected:
     void GivenPart() { Given(GetParam().mask, GetParam().type, GetParam().part); }
     void GivenWhole() { Given(GetParam().mask, GetParam().type, GetParam().whole); }
@@ -52,7 +53,7 @@ protected:
     }
 };
 
-TEST_P(EveryKind, KeepsWhatIsSelectedUnderControlCharacters)
+ROW_TEST(EveryKind, KeepsWhatIsSelectedUnderControlCharacters)
 {
     for (const char* keys : {"\x1a", "{Enter}", "{Esc}", "{Tab}", "\x05", "\n", "\x0c", "\x19", "{Ctrl+Z}"}) {
         GivenPart();
@@ -65,7 +66,7 @@ TEST_P(EveryKind, KeepsWhatIsSelectedUnderControlCharacters)
     }
 }
 
-TEST_P(EveryKind, CtrlASelectsAll)
+ROW_TEST(EveryKind, CtrlASelectsAll)
 {
     GivenPart();
     Play("{Ctrl+A}");
@@ -73,7 +74,7 @@ TEST_P(EveryKind, CtrlASelectsAll)
     EXPECT_EQ(Beeps(), 0);
 }
 
-TEST_P(EveryKind, CtrlAInAReadOnlyOneSelectsAllToo)
+ROW_TEST(EveryKind, CtrlAInAReadOnlyOneSelectsAllToo)
 {
     GivenPart();
     control_->SetReadOnly();
@@ -81,7 +82,7 @@ TEST_P(EveryKind, CtrlAInAReadOnlyOneSelectsAllToo)
     EXPECT_EQ(Shown(), GetParam().whole);
 }
 
-TEST_P(EveryKind, CutsAsDeleteDoes)
+ROW_TEST(EveryKind, CutsAsDeleteDoes)
 {
     const std::string deleted = After("{Del}");
     for (const char* keys : {"{Ctrl+X}", "{Shift+Del}"}) {
@@ -93,7 +94,7 @@ TEST_P(EveryKind, CutsAsDeleteDoes)
     }
 }
 
-TEST_P(EveryKind, WithNothingSelectedCtrlXDoesNothing)
+ROW_TEST(EveryKind, WithNothingSelectedCtrlXDoesNothing)
 {
     GivenPart();
     control_->Select(1, 1);
@@ -106,7 +107,7 @@ TEST_P(EveryKind, WithNothingSelectedCtrlXDoesNothing)
     EXPECT_FALSE(control_->IsModified());
 }
 
-TEST_P(EveryKind, WithNothingSelectedShiftDeleteIsDelete)
+ROW_TEST(EveryKind, WithNothingSelectedShiftDeleteIsDelete)
 {
     GivenPart();
     control_->Select(1, 1);
@@ -120,14 +121,14 @@ TEST_P(EveryKind, WithNothingSelectedShiftDeleteIsDelete)
     EXPECT_EQ(ClipboardText(), "kept");
 }
 
-TEST_P(EveryKind, CtrlInsertCopies)
+ROW_TEST(EveryKind, CtrlInsertCopies)
 {
     EmptyTheClipboard();
     EXPECT_EQ(After("{Ctrl+Ins}"), GetParam().part);
     EXPECT_EQ(ClipboardText(), GetParam().cut);
 }
 
-TEST_P(EveryKind, AReadOnlyOneIsCopiedFromAndKeepsItsText)
+ROW_TEST(EveryKind, AReadOnlyOneIsCopiedFromAndKeepsItsText)
 {
     for (const char* keys : {"{Ctrl+X}", "{Shift+Del}", "{Ctrl+Ins}", "{Ctrl+C}"}) {
         EmptyTheClipboard();
@@ -139,7 +140,7 @@ TEST_P(EveryKind, AReadOnlyOneIsCopiedFromAndKeepsItsText)
     }
 }
 
-TEST_P(EveryKind, ADisabledOneIsCopiedFromAndKeepsItsText)
+ROW_TEST(EveryKind, ADisabledOneIsCopiedFromAndKeepsItsText)
 {
     for (const char* keys : {"{Ctrl+X}", "{Shift+Del}"}) {
         EmptyTheClipboard();
@@ -151,12 +152,12 @@ TEST_P(EveryKind, ADisabledOneIsCopiedFromAndKeepsItsText)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Numbers, EveryKind, testing::ValuesIn(kNumbers), RowName<Kind>);
-INSTANTIATE_TEST_SUITE_P(Others, EveryKind, testing::ValuesIn(kOthers), RowName<Kind>);
+TEST_ROWS(Numbers, EveryKind, kNumbers);
+TEST_ROWS(Others, EveryKind, kOthers);
 
 class DeletedText : public EveryKind {};
 
-TEST_P(DeletedText, CountsAsModified)
+ROW_TEST(DeletedText, CountsAsModified)
 {
     for (const char* keys : {"{Del}", "{Back}", "{Ctrl+X}", "{Shift+Del}", "{Shift+Back}"}) {
         GivenPart();
@@ -166,7 +167,7 @@ TEST_P(DeletedText, CountsAsModified)
     }
 }
 
-TEST_P(DeletedText, CountsNoMoreOnceCodeHasSetAValue)
+ROW_TEST(DeletedText, CountsNoMoreOnceCodeHasSetAValue)
 {
     GivenPart();
     Play("{Del}");
@@ -174,7 +175,7 @@ TEST_P(DeletedText, CountsNoMoreOnceCodeHasSetAValue)
     EXPECT_FALSE(control_->IsModified());
 }
 
-INSTANTIATE_TEST_SUITE_P(Others, DeletedText, testing::ValuesIn(kOthers), RowName<Kind>);
+TEST_ROWS(Others, DeletedText, kOthers);
 
 class Backspace : public EditTest {};
 
@@ -284,9 +285,9 @@ void PrintTo(const TypedCase& row, std::ostream* out)
     *out << row.keys << " under " << row.mask;
 }
 
-class Typed : public EditTest, public testing::WithParamInterface<TypedCase> {};
+class Typed : public EditTest, public OfRow<TypedCase> {};
 
-TEST_P(Typed, CountsAsModified)
+ROW_TEST(Typed, CountsAsModified)
 {
     const TypedCase& row = GetParam();
     Given(row.mask, row.type, row.given);
@@ -312,7 +313,7 @@ const TypedCase kTyped[] = {
 };
 // clang-format on
 
-INSTANTIATE_TEST_SUITE_P(Rows, Typed, testing::ValuesIn(kTyped), RowName<TypedCase>);
+TEST_ROWS(Rows, Typed, kTyped);
 
 }  // namespace
 }  // namespace zttest

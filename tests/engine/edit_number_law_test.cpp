@@ -1,6 +1,7 @@
 // Whoever types a number gets that number: as a clerk types it, over what stands there, with Home, Backspace, a minus, a point
 // and a wrong key on the way.
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -104,12 +105,12 @@ const KeyCase kLawRows[] = {
 
 class NumberLaw : public KeyTable {};
 
-TEST_P(NumberLaw, LeadsTo)
+ROW_TEST(NumberLaw, LeadsTo)
 {
     Check(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(UnitedStates, NumberLaw, testing::ValuesIn(kLawRows), RowName<KeyCase>);
+TEST_ROWS(UnitedStates, NumberLaw, kLawRows);
 
 // clang-format off
 const KeyCase kCzechRows[] = {
@@ -162,27 +163,27 @@ class MexicanNumberLaw : public KeyTable {
     const Regional regional_{Currency(kUnitedStates, "MXN", "0", "2")};
 };
 
-TEST_P(CzechNumberLaw, LeadsTo)
+ROW_TEST(CzechNumberLaw, LeadsTo)
 {
     Check(GetParam());
 }
-TEST_P(DanishNumberLaw, LeadsTo)
+ROW_TEST(DanishNumberLaw, LeadsTo)
 {
     Check(GetParam());
 }
-TEST_P(SwissFrancNumberLaw, LeadsTo)
+ROW_TEST(SwissFrancNumberLaw, LeadsTo)
 {
     Check(GetParam());
 }
-TEST_P(MexicanNumberLaw, LeadsTo)
+ROW_TEST(MexicanNumberLaw, LeadsTo)
 {
     Check(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, CzechNumberLaw, testing::ValuesIn(kCzechRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(Rows, DanishNumberLaw, testing::ValuesIn(kDanishRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(Rows, SwissFrancNumberLaw, testing::ValuesIn(kSwissFrancRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(Rows, MexicanNumberLaw, testing::ValuesIn(kMexicanRows), RowName<KeyCase>);
+TEST_ROWS(Rows, CzechNumberLaw, kCzechRows);
+TEST_ROWS(Rows, DanishNumberLaw, kDanishRows);
+TEST_ROWS(Rows, SwissFrancNumberLaw, kSwissFrancRows);
+TEST_ROWS(Rows, MexicanNumberLaw, kMexicanRows);
 
 // What is read back while and after a number is typed.
 struct ReadCase {
@@ -218,9 +219,9 @@ const ReadCase kReadRows[] = {
 };
 // clang-format on
 
-class NumberReadBack : public EditTest, public testing::WithParamInterface<ReadCase> {};
+class NumberReadBack : public EditTest, public OfRow<ReadCase> {};
 
-TEST_P(NumberReadBack, Is)
+ROW_TEST(NumberReadBack, Is)
 {
     GivenText(GetParam().mask, GetParam().type, GetParam().given);
     Play(GetParam().keys);
@@ -228,7 +229,7 @@ TEST_P(NumberReadBack, Is)
     EXPECT_EQ(Beeps(), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, NumberReadBack, testing::ValuesIn(kReadRows), RowName<ReadCase>);
+TEST_ROWS(Rows, NumberReadBack, kReadRows);
 
 class NumberFocus : public EditTest {};
 
@@ -328,7 +329,10 @@ TEST_F(BackspaceWithoutItsCharacter, IsForgottenAtTheNextKey)
 }
 
 class EqualSeparators : public ValueTest {
-    const Regional regional_{With(kUnitedStates, {{"sThousand", "."}})};
+    const Regional regional_{
+        With(kUnitedStates, {{"sThousand", "."}}
+         )
+    };
 };
 
 TEST_F(EqualSeparators, GroupNothing)

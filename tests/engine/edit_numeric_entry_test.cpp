@@ -1,5 +1,6 @@
 // Typing into numbers and decimals: digits grow to the left of the point, and the text is laid through the mask again.
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -67,12 +68,12 @@ const KeyCase kNumberRows[] = {
 
 class NumberEntry : public KeyTable {};
 
-TEST_P(NumberEntry, LeadsTo)
+ROW_TEST(NumberEntry, LeadsTo)
 {
     Check(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(UnitedStates, NumberEntry, testing::ValuesIn(kNumberRows), RowName<KeyCase>);
+TEST_ROWS(UnitedStates, NumberEntry, kNumberRows);
 
 // The same under other settings. The mask "" stands for the default "#,#.00".
 // clang-format off
@@ -126,22 +127,22 @@ class SwissNumberEntry : public KeyTable {
     const Regional regional_{kSwiss};
 };
 
-TEST_P(GermanNumberEntry, LeadsTo)
+ROW_TEST(GermanNumberEntry, LeadsTo)
 {
     Check(GetParam());
 }
-TEST_P(FrenchNumberEntry, LeadsTo)
+ROW_TEST(FrenchNumberEntry, LeadsTo)
 {
     Check(GetParam());
 }
-TEST_P(SwissNumberEntry, LeadsTo)
+ROW_TEST(SwissNumberEntry, LeadsTo)
 {
     Check(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, GermanNumberEntry, testing::ValuesIn(kGermanRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(Rows, FrenchNumberEntry, testing::ValuesIn(kFrenchRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(Rows, SwissNumberEntry, testing::ValuesIn(kSwissRows), RowName<KeyCase>);
+TEST_ROWS(Rows, GermanNumberEntry, kGermanRows);
+TEST_ROWS(Rows, FrenchNumberEntry, kFrenchRows);
+TEST_ROWS(Rows, SwissNumberEntry, kSwissRows);
 
 class NumberAutoskip : public EditTest {};
 

@@ -1,6 +1,7 @@
 // Paste: the clipboard text becomes the new value.
 #include "tests/support/clipboard.h"
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -20,7 +21,7 @@ void PrintTo(const PasteCase& row, std::ostream* out)
     *out << row.name << " (clipboard " << row.clipboard << " over " << row.given << " under " << row.mask << ")";
 }
 
-class PasteTable : public EditTest, public testing::WithParamInterface<PasteCase> {
+class PasteTable : public EditTest, public OfRow<PasteCase> {
 protected:
     void Check()
     {
@@ -58,12 +59,12 @@ const PasteCase kRows[] = {
 
 class Paste : public PasteTable {};
 
-TEST_P(Paste, Shows)
+ROW_TEST(Paste, Shows)
 {
     Check();
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, Paste, testing::ValuesIn(kRows), RowName<PasteCase>);
+TEST_ROWS(Rows, Paste, kRows);
 
 // clang-format off
 const PasteCase kGermanPastes[] = {
@@ -78,16 +79,16 @@ class GermanPaste : public PasteTable {
     const Regional regional_{kGerman};
 };
 
-TEST_P(GermanPaste, Shows)
+ROW_TEST(GermanPaste, Shows)
 {
     Check();
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, GermanPaste, testing::ValuesIn(kGermanPastes), RowName<PasteCase>);
+TEST_ROWS(Rows, GermanPaste, kGermanPastes);
 
 enum class Way { Message, CtrlV, ShiftInsert };
 
-class PasteWay : public EditTest, public testing::WithParamInterface<Way> {
+class PasteWay : public EditTest, public OfRow<Way> {
 protected:
     void Paste()
     {
@@ -100,7 +101,7 @@ protected:
     }
 };
 
-TEST_P(PasteWay, ReplacesADate)
+ROW_TEST(PasteWay, ReplacesADate)
 {
     Given("MM/DD/YY", DT_DATE, "07/|04/95");
     CopyToClipboard("2001-12-31");
@@ -109,7 +110,7 @@ TEST_P(PasteWay, ReplacesADate)
     EXPECT_EQ(Beeps(), 0);
 }
 
-TEST_P(PasteWay, ReplacesANumberPartlySelected)
+ROW_TEST(PasteWay, ReplacesANumberPartlySelected)
 {
     Given("#,##0.00", DT_NUMBER, "1[2]3.45");
     CopyToClipboard("7.5");
@@ -117,7 +118,7 @@ TEST_P(PasteWay, ReplacesANumberPartlySelected)
     EXPECT_EQ(Text(), "7.50");
 }
 
-TEST_P(PasteWay, AnEmptyClipboardChangesNothing)
+ROW_TEST(PasteWay, AnEmptyClipboardChangesNothing)
 {
     Given("MM/DD/YY", DT_DATE, "07/|04/95");
     EmptyTheClipboard();
@@ -126,7 +127,7 @@ TEST_P(PasteWay, AnEmptyClipboardChangesNothing)
     EXPECT_EQ(Beeps(), 0);
 }
 
-TEST_P(PasteWay, AnEmptyTextChangesNothing)
+ROW_TEST(PasteWay, AnEmptyTextChangesNothing)
 {
     Given("MM/DD/YY", DT_DATE, "07/|04/95");
     CopyToClipboard("");
@@ -135,7 +136,7 @@ TEST_P(PasteWay, AnEmptyTextChangesNothing)
     EXPECT_EQ(Beeps(), 0);
 }
 
-TEST_P(PasteWay, MarksTheEditAsModified)
+ROW_TEST(PasteWay, MarksTheEditAsModified)
 {
     Given("MM/DD/YY", DT_DATE, "07/|04/95");
     control_->ForgetModified();
@@ -144,13 +145,13 @@ TEST_P(PasteWay, MarksTheEditAsModified)
     EXPECT_TRUE(control_->IsModified());
 }
 
-std::string WayName(const testing::TestParamInfo<Way>& info)
+std::string WayName(const Way& way)
 {
     constexpr const char* kNames[] = {"Message", "CtrlV", "ShiftInsert"};
-    return kNames[static_cast<int>(info.param)];
+    return kNames[static_cast<int>(way)];
 }
 
-INSTANTIATE_TEST_SUITE_P(Ways, PasteWay, testing::Values(Way::Message, Way::CtrlV, Way::ShiftInsert), WayName);
+TEST_ROWS_NAMED(Ways, PasteWay, WayName, std::vector{Way::Message, Way::CtrlV, Way::ShiftInsert});
 
 class Copying : public EditTest {};
 

@@ -1,5 +1,6 @@
 // Every mask character as it takes, completes and refuses what is typed on it.
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -163,20 +164,20 @@ const KeyCase kCompletedRows[] = {
 
 class MaskCharacter : public KeyTable {};
 
-TEST_P(MaskCharacter, LeadsTo)
+ROW_TEST(MaskCharacter, LeadsTo)
 {
     Check(GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(String, MaskCharacter, testing::ValuesIn(kStringRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(Month, MaskCharacter, testing::ValuesIn(kMonthRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(MonthName, MaskCharacter, testing::ValuesIn(kMonthNameRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(Day, MaskCharacter, testing::ValuesIn(kDayRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(DayOfYear, MaskCharacter, testing::ValuesIn(kDayOfYearRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(Year, MaskCharacter, testing::ValuesIn(kYearRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(Time, MaskCharacter, testing::ValuesIn(kTimeRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(Completed, MaskCharacter, testing::ValuesIn(kCompletedRows), RowName<KeyCase>);
-INSTANTIATE_TEST_SUITE_P(Shared, MaskCharacter, testing::ValuesIn(kSharedRows), RowName<KeyCase>);
+TEST_ROWS(String, MaskCharacter, kStringRows);
+TEST_ROWS(Month, MaskCharacter, kMonthRows);
+TEST_ROWS(MonthName, MaskCharacter, kMonthNameRows);
+TEST_ROWS(Day, MaskCharacter, kDayRows);
+TEST_ROWS(DayOfYear, MaskCharacter, kDayOfYearRows);
+TEST_ROWS(Year, MaskCharacter, kYearRows);
+TEST_ROWS(Time, MaskCharacter, kTimeRows);
+TEST_ROWS(Completed, MaskCharacter, kCompletedRows);
+TEST_ROWS(Shared, MaskCharacter, kSharedRows);
 
 }  // namespace
 }  // namespace zttest

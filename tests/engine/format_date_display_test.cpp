@@ -1,5 +1,6 @@
 // How dates and times are shown, field by field, and which texts are taken as dates and times.
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -19,16 +20,16 @@ void PrintTo(const FieldCase& row, std::ostream* out)
     *out << row.value << " under " << row.mask;
 }
 
-class FieldDisplay : public ValueTest, public testing::WithParamInterface<FieldCase> {};
+class FieldDisplay : public ValueTest, public OfRow<FieldCase> {};
 
-TEST_P(FieldDisplay, IsFormatted)
+ROW_TEST(FieldDisplay, IsFormatted)
 {
     Install(GetParam().mask, GetParam().type);
     const DateTimeValue value = ValueOf(GetParam().value);
     EXPECT_EQ(Format(&value).text, GetParam().shown);
 }
 
-TEST_P(FieldDisplay, IsShown)
+ROW_TEST(FieldDisplay, IsShown)
 {
     Install(GetParam().mask, GetParam().type);
     const DateTimeValue value = ValueOf(GetParam().value);
@@ -105,14 +106,14 @@ const FieldCase kTwelveHourRows[] = {
     {"MarkerInTheMiddle",     "HH AM/PM:MM",    DT_TIME, "13:05:00", "01 PM:05"   },
     {"MixedCaseMarkerIsNone", "HH:MM A/P",      DT_TIME, "13:05:00", "13:05 A/P"  },
 };
-INSTANTIATE_TEST_SUITE_P(Date, FieldDisplay, testing::ValuesIn(kDateFieldRows), RowName<FieldCase>);
-INSTANTIATE_TEST_SUITE_P(Missing, FieldDisplay, testing::ValuesIn(kNoDateRows), RowName<FieldCase>);
-INSTANTIATE_TEST_SUITE_P(Time, FieldDisplay, testing::ValuesIn(kTimeFieldRows), RowName<FieldCase>);
-INSTANTIATE_TEST_SUITE_P(TwelveHours, FieldDisplay, testing::ValuesIn(kTwelveHourRows), RowName<FieldCase>);
+TEST_ROWS(Date, FieldDisplay, kDateFieldRows);
+TEST_ROWS(Missing, FieldDisplay, kNoDateRows);
+TEST_ROWS(Time, FieldDisplay, kTimeFieldRows);
+TEST_ROWS(TwelveHours, FieldDisplay, kTwelveHourRows);
 
-class MonthNames : public ValueTest, public testing::WithParamInterface<int> {};
+class MonthNames : public ValueTest, public OfRow<int> {};
 
-TEST_P(MonthNames, ShowTheMonth)
+ROW_TEST(MonthNames, ShowTheMonth)
 {
     static const char* const names[] = {"JAN", "FEB", "MAR", "APR", "MAY", "JUN",
                                         "JUL", "AUG", "SEP", "OCT", "NOV", "DEC"};
@@ -122,7 +123,7 @@ TEST_P(MonthNames, ShowTheMonth)
     EXPECT_EQ(Format(&value).text, std::string("04-") + names[GetParam() - 1] + "-1995");
 }
 
-INSTANTIATE_TEST_SUITE_P(, MonthNames, testing::Range(1, 13));
+TEST_ROWS(, MonthNames, Integers(1, 13));
 
 class NullDates : public ValueTest {};
 

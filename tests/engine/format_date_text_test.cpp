@@ -1,5 +1,6 @@
 // Which texts are taken as dates and times, as display text or in canonical form, and what the control then shows.
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -16,15 +17,15 @@ void PrintTo(const DateTextCase& row, std::ostream* out)
     *out << '"' << row.data << "\" under " << row.mask;
 }
 
-class DateText : public ValueTest, public testing::WithParamInterface<DateTextCase> {};
+class DateText : public ValueTest, public OfRow<DateTextCase> {};
 
-TEST_P(DateText, IsShown)
+ROW_TEST(DateText, IsShown)
 {
     Install(GetParam().mask, GetParam().type);
     EXPECT_EQ(ShownFor(GetParam().data), GetParam().shown);
 }
 
-TEST_P(DateText, IsShownAlikeOverAnotherValue)
+ROW_TEST(DateText, IsShownAlikeOverAnotherValue)
 {
     Install(GetParam().mask, GetParam().type);
     ShownFor(GetParam().type == DT_TIME ? "23:59:59" : "1988-02-29");
@@ -82,19 +83,19 @@ const DateTextCase kRefusedDateRows[] = {
 
 // What is shown where there is no value, handed in again.
 const DateTextCase kBlankRows[] = {
-    {"Date",                   "MM/DD/YY",              DT_DATE,     "00/00/00",              "00/00/00"             },
-    {"FourDigitYear",          "DD.MM.YYYY",            DT_DATE,     "00.00.0000",            "00.00.0000"           },
-    {"MonthName",              "DD-MMM-YY",             DT_DATE,     "00-   -00",             "00-   -00"            },
-    {"MonthAndYear",           "MM/YY",                 DT_DATE,     "00/00",                 "00/00"                },
-    {"YearAlone",              "YY",                    DT_DATE,     "00",                    "00"                   },
-    {"BehindAWord",            "on DD.MM.YY",           DT_DATE,     "on 00.00.00",           "on 00.00.00"          },
-    {"Time",                   "HH:MM:SS",              DT_TIME,     "00:00:00",              "00:00:00"             },
-    {"TwelveHourTime",         "HH:MM AM/PM",           DT_TIME,     "00:00 AM",              "00:00 AM"             },
-    {"MarkerFirst",            "AM/PM HH:MM",           DT_TIME,     "AM 00:00",              "AM 00:00"             },
-    {"DateTime",               "MM/DD/YY HH:MM:SS:FFF", DT_DATETIME, "00/00/00 00:00:00:000", "00/00/00 00:00:00:000"},
-    {"TwelveHourDateTime",     "MM/DD/YY HH:MM AM/PM",  DT_DATETIME, "00/00/00 00:00 AM",     "00/00/00 00:00 AM"    },
-    {"DateAlone",              "MM/DD/YY",              DT_DATETIME, "00/00/00",              "00/00/00"             },
-    {"WithAnyCharacter",       "X MM/DD/YY",            DT_DATE,     "  00/00/00",            "  00/00/00"           },
+    {"Date",               "MM/DD/YY",              DT_DATE,     "00/00/00",              "00/00/00"             },
+    {"FourDigitYear",      "DD.MM.YYYY",            DT_DATE,     "00.00.0000",            "00.00.0000"           },
+    {"MonthName",          "DD-MMM-YY",             DT_DATE,     "00-   -00",             "00-   -00"            },
+    {"MonthAndYear",       "MM/YY",                 DT_DATE,     "00/00",                 "00/00"                },
+    {"YearAlone",          "YY",                    DT_DATE,     "00",                    "00"                   },
+    {"BehindAWord",        "on DD.MM.YY",           DT_DATE,     "on 00.00.00",           "on 00.00.00"          },
+    {"Time",               "HH:MM:SS",              DT_TIME,     "00:00:00",              "00:00:00"             },
+    {"TwelveHourTime",     "HH:MM AM/PM",           DT_TIME,     "00:00 AM",              "00:00 AM"             },
+    {"MarkerFirst",        "AM/PM HH:MM",           DT_TIME,     "AM 00:00",              "AM 00:00"             },
+    {"DateTime",           "MM/DD/YY HH:MM:SS:FFF", DT_DATETIME, "00/00/00 00:00:00:000", "00/00/00 00:00:00:000"},
+    {"TwelveHourDateTime", "MM/DD/YY HH:MM AM/PM",  DT_DATETIME, "00/00/00 00:00 AM",     "00/00/00 00:00 AM"    },
+    {"DateAlone",          "MM/DD/YY",              DT_DATETIME, "00/00/00",              "00/00/00"             },
+    {"WithAnyCharacter",   "X MM/DD/YY",            DT_DATE,     "  00/00/00",            "  00/00/00"           },
 };
 
 const DateTextCase kTwoDigitYearRows[] = {
@@ -162,13 +163,13 @@ const DateTextCase kDateTimeRows[] = {
     {"WordsAreRefused",           "MM/DD/YY HH:MM",        DT_DATETIME, "tomorrow noon.",             "00/00/00 00:00"       },
 };
 
-INSTANTIATE_TEST_SUITE_P(Blanks, DateText, testing::ValuesIn(kBlankRows), RowName<DateTextCase>);
-INSTANTIATE_TEST_SUITE_P(Dates, DateText, testing::ValuesIn(kDateRows), RowName<DateTextCase>);
-INSTANTIATE_TEST_SUITE_P(RefusedDates, DateText, testing::ValuesIn(kRefusedDateRows), RowName<DateTextCase>);
-INSTANTIATE_TEST_SUITE_P(TwoDigitYears, DateText, testing::ValuesIn(kTwoDigitYearRows), RowName<DateTextCase>);
-INSTANTIATE_TEST_SUITE_P(Times, DateText, testing::ValuesIn(kTimeRows), RowName<DateTextCase>);
-INSTANTIATE_TEST_SUITE_P(TwelveHours, DateText, testing::ValuesIn(kTwelveHourRows), RowName<DateTextCase>);
-INSTANTIATE_TEST_SUITE_P(DateTimes, DateText, testing::ValuesIn(kDateTimeRows), RowName<DateTextCase>);
+TEST_ROWS(Blanks, DateText, kBlankRows);
+TEST_ROWS(Dates, DateText, kDateRows);
+TEST_ROWS(RefusedDates, DateText, kRefusedDateRows);
+TEST_ROWS(TwoDigitYears, DateText, kTwoDigitYearRows);
+TEST_ROWS(Times, DateText, kTimeRows);
+TEST_ROWS(TwelveHours, DateText, kTwelveHourRows);
+TEST_ROWS(DateTimes, DateText, kDateTimeRows);
 
 // "[date]" under the pictures of three countries.
 struct PictureCase {
@@ -181,23 +182,23 @@ void PrintTo(const PictureCase& row, std::ostream* out)
     *out << row.shown;
 }
 
-class PictureDates : public ValueTest, public testing::WithParamInterface<PictureCase> {};
+class PictureDates : public ValueTest, public OfRow<PictureCase> {};
 
-TEST_P(PictureDates, ShowACanonicalDate)
+ROW_TEST(PictureDates, ShowACanonicalDate)
 {
     const Regional settings(*GetParam().settings);
     Install("[date]", DT_DATE);
     EXPECT_EQ(ShownFor("1995-07-04"), GetParam().shown);
 }
 
-TEST_P(PictureDates, TakeTheirOwnDisplay)
+ROW_TEST(PictureDates, TakeTheirOwnDisplay)
 {
     const Regional settings(*GetParam().settings);
     Install("[date]", DT_DATE);
     EXPECT_EQ(ShownFor(GetParam().shown), GetParam().shown);
 }
 
-TEST_P(PictureDates, ReadTheDateBack)
+ROW_TEST(PictureDates, ReadTheDateBack)
 {
     const Regional settings(*GetParam().settings);
     Install("[date]", DT_DATE);
@@ -205,7 +206,7 @@ TEST_P(PictureDates, ReadTheDateBack)
     EXPECT_EQ(Read(), "1995-07-04");
 }
 
-TEST_P(PictureDates, ReadADateWithItsTimeBack)
+ROW_TEST(PictureDates, ReadADateWithItsTimeBack)
 {
     const Regional settings(*GetParam().settings);
     Install("[date] [time]", DT_DATETIME);
@@ -218,7 +219,7 @@ const PictureCase kPictureRows[] = {
     {"German",       &kGerman,       "04.07.1995"},
     {"Iso",          &kIso,          "1995-07-04"},
 };
-INSTANTIATE_TEST_SUITE_P(, PictureDates, testing::ValuesIn(kPictureRows), RowName<PictureCase>);
+TEST_ROWS(, PictureDates, kPictureRows);
 
 // Every mask shows every date such that it can be read back and given again.
 struct RoundTripCase {
@@ -232,7 +233,7 @@ void PrintTo(const RoundTripCase& row, std::ostream* out)
     *out << row.mask;
 }
 
-class DateRoundTrip : public ValueTest, public testing::WithParamInterface<RoundTripCase> {
+class DateRoundTrip : public ValueTest, public OfRow<RoundTripCase> {
 protected:
     // The canonical text with what the mask does not keep set to 0.
     std::string Kept(std::string canonical) const
@@ -244,7 +245,7 @@ protected:
     }
 };
 
-TEST_P(DateRoundTrip, ReadsBackWhatWasGiven)
+ROW_TEST(DateRoundTrip, ReadsBackWhatWasGiven)
 {
     static const char* const dates[] = {"1950-01-01", "1995-07-04", "1996-02-29", "1999-12-31",
                                         "2000-02-29", "2024-10-10", "2049-11-30"};
@@ -283,7 +284,7 @@ const RoundTripCase kRoundTripRows[] = {
     {"DateAndTwelveHours",       "DD-MMM-YYYY HH:MM:SS AM/PM", DT_DATETIME, "dddddddddd dddddddd:000000"},
     {"DayOfYearAndTime",         "YY.JJJ HH:MM:SS",            DT_DATETIME, "dddddddddd dddddddd:000000"},
 };
-INSTANTIATE_TEST_SUITE_P(, DateRoundTrip, testing::ValuesIn(kRoundTripRows), RowName<RoundTripCase>);
+TEST_ROWS(, DateRoundTrip, kRoundTripRows);
 
 }  // namespace
 }  // namespace zttest

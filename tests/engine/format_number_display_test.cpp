@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -19,15 +20,15 @@ void PrintTo(const NumberCase& row, std::ostream* out)
 }
 
 // The same rows hold for doubles and for decimals.
-class NumberDisplay : public ValueTest, public testing::WithParamInterface<NumberCase> {};
+class NumberDisplay : public ValueTest, public OfRow<NumberCase> {};
 
-TEST_P(NumberDisplay, ShowsADouble)
+ROW_TEST(NumberDisplay, ShowsADouble)
 {
     Install(GetParam().mask, DT_NUMBER);
     EXPECT_EQ(ShownFor(GetParam().data), GetParam().shown);
 }
 
-TEST_P(NumberDisplay, ShowsADecimal)
+ROW_TEST(NumberDisplay, ShowsADecimal)
 {
     Install(GetParam().mask, DT_DECIMAL);
     EXPECT_EQ(ShownFor(GetParam().data), GetParam().shown);
@@ -125,13 +126,13 @@ const NumberCase kGeneralRows[] = {
     {"ASmallNumber",                        "[GENERAL]", "0.000001",             "0.000001"         },
 };
 
-INSTANTIATE_TEST_SUITE_P(Placeholders, NumberDisplay, testing::ValuesIn(kPlaceholderRows), RowName<NumberCase>);
-INSTANTIATE_TEST_SUITE_P(Grouping, NumberDisplay, testing::ValuesIn(kGroupingRows), RowName<NumberCase>);
-INSTANTIATE_TEST_SUITE_P(Rounding, NumberDisplay, testing::ValuesIn(kRoundingRows), RowName<NumberCase>);
-INSTANTIATE_TEST_SUITE_P(Sign, NumberDisplay, testing::ValuesIn(kSignRows), RowName<NumberCase>);
-INSTANTIATE_TEST_SUITE_P(Percent, NumberDisplay, testing::ValuesIn(kPercentRows), RowName<NumberCase>);
-INSTANTIATE_TEST_SUITE_P(Literals, NumberDisplay, testing::ValuesIn(kLiteralRows), RowName<NumberCase>);
-INSTANTIATE_TEST_SUITE_P(General, NumberDisplay, testing::ValuesIn(kGeneralRows), RowName<NumberCase>);
+TEST_ROWS(Placeholders, NumberDisplay, kPlaceholderRows);
+TEST_ROWS(Grouping, NumberDisplay, kGroupingRows);
+TEST_ROWS(Rounding, NumberDisplay, kRoundingRows);
+TEST_ROWS(Sign, NumberDisplay, kSignRows);
+TEST_ROWS(Percent, NumberDisplay, kPercentRows);
+TEST_ROWS(Literals, NumberDisplay, kLiteralRows);
+TEST_ROWS(General, NumberDisplay, kGeneralRows);
 
 struct RegionalNumberCase {
     const char* name;
@@ -145,16 +146,16 @@ void PrintTo(const RegionalNumberCase& row, std::ostream* out)
     *out << row.data << " under " << row.mask;
 }
 
-class RegionalNumberDisplay : public ValueTest, public testing::WithParamInterface<RegionalNumberCase> {};
+class RegionalNumberDisplay : public ValueTest, public OfRow<RegionalNumberCase> {};
 
-TEST_P(RegionalNumberDisplay, ShowsADouble)
+ROW_TEST(RegionalNumberDisplay, ShowsADouble)
 {
     const Regional settings(*GetParam().settings);
     Install(GetParam().mask, DT_NUMBER);
     EXPECT_EQ(ShownFor(GetParam().data), GetParam().shown);
 }
 
-TEST_P(RegionalNumberDisplay, ShowsADecimal)
+ROW_TEST(RegionalNumberDisplay, ShowsADecimal)
 {
     const Regional settings(*GetParam().settings);
     Install(GetParam().mask, DT_DECIMAL);
@@ -181,7 +182,7 @@ const RegionalNumberCase kRegionalNumberRows[] = {
     {"SwissNegativeCurrency",        &kSwiss,        "[currency(8)]", "-1234.5",     "CHF-1'234.50"},
     {"SwissMaskWithTheSymbol",       &kSwiss,        "CHF##0.00",     "12",          "CHF12.00"    },
 };
-INSTANTIATE_TEST_SUITE_P(, RegionalNumberDisplay, testing::ValuesIn(kRegionalNumberRows), RowName<RegionalNumberCase>);
+TEST_ROWS(, RegionalNumberDisplay, kRegionalNumberRows);
 
 class NumberFormatResult : public ValueTest {};
 
@@ -198,9 +199,9 @@ void PrintTo(const FirstPosCase& row, std::ostream* out)
     *out << row.value << " under " << row.mask;
 }
 
-class FirstPosition : public ValueTest, public testing::WithParamInterface<FirstPosCase> {};
+class FirstPosition : public ValueTest, public OfRow<FirstPosCase> {};
 
-TEST_P(FirstPosition, IsTheFirstDigitOrSign)
+ROW_TEST(FirstPosition, IsTheFirstDigitOrSign)
 {
     const FirstPosCase& row = GetParam();
     Install(row.mask, DT_NUMBER);
@@ -209,7 +210,7 @@ TEST_P(FirstPosition, IsTheFirstDigitOrSign)
     EXPECT_EQ(result.firstFieldPos, row.firstFieldPos);
 }
 
-TEST_P(FirstPosition, LiteralsAreTold)
+ROW_TEST(FirstPosition, LiteralsAreTold)
 {
     Install(GetParam().mask, DT_NUMBER);
     EXPECT_EQ(Format(&GetParam().value).flags, GetParam().flags);
@@ -228,7 +229,7 @@ const FirstPosCase kFirstPosRows[] = {
     {"PercentIsNoLiteral",                "##0%",        0.5,  "50%",     0, FORMAT_DONE                      },
     {"ALiteralBeforeTheCurrencySymbol",   "Due $#,##0",  5.0,  "Due $5",  5, FORMAT_DONE | FORMAT_HAS_LITERALS},
 };
-INSTANTIATE_TEST_SUITE_P(, FirstPosition, testing::ValuesIn(kFirstPosRows), RowName<FirstPosCase>);
+TEST_ROWS(, FirstPosition, kFirstPosRows);
 
 TEST_F(NumberFormatResult, NullIsZeroForANumber)
 {
@@ -320,21 +321,21 @@ void PrintTo(const NumberTextCase& row, std::ostream* out)
     *out << '"' << row.data << '"';
 }
 
-class NumberDataText : public ValueTest, public testing::WithParamInterface<NumberTextCase> {};
+class NumberDataText : public ValueTest, public OfRow<NumberTextCase> {};
 
-TEST_P(NumberDataText, IsReadAsFarAsItIsANumber)
+ROW_TEST(NumberDataText, IsReadAsFarAsItIsANumber)
 {
     Install("#,##0.00##", DT_NUMBER);
     EXPECT_EQ(ShownFor(GetParam().data), GetParam().shown);
 }
 
-TEST_P(NumberDataText, IsReadAlikeForADecimal)
+ROW_TEST(NumberDataText, IsReadAlikeForADecimal)
 {
     Install("#,##0.00##", DT_DECIMAL);
     EXPECT_EQ(ShownFor(GetParam().data), GetParam().shown);
 }
 
-TEST_P(NumberDataText, IsCanonicalBeforeItIsRegional)
+ROW_TEST(NumberDataText, IsCanonicalBeforeItIsRegional)
 {
     const Regional settings(kGerman);
     Install("[GENERAL]", DT_NUMBER);
@@ -342,31 +343,31 @@ TEST_P(NumberDataText, IsCanonicalBeforeItIsRegional)
 }
 
 const NumberTextCase kNumberTextRows[] = {
-    {"AWholeNumber",            "12",        "12.00",       "12"      },
-    {"AFraction",               "12.5",      "12.50",       "12,5"    },
-    {"LeadingBlanks",           "  12",      "12.00",       "12"      },
-    {"APlusSign",               "+12",       "12.00",       "12"      },
-    {"AMinusSign",              "-12",       "-12.00",      "-12"     },
-    {"APointFirst",             ".25",       "0.25",        "0,25"    },
-    {"AnExponent",              "1.5e3",     "1,500.00",    "1500"    },
-    {"ANegativeExponent",       "25e-2",     "0.25",        "0,25"    },
-    {"TrailingText",            "12abc",     "12.00",       "12"      },
-    {"GroupedAsShown",          "1,234",     "1,234.00",    "1,234"   },
-    {"GroupedTwice",            "1,234,567", "1,234,567.00", "1"      },
-    {"GroupsOfTwoEndIt",        "12,34",     "12.00",       "12,34"   },
-    {"AGroupOfFourEndsIt",      "1,2345",    "1.00",        "1,2345"  },
-    {"FourDigitsBeforeAGroup",  "1234,567",  "1,234.00",    "1234,567"},
-    {"AnAmountAsShown",         "1,234.50",  "1,234.50",    "1"       },
-    {"AnAmountShownInGerman",   "1.234,50",  "1.234",       "1234,5"  },
-    {"AFractionShownInGerman",  "98,70",     "98.00",       "98,7"    },
-    {"ANegativeShownInGerman",  "-1.234,50", "-1.234",      "-1234,5" },
-    {"APointThatIsCanonical",   "1.234",     "1.234",       "1,234"   },
-    {"ASecondPointEndsIt",      "1.2.3",     "1.20",        "1,2"     },
-    {"NoNumber",                "abc",       "0.00",        "0"       },
-    {"Empty",                   "",          "0.00",        "0"       },
-    {"ASignAlone",              "-",         "0.00",        "0"       },
+    {"AWholeNumber",           "12",        "12.00",        "12"      },
+    {"AFraction",              "12.5",      "12.50",        "12,5"    },
+    {"LeadingBlanks",          "  12",      "12.00",        "12"      },
+    {"APlusSign",              "+12",       "12.00",        "12"      },
+    {"AMinusSign",             "-12",       "-12.00",       "-12"     },
+    {"APointFirst",            ".25",       "0.25",         "0,25"    },
+    {"AnExponent",             "1.5e3",     "1,500.00",     "1500"    },
+    {"ANegativeExponent",      "25e-2",     "0.25",         "0,25"    },
+    {"TrailingText",           "12abc",     "12.00",        "12"      },
+    {"GroupedAsShown",         "1,234",     "1,234.00",     "1,234"   },
+    {"GroupedTwice",           "1,234,567", "1,234,567.00", "1"       },
+    {"GroupsOfTwoEndIt",       "12,34",     "12.00",        "12,34"   },
+    {"AGroupOfFourEndsIt",     "1,2345",    "1.00",         "1,2345"  },
+    {"FourDigitsBeforeAGroup", "1234,567",  "1,234.00",     "1234,567"},
+    {"AnAmountAsShown",        "1,234.50",  "1,234.50",     "1"       },
+    {"AnAmountShownInGerman",  "1.234,50",  "1.234",        "1234,5"  },
+    {"AFractionShownInGerman", "98,70",     "98.00",        "98,7"    },
+    {"ANegativeShownInGerman", "-1.234,50", "-1.234",       "-1234,5" },
+    {"APointThatIsCanonical",  "1.234",     "1.234",        "1,234"   },
+    {"ASecondPointEndsIt",     "1.2.3",     "1.20",         "1,2"     },
+    {"NoNumber",               "abc",       "0.00",         "0"       },
+    {"Empty",                  "",          "0.00",         "0"       },
+    {"ASignAlone",             "-",         "0.00",         "0"       },
 };
-INSTANTIATE_TEST_SUITE_P(, NumberDataText, testing::ValuesIn(kNumberTextRows), RowName<NumberTextCase>);
+TEST_ROWS(, NumberDataText, kNumberTextRows);
 
 // A 0 is shown as "1,00" too; what was returned for 1 stays 1.
 TEST_F(ValueTest, ANumberReturnedIsTakenAgainBesideLiteralDigits)

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -20,9 +21,9 @@ void PrintTo(const NumberReadCase& row, std::ostream* out)
     *out << row.data << " under " << row.mask;
 }
 
-class NumberReading : public ValueTest, public testing::WithParamInterface<NumberReadCase> {};
+class NumberReading : public ValueTest, public OfRow<NumberReadCase> {};
 
-TEST_P(NumberReading, ReadsANumber)
+ROW_TEST(NumberReading, ReadsANumber)
 {
     const Regional settings(*GetParam().settings);
     Install(GetParam().mask, DT_NUMBER);
@@ -30,7 +31,7 @@ TEST_P(NumberReading, ReadsANumber)
     EXPECT_EQ(Read(), GetParam().value);
 }
 
-TEST_P(NumberReading, ReadsADecimal)
+ROW_TEST(NumberReading, ReadsADecimal)
 {
     const Regional settings(*GetParam().settings);
     Install(GetParam().mask, DT_DECIMAL);
@@ -63,7 +64,7 @@ const NumberReadCase kNumberReadRows[] = {
     {"FrenchCurrency",                                  &kFrench,       "[currency(8)]", "1234.5",    "1234,50"   },
     {"SwissCurrency",                                   &kSwiss,        "[currency(8)]", "1234.5",    "1234.50"   },
 };
-INSTANTIATE_TEST_SUITE_P(, NumberReading, testing::ValuesIn(kNumberReadRows), RowName<NumberReadCase>);
+TEST_ROWS(, NumberReading, kNumberReadRows);
 
 struct UnformatCase {
     const char* name;
@@ -78,16 +79,16 @@ void PrintTo(const UnformatCase& row, std::ostream* out)
     *out << '"' << row.text << "\" under " << row.mask;
 }
 
-class TextGiven : public ValueTest, public testing::WithParamInterface<UnformatCase> {};
+class TextGiven : public ValueTest, public OfRow<UnformatCase> {};
 
-TEST_P(TextGiven, IsUnformatted)
+ROW_TEST(TextGiven, IsUnformatted)
 {
     const Regional settings(*GetParam().settings);
     Install(GetParam().mask, GetParam().type);
     EXPECT_EQ(Unformat(GetParam().text), GetParam().value);
 }
 
-TEST_P(TextGiven, LeavesTheWindowAlone)
+ROW_TEST(TextGiven, LeavesTheWindowAlone)
 {
     const Regional settings(*GetParam().settings);
     Install(GetParam().mask, GetParam().type);
@@ -116,7 +117,7 @@ const UnformatCase kUnformatRows[] = {
     {"EmptyDateText",              &kUnitedStates, "MM/DD/YY",       DT_DATE,     "",                 kNullResult      },
     {"EmptyNumberText",            &kUnitedStates, "#,##0",          DT_NUMBER,   "",                 kNullResult      },
 };
-INSTANTIATE_TEST_SUITE_P(, TextGiven, testing::ValuesIn(kUnformatRows), RowName<UnformatCase>);
+TEST_ROWS(, TextGiven, kUnformatRows);
 
 struct WindowReadCase {
     const char* name;
@@ -130,9 +131,9 @@ void PrintTo(const WindowReadCase& row, std::ostream* out)
     *out << '"' << row.text << "\" under " << row.mask;
 }
 
-class WindowText : public ValueTest, public testing::WithParamInterface<WindowReadCase> {};
+class WindowText : public ValueTest, public OfRow<WindowReadCase> {};
 
-TEST_P(WindowText, IsReadAsAValue)
+ROW_TEST(WindowText, IsReadAsAValue)
 {
     Install(GetParam().mask, GetParam().type);
     SetText(GetParam().text);
@@ -168,19 +169,19 @@ const WindowReadCase kDateReadRows[] = {
 };
 
 const WindowReadCase kTimeReadRows[] = {
-    {"ATime",                      "HH:MM:SS",     DT_TIME, "14:07:09",     "14:07:09:000000"},
-    {"Fractions",                  "HH:MM:SS:FFF", DT_TIME, "14:07:09:250", "14:07:09:250000"},
-    {"AfternoonBeforeTheHour",     "AM/PM HH:MM",  DT_TIME, "PM 01:30",     "13:30:00:000000"},
-    {"AfternoonBetweenTheFields",  "HH am/pm:MM:SS", DT_TIME, "01 PM:30:45", "13:30:45:000000"},
-    {"MidnightIsNull",             "HH:MM:SS",     DT_TIME, "00:00:00",     kNullResult      },
-    {"OneSecondPastMidnight",      "HH:MM:SS",     DT_TIME, "00:00:01",     "00:00:01:000000"},
-    {"OneMillisecondPastMidnight", "HH:MM:SS:FFF", DT_TIME, "00:00:00:001", "00:00:00:001000"},
-    {"TwelveAmIsMidnight",         "HH:MM AM/PM",  DT_TIME, "12:00 AM",     kNullResult      },
-    {"HalfPastTwelveAm",           "HH:MM AM/PM",  DT_TIME, "12:30 AM",     "00:30:00:000000"},
-    {"HalfPastTwelvePm",           "HH:MM AM/PM",  DT_TIME, "12:30 PM",     "12:30:00:000000"},
-    {"OnePm",                      "HH:MM AM/PM",  DT_TIME, "01:00 PM",     "13:00:00:000000"},
-    {"OneAm",                      "HH:MM AM/PM",  DT_TIME, "01:00 AM",     "01:00:00:000000"},
-    {"EmptyWindowIsTheEmptyValue", "HH:MM",        DT_TIME, "",             ""               },
+    {"ATime",                      "HH:MM:SS",       DT_TIME, "14:07:09",     "14:07:09:000000"},
+    {"Fractions",                  "HH:MM:SS:FFF",   DT_TIME, "14:07:09:250", "14:07:09:250000"},
+    {"AfternoonBeforeTheHour",     "AM/PM HH:MM",    DT_TIME, "PM 01:30",     "13:30:00:000000"},
+    {"AfternoonBetweenTheFields",  "HH am/pm:MM:SS", DT_TIME, "01 PM:30:45",  "13:30:45:000000"},
+    {"MidnightIsNull",             "HH:MM:SS",       DT_TIME, "00:00:00",     kNullResult      },
+    {"OneSecondPastMidnight",      "HH:MM:SS",       DT_TIME, "00:00:01",     "00:00:01:000000"},
+    {"OneMillisecondPastMidnight", "HH:MM:SS:FFF",   DT_TIME, "00:00:00:001", "00:00:00:001000"},
+    {"TwelveAmIsMidnight",         "HH:MM AM/PM",    DT_TIME, "12:00 AM",     kNullResult      },
+    {"HalfPastTwelveAm",           "HH:MM AM/PM",    DT_TIME, "12:30 AM",     "00:30:00:000000"},
+    {"HalfPastTwelvePm",           "HH:MM AM/PM",    DT_TIME, "12:30 PM",     "12:30:00:000000"},
+    {"OnePm",                      "HH:MM AM/PM",    DT_TIME, "01:00 PM",     "13:00:00:000000"},
+    {"OneAm",                      "HH:MM AM/PM",    DT_TIME, "01:00 AM",     "01:00:00:000000"},
+    {"EmptyWindowIsTheEmptyValue", "HH:MM",          DT_TIME, "",             ""               },
 };
 
 const WindowReadCase kDateTimeReadRows[] = {
@@ -203,15 +204,15 @@ const WindowReadCase kNumberWindowRows[] = {
     {"OtherCharactersAreDropped", "#,##0.00", DT_NUMBER,  "a1b2.50",  "12.50" },
 };
 
-INSTANTIATE_TEST_SUITE_P(Date, WindowText, testing::ValuesIn(kDateReadRows), RowName<WindowReadCase>);
-INSTANTIATE_TEST_SUITE_P(Time, WindowText, testing::ValuesIn(kTimeReadRows), RowName<WindowReadCase>);
-INSTANTIATE_TEST_SUITE_P(DateTime, WindowText, testing::ValuesIn(kDateTimeReadRows), RowName<WindowReadCase>);
-INSTANTIATE_TEST_SUITE_P(Number, WindowText, testing::ValuesIn(kNumberWindowRows), RowName<WindowReadCase>);
+TEST_ROWS(Date, WindowText, kDateReadRows);
+TEST_ROWS(Time, WindowText, kTimeReadRows);
+TEST_ROWS(DateTime, WindowText, kDateTimeReadRows);
+TEST_ROWS(Number, WindowText, kNumberWindowRows);
 
 // A block handed to a caller is never smaller than the record, so that a caller may look into it.
-class EmptyWindow : public ValueTest, public testing::WithParamInterface<int32_t> {};
+class EmptyWindow : public ValueTest, public OfRow<int32_t> {};
 
-TEST_P(EmptyWindow, GivesAWholeEmptyRecord)
+ROW_TEST(EmptyWindow, GivesAWholeEmptyRecord)
 {
     Install(nullptr, GetParam());
     SetText("");
@@ -221,7 +222,7 @@ TEST_P(EmptyWindow, GivesAWholeEmptyRecord)
     EXPECT_EQ(std::memcmp(&*value, &empty, sizeof empty), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(, EmptyWindow, testing::Values(DT_DATE, DT_TIME, DT_DATETIME));
+TEST_ROWS_OF(, EmptyWindow, DT_DATE, DT_TIME, DT_DATETIME);
 
 }  // namespace
 }  // namespace zttest

@@ -1,5 +1,6 @@
 // How strings are laid into the fields of a mask, and what formatting says about the literals around them.
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -15,9 +16,9 @@ void PrintTo(const StringCase& row, std::ostream* out)
     *out << '"' << row.data << "\" under " << row.mask;
 }
 
-class StringDisplay : public ValueTest, public testing::WithParamInterface<StringCase> {};
+class StringDisplay : public ValueTest, public OfRow<StringCase> {};
 
-TEST_P(StringDisplay, LaysTheStringIntoTheFields)
+ROW_TEST(StringDisplay, LaysTheStringIntoTheFields)
 {
     Install(GetParam().mask, DT_STRING);
     EXPECT_EQ(ShownFor(GetParam().data), GetParam().shown);
@@ -46,7 +47,7 @@ const StringCase kStringRows[] = {
     {"NoMaskShowsTheStringAsItStands",   "",               "any (text) ~at all", "any (text) ~at all"},
     {"HighBytesAreShown",                "XXXX",           "\xe4\xf6\xfc\xdf",   "\xe4\xf6\xfc\xdf"  },
 };
-INSTANTIATE_TEST_SUITE_P(, StringDisplay, testing::ValuesIn(kStringRows), RowName<StringCase>);
+TEST_ROWS(, StringDisplay, kStringRows);
 
 struct StringReadCase {
     const char* name;
@@ -59,16 +60,16 @@ void PrintTo(const StringReadCase& row, std::ostream* out)
     *out << '"' << row.text << "\" under " << row.mask;
 }
 
-class StringReading : public ValueTest, public testing::WithParamInterface<StringReadCase> {};
+class StringReading : public ValueTest, public OfRow<StringReadCase> {};
 
-TEST_P(StringReading, TakesTheFieldCharactersOfTheWindow)
+ROW_TEST(StringReading, TakesTheFieldCharactersOfTheWindow)
 {
     Install(GetParam().mask, DT_STRING);
     SetText(GetParam().text);
     EXPECT_EQ(Read(), GetParam().data);
 }
 
-TEST_P(StringReading, TakesTheFieldCharactersOfATextGiven)
+ROW_TEST(StringReading, TakesTheFieldCharactersOfATextGiven)
 {
     Install(GetParam().mask, DT_STRING);
     EXPECT_EQ(Unformat(GetParam().text), GetParam().data);
@@ -83,7 +84,7 @@ const StringReadCase kStringReadRows[] = {
     {"ShorterThanTheMask",            "(###) ###-####", "(555",           "555"       },
     {"TheEmptyMaskGivesTheWholeText", "",               "any (text)",     "any (text)"},
 };
-INSTANTIATE_TEST_SUITE_P(, StringReading, testing::ValuesIn(kStringReadRows), RowName<StringReadCase>);
+TEST_ROWS(, StringReading, kStringReadRows);
 
 class StringValues : public ValueTest {};
 
@@ -149,21 +150,21 @@ void PrintTo(const FlagsCase& row, std::ostream* out)
     *out << row.mask;
 }
 
-class FormatFlags : public ValueTest, public testing::WithParamInterface<FlagsCase> {};
+class FormatFlags : public ValueTest, public OfRow<FlagsCase> {};
 
-TEST_P(FormatFlags, TellOfLiterals)
+ROW_TEST(FormatFlags, TellOfLiterals)
 {
     Install(GetParam().mask, GetParam().type);
     EXPECT_EQ(Format(nullptr).flags, GetParam().flags);
 }
 
-TEST_P(FormatFlags, GoWithThePositionOfTheFirstField)
+ROW_TEST(FormatFlags, GoWithThePositionOfTheFirstField)
 {
     Install(GetParam().mask, GetParam().type);
     EXPECT_EQ(Format(nullptr).firstFieldPos, GetParam().firstFieldPos);
 }
 
-TEST_P(FormatFlags, AreKeptInTheRecordWithThePosition)
+ROW_TEST(FormatFlags, AreKeptInTheRecordWithThePosition)
 {
     Install(GetParam().mask, GetParam().type);
     control_->SetData(nullptr);
@@ -189,7 +190,7 @@ const FlagsCase kFlagsRows[] = {
     {"ATimeBehindAWord",                "at: HH",         DT_TIME,     kLiterals,       4},
     {"ADateTime",                       "MM/DD/YY HH:MM", DT_DATETIME, kLiteralsBehind, 0},
 };
-INSTANTIATE_TEST_SUITE_P(, FormatFlags, testing::ValuesIn(kFlagsRows), RowName<FlagsCase>);
+TEST_ROWS(, FormatFlags, kFlagsRows);
 
 TEST_F(StringValues, TellTheTypeOfTheMask)
 {

@@ -3,6 +3,7 @@
 #include "tests/support/clipboard.h"
 #include "tests/support/documents.h"
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -34,7 +35,7 @@ std::vector<DocumentRow> Rows(const std::vector<const char*>& columns)
     return DocumentRows("docs/masks.md", columns);
 }
 
-class DocumentedMask : public ValueTest, public testing::WithParamInterface<DocumentRow> {
+class DocumentedMask : public ValueTest, public OfRow<DocumentRow> {
 protected:
     void InstallIt() { Install(GetParam()["mask"].c_str(), TypeNamed(GetParam()["type"])); }
 
@@ -43,7 +44,7 @@ protected:
 
 class DocumentedData : public DocumentedMask {};
 
-TEST_P(DocumentedData, IsShownAsWritten)
+ROW_TEST(DocumentedData, IsShownAsWritten)
 {
     InstallIt();
     EXPECT_EQ(ShownFor(GetParam()["data"]), GetParam()["shown"]);
@@ -51,7 +52,7 @@ TEST_P(DocumentedData, IsShownAsWritten)
 
 // Keywords expand, and the empty mask stands for the default, which a string has not; every other mask is in force as
 // it is written.
-TEST_P(DocumentedData, LeavesItsMaskInForce)
+ROW_TEST(DocumentedData, LeavesItsMaskInForce)
 {
     InstallIt();
     const std::string& mask = GetParam()["mask"];
@@ -61,11 +62,11 @@ TEST_P(DocumentedData, LeavesItsMaskInForce)
 }
 
 const std::vector<DocumentRow> kDataRows = Rows({"mask", "type", "data", "shown"});
-INSTANTIATE_TEST_SUITE_P(Masks, DocumentedData, testing::ValuesIn(kDataRows), LineName);
+TEST_ROWS_NAMED(Masks, DocumentedData, LineName, kDataRows);
 
 class DocumentedTyping : public DocumentedMask {};
 
-TEST_P(DocumentedTyping, IsTaken)
+ROW_TEST(DocumentedTyping, IsTaken)
 {
     InstallIt();
     PutCaret(0);
@@ -74,11 +75,11 @@ TEST_P(DocumentedTyping, IsTaken)
 }
 
 const std::vector<DocumentRow> kTypingRows = Rows({"mask", "type", "typed", "shown"});
-INSTANTIATE_TEST_SUITE_P(Masks, DocumentedTyping, testing::ValuesIn(kTypingRows), LineName);
+TEST_ROWS_NAMED(Masks, DocumentedTyping, LineName, kTypingRows);
 
 class DocumentedOvertyping : public DocumentedMask {};
 
-TEST_P(DocumentedOvertyping, Gives)
+ROW_TEST(DocumentedOvertyping, Gives)
 {
     Given(GetParam()["mask"].c_str(), TypeNamed(GetParam()["type"]), GetParam()["over"]);
     SelectAll();
@@ -87,11 +88,11 @@ TEST_P(DocumentedOvertyping, Gives)
 }
 
 const std::vector<DocumentRow> kOvertypingRows = Rows({"mask", "type", "over", "keys", "gives"});
-INSTANTIATE_TEST_SUITE_P(Masks, DocumentedOvertyping, testing::ValuesIn(kOvertypingRows), LineName);
+TEST_ROWS_NAMED(Masks, DocumentedOvertyping, LineName, kOvertypingRows);
 
 class DocumentedPaste : public DocumentedMask {};
 
-TEST_P(DocumentedPaste, Gives)
+ROW_TEST(DocumentedPaste, Gives)
 {
     Given(GetParam()["mask"].c_str(), TypeNamed(GetParam()["type"]), GetParam()["over"]);
     CopyToClipboard(GetParam()["pasted"]);
@@ -100,11 +101,11 @@ TEST_P(DocumentedPaste, Gives)
 }
 
 const std::vector<DocumentRow> kPasteRows = Rows({"mask", "type", "over", "pasted", "gives"});
-INSTANTIATE_TEST_SUITE_P(Masks, DocumentedPaste, testing::ValuesIn(kPasteRows), LineName);
+TEST_ROWS_NAMED(Masks, DocumentedPaste, LineName, kPasteRows);
 
 class DocumentedKeyword : public DocumentedMask {};
 
-TEST_P(DocumentedKeyword, Expands)
+ROW_TEST(DocumentedKeyword, Expands)
 {
     Install(nullptr, DT_STRING);
     EXPECT_EQ(SetMask(GetParam()["keyword"], TypeNamed(GetParam()["type"])), 1);
@@ -112,11 +113,11 @@ TEST_P(DocumentedKeyword, Expands)
 }
 
 const std::vector<DocumentRow> kKeywordRows = Rows({"keyword", "settings", "type", "mask"});
-INSTANTIATE_TEST_SUITE_P(Masks, DocumentedKeyword, testing::ValuesIn(kKeywordRows), LineName);
+TEST_ROWS_NAMED(Masks, DocumentedKeyword, LineName, kKeywordRows);
 
 class DocumentedDefault : public DocumentedMask {};
 
-TEST_P(DocumentedDefault, StandsIn)
+ROW_TEST(DocumentedDefault, StandsIn)
 {
     Install(nullptr, TypeNamed(GetParam()["type"]));
     EXPECT_EQ(MaskInForce(), GetParam()["default mask"]);
@@ -124,18 +125,18 @@ TEST_P(DocumentedDefault, StandsIn)
 }
 
 const std::vector<DocumentRow> kDefaultRows = Rows({"type", "default mask", "shown when empty"});
-INSTANTIATE_TEST_SUITE_P(Masks, DocumentedDefault, testing::ValuesIn(kDefaultRows), LineName);
+TEST_ROWS_NAMED(Masks, DocumentedDefault, LineName, kDefaultRows);
 
 class DocumentedRefusal : public DocumentedMask {};
 
-TEST_P(DocumentedRefusal, IsRefused)
+ROW_TEST(DocumentedRefusal, IsRefused)
 {
     Install(nullptr, DT_STRING);
     EXPECT_EQ(SetMask(GetParam()["refused mask"], TypeNamed(GetParam()["type"])), 0);
 }
 
 const std::vector<DocumentRow> kRefusedRows = Rows({"refused mask", "type", "because"});
-INSTANTIATE_TEST_SUITE_P(Masks, DocumentedRefusal, testing::ValuesIn(kRefusedRows), LineName);
+TEST_ROWS_NAMED(Masks, DocumentedRefusal, LineName, kRefusedRows);
 
 TEST(DocumentedMasks, AreFound)
 {

@@ -1,5 +1,6 @@
 // What setting a mask leaves in the record: lengths, positions of fields, the editing mode and the bits of the mask.
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -26,9 +27,9 @@ void PrintTo(const LengthCase& row, std::ostream* out)
     *out << row.mask;
 }
 
-class DisplayLength : public MaskRecord, public testing::WithParamInterface<LengthCase> {};
+class DisplayLength : public MaskRecord, public OfRow<LengthCase> {};
 
-TEST_P(DisplayLength, LeavesTheTildesOut)
+ROW_TEST(DisplayLength, LeavesTheTildesOut)
 {
     EXPECT_EQ(After(GetParam().mask, GetParam().type).displayLength, GetParam().displayLength);
 }
@@ -43,7 +44,7 @@ const LengthCase kLengthRows[] = {
     {"Keyword",   "[date]",         DT_DATE,   10},
     {"Default",   nullptr,          DT_TIME,   12},
 };
-INSTANTIATE_TEST_SUITE_P(, DisplayLength, testing::ValuesIn(kLengthRows), RowName<LengthCase>);
+TEST_ROWS(, DisplayLength, kLengthRows);
 
 struct PlacesCase {
     const char* name;
@@ -56,9 +57,9 @@ void PrintTo(const PlacesCase& row, std::ostream* out)
     *out << row.mask;
 }
 
-class DecimalPlaces : public MaskRecord, public testing::WithParamInterface<PlacesCase> {};
+class DecimalPlaces : public MaskRecord, public OfRow<PlacesCase> {};
 
-TEST_P(DecimalPlaces, CountThePlaceholdersBehindThePoint)
+ROW_TEST(DecimalPlaces, CountThePlaceholdersBehindThePoint)
 {
     EXPECT_EQ(After(GetParam().mask, GetParam().type).decimalPlaces, GetParam().places);
 }
@@ -74,7 +75,7 @@ const PlacesCase kPlacesRows[] = {
     {"Currency",                "[currency(8)]", DT_NUMBER,  2},
     {"NotForStrings",           "#.00",          DT_STRING,  0},
 };
-INSTANTIATE_TEST_SUITE_P(, DecimalPlaces, testing::ValuesIn(kPlacesRows), RowName<PlacesCase>);
+TEST_ROWS(, DecimalPlaces, kPlacesRows);
 
 TEST_F(MaskRecord, DecimalPlacesGoWithTheNextMask)
 {
@@ -107,9 +108,9 @@ void PrintTo(const PositionCase& row, std::ostream* out)
     *out << row.mask;
 }
 
-class FieldPositions : public MaskRecord, public testing::WithParamInterface<PositionCase> {};
+class FieldPositions : public MaskRecord, public OfRow<PositionCase> {};
 
-TEST_P(FieldPositions, AreDisplayPositions)
+ROW_TEST(FieldPositions, AreDisplayPositions)
 {
     const PositionCase& row = GetParam();
     ASSERT_EQ(control_->SetMask(row.mask, row.type), 1);
@@ -143,17 +144,17 @@ const PositionCase kPositionRows[] = {
     {"DayOfYearCounts",                   "JJJ/YYYY HH:MM",         DT_DATETIME, -1, -1, 9,  12, -1, -1, -1},
     {"DateTimeMarker",                    "MM/DD/YYYY HH:MM AM/PM", DT_DATETIME, 0,  3,  11, 14, -1, -1, 17},
 };
-INSTANTIATE_TEST_SUITE_P(, FieldPositions, testing::ValuesIn(kPositionRows), RowName<PositionCase>);
+TEST_ROWS(, FieldPositions, kPositionRows);
 
-class FractionLength : public MaskRecord, public testing::WithParamInterface<int> {};
+class FractionLength : public MaskRecord, public OfRow<int> {};
 
-TEST_P(FractionLength, IsTheRunOfItsLetters)
+ROW_TEST(FractionLength, IsTheRunOfItsLetters)
 {
     const std::string mask = "HH:MM:SS." + std::string(static_cast<size_t>(GetParam()), 'F');
     EXPECT_EQ(After(mask.c_str(), DT_TIME).fractionLength, GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(, FractionLength, testing::Range(1, 7));
+TEST_ROWS(, FractionLength, Integers(1, 7));
 
 // The positions of a keyword's mask and of a default one take the place of those of the mask before.
 TEST_F(MaskRecord, PositionsAreAllSetAnew)
@@ -190,9 +191,9 @@ TEST_F(MaskRecord, WordsOfAPictureHideNoField)
     }
 }
 
-class ATimeSetAfterAMarker : public ValueTest, public testing::WithParamInterface<const char*> {};
+class ATimeSetAfterAMarker : public ValueTest, public OfRow<const char*> {};
 
-TEST_P(ATimeSetAfterAMarker, KeepsItsSeconds)
+ROW_TEST(ATimeSetAfterAMarker, KeepsItsSeconds)
 {
     for (const char* before : {"HH:MM AM/PM", "AM/PM HH:MM", "HH AM/PM:MM"}) {
         Install(before, DT_TIME);
@@ -203,7 +204,7 @@ TEST_P(ATimeSetAfterAMarker, KeepsItsSeconds)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Masks, ATimeSetAfterAMarker, testing::Values("[time]", "refused SS", "", "HH:MM:SS"));
+TEST_ROWS_OF(Masks, ATimeSetAfterAMarker, "[time]", "refused SS", "", "HH:MM:SS");
 
 TEST_F(ValueTest, ADateAndATimeSetAfterAMarkerKeepTheirSeconds)
 {
@@ -260,9 +261,9 @@ void PrintTo(const BitCase& row, std::ostream* out)
     *out << row.mask;
 }
 
-class MaskBits : public MaskRecord, public testing::WithParamInterface<BitCase> {};
+class MaskBits : public MaskRecord, public OfRow<BitCase> {};
 
-TEST_P(MaskBits, FollowTheMask)
+ROW_TEST(MaskBits, FollowTheMask)
 {
     if (GetParam().before)
         Install(GetParam().before, GetParam().typeBefore);
@@ -297,7 +298,7 @@ const BitCase kBitRows[] = {
     {"MarkerOfARefusedMaskIsNotTold", nullptr,       0,         "MM:SS AM/PM",          DT_TIME,     AMPM,     false},
     {"MarkerInAStringIsNone",         nullptr,       0,         "AM/PM",                DT_STRING,   AMPM,     false},
 };
-INSTANTIATE_TEST_SUITE_P(, MaskBits, testing::ValuesIn(kBitRows), RowName<BitCase>);
+TEST_ROWS(, MaskBits, kBitRows);
 
 TEST_F(MaskRecord, ANumberWithLiteralsIsEditedByPositionOnceAValueIsShown)
 {

@@ -1,5 +1,6 @@
 // Which masks are installed and which are replaced by the default of their type.
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -39,45 +40,45 @@ std::string DefaultMask(int32_t type)
     return "?";
 }
 
-class Defaults : public MaskTest, public testing::WithParamInterface<DefaultCase> {};
+class Defaults : public MaskTest, public OfRow<DefaultCase> {};
 
-TEST_P(Defaults, StandInForNull)
+ROW_TEST(Defaults, StandInForNull)
 {
     EXPECT_EQ(control_->SetMask(nullptr, GetParam().type), 0);
     EXPECT_EQ(MaskInForce(), GetParam().mask);
 }
 
-TEST_P(Defaults, StandInForAnEmptyMask)
+ROW_TEST(Defaults, StandInForAnEmptyMask)
 {
     EXPECT_EQ(SetMask("", GetParam().type), 0);
     EXPECT_EQ(MaskInForce(), GetParam().mask);
 }
 
-TEST_P(Defaults, StandInForMoreThan255Characters)
+ROW_TEST(Defaults, StandInForMoreThan255Characters)
 {
     EXPECT_EQ(SetMask(std::string(256, '#'), GetParam().type), 0);
     EXPECT_EQ(MaskInForce(), GetParam().mask);
 }
 
-TEST_P(Defaults, StandInForADoubledTilde)
+ROW_TEST(Defaults, StandInForADoubledTilde)
 {
     EXPECT_EQ(SetMask("~~", GetParam().type), 0);
     EXPECT_EQ(MaskInForce(), GetParam().mask);
 }
 
-TEST_P(Defaults, StandInForATildeAtTheEnd)
+ROW_TEST(Defaults, StandInForATildeAtTheEnd)
 {
     EXPECT_EQ(SetMask(std::string(GetParam().mask) + "~", GetParam().type), 0);
     EXPECT_EQ(MaskInForce(), GetParam().mask);
 }
 
-TEST_P(Defaults, ShowTheEmptyValue)
+ROW_TEST(Defaults, ShowTheEmptyValue)
 {
     SetMask("", GetParam().type);
     EXPECT_EQ(Text(), GetParam().shown);
 }
 
-TEST_P(Defaults, AreAcceptedWhenWrittenOut)
+ROW_TEST(Defaults, AreAcceptedWhenWrittenOut)
 {
     if (GetParam().type == DT_STRING)
         EXPECT_EQ(SetMask(GetParam().mask, GetParam().type), 0);  // the empty mask is never accepted
@@ -85,7 +86,7 @@ TEST_P(Defaults, AreAcceptedWhenWrittenOut)
         EXPECT_EQ(SetMask(GetParam().mask, GetParam().type), 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(, Defaults, testing::ValuesIn(kDefaults), RowName<DefaultCase>);
+TEST_ROWS(, Defaults, kDefaults);
 
 struct MaskCase {
     const char* name;
@@ -98,7 +99,7 @@ void PrintTo(const MaskCase& row, std::ostream* out)
 
 // One suite a type: the masks accepted, and those refused. The masks of numbers hold for decimals too.
 template <int32_t type>
-class Accepted : public MaskTest, public testing::WithParamInterface<MaskCase> {
+class Accepted : public MaskTest, public OfRow<MaskCase> {
 protected:
     void Check()
     {
@@ -108,7 +109,7 @@ protected:
 };
 
 template <int32_t type>
-class Refused : public MaskTest, public testing::WithParamInterface<MaskCase> {
+class Refused : public MaskTest, public OfRow<MaskCase> {
 protected:
     void Check()
     {
@@ -130,51 +131,51 @@ using RefusedDate = Refused<DT_DATE>;
 using RefusedTime = Refused<DT_TIME>;
 using RefusedDateTime = Refused<DT_DATETIME>;
 
-TEST_P(AcceptedString, IsInstalled)
+ROW_TEST(AcceptedString, IsInstalled)
 {
     Check();
 }
-TEST_P(AcceptedNumber, IsInstalled)
+ROW_TEST(AcceptedNumber, IsInstalled)
 {
     Check();
 }
-TEST_P(AcceptedDecimal, IsInstalled)
+ROW_TEST(AcceptedDecimal, IsInstalled)
 {
     Check();
 }
-TEST_P(AcceptedDate, IsInstalled)
+ROW_TEST(AcceptedDate, IsInstalled)
 {
     Check();
 }
-TEST_P(AcceptedTime, IsInstalled)
+ROW_TEST(AcceptedTime, IsInstalled)
 {
     Check();
 }
-TEST_P(AcceptedDateTime, IsInstalled)
+ROW_TEST(AcceptedDateTime, IsInstalled)
 {
     Check();
 }
-TEST_P(RefusedString, GivesWayToTheDefault)
+ROW_TEST(RefusedString, GivesWayToTheDefault)
 {
     Check();
 }
-TEST_P(RefusedNumber, GivesWayToTheDefault)
+ROW_TEST(RefusedNumber, GivesWayToTheDefault)
 {
     Check();
 }
-TEST_P(RefusedDecimal, GivesWayToTheDefault)
+ROW_TEST(RefusedDecimal, GivesWayToTheDefault)
 {
     Check();
 }
-TEST_P(RefusedDate, GivesWayToTheDefault)
+ROW_TEST(RefusedDate, GivesWayToTheDefault)
 {
     Check();
 }
-TEST_P(RefusedTime, GivesWayToTheDefault)
+ROW_TEST(RefusedTime, GivesWayToTheDefault)
 {
     Check();
 }
-TEST_P(RefusedDateTime, GivesWayToTheDefault)
+ROW_TEST(RefusedDateTime, GivesWayToTheDefault)
 {
     Check();
 }
@@ -371,18 +372,18 @@ const MaskCase kRefusedDateTimes[] = {
     {"AnEscapeBeforeAField",   "~xMM/DD/YY HH:MM"},
 };
 
-INSTANTIATE_TEST_SUITE_P(, AcceptedString, testing::ValuesIn(kAcceptedStrings), RowName<MaskCase>);
-INSTANTIATE_TEST_SUITE_P(, RefusedString, testing::ValuesIn(kRefusedStrings), RowName<MaskCase>);
-INSTANTIATE_TEST_SUITE_P(, AcceptedNumber, testing::ValuesIn(kAcceptedNumbers), RowName<MaskCase>);
-INSTANTIATE_TEST_SUITE_P(, RefusedNumber, testing::ValuesIn(kRefusedNumbers), RowName<MaskCase>);
-INSTANTIATE_TEST_SUITE_P(, AcceptedDecimal, testing::ValuesIn(kAcceptedNumbers), RowName<MaskCase>);
-INSTANTIATE_TEST_SUITE_P(, RefusedDecimal, testing::ValuesIn(kRefusedNumbers), RowName<MaskCase>);
-INSTANTIATE_TEST_SUITE_P(, AcceptedDate, testing::ValuesIn(kAcceptedDates), RowName<MaskCase>);
-INSTANTIATE_TEST_SUITE_P(, RefusedDate, testing::ValuesIn(kRefusedDates), RowName<MaskCase>);
-INSTANTIATE_TEST_SUITE_P(, AcceptedTime, testing::ValuesIn(kAcceptedTimes), RowName<MaskCase>);
-INSTANTIATE_TEST_SUITE_P(, RefusedTime, testing::ValuesIn(kRefusedTimes), RowName<MaskCase>);
-INSTANTIATE_TEST_SUITE_P(, AcceptedDateTime, testing::ValuesIn(kAcceptedDateTimes), RowName<MaskCase>);
-INSTANTIATE_TEST_SUITE_P(, RefusedDateTime, testing::ValuesIn(kRefusedDateTimes), RowName<MaskCase>);
+TEST_ROWS(, AcceptedString, kAcceptedStrings);
+TEST_ROWS(, RefusedString, kRefusedStrings);
+TEST_ROWS(, AcceptedNumber, kAcceptedNumbers);
+TEST_ROWS(, RefusedNumber, kRefusedNumbers);
+TEST_ROWS(, AcceptedDecimal, kAcceptedNumbers);
+TEST_ROWS(, RefusedDecimal, kRefusedNumbers);
+TEST_ROWS(, AcceptedDate, kAcceptedDates);
+TEST_ROWS(, RefusedDate, kRefusedDates);
+TEST_ROWS(, AcceptedTime, kAcceptedTimes);
+TEST_ROWS(, RefusedTime, kRefusedTimes);
+TEST_ROWS(, AcceptedDateTime, kAcceptedDateTimes);
+TEST_ROWS(, RefusedDateTime, kRefusedDateTimes);
 
 // Number masks follow the regional characters in force.
 struct RegionalMaskCase {
@@ -396,7 +397,7 @@ void PrintTo(const RegionalMaskCase& row, std::ostream* out)
     *out << row.mask;
 }
 
-class RegionalNumberMask : public MaskTest, public testing::WithParamInterface<RegionalMaskCase> {
+class RegionalNumberMask : public MaskTest, public OfRow<RegionalMaskCase> {
 protected:
     void Check(const Regional&)
     {
@@ -405,7 +406,7 @@ protected:
     }
 };
 
-TEST_P(RegionalNumberMask, IsCheckedByTheRegionalCharacters)
+ROW_TEST(RegionalNumberMask, IsCheckedByTheRegionalCharacters)
 {
     Check(Regional(*GetParam().settings));
 }
@@ -427,12 +428,12 @@ const RegionalMaskCase kRegionalMaskRows[] = {
     {"SwissCurrencySymbol",                       &kSwiss,  "CHF##0.00", 1},
     {"SwissCurrencySymbolWithPercentIsRefused",   &kSwiss,  "CHF##0%",   0},
 };
-INSTANTIATE_TEST_SUITE_P(, RegionalNumberMask, testing::ValuesIn(kRegionalMaskRows), RowName<RegionalMaskCase>);
+TEST_ROWS(, RegionalNumberMask, kRegionalMaskRows);
 
 class MaskWithoutCurrency : public RegionalNumberMask {};
 
 // An empty symbol is found everywhere, so only digits are left.
-TEST_P(MaskWithoutCurrency, TakesDigitsOnly)
+ROW_TEST(MaskWithoutCurrency, TakesDigitsOnly)
 {
     Check(Regional(With(kUnitedStates, {
                                            {"sCurrency", ""}
@@ -446,7 +447,7 @@ const RegionalMaskCase kNoCurrencyRows[] = {
     {"APrefix",         nullptr, "Total 0", 0},
     {"APercentSign",    nullptr, "##0%",    0},
 };
-INSTANTIATE_TEST_SUITE_P(, MaskWithoutCurrency, testing::ValuesIn(kNoCurrencyRows), RowName<RegionalMaskCase>);
+TEST_ROWS(, MaskWithoutCurrency, kNoCurrencyRows);
 
 class MaskSetting : public MaskTest {};
 

@@ -1,5 +1,6 @@
 // The keywords that expand into masks of the regional settings.
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -22,9 +23,9 @@ void PrintTo(const KeywordCase& row, std::ostream* out)
     *out << row.keyword;
 }
 
-class Expansion : public Keywords, public testing::WithParamInterface<KeywordCase> {};
+class Expansion : public Keywords, public OfRow<KeywordCase> {};
 
-TEST_P(Expansion, IsInstalled)
+ROW_TEST(Expansion, IsInstalled)
 {
     const Regional settings(*GetParam().settings);
     EXPECT_EQ(SetMask(GetParam().keyword, GetParam().type), GetParam().result);
@@ -75,8 +76,8 @@ const KeywordCase kCurrencyKeywordRows[] = {
     {"SwissBeforeTheDigits",           &kSwiss,        "[currency(8)]",                    DT_NUMBER,  1, "CHF###,###.00"         },
 };
 
-INSTANTIATE_TEST_SUITE_P(Date, Expansion, testing::ValuesIn(kDateKeywordRows), RowName<KeywordCase>);
-INSTANTIATE_TEST_SUITE_P(Currency, Expansion, testing::ValuesIn(kCurrencyKeywordRows), RowName<KeywordCase>);
+TEST_ROWS(Date, Expansion, kDateKeywordRows);
+TEST_ROWS(Currency, Expansion, kCurrencyKeywordRows);
 
 // Keys of the settings and the keyword under them, the rest as in the United States.
 struct SettingCase {
@@ -95,9 +96,9 @@ void PrintTo(const SettingCase& row, std::ostream* out)
     *out << row.keyword << " with " << row.key << '=' << row.value;
 }
 
-class SettingsOf : public Keywords, public testing::WithParamInterface<SettingCase> {};
+class SettingsOf : public Keywords, public OfRow<SettingCase> {};
 
-TEST_P(SettingsOf, TheKeywordAreFollowed)
+ROW_TEST(SettingsOf, TheKeywordAreFollowed)
 {
     const SettingCase& row = GetParam();
     RegionalSet changes = {
@@ -138,7 +139,7 @@ const SettingCase kSettingRows[] = {
     {"ABadPictureDoesNotConcernTheTime", "sShortDate",  "yyy/MM/dd",    nullptr,     nullptr, "[time]",        DT_TIME, 1, "hh:mm:ss"},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(, SettingsOf, testing::ValuesIn(kSettingRows), RowName<SettingCase>);
+TEST_ROWS(, SettingsOf, kSettingRows);
 
 TEST_F(Keywords, ACurrencySymbolThatJustFitsIsTaken)
 {
@@ -196,7 +197,7 @@ void PrintTo(const WordCase& row, std::ostream* out)
     *out << row.typed << " under " << row.keyword << " with " << row.key << '=' << row.value;
 }
 
-class Words : public EditTest, public testing::WithParamInterface<WordCase> {
+class Words : public EditTest, public OfRow<WordCase> {
 protected:
     Words()
         : settings_(With(kUnitedStates, {
@@ -217,7 +218,7 @@ private:
     Regional settings_;
 };
 
-TEST_P(Words, StandInTheDisplay)
+ROW_TEST(Words, StandInTheDisplay)
 {
     GivenKeyword();
     control_->SetDataString(GetParam().data);
@@ -227,7 +228,7 @@ TEST_P(Words, StandInTheDisplay)
     EXPECT_EQ(Value(), value) << "as it was shown";
 }
 
-TEST_P(Words, AreTypedAround)
+ROW_TEST(Words, AreTypedAround)
 {
     GivenKeyword();
     Type(GetParam().typed);
@@ -260,7 +261,7 @@ const WordCase kWordRows[] = {
 };
 // clang-format on
 
-INSTANTIATE_TEST_SUITE_P(Pictures, Words, testing::ValuesIn(kWordRows), RowName<WordCase>);
+TEST_ROWS(Pictures, Words, kWordRows);
 
 // The days of a month are counted by the month and the year that stand behind the words.
 TEST_F(EditTest, AWordInThePictureShiftsNoField)

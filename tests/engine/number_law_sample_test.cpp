@@ -2,6 +2,7 @@
 // windows and on fields in memory alike, and the money of all countries.
 #include "tests/support/engine_test.h"
 #include "tests/support/number_law.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -35,7 +36,7 @@ uint32_t NumberOf(const std::string& name)
 }
 
 // The tests of one set of settings.
-class SampledLaw : public EditTest, public testing::WithParamInterface<NumberSettings> {
+class SampledLaw : public EditTest, public OfRow<NumberSettings> {
 protected:
     // A control with the mask, or none where the settings refuse it.
     bool MakeAccepted(const char* mask, int32_t type)
@@ -85,14 +86,9 @@ protected:
     uint32_t played_ = 0;
 };
 
-std::string SettingsName(const testing::TestParamInfo<NumberSettings>& row)
-{
-    return row.param.name;
-}
-
 class NumberLawSample : public SampledLaw {};
 
-TEST_P(NumberLawSample, WhoeverTypesANumberGetsIt)
+ROW_TEST(NumberLawSample, WhoeverTypesANumberGetsIt)
 {
     const Regional regional(ProfileOf(GetParam()));
     uint32_t index = 0;
@@ -102,11 +98,11 @@ TEST_P(NumberLawSample, WhoeverTypesANumberGetsIt)
     EXPECT_GE(played_, 10u);
 }
 
-INSTANTIATE_TEST_SUITE_P(Settings, NumberLawSample, testing::ValuesIn(kNumberSettings), SettingsName);
+TEST_ROWS(Settings, NumberLawSample, AllNumberSettings());
 
 class CurrencySample : public SampledLaw {};
 
-TEST_P(CurrencySample, AnAmountIsTypedShownAndReadBack)
+ROW_TEST(CurrencySample, AnAmountIsTypedShownAndReadBack)
 {
     const Regional regional(ProfileOf(GetParam()));
     const NumberMask mask("[currency(9)]", DT_NUMBER, GetParam());
@@ -120,7 +116,7 @@ TEST_P(CurrencySample, AnAmountIsTypedShownAndReadBack)
         Play(row);
 }
 
-INSTANTIATE_TEST_SUITE_P(Countries, CurrencySample, testing::ValuesIn(CurrencyNumberSettings()), SettingsName);
+TEST_ROWS(Countries, CurrencySample, CurrencyNumberSettings());
 
 }  // namespace
 }  // namespace zttest

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -43,38 +44,36 @@ void PrintTo(const TableText& row, std::ostream* out)
     *out << row.name;
 }
 
-class CodeTableText : public CodeTableTest, public testing::WithParamInterface<TableText> {};
+class CodeTableText : public CodeTableTest, public OfRow<TableText> {};
 
-TEST_P(CodeTableText, IsReadAs)
+ROW_TEST(CodeTableText, IsReadAs)
 {
     const TableText& row = GetParam();
     EXPECT_EQ(Cycle(row.codes), row.cycle);
     EXPECT_EQ(Count(), row.entries);
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, CodeTableText,
-                         testing::Values(
-                             TableText{
-                                 "ThreeColours", "Red\tR/Green\tG/Blue\tB", {"Red=R", "Green=G", "Blue=B"},
-                                   3
+TEST_ROWS_OF(Texts, CodeTableText,
+             TableText{
+                 "ThreeColours", "Red\tR/Green\tG/Blue\tB", {"Red=R", "Green=G", "Blue=B"},
+                   3
 },
-                             TableText{"ASlashAtTheStartIsSkipped", "/A\ta/B\tb", {"A=a", "B=b"}, 2},
-                             TableText{"ASlashAtTheEndEndsTheLastEntry", "A\ta/B\tb/", {"A=a", "B=b"}, 2},
-                             TableText{"TwoSlashesAreOne", "/A\ta//b/B\tb", {"A=a/b", "B=b"}, 2},
-                             TableText{"TwoSlashesAreOneInADisplay", "a//b\t1/c\t2", {"a/b=1", "c=2"}, 2},
-                             TableText{"TwoSlashesAreOneAtTheEnd", "A\ta//", {"A=a/"}, 1},
-                             TableText{"TwoSlashesAreOneAtTheStart", "//A\ta", {"/A=a"}, 1},
-                             TableText{"ThreeSlashesAreALiteralAndASeparator", "A\ta///B\tb", {"A=a/", "B=b"}, 2},
-                             TableText{"FourSlashesAreTwo", "A\ta////b", {"A=a//b"}, 1},
-                             TableText{"WithoutAValueOutOfTheCycle", "One/Two\t2", {"Two=2"}, 2},
-                             TableText{"ADisplayOfABlank", "a\t1/ \t2/b\t3", {"a=1", " =2", "b=3"}, 3},
-                             TableText{"AnEmptyDisplayIsReadAsNothing", "a\t1/\t2", {"a=1", "="}, 2},
-                             TableText{"AnEmptyValue", "a\t/b\t2", {"a=", "b=2"}, 2},
-                             TableText{"AnEmptyValueAtTheEnd", "a\t", {"a="}, 1},
-                             TableText{"ASecondTabBeginsTheValueAnew", "a\tb\tc", {"b=c"}, 1},
-                             TableText{"BlanksStay", " a \t b ", {" a = b "}, 1}, TableText{"NoEntries", "", {}, 0},
-                             TableText{"OnlyASlash", "/", {}, 0}),
-                         RowName<TableText>);
+             TableText{"ASlashAtTheStartIsSkipped", "/A\ta/B\tb", {"A=a", "B=b"}, 2},
+             TableText{"ASlashAtTheEndEndsTheLastEntry", "A\ta/B\tb/", {"A=a", "B=b"}, 2},
+             TableText{"TwoSlashesAreOne", "/A\ta//b/B\tb", {"A=a/b", "B=b"}, 2},
+             TableText{"TwoSlashesAreOneInADisplay", "a//b\t1/c\t2", {"a/b=1", "c=2"}, 2},
+             TableText{"TwoSlashesAreOneAtTheEnd", "A\ta//", {"A=a/"}, 1},
+             TableText{"TwoSlashesAreOneAtTheStart", "//A\ta", {"/A=a"}, 1},
+             TableText{"ThreeSlashesAreALiteralAndASeparator", "A\ta///B\tb", {"A=a/", "B=b"}, 2},
+             TableText{"FourSlashesAreTwo", "A\ta////b", {"A=a//b"}, 1},
+             TableText{"WithoutAValueOutOfTheCycle", "One/Two\t2", {"Two=2"}, 2},
+             TableText{"ADisplayOfABlank", "a\t1/ \t2/b\t3", {"a=1", " =2", "b=3"}, 3},
+             TableText{"AnEmptyDisplayIsReadAsNothing", "a\t1/\t2", {"a=1", "="}, 2},
+             TableText{"AnEmptyValue", "a\t/b\t2", {"a=", "b=2"}, 2},
+             TableText{"AnEmptyValueAtTheEnd", "a\t", {"a="}, 1},
+             TableText{"ASecondTabBeginsTheValueAnew", "a\tb\tc", {"b=c"}, 1},
+             TableText{"BlanksStay", " a \t b ", {" a = b "}, 1}, TableText{"NoEntries", "", {}, 0},
+             TableText{"OnlyASlash", "/", {}, 0});
 
 TEST_F(CodeTableTest, TextsOfMoreThan255CharactersAreCut)
 {
@@ -270,7 +269,7 @@ void PrintTo(const Weekdays& row, std::ostream* out)
     *out << row.name;
 }
 
-class WeekdayList : public CodeTableTest, public testing::WithParamInterface<Weekdays> {
+class WeekdayList : public CodeTableTest, public OfRow<Weekdays> {
 protected:
     void Create(const char* data)
     {
@@ -285,7 +284,7 @@ protected:
     }
 };
 
-TEST_P(WeekdayList, GoesOnFromTheDayItWasCreatedWith)
+ROW_TEST(WeekdayList, GoesOnFromTheDayItWasCreatedWith)
 {
     Create("WE");
     Up();
@@ -295,7 +294,7 @@ TEST_P(WeekdayList, GoesOnFromTheDayItWasCreatedWith)
     EXPECT_EQ(Text(), "Tuesday");
 }
 
-TEST_P(WeekdayList, GoesOnFromTheDaySet)
+ROW_TEST(WeekdayList, GoesOnFromTheDaySet)
 {
     Create(nullptr);
     control_->SetDataString("FR");
@@ -303,7 +302,7 @@ TEST_P(WeekdayList, GoesOnFromTheDaySet)
     EXPECT_EQ(Text(), "Monday");
 }
 
-TEST_P(WeekdayList, GoesOnAfterAClick)
+ROW_TEST(WeekdayList, GoesOnAfterAClick)
 {
     Create("WE");
     Up();
@@ -315,7 +314,7 @@ TEST_P(WeekdayList, GoesOnAfterAClick)
     EXPECT_EQ(Text(), "Thursday");
 }
 
-TEST_P(WeekdayList, GoesOnFromATextThatTheProgramHasPutThere)
+ROW_TEST(WeekdayList, GoesOnFromATextThatTheProgramHasPutThere)
 {
     Create(nullptr);
     control_->SetText("Tuesday");
@@ -323,7 +322,7 @@ TEST_P(WeekdayList, GoesOnFromATextThatTheProgramHasPutThere)
     EXPECT_EQ(Text(), "Wednesday");
 }
 
-TEST_P(WeekdayList, GoesOnAfterTheValueWasRead)
+ROW_TEST(WeekdayList, GoesOnAfterTheValueWasRead)
 {
     Create("WE");
     EXPECT_EQ(Value(), "WE");
@@ -331,7 +330,7 @@ TEST_P(WeekdayList, GoesOnAfterTheValueWasRead)
     EXPECT_EQ(Text(), "Thursday");
 }
 
-TEST_P(WeekdayList, BeginsAtItsEndWhereNoDayIsShown)
+ROW_TEST(WeekdayList, BeginsAtItsEndWhereNoDayIsShown)
 {
     Create(nullptr);
     Up();
@@ -348,7 +347,7 @@ TEST_P(WeekdayList, BeginsAtItsEndWhereNoDayIsShown)
 class PickedWeekday : public WeekdayList {};
 class TypedWeekday : public WeekdayList {};
 
-TEST_P(PickedWeekday, GoesOnFromAnEntryChosenByItsLetter)
+ROW_TEST(PickedWeekday, GoesOnFromAnEntryChosenByItsLetter)
 {
     Create(nullptr);
     Type("T");
@@ -361,7 +360,7 @@ TEST_P(PickedWeekday, GoesOnFromAnEntryChosenByItsLetter)
     EXPECT_EQ(Text(), "Friday");
 }
 
-TEST_P(TypedWeekday, GoesOnFromADayTyped)
+ROW_TEST(TypedWeekday, GoesOnFromADayTyped)
 {
     Create("WE");
     SelectAll();
@@ -371,7 +370,7 @@ TEST_P(TypedWeekday, GoesOnFromADayTyped)
     EXPECT_EQ(Text(), "Tuesday");
 }
 
-TEST_P(TypedWeekday, GoesOnFromADataValueTyped)
+ROW_TEST(TypedWeekday, GoesOnFromADataValueTyped)
 {
     Create("WE");
     SelectAll();
@@ -380,7 +379,7 @@ TEST_P(TypedWeekday, GoesOnFromADataValueTyped)
     EXPECT_EQ(Text(), "Friday");
 }
 
-TEST_P(TypedWeekday, BeginsAtItsEndAfterTypingThatIsNoDay)
+ROW_TEST(TypedWeekday, BeginsAtItsEndAfterTypingThatIsNoDay)
 {
     Create("WE");
     Up();
@@ -390,12 +389,18 @@ TEST_P(TypedWeekday, BeginsAtItsEndAfterTypingThatIsNoDay)
     EXPECT_EQ(Text(), "Friday");
 }
 
-constexpr Weekdays kTyped[] = {{"UnderAMask", "XXXXXXXXX", kThroughTable}, {"WithoutAMask", "", kThroughTable}};
-constexpr Weekdays kPicked[] = {{"PickListUnderAMask", "XXXXXXXXX", kPickList}, {"PickListWithoutAMask", "", kPickList}};
-INSTANTIATE_TEST_SUITE_P(Typed, WeekdayList, testing::ValuesIn(kTyped), RowName<Weekdays>);
-INSTANTIATE_TEST_SUITE_P(Picked, WeekdayList, testing::ValuesIn(kPicked), RowName<Weekdays>);
-INSTANTIATE_TEST_SUITE_P(Lists, TypedWeekday, testing::ValuesIn(kTyped), RowName<Weekdays>);
-INSTANTIATE_TEST_SUITE_P(Lists, PickedWeekday, testing::ValuesIn(kPicked), RowName<Weekdays>);
+constexpr Weekdays kTyped[] = {
+    {"UnderAMask",   "XXXXXXXXX", kThroughTable},
+    {"WithoutAMask", "",          kThroughTable}
+};
+constexpr Weekdays kPicked[] = {
+    {"PickListUnderAMask",   "XXXXXXXXX", kPickList},
+    {"PickListWithoutAMask", "",          kPickList}
+};
+TEST_ROWS(Typed, WeekdayList, kTyped);
+TEST_ROWS(Picked, WeekdayList, kPicked);
+TEST_ROWS(Lists, TypedWeekday, kTyped);
+TEST_ROWS(Lists, PickedWeekday, kPicked);
 
 TEST_F(CodeTableTest, GoesOnFromAValueShownAmongLiterals)
 {

@@ -3,6 +3,7 @@
 
 #include "tests/support/documents.h"
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -14,7 +15,7 @@ std::string WithTabs(std::string text)
     return text;
 }
 
-class DocumentedSteps : public SpinTest, public testing::WithParamInterface<DocumentRow> {
+class DocumentedSteps : public SpinTest, public OfRow<DocumentRow> {
 protected:
     void StepAll(const std::string& keys)
     {
@@ -28,7 +29,7 @@ protected:
 
 class DocumentedStep : public DocumentedSteps {};
 
-TEST_P(DocumentedStep, LeadsToWhatIsWritten)
+ROW_TEST(DocumentedStep, LeadsToWhatIsWritten)
 {
     const DocumentRow& row = GetParam();
     const char* range = row["range"] == "none" ? nullptr : row["range"].c_str();
@@ -41,11 +42,11 @@ TEST_P(DocumentedStep, LeadsToWhatIsWritten)
 
 const std::vector<DocumentRow> kSteps =
     DocumentRows("docs/spin.md", {"type", "mask", "range", "increment", "from", "keys", "becomes"});
-INSTANTIATE_TEST_SUITE_P(Spin, DocumentedStep, testing::ValuesIn(kSteps), LineName);
+TEST_ROWS_NAMED(Spin, DocumentedStep, LineName, kSteps);
 
 class DocumentedCodeTable : public DocumentedSteps {};
 
-TEST_P(DocumentedCodeTable, ComesOutAsWritten)
+ROW_TEST(DocumentedCodeTable, ComesOutAsWritten)
 {
     const DocumentRow& row = GetParam();
     MakeCodeTable("XXXXXX", DT_STRING, WithTabs(row["code table"]).c_str(), SPINSTYLE_CODETABLE);
@@ -55,7 +56,7 @@ TEST_P(DocumentedCodeTable, ComesOutAsWritten)
 }
 
 const std::vector<DocumentRow> kCodeTables = DocumentRows("docs/spin.md", {"code table", "keys", "shows", "reads as"});
-INSTANTIATE_TEST_SUITE_P(Spin, DocumentedCodeTable, testing::ValuesIn(kCodeTables), LineName);
+TEST_ROWS_NAMED(Spin, DocumentedCodeTable, LineName, kCodeTables);
 
 TEST(DocumentedExamplesOfTheSpin, AreFound)
 {

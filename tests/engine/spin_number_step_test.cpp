@@ -1,5 +1,6 @@
 // Stepping of numbers and decimals through their ranges.
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -22,7 +23,7 @@ void PrintTo(const NumberStep& row, std::ostream* out)
          << (row.range ? row.range : "no range") << (row.arrow == Arrow::Up ? ", up)" : ", down)");
 }
 
-class NumberSteps : public SpinTest, public testing::WithParamInterface<NumberStep> {
+class NumberSteps : public SpinTest, public OfRow<NumberStep> {
 protected:
     // A refused step still selects the whole text and notifies once; nothing is set, which would notify as well.
     void Check(const char* mask, int32_t type)
@@ -43,7 +44,7 @@ protected:
 
 using StepOfNumber = NumberSteps;
 
-TEST_P(StepOfNumber, LeadsTo)
+ROW_TEST(StepOfNumber, LeadsTo)
 {
     Check("#,##0.00", DT_NUMBER);
 }
@@ -92,7 +93,7 @@ constexpr NumberStep kCommonSteps[] = {
     {"MaximumBelowTheMinimumUp",      "9~1",     1,        "5",          kUp,   "9.00",             kChanged},
     {"MaximumBelowTheMinimumDown",    "9~1",     1,        "5",          kDown, "1.00",             kChanged},
 };
-INSTANTIATE_TEST_SUITE_P(Common, StepOfNumber, testing::ValuesIn(kCommonSteps), RowName<NumberStep>);
+TEST_ROWS(Common, StepOfNumber, kCommonSteps);
 
 constexpr NumberStep kNumberSteps[] = {
     {"WrittenMaximumOfZeroIsNone",          "~0",       1, "0",   kUp,   "1.00",     kChanged},
@@ -103,16 +104,16 @@ constexpr NumberStep kNumberSteps[] = {
     {"WordsAsRangeAreNone",                 "few~many", 1, "7",   kUp,   "8.00",     kChanged},
     {"LargeRangeEnd",                       "1e3~2e3",  1, "999", kUp,   "1,000.00", kChanged},
 };
-INSTANTIATE_TEST_SUITE_P(NumbersAlone, StepOfNumber, testing::ValuesIn(kNumberSteps), RowName<NumberStep>);
+TEST_ROWS(NumbersAlone, StepOfNumber, kNumberSteps);
 
 using StepOfDecimal = NumberSteps;
 
-TEST_P(StepOfDecimal, LeadsTo)
+ROW_TEST(StepOfDecimal, LeadsTo)
 {
     Check("#,##0.00", DT_DECIMAL);
 }
 
-INSTANTIATE_TEST_SUITE_P(Common, StepOfDecimal, testing::ValuesIn(kCommonSteps), RowName<NumberStep>);
+TEST_ROWS(Common, StepOfDecimal, kCommonSteps);
 
 constexpr NumberStep kDecimalSteps[] = {
     {"WrittenMaximumOfZeroCounts",              "~0",       1, "0",  kUp,   "0.00",  kRefused},
@@ -122,7 +123,7 @@ constexpr NumberStep kDecimalSteps[] = {
     {"NotRaisedToTheMinimumWithAnEmptyMaximum", "5~",       1, "2",  kUp,   "3.00",  kChanged},
     {"NegativeStaysNegativeWithoutARange",      nullptr,    1, "-5", kUp,   "-4.00", kChanged},
 };
-INSTANTIATE_TEST_SUITE_P(DecimalsAlone, StepOfDecimal, testing::ValuesIn(kDecimalSteps), RowName<NumberStep>);
+TEST_ROWS(DecimalsAlone, StepOfDecimal, kDecimalSteps);
 
 // clang-format off
 constexpr NumberStep kExactSteps[] = {
@@ -134,7 +135,7 @@ constexpr NumberStep kExactSteps[] = {
      "99999999999999999999999999.00", kUp,   "99,999,999,999,999,999,999,999,999.00", kRefused},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(ManyDigits, StepOfDecimal, testing::ValuesIn(kExactSteps), RowName<NumberStep>);
+TEST_ROWS(ManyDigits, StepOfDecimal, kExactSteps);
 
 // Numbers that leave their type.
 class StepAtTheLimits : public SpinTest {};
@@ -233,9 +234,9 @@ void PrintTo(const RegionalStep& row, std::ostream* out)
     *out << row.name;
 }
 
-class StepUnderSettings : public SpinTest, public testing::WithParamInterface<RegionalStep> {};
+class StepUnderSettings : public SpinTest, public OfRow<RegionalStep> {};
 
-TEST_P(StepUnderSettings, KeepsFractionsAndGroups)
+ROW_TEST(StepUnderSettings, KeepsFractionsAndGroups)
 {
     const RegionalStep& row = GetParam();
     const Regional settings(*row.settings);
@@ -258,7 +259,7 @@ constexpr RegionalStep kRegionalSteps[] = {
     {"PercentWithPoint",      &kUnitedStates, "##0.0%",   "0.125",   "12.5%",    "112.5%"  },
     {"Literals",              &kGerman,       "~k##0.0",  "99.5",    "k99,5",    "k100,5"  },
 };
-INSTANTIATE_TEST_SUITE_P(Settings, StepUnderSettings, testing::ValuesIn(kRegionalSteps), RowName<RegionalStep>);
+TEST_ROWS(Settings, StepUnderSettings, kRegionalSteps);
 
 // How a step keeps its own drawing off the screen.
 struct Stepped {
@@ -272,9 +273,9 @@ void PrintTo(const Stepped& row, std::ostream* out)
     *out << row.name;
 }
 
-class RedrawOfAStep : public SpinTest, public testing::WithParamInterface<Stepped> {};
+class RedrawOfAStep : public SpinTest, public OfRow<Stepped> {};
 
-TEST_P(RedrawOfAStep, IsTurnedOffAndOn)
+ROW_TEST(RedrawOfAStep, IsTurnedOffAndOn)
 {
     const Stepped& row = GetParam();
     MakeSpin(row.mask, row.type, nullptr, 1, row.data);
@@ -291,7 +292,7 @@ constexpr Stepped kStepped[] = {
     {"DateTime", "MM/DD/YY HH:MM", DT_DATETIME, "1995-07-04 10:20"},
     {"String",   "AAAA",           DT_STRING,   "abcd"            },
 };
-INSTANTIATE_TEST_SUITE_P(Types, RedrawOfAStep, testing::ValuesIn(kStepped), RowName<Stepped>);
+TEST_ROWS(Types, RedrawOfAStep, kStepped);
 
 // What every step does beside its value.
 class EveryStep : public SpinTest {};
@@ -364,9 +365,9 @@ void PrintTo(const ModifiedCase& row, std::ostream* out)
     *out << row.name;
 }
 
-class StepModifies : public SpinTest, public testing::WithParamInterface<ModifiedCase> {};
+class StepModifies : public SpinTest, public OfRow<ModifiedCase> {};
 
-TEST_P(StepModifies, WhatItChangesUntilTheProgramSetsData)
+ROW_TEST(StepModifies, WhatItChangesUntilTheProgramSetsData)
 {
     const ModifiedCase& row = GetParam();
     MakeSpin(row.mask, row.type, row.range, 1, row.data);
@@ -399,7 +400,7 @@ const ModifiedCase kModifiedRows[] = {
     {"APlainCode", "",                    DT_STRING,   nullptr,                   "R",                "Red\tR/Green\tG" },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Types, StepModifies, testing::ValuesIn(kModifiedRows), RowName<ModifiedCase>);
+TEST_ROWS(Types, StepModifies, kModifiedRows);
 
 TEST_F(EveryStep, ThatIsRefusedModifiesNothing)
 {
@@ -428,8 +429,14 @@ TEST_F(TextPutThereByTheSpin, EndsWithTheFirstTypedCharacter)
         int32_t type;
         const char* data;
     };
-    constexpr Row kRows[] = {{"##0", DT_NUMBER, "7"},     {"#,##0.00", DT_DECIMAL, "7"}, {"MM/DD/YYYY", DT_DATE, "1995-07-04"},
-                             {"HH:MM", DT_TIME, "10:20"}, {"AAAA", DT_STRING, "abcd"},   {"", DT_STRING, "abcd"}};
+    constexpr Row kRows[] = {
+        {"##0",        DT_NUMBER,  "7"         },
+        {"#,##0.00",   DT_DECIMAL, "7"         },
+        {"MM/DD/YYYY", DT_DATE,    "1995-07-04"},
+        {"HH:MM",      DT_TIME,    "10:20"     },
+        {"AAAA",       DT_STRING,  "abcd"      },
+        {"",           DT_STRING,  "abcd"      }
+    };
     for (const Row& row : kRows) {
         MakeSpin(row.mask, row.type, nullptr, 1, row.data);
         Up();

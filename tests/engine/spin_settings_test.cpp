@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -34,9 +35,9 @@ void PrintTo(const Bounds& row, std::ostream* out)
     *out << row.name << " (" << row.range << ")";
 }
 
-class RangeText : public SpinSettings, public testing::WithParamInterface<Bounds> {};
+class RangeText : public SpinSettings, public OfRow<Bounds> {};
 
-TEST_P(RangeText, GivesTheBounds)
+ROW_TEST(RangeText, GivesTheBounds)
 {
     Set(GetParam().range);
     EXPECT_EQ(Record().spinMinimum, GetParam().minimum);
@@ -44,16 +45,12 @@ TEST_P(RangeText, GivesTheBounds)
     EXPECT_EQ(Record().spinRange, GetParam().range);
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, RangeText,
-                         testing::Values(Bounds{"Both", "10~50", 10, 50}, Bounds{"MinimumAlone", "10", 10, 0},
-                                         Bounds{"MinimumAndTilde", "10~", 10, 0}, Bounds{"MaximumAlone", "~50", 0, 50},
-                                         Bounds{"ZeroAsMaximum", "5~0", 5, 0}, Bounds{"TildeAlone", "~", 0, 0},
-                                         Bounds{"Empty", "", 0, 0}, Bounds{"Words", "a~b", 0, 0},
-                                         Bounds{"Fractions", "-1.5~2.25", -1.5, 2.25},
-                                         Bounds{"Exponents", "1e2~1e3", 100, 1000},
-                                         Bounds{"SecondTildeEndsTheNumber", "1~2~3", 1, 2},
-                                         Bounds{"BlanksBefore", " 1~ 2", 1, 2}),
-                         RowName<Bounds>);
+TEST_ROWS_OF(Texts, RangeText, Bounds{"Both", "10~50", 10, 50}, Bounds{"MinimumAlone", "10", 10, 0},
+             Bounds{"MinimumAndTilde", "10~", 10, 0}, Bounds{"MaximumAlone", "~50", 0, 50},
+             Bounds{"ZeroAsMaximum", "5~0", 5, 0}, Bounds{"TildeAlone", "~", 0, 0}, Bounds{"Empty", "", 0, 0},
+             Bounds{"Words", "a~b", 0, 0}, Bounds{"Fractions", "-1.5~2.25", -1.5, 2.25},
+             Bounds{"Exponents", "1e2~1e3", 100, 1000}, Bounds{"SecondTildeEndsTheNumber", "1~2~3", 1, 2},
+             Bounds{"BlanksBefore", " 1~ 2", 1, 2});
 
 TEST_F(SpinSettings, NoRangeTextLeavesTheBounds)
 {
@@ -104,7 +101,12 @@ TEST_F(SpinSettings, ReplaceTheCodeTableWithoutLosingBlocks)
         const char* range;
         const char* codes;
     };
-    constexpr Settings kSettings[] = {{nullptr, "One\t1/Two\t2/Without/Twice\ta\tb"}, {"1~9", "A\t1"}, {"5", nullptr}, {"", ""}};
+    constexpr Settings kSettings[] = {
+        {nullptr, "One\t1/Two\t2/Without/Twice\ta\tb"},
+        {"1~9",   "A\t1"                             },
+        {"5",     nullptr                            },
+        {"",      ""                                 }
+    };
     std::string many;
     for (int i = 0; i < 120; ++i)
         many += "display" + std::to_string(i) + "\t" + std::to_string(i) + "/";

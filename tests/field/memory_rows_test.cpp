@@ -3,19 +3,20 @@
 
 #include "tests/field/memory_player.h"
 #include "tests/field/rows.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
 
-class FieldInMemory : public testing::TestWithParam<FieldCase> {};
+class FieldInMemory : public RowTest<FieldCase> {};
 
-TEST_P(FieldInMemory, LeadsTo)
+ROW_TEST(FieldInMemory, LeadsTo)
 {
     MemoryPlayer player(GetParam().style);
     Check(player, GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, FieldInMemory, testing::ValuesIn(kFieldCases), NameOf);
+TEST_ROWS(Rows, FieldInMemory, FieldCases());
 
 TEST(FieldInMemoryForTheEngine, HoldsShiftForItsOwnKeysAndForTheReader)
 {

@@ -3,19 +3,20 @@
 
 #include "tests/field/real_player.h"
 #include "tests/field/rows.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
 
-class EditControlOfTheSystem : public testing::TestWithParam<FieldCase> {};
+class EditControlOfTheSystem : public RowTest<FieldCase> {};
 
-TEST_P(EditControlOfTheSystem, LeadsTo)
+ROW_TEST(EditControlOfTheSystem, LeadsTo)
 {
     RealPlayer player(GetParam().style);
     Check(player, GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, EditControlOfTheSystem, testing::ValuesIn(kFieldCases), NameOf);
+TEST_ROWS(Rows, EditControlOfTheSystem, FieldCases());
 
 }  // namespace
 }  // namespace zttest

@@ -3,8 +3,10 @@
 
 namespace zttest {
 
+namespace {
+
 // clang-format off
-const std::vector<FieldCase> kFieldCases = {
+const FieldCase kFieldCases[] = {
     // typing
     {"CharactersGoInAtTheCaret",          kPlain,    "ab|cd",       "xy",                            "abxy|cd",       "UCUC",       true },
     {"ACharacterReplacesTheSelection",    kPlain,    "a[bc|]d",     "x",                             "ax|d",          "UC",         true },
@@ -132,6 +134,14 @@ const std::vector<FieldCase> kFieldCases = {
 };
 // clang-format on
 
+}  // namespace
+
+const std::vector<FieldCase>& FieldCases()
+{
+    static const std::vector<FieldCase> rows(std::begin(kFieldCases), std::end(kFieldCases));
+    return rows;
+}
+
 void Check(Player& player, const FieldCase& row)
 {
     Given(player, row.given);
@@ -143,11 +153,6 @@ void Check(Player& player, const FieldCase& row)
 void PrintTo(const FieldCase& row, std::ostream* stream)
 {
     *stream << row.given << " " << Quoted(row.script);
-}
-
-std::string NameOf(const testing::TestParamInfo<FieldCase>& info)
-{
-    return info.param.name;
 }
 
 }  // namespace zttest

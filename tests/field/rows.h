@@ -20,10 +20,9 @@ struct FieldCase {
     bool canUndo;
 };
 
-extern const std::vector<FieldCase> kFieldCases;
+const std::vector<FieldCase>& FieldCases();
 
 void Check(Player& player, const FieldCase& row);
 void PrintTo(const FieldCase& row, std::ostream* stream);
-std::string NameOf(const testing::TestParamInfo<FieldCase>& info);
 
 }  // namespace zttest

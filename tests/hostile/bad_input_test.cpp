@@ -9,6 +9,7 @@
 #include "tests/support/clipboard.h"
 #include "tests/support/live/window_test.h"
 #include "tests/support/profile.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -94,9 +95,9 @@ TEST_F(Hostile, AMaskOfHighBytesIsShown)
               "5");
 }
 
-class TypeOfNoKind : public Hostile, public testing::WithParamInterface<int32_t> {};
+class TypeOfNoKind : public Hostile, public OfRow<int32_t> {};
 
-TEST_P(TypeOfNoKind, IsSurvived)
+ROW_TEST(TypeOfNoKind, IsSurvived)
 {
     Config config;
     config.mask = "##/AA";
@@ -111,7 +112,7 @@ TEST_P(TypeOfNoKind, IsSurvived)
     ExpectItWorks();
 }
 
-INSTANTIATE_TEST_SUITE_P(Types, TypeOfNoKind, testing::Values(0, 7, 8, -1, 255, INT32_MAX, INT32_MIN));
+TEST_ROWS_OF(Types, TypeOfNoKind, 0, 7, 8, -1, 255, INT32_MAX, INT32_MIN);
 
 // ---- Data -----------------------------------------------------------------------------------------------------------
 
@@ -149,9 +150,9 @@ const MaskOfType kMasks[] = {
 };
 // clang-format on
 
-testing::internal::ParamGenerator<MaskOfType> Masked()
+std::vector<MaskOfType> Masked()
 {
-    return testing::ValuesIn(std::begin(kMasks) + 1, std::end(kMasks));
+    return {std::begin(kMasks) + 1, std::end(kMasks)};
 }
 
 // A field under one of the masks.
@@ -178,13 +179,13 @@ protected:
     }
 };
 
-class FieldOfEachKind : public HostileField, public testing::WithParamInterface<MaskOfType> {
+class FieldOfEachKind : public HostileField, public OfRow<MaskOfType> {
 protected:
     void MakeField(uint32_t options = 0) { HostileField::MakeField(GetParam(), options); }
     void ExpectItShowsAValue() { HostileField::ExpectItShowsAValue(GetParam()); }
 };
 
-TEST_P(FieldOfEachKind, TakesNoControlCharacter)
+ROW_TEST(FieldOfEachKind, TakesNoControlCharacter)
 {
     MakeField();
     EmptyTheClipboard();
@@ -196,7 +197,7 @@ TEST_P(FieldOfEachKind, TakesNoControlCharacter)
     }
 }
 
-TEST_P(FieldOfEachKind, SurvivesNullTexts)
+ROW_TEST(FieldOfEachKind, SurvivesNullTexts)
 {
     MakeField();
     ZTE_FmtSetDataString(Window(), nullptr);
@@ -206,7 +207,7 @@ TEST_P(FieldOfEachKind, SurvivesNullTexts)
     ExpectItShowsAValue();
 }
 
-TEST_P(FieldOfEachKind, SurvivesATextLimitBelowItsLength)
+ROW_TEST(FieldOfEachKind, SurvivesATextLimitBelowItsLength)
 {
     MakeField(ZTEO_AUTOSKIP);
     SendMessageA(Window(), EM_SETLIMITTEXT, 2, 0);
@@ -216,7 +217,7 @@ TEST_P(FieldOfEachKind, SurvivesATextLimitBelowItsLength)
     ExpectItShowsAValue();
 }
 
-TEST_P(FieldOfEachKind, SurvivesTextsFromOutsideFollowedByEveryKey)
+ROW_TEST(FieldOfEachKind, SurvivesTextsFromOutsideFollowedByEveryKey)
 {
     MakeField(ZTEO_AUTOSKIP | ZTEO_SPIN);
     const std::string shown = Text();
@@ -242,7 +243,7 @@ TEST_P(FieldOfEachKind, SurvivesTextsFromOutsideFollowedByEveryKey)
     ExpectItShowsAValue();
 }
 
-TEST_P(FieldOfEachKind, SurvivesASettingsChangeInTheMiddle)
+ROW_TEST(FieldOfEachKind, SurvivesASettingsChangeInTheMiddle)
 {
     MakeField();
     ZTE_FmtSetDataString(Window(), "1234.5");
@@ -256,7 +257,7 @@ TEST_P(FieldOfEachKind, SurvivesASettingsChangeInTheMiddle)
     ExpectItShowsAValue();
 }
 
-TEST_P(FieldOfEachKind, LosesNoBlocksOverManyKeys)
+ROW_TEST(FieldOfEachKind, LosesNoBlocksOverManyKeys)
 {
     MakeField(ZTEO_AUTOSKIP);
     const uint32_t before = SharedHeapBlockCount(control_->heap());
@@ -265,7 +266,7 @@ TEST_P(FieldOfEachKind, LosesNoBlocksOverManyKeys)
     EXPECT_EQ(SharedHeapBlockCount(control_->heap()), before);
 }
 
-TEST_P(FieldOfEachKind, LosesNoBlocksOverManyMasks)
+ROW_TEST(FieldOfEachKind, LosesNoBlocksOverManyMasks)
 {
     MakeField();
     const uint32_t before = SharedHeapBlockCount(control_->heap());
@@ -278,7 +279,7 @@ TEST_P(FieldOfEachKind, LosesNoBlocksOverManyMasks)
     EXPECT_EQ(SharedHeapBlockCount(control_->heap()), before);
 }
 
-TEST_P(FieldOfEachKind, SurvivesAFloodOfRandomMessages)
+ROW_TEST(FieldOfEachKind, SurvivesAFloodOfRandomMessages)
 {
     MakeField(ZTEO_AUTOSKIP | ZTEO_SPIN);
     CopyToClipboard("1995-07-04");
@@ -305,7 +306,7 @@ TEST_P(FieldOfEachKind, SurvivesAFloodOfRandomMessages)
 
 class MaskedField : public FieldOfEachKind {};
 
-TEST_P(MaskedField, SurvivesAMegabyteOnTheClipboard)
+ROW_TEST(MaskedField, SurvivesAMegabyteOnTheClipboard)
 {
     MakeField();
     CopyToClipboard(std::string(1 << 20, '7'));
@@ -316,7 +317,7 @@ TEST_P(MaskedField, SurvivesAMegabyteOnTheClipboard)
     ExpectItShowsAValue();
 }
 
-INSTANTIATE_TEST_SUITE_P(Fields, MaskedField, Masked(), RowName<MaskOfType>);
+TEST_ROWS(Fields, MaskedField, Masked());
 
 // Letters: over as many digits in one word the system's own edit control thinks for half a minute.
 TEST_F(Hostile, AStringWithoutAMaskShowsAHundredThousandCharacters)
@@ -337,7 +338,7 @@ TEST_F(Hostile, AStringWithoutAMaskTakesALongTextFromTheClipboard)
     EXPECT_EQ(Value(), text);
 }
 
-INSTANTIATE_TEST_SUITE_P(Fields, FieldOfEachKind, testing::ValuesIn(kMasks), RowName<MaskOfType>);
+TEST_ROWS(Fields, FieldOfEachKind, kMasks);
 
 TEST_F(Hostile, AnEmptyNumberReadsAsZero)
 {
@@ -389,9 +390,9 @@ void PrintTo(const WrongDate& row, std::ostream* out)
     *out << row.name;
 }
 
-class DateOutOfRange : public HostileField, public testing::WithParamInterface<WrongDate> {};
+class DateOutOfRange : public HostileField, public OfRow<WrongDate> {};
 
-TEST_P(DateOutOfRange, IsSurvived)
+ROW_TEST(DateOutOfRange, IsSurvived)
 {
     for (const MaskOfType& mask : kMasks) {
         if (mask.type != DT_DATE && mask.type != DT_TIME && mask.type != DT_DATETIME)
@@ -418,7 +419,7 @@ const WrongDate kWrongDates[] = {
     {"DayZero",     {0,           95,     6,    0,    0,    0,    0,    0   }},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Values, DateOutOfRange, testing::ValuesIn(kWrongDates), RowName<WrongDate>);
+TEST_ROWS(Values, DateOutOfRange, kWrongDates);
 
 }  // namespace
 }  // namespace zttest

@@ -1,6 +1,7 @@
 // The regional settings as controls follow them: every key of the profile section "intl", its default, and what a
 // change does to open controls.
 #include "tests/support/live/window_value_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -34,9 +35,9 @@ void PrintTo(const IntlKeyCase& row, std::ostream* out)
     *out << row.key << '=' << (row.value ? row.value : "(absent)");
 }
 
-class IntlKey : public WindowValueTest, public testing::WithParamInterface<IntlKeyCase> {};
+class IntlKey : public WindowValueTest, public OfRow<IntlKeyCase> {};
 
-TEST_P(IntlKey, IsFollowed)
+ROW_TEST(IntlKey, IsFollowed)
 {
     const IntlKeyCase& row = GetParam();
     const ProfileValue key = {row.key, row.value};
@@ -82,7 +83,7 @@ const IntlKeyCase kKeyRows[] = {
     {"TimePoint",              "sTime",       ".",           "[time]",        DT_TIME,   "14:07:09",   "14.07.09"    },
     {"TimeEmpty",              "sTime",       "",            "[time]",        DT_TIME,   "14:07:09",   "140709"      },
 };
-INSTANTIATE_TEST_SUITE_P(, IntlKey, testing::ValuesIn(kKeyRows), RowName<IntlKeyCase>);
+TEST_ROWS(, IntlKey, kKeyRows);
 
 class Intl : public WindowValueTest {};
 

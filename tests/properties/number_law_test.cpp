@@ -219,7 +219,7 @@ void ForEachSubject(const std::vector<const char*>& masks, const std::vector<Num
                     continue;
                 }
                 tally.CountRefused();
-                Subject foreign(mask, type, kNumberSettings[0], used, tally);
+                Subject foreign(mask, type, AllNumberSettings()[0], used, tally);
                 if (foreign.IsAccepted())
                     play(foreign, index);
             }
@@ -248,7 +248,7 @@ TEST(NumberLaw, PlainTextsGiveTheirNumbers)
 {
     Tally tally;
     const uint32_t every = Every(32);
-    ForEachSubject(kNumberMasks, kNumberSettings, tally, [&](Subject& subject, uint32_t index) {
+    ForEachSubject(kNumberMasks, AllNumberSettings(), tally, [&](Subject& subject, uint32_t index) {
         ForEachRow(subject, index, every, [&](const std::string& plain, LawStart start, uint32_t choice) {
             subject.Play(PlainRow(subject.Mask(), start, plain, choice));
         });
@@ -260,7 +260,7 @@ TEST(NumberLaw, PlainTextsGiveTheirNumbers)
 TEST(NumberLaw, WhatTheFieldWillShowMayBeTypedAsItIsRead)
 {
     Tally tally;
-    ForEachSubject(kNumberMasks, kNumberSettings, tally, [&](Subject& subject, uint32_t index) {
+    ForEachSubject(kNumberMasks, AllNumberSettings(), tally, [&](Subject& subject, uint32_t index) {
         ForEachRow(subject, index, Every(64), [&](const std::string& plain, LawStart start, uint32_t choice) {
             LawRow row{};
             if (ShownRow(subject.Mask(), start, plain, choice, row))
@@ -273,7 +273,7 @@ TEST(NumberLaw, WhatTheFieldWillShowMayBeTypedAsItIsRead)
 TEST(NumberLaw, KeysTypedInErrorChangeNothing)
 {
     Tally tally;
-    ForEachSubject(kNumberMasks, kNumberSettings, tally, [&](Subject& subject, uint32_t index) {
+    ForEachSubject(kNumberMasks, AllNumberSettings(), tally, [&](Subject& subject, uint32_t index) {
         ForEachRow(subject, index, Every(64), [&](const std::string& plain, LawStart start, uint32_t choice) {
             subject.Play(WithWrongKeys(PlainRow(subject.Mask(), start, plain, choice), choice));
         });
@@ -286,8 +286,8 @@ TEST(NumberLaw, MasksOfMoneyOutliveTheirSettings)
 {
     Tally tally;
     uint32_t index = 0;
-    for (const NumberSettings& set : kNumberSettings) {
-        for (const NumberSettings& used : kNumberSettings) {
+    for (const NumberSettings& set : AllNumberSettings()) {
+        for (const NumberSettings& used : AllNumberSettings()) {
             Subject subject("[currency(9)]", DT_NUMBER, set, used, tally);
             ASSERT_TRUE(subject.IsAccepted());
             tally.CountPair();
@@ -296,14 +296,14 @@ TEST(NumberLaw, MasksOfMoneyOutliveTheirSettings)
             });
         }
     }
-    EXPECT_EQ(tally.Pairs(), kNumberSettings.size() * kNumberSettings.size());
+    EXPECT_EQ(tally.Pairs(), AllNumberSettings().size() * AllNumberSettings().size());
 }
 
 // The reading of masks in tests/support/number_law and the engine's own display are the same.
 TEST(NumberLaw, TheFieldShowsItsValuesAlike)
 {
     Tally tally;
-    ForEachSubject(kNumberMasks, kNumberSettings, tally, [&](Subject& subject, uint32_t) {
+    ForEachSubject(kNumberMasks, AllNumberSettings(), tally, [&](Subject& subject, uint32_t) {
         for (const std::string& plain : PlainTextsFor(subject.Mask())) {
             PlainNumber number;
             ASSERT_TRUE(ReadPlain(plain, '.', number)) << plain;
@@ -316,13 +316,13 @@ TEST(NumberLaw, MostMasksHaveSixtyNumbersToTry)
 {
     uint32_t enough = 0;
     for (const char* mask : kNumberMasks) {
-        const size_t count = PlainTextsFor(NumberMask(mask, DT_DECIMAL, kNumberSettings[0])).size();
+        const size_t count = PlainTextsFor(NumberMask(mask, DT_DECIMAL, AllNumberSettings()[0])).size();
         EXPECT_GE(count, 10u) << mask;
         enough += count >= 60;
     }
     EXPECT_GE(enough, 40u);
     EXPECT_GE(kNumberMasks.size(), 40u);
-    EXPECT_GE(kNumberSettings.size(), 12u);
+    EXPECT_GE(AllNumberSettings().size(), 12u);
 }
 
 // ---- The money of all countries -------------------------------------------------------------------------------------

@@ -102,9 +102,9 @@ std::vector<DocumentRow> DocumentRows(const std::string& file, const std::vector
     return found;
 }
 
-std::string LineName(const testing::TestParamInfo<DocumentRow>& info)
+std::string LineName(const DocumentRow& row)
 {
-    return "Line" + std::to_string(info.param.line);
+    return "Line" + std::to_string(row.line);
 }
 
 int32_t TypeNamed(const std::string& name)

@@ -23,8 +23,8 @@ void PrintTo(const DocumentRow& row, std::ostream* out);
 // The rows of a file of the sources ("docs/masks.md") whose table has all the columns named.
 std::vector<DocumentRow> DocumentRows(const std::string& file, const std::vector<const char*>& columns);
 
-// The name of a row as gtest wants it for INSTANTIATE_TEST_SUITE_P.
-std::string LineName(const testing::TestParamInfo<DocumentRow>& info);
+// The name of a row in the list of tests.
+std::string LineName(const DocumentRow& row);
 
 // The data type that the documentation calls by a name.
 int32_t TypeNamed(const std::string& name);

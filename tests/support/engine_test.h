@@ -13,6 +13,7 @@
 #include "tests/support/key_case.h"
 #include "tests/support/masked_edit.h"
 #include "tests/support/profile.h"
+#include "tests/support/rows.h"
 #include "tests/support/values.h"
 
 namespace zttest {
@@ -51,7 +52,7 @@ protected:
     std::unique_ptr<MaskedEdit> control_;
 };
 
-class KeyTable : public EditTest, public testing::WithParamInterface<KeyCase> {
+class KeyTable : public EditTest, public OfRow<KeyCase> {
 protected:
     void Check(const KeyCase& row);
 };

@@ -27,11 +27,4 @@ inline void PrintTo(const KeyCase& row, std::ostream* out)
     *out << row.name << " (mask " << row.mask << ", from " << row.given << ", keys " << row.keys << ")";
 }
 
-// The name of a row as gtest wants it for INSTANTIATE_TEST_SUITE_P.
-template <class Row>
-std::string RowName(const testing::TestParamInfo<Row>& info)
-{
-    return info.param.name;
-}
-
 }  // namespace zttest

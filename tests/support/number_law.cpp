@@ -13,31 +13,35 @@ namespace zttest {
 // Separators of all kinds, equal ones too: an empty key of the profile counts as an absent one, so a decimal comma without a
 // thousands character gives two commas. Symbols that look like parts of numbers or like mask characters.
 // clang-format off
-const std::vector<NumberSettings> kNumberSettings = {
-    // Name              Decimal  Thousands  Symbol   Side  Digits
-    {"UnitedStates",     ".",     ",",       "$",     0,    2},
-    {"German",           ",",     ".",       "EUR",   1,    2},
-    {"FrenchBlank",      ",",     " ",       "F",     1,    2},
-    {"FrenchNoBreak",    ",",     "\xA0",    "\x80",  3,    2},
-    {"Swiss",            ".",     "'",       "CHF",   0,    2},
-    {"SwissFr",          ".",     "'",       "Fr.",   2,    2},
-    {"Swedish",          ",",     "\xA0",    "kr",    3,    2},
-    {"Danish",           ",",     ".",       "kr.",   2,    2},
-    {"DanishBehind",     ",",     ".",       "kr.",   3,    2},
-    {"KrBehindByPoint",  ".",     ",",       "kr.",   1,    2},
-    {"Yen",              ".",     ",",       "\xA5",  0,    0},
-    {"WholeFrancs",      ",",     " ",       "F",     1,    0},
-    {"MXN",              ".",     ",",       "MXN",   0,    2},
-    {"XAF",              ",",     " ",       "XAF",   3,    0},
-    {"Kuwait",           ".",     ",",       "KWD",   2,    3},
-    {"Persian",          "/",     ",",       "Rial",  0,    2},
-    {"ZeroX",            ".",     ",",       "0x",    0,    2},
-    {"ZeroXBehind",      ",",     ".",       "0x",    1,    2},
-    {"EqualPoints",      ".",     ".",       "$",     0,    2},
-    {"EqualCommas",      ",",     "",        "kr",    1,    2},
-    {"NoSymbol",         ".",     ",",       "",      0,    2},
-    {"RaisedPoint",      "\xB7",  "_",       "L",     0,    2},
-};
+const std::vector<NumberSettings>& AllNumberSettings()
+{
+    static const std::vector<NumberSettings> settings = {
+        // Name              Decimal  Thousands  Symbol   Side  Digits
+        {"UnitedStates",     ".",     ",",       "$",     0,    2},
+        {"German",           ",",     ".",       "EUR",   1,    2},
+        {"FrenchBlank",      ",",     " ",       "F",     1,    2},
+        {"FrenchNoBreak",    ",",     "\xA0",    "\x80",  3,    2},
+        {"Swiss",            ".",     "'",       "CHF",   0,    2},
+        {"SwissFr",          ".",     "'",       "Fr.",   2,    2},
+        {"Swedish",          ",",     "\xA0",    "kr",    3,    2},
+        {"Danish",           ",",     ".",       "kr.",   2,    2},
+        {"DanishBehind",     ",",     ".",       "kr.",   3,    2},
+        {"KrBehindByPoint",  ".",     ",",       "kr.",   1,    2},
+        {"Yen",              ".",     ",",       "\xA5",  0,    0},
+        {"WholeFrancs",      ",",     " ",       "F",     1,    0},
+        {"MXN",              ".",     ",",       "MXN",   0,    2},
+        {"XAF",              ",",     " ",       "XAF",   3,    0},
+        {"Kuwait",           ".",     ",",       "KWD",   2,    3},
+        {"Persian",          "/",     ",",       "Rial",  0,    2},
+        {"ZeroX",            ".",     ",",       "0x",    0,    2},
+        {"ZeroXBehind",      ",",     ".",       "0x",    1,    2},
+        {"EqualPoints",      ".",     ".",       "$",     0,    2},
+        {"EqualCommas",      ",",     "",        "kr",    1,    2},
+        {"NoSymbol",         ".",     ",",       "",      0,    2},
+        {"RaisedPoint",      "\xB7",  "_",       "L",     0,    2},
+    };
+    return settings;
+}
 
 const std::vector<const char*> kNumberMasks = {
     "",             "#,#.00",       "#,##0.00",      "#,###.00",       "#,###,##0.00",      "#,###,###.00",
@@ -739,7 +743,8 @@ private:
             return "more than one beep";
         if (key.kind == LawKey::Refused && HoldsDigit(typed_) && field_.Text() != text)
             return "the refused key has changed the text";
-        const bool stays = !selected && field_.Text() == text;  // what was selected gives way to the place of its first digit
+        const bool stays =
+            !selected && field_.Text() == text;  // what was selected gives way to the place of its first digit
         if (key.kind == LawKey::Plain && typed_ == "+" && stays && field_.CaretStart() != caret)
             return "the plus has moved the caret";
         return mask_.JudgeCaret(typed_, field_.Text(), field_.CaretStart(), field_.CaretEnd(), takenBack_);

@@ -29,7 +29,7 @@ inline std::ostream& operator<<(std::ostream& out, const NumberSettings& setting
 {
     return out << settings.name;
 }
-extern const std::vector<NumberSettings> kNumberSettings;
+const std::vector<NumberSettings>& AllNumberSettings();
 RegionalSet ProfileOf(const NumberSettings& settings);
 
 // The settings of every row of kCurrencies.

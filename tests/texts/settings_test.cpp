@@ -6,6 +6,7 @@
 
 #include "tests/support/key_case.h"
 #include "tests/support/profile.h"
+#include "tests/support/rows.h"
 #include "tests/texts/doors.h"
 #include "tests/texts/guarded.h"
 #include "tests/texts/texts.h"
@@ -77,7 +78,7 @@ void UseThem()
     }
 }
 
-class TextOfASetting : public testing::TestWithParam<SettingRow> {
+class TextOfASetting : public RowTest<SettingRow> {
 protected:
     void Try(const std::string& text)
     {
@@ -106,7 +107,7 @@ bool IsOneLine(const std::string& text)
     return text.find_first_of("\r\n") == std::string::npos;
 }
 
-TEST_P(TextOfASetting, MayHoldEveryCharacter)
+ROW_TEST(TextOfASetting, MayHoldEveryCharacter)
 {
     const Sample sample(IsLive() ? 127 : 11);
     const size_t place = std::strlen(GetParam().name);
@@ -116,7 +117,7 @@ TEST_P(TextOfASetting, MayHoldEveryCharacter)
             Try(texts[i]);
 }
 
-TEST_P(TextOfASetting, MayHaveAnyLength)
+ROW_TEST(TextOfASetting, MayHaveAnyLength)
 {
     const Sample sample(IsLive() ? 61 : 5);
     const std::vector<LongText> texts = LongTexts();
@@ -126,7 +127,7 @@ TEST_P(TextOfASetting, MayHaveAnyLength)
     Try(std::string(IsLive() ? 65535 : kMegabyte, 'q'));
 }
 
-TEST_P(TextOfASetting, MayBeAnyMix)
+ROW_TEST(TextOfASetting, MayBeAnyMix)
 {
     const std::vector<std::string> texts = RandomTexts(1848, IsLive() ? 2 : 40);
     for (size_t i = 0; i < texts.size() && !HasFailure(); ++i)
@@ -134,7 +135,7 @@ TEST_P(TextOfASetting, MayBeAnyMix)
             Try(texts[i]);
 }
 
-INSTANTIATE_TEST_SUITE_P(Settings, TextOfASetting, testing::ValuesIn(kSettings), RowName<SettingRow>);
+TEST_ROWS(Settings, TextOfASetting, kSettings);
 
 }  // namespace
 }  // namespace zttest

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/key_case.h"
+#include "tests/support/rows.h"
 #include "tests/texts/doors.h"
 #include "tests/texts/guarded.h"
 #include "tests/texts/texts.h"
@@ -33,7 +34,7 @@ bool Enters(const Door& door, const FieldRow& field, const std::string& text)
     return false;
 }
 
-class TextThroughEachDoor : public testing::TestWithParam<Door> {
+class TextThroughEachDoor : public RowTest<Door> {
 protected:
     void TearDown() override { EXPECT_TRUE(HeapsAreSound()); }
 
@@ -47,7 +48,7 @@ protected:
     }
 };
 
-TEST_P(TextThroughEachDoor, MayHoldEveryCharacter)
+ROW_TEST(TextThroughEachDoor, MayHoldEveryCharacter)
 {
     const Sample sample(IsLive() ? 751 : 15);
     ForEachField([&](const FieldRow& field, size_t place) {
@@ -58,7 +59,7 @@ TEST_P(TextThroughEachDoor, MayHoldEveryCharacter)
     });
 }
 
-TEST_P(TextThroughEachDoor, MayHaveAnyLength)
+ROW_TEST(TextThroughEachDoor, MayHaveAnyLength)
 {
     const Sample sample(IsLive() ? 97 : 15);
     const Sample megabytes(IsLive() ? 241 : 75);
@@ -71,7 +72,7 @@ TEST_P(TextThroughEachDoor, MayHaveAnyLength)
     });
 }
 
-TEST_P(TextThroughEachDoor, MayBeAnyMix)
+ROW_TEST(TextThroughEachDoor, MayBeAnyMix)
 {
     const Sample sample(IsLive() ? 251 : 15);
     const std::vector<std::string> texts = RandomTexts(4711, 300);
@@ -82,7 +83,7 @@ TEST_P(TextThroughEachDoor, MayBeAnyMix)
     });
 }
 
-TEST_P(TextThroughEachDoor, MayBePeculiar)
+ROW_TEST(TextThroughEachDoor, MayBePeculiar)
 {
     const Sample sample(IsLive() ? 67 : GetParam().leads == Leads::ToTheMask ? 1 : 15);
     const std::vector<std::string> texts = PeculiarTexts();
@@ -127,7 +128,7 @@ TEST(WindowText, MayBeAsLongAs64KilobytesUnderAMask)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Doors, TextThroughEachDoor, testing::ValuesIn(Doors()), RowName<Door>);
+TEST_ROWS(Doors, TextThroughEachDoor, Doors());
 
 }  // namespace
 }  // namespace zttest

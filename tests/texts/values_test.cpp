@@ -8,6 +8,7 @@
 
 #include "engine/values/date_time.h"
 #include "tests/support/key_case.h"
+#include "tests/support/rows.h"
 #include "tests/texts/doors.h"
 #include "tests/texts/guarded.h"
 #include "tests/texts/texts.h"
@@ -114,10 +115,10 @@ struct NumberRow {
     const char* shown;  // null: only its end matters
 };
 
-class RenderedNumber : public testing::TestWithParam<NumberRow> {};
+class RenderedNumber : public RowTest<NumberRow> {};
 
 // Into room of every size up to a few more than it takes, each ending before the page.
-TEST_P(RenderedNumber, IsCutToTheRoom)
+ROW_TEST(RenderedNumber, IsCutToTheRoom)
 {
     constexpr int32_t kEnough = 1200;
     const std::string format = GetParam().format;
@@ -151,7 +152,7 @@ const NumberRow kNumbers[] = {
     {"NoNumber", "0",              std::numeric_limits<double>::quiet_NaN(), "0"    },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Numbers, RenderedNumber, testing::ValuesIn(kNumbers), RowName<NumberRow>);
+TEST_ROWS(Numbers, RenderedNumber, kNumbers);
 
 TEST(Room, ADecimalIsCutToIt)
 {
@@ -198,10 +199,10 @@ TEST(Room, ADateIsReadIntoItWhereverItStands)
 
 // ---- texts without a terminator
 
-class MaskWithoutATerminator : public testing::TestWithParam<FieldRow> {};
+class MaskWithoutATerminator : public RowTest<FieldRow> {};
 
 // A mask has at most 255 characters, so the 256th tells that it is none.
-TEST_P(MaskWithoutATerminator, IsReadNoFurtherThanAMaskGoes)
+ROW_TEST(MaskWithoutATerminator, IsReadNoFurtherThanAMaskGoes)
 {
     for (const char character : {'#', 'X', '0', 'Y', '-', '\xE4'}) {
         const UnterminatedText mask(std::string(256, character));
@@ -214,7 +215,7 @@ TEST_P(MaskWithoutATerminator, IsReadNoFurtherThanAMaskGoes)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Fields, MaskWithoutATerminator, testing::ValuesIn(Fields()), RowName<FieldRow>);
+TEST_ROWS(Fields, MaskWithoutATerminator, Fields());
 
 // ---- texts of the services
 

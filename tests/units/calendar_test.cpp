@@ -8,6 +8,7 @@
 
 #include "engine/values/month_names.h"
 #include "tests/support/key_case.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -37,25 +38,25 @@ void PrintTo(const YearCase& row, std::ostream* out)
     *out << row.yearValue << " of " << row.yearDigits << " digits";
 }
 
-class Years : public testing::TestWithParam<YearCase> {};
+class Years : public RowTest<YearCase> {};
 
-TEST_P(Years, HaveACalendarYear)
+ROW_TEST(Years, HaveACalendarYear)
 {
     EXPECT_EQ(CalendarYear(GetParam().yearDigits, GetParam().yearValue), GetParam().calendarYear);
 }
 
-TEST_P(Years, AreLeapYearsByTheGregorianRule)
+ROW_TEST(Years, AreLeapYearsByTheGregorianRule)
 {
     EXPECT_EQ(IsLeapYear(GetParam().yearDigits, GetParam().yearValue), GetParam().leap);
 }
 
-TEST_P(Years, HaveTheirFebruary)
+ROW_TEST(Years, HaveTheirFebruary)
 {
     const DateTimeValue february = Day(GetParam().yearValue, 1, 1);
     EXPECT_EQ(DaysInMonth(GetParam().yearDigits, february), GetParam().leap ? 29 : 28);
 }
 
-TEST_P(Years, HaveTheirLength)
+ROW_TEST(Years, HaveTheirLength)
 {
     EXPECT_EQ(DaysInYear(GetParam().yearDigits, GetParam().yearValue), GetParam().leap ? 366 : 365);
 }
@@ -79,18 +80,18 @@ const YearCase kYearRows[] = {
     {"TwoDigitsOfTwentyTwentyFour",    2, 124,   2024, true },
     {"FourDigitsOfNineteenFortyEight", 4, 48,    1948, true },
 };
-INSTANTIATE_TEST_SUITE_P(, Years, testing::ValuesIn(kYearRows), RowName<YearCase>);
+TEST_ROWS(, Years, kYearRows);
 
 constexpr int32_t kCommonDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 
 // Both kinds of years, counted day by day.
-class DayByDay : public testing::TestWithParam<int> {
+class DayByDay : public RowTest<int> {
 protected:
     bool Leap() const { return GetParam() == 96 || GetParam() == 100; }
     int32_t DaysOf(int month) const { return kCommonDays[month] + (month == 1 && Leap() ? 1 : 0); }
 };
 
-TEST_P(DayByDay, TheDayOfTheYearIsCounted)
+ROW_TEST(DayByDay, TheDayOfTheYearIsCounted)
 {
     int32_t dayOfYear = 0;
     for (int month = 0; month < 12; ++month) {
@@ -100,7 +101,7 @@ TEST_P(DayByDay, TheDayOfTheYearIsCounted)
     EXPECT_EQ(dayOfYear, Leap() ? 366 : 365);
 }
 
-TEST_P(DayByDay, TheDateOfADayOfTheYearIsFound)
+ROW_TEST(DayByDay, TheDateOfADayOfTheYearIsFound)
 {
     int32_t dayOfYear = 0;
     for (int month = 0; month < 12; ++month) {
@@ -113,7 +114,7 @@ TEST_P(DayByDay, TheDateOfADayOfTheYearIsFound)
     }
 }
 
-TEST_P(DayByDay, TheMonthTableIsRight)
+ROW_TEST(DayByDay, TheMonthTableIsRight)
 {
     int32_t before = 0;
     for (int month = 0; month < 12; ++month) {
@@ -125,7 +126,7 @@ TEST_P(DayByDay, TheMonthTableIsRight)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, DayByDay, testing::Values(0, 95, 96, 100, 200));
+TEST_ROWS_OF(, DayByDay, 0, 95, 96, 100, 200);
 
 TEST(Calendar, TheFirstOfMarchOfACommonYearIsTheSixtiethDay)
 {
@@ -184,9 +185,9 @@ void PrintTo(const NameCase& row, std::ostream* out)
     *out << '"' << row.text << '"';
 }
 
-class MonthOfName : public testing::TestWithParam<NameCase> {};
+class MonthOfName : public RowTest<NameCase> {};
 
-TEST_P(MonthOfName, IsFound)
+ROW_TEST(MonthOfName, IsFound)
 {
     EXPECT_EQ(MonthFromName(kSettings, GetParam().text), GetParam().month);
 }
@@ -201,7 +202,7 @@ const NameCase kNameRows[] = {
     {"Blanks",       "   ",  -1},
     {"Empty",        "",     -1},
 };
-INSTANTIATE_TEST_SUITE_P(, MonthOfName, testing::ValuesIn(kNameRows), RowName<NameCase>);
+TEST_ROWS(, MonthOfName, kNameRows);
 
 // The month, from one on in calendar order, whose abbreviation begins with the start.
 struct PrefixCase {
@@ -215,9 +216,9 @@ void PrintTo(const PrefixCase& row, std::ostream* out)
     *out << '"' << row.start << "\" from " << row.first;
 }
 
-class MonthOfPrefix : public testing::TestWithParam<PrefixCase> {};
+class MonthOfPrefix : public RowTest<PrefixCase> {};
 
-TEST_P(MonthOfPrefix, IsFound)
+ROW_TEST(MonthOfPrefix, IsFound)
 {
     EXPECT_EQ(MonthName(kSettings, MonthByPrefix(kSettings, GetParam().start, GetParam().first)), GetParam().month);
 }
@@ -248,7 +249,7 @@ const PrefixCase kPrefixRows[] = {
     {"NoWrapToTheNextYear",       "D",    12, ""   },
     {"AWholeNameHasNoOther",      "JUN",  6,  ""   },
 };
-INSTANTIATE_TEST_SUITE_P(, MonthOfPrefix, testing::ValuesIn(kPrefixRows), RowName<PrefixCase>);
+TEST_ROWS(, MonthOfPrefix, kPrefixRows);
 
 }  // namespace
 }  // namespace zttest

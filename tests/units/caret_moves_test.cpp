@@ -4,6 +4,7 @@
 #include "engine/edit/caret.h"
 #include "engine/edit/click.h"
 #include "engine/spin/spin_settings.h"
+#include "tests/support/rows.h"
 #include "tests/units/field_spy.h"
 
 namespace zttest {
@@ -33,9 +34,9 @@ void PrintTo(const MoveRow& row, std::ostream* out)
     *out << row.name;
 }
 
-class CaretMove : public testing::TestWithParam<MoveRow> {};
+class CaretMove : public RowTest<MoveRow> {};
 
-TEST_P(CaretMove, IsMadeOf)
+ROW_TEST(CaretMove, IsMadeOf)
 {
     const MoveRow& row = GetParam();
     Spied spied(row.setup);
@@ -79,8 +80,7 @@ const MoveRow kMoves[] = {
     {"ShiftIsOneLeftForBackspace",         kDate,     "07/0|4/95", KEY_BACKSPACE, kData,  true,  {"Left x1 data 5"}},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, CaretMove, testing::ValuesIn(kMoves),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, CaretMove, kMoves);
 
 TEST(CaretMove, ByRightWithShiftHeldTellsNobodyThatTheFieldIsFull)
 {
@@ -145,9 +145,9 @@ void PrintTo(const StepsRow& row, std::ostream* out)
     *out << row.name;
 }
 
-class StepsTo : public testing::TestWithParam<StepsRow> {};
+class StepsTo : public RowTest<StepsRow> {};
 
-TEST_P(StepsTo, TheNextPositionThatMayBeTypedAt)
+ROW_TEST(StepsTo, TheNextPositionThatMayBeTypedAt)
 {
     const StepsRow& row = GetParam();
     Spied spied(row.setup);
@@ -172,8 +172,7 @@ const StepsRow kSteps[] = {
     {"OnTheLastOfSeveral",    kPhone, "(555) 123",  5, 1, 2},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, StepsTo, testing::ValuesIn(kSteps),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, StepsTo, kSteps);
 
 struct FractionRow {
     const char* mask;
@@ -220,9 +219,9 @@ void PrintTo(const SkipRow& row, std::ostream* out)
     *out << row.name;
 }
 
-class LiteralsSkipped : public testing::TestWithParam<SkipRow> {};
+class LiteralsSkipped : public RowTest<SkipRow> {};
 
-TEST_P(LiteralsSkipped, LeadToTheNextPosition)
+ROW_TEST(LiteralsSkipped, LeadToTheNextPosition)
 {
     const SkipRow& row = GetParam();
     Spied spied(row.setup);
@@ -245,8 +244,7 @@ const SkipRow kSkips[] = {
     {"OfAnAmPmField",           {"HH:MM AM/PM", DT_TIME}, "02:30 PM|", 5, 6},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, LiteralsSkipped, testing::ValuesIn(kSkips),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, LiteralsSkipped, kSkips);
 
 // ---- literals typed behind themselves
 
@@ -263,9 +261,9 @@ void PrintTo(const CarriedRow& row, std::ostream* out)
     *out << row.name;
 }
 
-class CarriedLiteral : public testing::TestWithParam<CarriedRow> {};
+class CarriedLiteral : public RowTest<CarriedRow> {};
 
-TEST_P(CarriedLiteral, IsTakenOnce)
+ROW_TEST(CarriedLiteral, IsTakenOnce)
 {
     const CarriedRow& row = GetParam();
     Spied spied({"##) -##", DT_STRING});
@@ -298,8 +296,7 @@ const CarriedRow kCarried[] = {
     {"OneAtTheEndOfTheText",       {2, 7}, 7, ')', true,  {3, 7}},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, CarriedLiteral, testing::ValuesIn(kCarried),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, CarriedLiteral, kCarried);
 
 // ---- clicks
 

@@ -3,6 +3,7 @@
 
 #include "engine/edit/char_entry.h"
 #include "engine/edit/validators.h"
+#include "tests/support/rows.h"
 #include "tests/units/field_spy.h"
 
 namespace zttest {
@@ -29,9 +30,9 @@ void PrintTo(const EntryRow& row, std::ostream* out)
     *out << row.name;
 }
 
-class CharEntry : public testing::TestWithParam<EntryRow> {};
+class CharEntry : public RowTest<EntryRow> {};
 
-TEST_P(CharEntry, Leaves)
+ROW_TEST(CharEntry, Leaves)
 {
     const EntryRow& row = GetParam();
     Spied spied(row.setup);
@@ -71,8 +72,7 @@ const EntryRow kEntries[] = {
     {"BeforeALeadingMarkerTheCaretGoesThere",  {"(AM/PM HH:MM)", DT_TIME}, "|(AM 02:30)", '5', "(|AM 02:30)", 0},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, CharEntry, testing::ValuesIn(kEntries),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, CharEntry, kEntries);
 
 TEST(MonthNames, WithADoubleLetterInFrontLeaveTheCaretOnTheirSecond)
 {

@@ -9,6 +9,7 @@
 #include "engine/spin/range.h"
 #include "engine/values/date_time.h"
 #include "tests/support/key_case.h"
+#include "tests/support/rows.h"
 #include "tests/support/values.h"
 
 namespace zttest {
@@ -37,10 +38,10 @@ void PrintTo(const StepRow& row, std::ostream* out)
     *out << row.value;
 }
 
-class DateTimeStep : public testing::TestWithParam<StepRow> {};
+class DateTimeStep : public RowTest<StepRow> {};
 
 // Fields that are not shown while another one is stepped are seen here only.
-TEST_P(DateTimeStep, MovesOneFieldOrGoesToAnEnd)
+ROW_TEST(DateTimeStep, MovesOneFieldOrGoesToAnEnd)
 {
     const StepRow& row = GetParam();
     const DateStep step = {row.type, 4, row.field, 2, 1, row.direction, ValueOf(row.minimum), ValueOf(row.maximum)};
@@ -99,7 +100,7 @@ const StepRow kFieldSteps[] = {
     {"AYearInNoDirection", DT_DATE, F::Year, kNeither, "", "", "1995-07-04", "1996-07-04", kStepped},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(, DateTimeStep, testing::ValuesIn(kFieldSteps), RowName<StepRow>);
+TEST_ROWS(, DateTimeStep, kFieldSteps);
 
 DateStep StepOf(FieldKind field, StepDirection direction)
 {
@@ -151,9 +152,9 @@ void PrintTo(const OrderRow& row, std::ostream* out)
     *out << row.first << " and " << row.second;
 }
 
-class Order : public testing::TestWithParam<OrderRow> {};
+class Order : public RowTest<OrderRow> {};
 
-TEST_P(Order, ComparesThePartsThatBothHave)
+ROW_TEST(Order, ComparesThePartsThatBothHave)
 {
     const OrderRow& row = GetParam();
     EXPECT_EQ(IsOutOfOrder(row.type, ValueOf(row.first), ValueOf(row.second)), row.outOfOrder);
@@ -179,7 +180,7 @@ const OrderRow kOrders[] = {
     {"ADateAndATime",        DT_DATETIME, "1995-07-04", "08:00", false},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(, Order, testing::ValuesIn(kOrders), RowName<OrderRow>);
+TEST_ROWS(, Order, kOrders);
 
 }  // namespace
 }  // namespace zttest

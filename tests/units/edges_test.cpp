@@ -18,6 +18,8 @@
 #include "engine/values/date_time.h"
 #include "engine/values/decimal_number.h"
 
+#include "tests/support/rows.h"
+
 namespace zttest {
 namespace {
 
@@ -100,9 +102,9 @@ void PrintTo(const DecimalRow& row, std::ostream* out)
     *out << row.text;
 }
 
-class DecimalEdge : public testing::TestWithParam<DecimalRow> {};
+class DecimalEdge : public RowTest<DecimalRow> {};
 
-TEST_P(DecimalEdge, IsReadAs)
+ROW_TEST(DecimalEdge, IsReadAs)
 {
     const DecimalValue value = decimal::Read(FromAscii(GetParam().text).c_str(), GetParam().places);
     EXPECT_EQ(value.lo64, GetParam().low);
@@ -128,8 +130,7 @@ const DecimalRow kDecimalRows[] = {
     {"TheScaleWantedStopsWhereItDoesNot", "79228162514264337593543950335", 2, UINT64_MAX, UINT32_MAX, 0},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, DecimalEdge, testing::ValuesIn(kDecimalRows),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, DecimalEdge, kDecimalRows);
 
 TEST(DecimalEdges, DivisionByZeroIsZero)
 {

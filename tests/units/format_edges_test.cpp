@@ -22,6 +22,8 @@
 #include "engine/spin/spin_settings.h"
 #include "engine/values/date_time.h"
 
+#include "tests/support/rows.h"
+
 namespace zttest {
 namespace {
 
@@ -226,9 +228,9 @@ void PrintTo(const FlagsCase& row, std::ostream* out)
     *out << row.mask;
 }
 
-class DisplayFlags : public FormatEdges, public testing::WithParamInterface<FlagsCase> {};
+class DisplayFlags : public FormatEdges, public OfRow<FlagsCase> {};
 
-TEST_P(DisplayFlags, TellOfLiterals)
+ROW_TEST(DisplayFlags, TellOfLiterals)
 {
     EXPECT_EQ(FormatValue(Make(GetParam().mask, GetParam().type), nullptr).formatFlags, GetParam().flags);
 }
@@ -246,8 +248,7 @@ const FlagsCase kFlagsRows[] = {
     {"ANumber",               "#,##0",    DT_NUMBER, kDone        },
     {"ANumberBehindLiterals", "No #,##0", DT_NUMBER, kLiterals    },
 };
-INSTANTIATE_TEST_SUITE_P(Rows, DisplayFlags, testing::ValuesIn(kFlagsRows),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, DisplayFlags, kFlagsRows);
 
 TEST_F(FormatEdges, AStringWithoutAMaskBeginsAtTheStart)
 {
@@ -297,11 +298,12 @@ void PrintTo(const PartCase& row, std::ostream* out)
     *out << row.mask;
 }
 
-class ValueParts : public FormatEdges, public testing::WithParamInterface<PartCase> {};
+class ValueParts : public FormatEdges, public OfRow<PartCase> {};
 
-TEST_P(ValueParts, AreShown)
+ROW_TEST(ValueParts, AreShown)
 {
-    EXPECT_EQ(FormatValue(MakeUnchecked(GetParam().mask, GetParam().type), &GetParam().value).text, FromAscii(GetParam().shown));
+    EXPECT_EQ(FormatValue(MakeUnchecked(GetParam().mask, GetParam().type), &GetParam().value).text,
+              FromAscii(GetParam().shown));
 }
 
 // clang-format off
@@ -319,8 +321,7 @@ const PartCase kPartRows[] = {
     {"TheLastHourIsEleven",               "HH:MM AM/PM",         DT_TIME,     {0, -32767, 0, 0, 23, 7, 0, 0},      "11:07 PM"},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, ValueParts, testing::ValuesIn(kPartRows),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, ValueParts, kPartRows);
 
 TEST_F(FormatEdges, AMonthNameShorterThanItsFieldIsFilledWithBlanks)
 {
@@ -465,9 +466,9 @@ void PrintTo(const ReadCase& row, std::ostream* out)
     *out << '"' << row.text << "\" under " << row.mask;
 }
 
-class FieldsRead : public FormatEdges, public testing::WithParamInterface<ReadCase> {};
+class FieldsRead : public FormatEdges, public OfRow<ReadCase> {};
 
-TEST_P(FieldsRead, AreTheValue)
+ROW_TEST(FieldsRead, AreTheValue)
 {
     const EditInstance& record = MakeUnchecked(GetParam().mask, GetParam().type);
     DateTimeValue value = kNoon;
@@ -494,8 +495,7 @@ const ReadCase kReadRows[] = {
     {"AnEscapedLiteralIsTwoWhereWanted", "YYYY~MDD",       DT_DATE, "1995M104",      2, true,  {0, 95, 0, 4, -1, 0, 0, 0}},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, FieldsRead, testing::ValuesIn(kReadRows),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, FieldsRead, kReadRows);
 
 TEST_F(FormatEdges, AnEscapedLiteralIsOnePositionUnlessToldOtherwise)
 {
@@ -533,9 +533,9 @@ void PrintTo(const PossibleCase& row, std::ostream* out)
     *out << row.name;
 }
 
-class PossibleValues : public testing::TestWithParam<PossibleCase> {};
+class PossibleValues : public RowTest<PossibleCase> {};
 
-TEST_P(PossibleValues, KeepThePartsOfTheirType)
+ROW_TEST(PossibleValues, KeepThePartsOfTheirType)
 {
     DateTimeValue value = GetParam().given;
     EXPECT_EQ(CheckFields(GetParam().type, value), GetParam().possible);
@@ -562,8 +562,7 @@ const PossibleCase kPossibleRows[] = {
     {"AMillionMicroseconds",     DT_TIME,     {1000000, -32767, 0, 0, 14, 7, 9, 0},  false, kEmptyDateTime},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, PossibleValues, testing::ValuesIn(kPossibleRows),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, PossibleValues, kPossibleRows);
 
 TEST_F(FormatEdges, OnlyAnUntouchedDateReadsAsNone)
 {
@@ -595,31 +594,31 @@ void PrintTo(const NumberTextCase& row, std::ostream* out)
     *out << '"' << row.given << "\" under " << row.mask;
 }
 
-class NumberGiven : public FormatEdges, public testing::WithParamInterface<NumberTextCase> {};
+class NumberGiven : public FormatEdges, public OfRow<NumberTextCase> {};
 
-TEST_P(NumberGiven, IsReadAsPlainText)
+ROW_TEST(NumberGiven, IsReadAsPlainText)
 {
-    EXPECT_EQ(PlainNumberOf(MakeUnchecked(GetParam().mask, DT_NUMBER), FromAscii(GetParam().given)), FromAscii(GetParam().plain));
+    EXPECT_EQ(PlainNumberOf(MakeUnchecked(GetParam().mask, DT_NUMBER), FromAscii(GetParam().given)),
+              FromAscii(GetParam().plain));
 }
 
 const NumberTextCase kNumberTextRows[] = {
-    {"Groups",                       "#,##0.00",  "1,234.50",  "1234.50" },
-    {"AGroupTooShort",               "#,##0.00",  "1,23",      "1,23"    },
-    {"APlusIsLeftOut",               "#,##0",     "+1,234",    "1234"    },
-    {"AMinusStays",                  "#,##0",     "-1,234",    "-1234"   },
-    {"NoFractionBehindThePoint",     "#,##0.00",  "1,234.",    "1234."   },
-    {"ExponentWithASign",            "[GENERAL]", "1,234E+5",  "1234E+5" },
-    {"ExponentWithoutASign",         "[GENERAL]", "1,234e15",  "1234e15" },
-    {"AnExponentWithoutDigits",      "[GENERAL]", "1,234E",    "1234E"   },
-    {"NoExponentUnderOtherMasks",    "#,##0",     "1,234E+5",  "1,234E+5"},
-    {"APercentage",                  "#,##0%",    "1,250%",    "12.5"    },
-    {"ZeroPercentHasNoSign",         "#0%",       "-0%",       "0"       },
-    {"APercentageWithoutItsBlank",   "#0 %",      "12%",       "0.12"    },
-    {"APercentageWithoutItsBlankBehindALiteral", "~T #0 %", "T 12%", "0.12" },
-    {"APercentageUnderAnotherMask",  "#0",        "12%",       "12%"     },
+    {"Groups",                                   "#,##0.00",  "1,234.50", "1234.50" },
+    {"AGroupTooShort",                           "#,##0.00",  "1,23",     "1,23"    },
+    {"APlusIsLeftOut",                           "#,##0",     "+1,234",   "1234"    },
+    {"AMinusStays",                              "#,##0",     "-1,234",   "-1234"   },
+    {"NoFractionBehindThePoint",                 "#,##0.00",  "1,234.",   "1234."   },
+    {"ExponentWithASign",                        "[GENERAL]", "1,234E+5", "1234E+5" },
+    {"ExponentWithoutASign",                     "[GENERAL]", "1,234e15", "1234e15" },
+    {"AnExponentWithoutDigits",                  "[GENERAL]", "1,234E",   "1234E"   },
+    {"NoExponentUnderOtherMasks",                "#,##0",     "1,234E+5", "1,234E+5"},
+    {"APercentage",                              "#,##0%",    "1,250%",   "12.5"    },
+    {"ZeroPercentHasNoSign",                     "#0%",       "-0%",      "0"       },
+    {"APercentageWithoutItsBlank",               "#0 %",      "12%",      "0.12"    },
+    {"APercentageWithoutItsBlankBehindALiteral", "~T #0 %",   "T 12%",    "0.12"    },
+    {"APercentageUnderAnotherMask",              "#0",        "12%",      "12%"     },
 };
-INSTANTIATE_TEST_SUITE_P(Rows, NumberGiven, testing::ValuesIn(kNumberTextRows),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, NumberGiven, kNumberTextRows);
 
 TEST_F(FormatEdges, APointAloneIsNoNumber)
 {

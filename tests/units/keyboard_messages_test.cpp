@@ -3,6 +3,7 @@
 
 #include "engine/edit/deletion.h"
 #include "engine/edit/keyboard.h"
+#include "tests/support/rows.h"
 #include "tests/units/field_spy.h"
 
 namespace zttest {
@@ -43,9 +44,9 @@ void PrintTo(const ReplyRow& row, std::ostream* out)
     *out << row.name;
 }
 
-class CharReply : public testing::TestWithParam<ReplyRow> {};
+class CharReply : public RowTest<ReplyRow> {};
 
-TEST_P(CharReply, Is)
+ROW_TEST(CharReply, Is)
 {
     const ReplyRow& row = GetParam();
     Spied spied(row.setup);
@@ -93,8 +94,7 @@ const ReplyRow kReplies[] = {
     {"PickListIsChosenFrom",            kPickList,  "[Re]d",      false, 'G',  true,  1, "|Green",     0},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, CharReply, testing::ValuesIn(kReplies),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, CharReply, kReplies);
 
 struct KeyReplyRow {
     const char* name;
@@ -110,9 +110,9 @@ void PrintTo(const KeyReplyRow& row, std::ostream* out)
     *out << row.name;
 }
 
-class KeyReply : public testing::TestWithParam<KeyReplyRow> {};
+class KeyReply : public RowTest<KeyReplyRow> {};
 
-TEST_P(KeyReply, Is)
+ROW_TEST(KeyReply, Is)
 {
     const KeyReplyRow& row = GetParam();
     Spied spied(row.setup);
@@ -140,8 +140,7 @@ const KeyReplyRow kKeyReplies[] = {
     {"AKeyMarkedAsTwoTabsIsPassedOn",         kDate,   "07/|04/95", 0x00120000u | KEY_DELETE,        false, 0, "07/|04/95" },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, KeyReply, testing::ValuesIn(kKeyReplies),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, KeyReply, kKeyReplies);
 
 // ---- the character of a Backspace
 
@@ -176,9 +175,9 @@ void PrintTo(const BackspaceRow& row, std::ostream* out)
     *out << row.name;
 }
 
-class BackspaceChar : public testing::TestWithParam<BackspaceRow> {};
+class BackspaceChar : public RowTest<BackspaceRow> {};
 
-TEST_P(BackspaceChar, Leaves)
+ROW_TEST(BackspaceChar, Leaves)
 {
     const BackspaceRow& row = GetParam();
     Spied spied(row.setup);
@@ -224,8 +223,7 @@ const BackspaceRow kBackspaces[] = {
     {"LeavesADatesDigitsToBeTyped",       kDate,   "07/04|/95", {kPressed, Typed('5')},                       "07/05/|95", 0},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, BackspaceChar, testing::ValuesIn(kBackspaces),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, BackspaceChar, kBackspaces);
 
 TEST(BackspaceKey, IsMarkedInTheRecordUntilItsCharacterMayNoMoreCome)
 {
@@ -347,9 +345,9 @@ TEST(Cutting, OfAWholeNumberLetsItsSymbolBeTypedAgain)
 
 // ---- what typing has passed
 
-class Forgetting : public testing::TestWithParam<Key> {};
+class Forgetting : public RowTest<Key> {};
 
-TEST_P(Forgetting, IsWhatAKeyDoesThatMovesOrDeletes)
+ROW_TEST(Forgetting, IsWhatAKeyDoesThatMovesOrDeletes)
 {
     Spied spied(kDate);
     spied.Show("|00/00/00");
@@ -360,9 +358,8 @@ TEST_P(Forgetting, IsWhatAKeyDoesThatMovesOrDeletes)
     EXPECT_EQ(spied.Record().carriedTo, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Keys, Forgetting,
-                         testing::Values(KEY_BACKSPACE, KEY_PAGE_UP, KEY_PAGE_DOWN, KEY_END, KEY_HOME, KEY_LEFT, KEY_UP,
-                                         KEY_RIGHT, KEY_DOWN, KEY_INSERT, KEY_DELETE));
+TEST_ROWS_OF(Keys, Forgetting, KEY_BACKSPACE, KEY_PAGE_UP, KEY_PAGE_DOWN, KEY_END, KEY_HOME, KEY_LEFT, KEY_UP,
+             KEY_RIGHT, KEY_DOWN, KEY_INSERT, KEY_DELETE);
 
 TEST(Forgetting, IsNotWhatOtherKeysDo)
 {
@@ -403,9 +400,9 @@ void PrintTo(const SpunRow& row, std::ostream* out)
     *out << row.name;
 }
 
-class SpunText : public testing::TestWithParam<SpunRow> {};
+class SpunText : public RowTest<SpunRow> {};
 
-TEST_P(SpunText, LastsUntilACharacterIsTyped)
+ROW_TEST(SpunText, LastsUntilACharacterIsTyped)
 {
     const SpunRow& row = GetParam();
     Spied spied(row.setup);
@@ -429,8 +426,7 @@ const SpunRow kSpun[] = {
     {"WithoutAMaskStaysUnderControl",      kCodeField,       "\x05", true,  "|Red"  },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, SpunText, testing::ValuesIn(kSpun),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, SpunText, kSpun);
 
 TEST(CodeText, ThatIsShownForDataStandsUnderAControlCharacter)
 {

@@ -13,6 +13,7 @@
 #include "tests/support/key_case.h"
 #include "tests/support/native/profile_store.h"
 #include "tests/support/profile.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -32,9 +33,9 @@ void PrintTo(const PositionCase& row, std::ostream* out)
     *out << row.mask << " at " << row.position;
 }
 
-class MaskCharacter : public testing::TestWithParam<PositionCase> {};
+class MaskCharacter : public RowTest<PositionCase> {};
 
-TEST_P(MaskCharacter, StandsAtTheDisplayPosition)
+ROW_TEST(MaskCharacter, StandsAtTheDisplayPosition)
 {
     const PositionCase& row = GetParam();
     const MaskPositions positions(row.mask, row.type);
@@ -57,7 +58,7 @@ const PositionCase kPositionalRows[] = {
     {"TheEmptyMaskHasNothing",             "",         DT_STRING, 0,  '\0', false},
 };
 
-INSTANTIATE_TEST_SUITE_P(, MaskCharacter, testing::ValuesIn(kPositionalRows), RowName<PositionCase>);
+TEST_ROWS(, MaskCharacter, kPositionalRows);
 
 // Under masks of numbers the positions follow the digits shown: an 'x' marks where a digit or a sign may be typed at.
 struct NumberCase {
@@ -72,9 +73,9 @@ void PrintTo(const NumberCase& row, std::ostream* out)
     *out << row.mask << " over " << row.text;
 }
 
-class NumberPositions : public testing::TestWithParam<NumberCase> {};
+class NumberPositions : public RowTest<NumberCase> {};
 
-TEST_P(NumberPositions, FollowTheDigits)
+ROW_TEST(NumberPositions, FollowTheDigits)
 {
     const NumberCase& row = GetParam();
     const Regional settings(*row.settings);
@@ -91,22 +92,22 @@ TEST_P(NumberPositions, FollowTheDigits)
 }
 
 const NumberCase kNumericRows[] = {
-    {"SeparatorsAreLiterals",        &kUnitedStates, "#,##0.00", "1,234.50", "x.xxx.xxx"},
-    {"LongerThanTheMask",            &kUnitedStates, "#.00",     "12345.60", "xxxxx.xxx"},
-    {"AnEmptyText",                  &kUnitedStates, "#.00",     "",         "x"        },
-    {"AMinus",                       &kUnitedStates, "000",      "-12",      "xxxx"     },
-    {"APlus",                        &kUnitedStates, "000",      "+12",      "xxxx"     },
-    {"TheSymbol",                    &kUnitedStates, "$#.00",    "$1.50",    ".x.xxx"   },
-    {"APercentSign",                 &kUnitedStates, "#%",       "5%",       "x.x"      },
-    {"AnEscapedPoint",               &kUnitedStates, "~.##0",    ".12",      ".xxx"     },
-    {"AnEscapedPointAndAPoint",      &kUnitedStates, "~.##0.00", ".12.34",   ".xx.xxx"  },
-    {"AnEscapedDigit",               &kUnitedStates, "~5##0",    "512",      ".xxx"     },
-    {"LettersThatOtherTypesRead",    &kUnitedStates, "X##0",     "X12",      ".xxx"     },
-    {"GermanSeparatorsAreLiterals",  &kGerman,       "#,#.00",   "1.234,50", "x.xxx.xxx"},
-    {"APointUnderADecimalComma",     &kGerman,       "##0.00",   "1234,50",  "xxxx.xxx" },
+    {"SeparatorsAreLiterals",       &kUnitedStates, "#,##0.00", "1,234.50", "x.xxx.xxx"},
+    {"LongerThanTheMask",           &kUnitedStates, "#.00",     "12345.60", "xxxxx.xxx"},
+    {"AnEmptyText",                 &kUnitedStates, "#.00",     "",         "x"        },
+    {"AMinus",                      &kUnitedStates, "000",      "-12",      "xxxx"     },
+    {"APlus",                       &kUnitedStates, "000",      "+12",      "xxxx"     },
+    {"TheSymbol",                   &kUnitedStates, "$#.00",    "$1.50",    ".x.xxx"   },
+    {"APercentSign",                &kUnitedStates, "#%",       "5%",       "x.x"      },
+    {"AnEscapedPoint",              &kUnitedStates, "~.##0",    ".12",      ".xxx"     },
+    {"AnEscapedPointAndAPoint",     &kUnitedStates, "~.##0.00", ".12.34",   ".xx.xxx"  },
+    {"AnEscapedDigit",              &kUnitedStates, "~5##0",    "512",      ".xxx"     },
+    {"LettersThatOtherTypesRead",   &kUnitedStates, "X##0",     "X12",      ".xxx"     },
+    {"GermanSeparatorsAreLiterals", &kGerman,       "#,#.00",   "1.234,50", "x.xxx.xxx"},
+    {"APointUnderADecimalComma",    &kGerman,       "##0.00",   "1234,50",  "xxxx.xxx" },
 };
 
-INSTANTIATE_TEST_SUITE_P(, NumberPositions, testing::ValuesIn(kNumericRows), RowName<NumberCase>);
+TEST_ROWS(, NumberPositions, kNumericRows);
 
 struct LengthCase {
     const char* name;
@@ -118,9 +119,9 @@ void PrintTo(const LengthCase& row, std::ostream* out)
     *out << row.mask;
 }
 
-class DisplayLengthOf : public testing::TestWithParam<LengthCase> {};
+class DisplayLengthOf : public RowTest<LengthCase> {};
 
-TEST_P(DisplayLengthOf, AMaskLeavesTheTildesOut)
+ROW_TEST(DisplayLengthOf, AMaskLeavesTheTildesOut)
 {
     EXPECT_EQ(MaskPositions(GetParam().mask, DT_STRING).All().size(), GetParam().length);
 }
@@ -131,7 +132,7 @@ const LengthCase kLengthRows[] = {
     {"OneEscape",  "~A##",     3},
     {"TwoEscapes", "~A#~B#",   4},
 };
-INSTANTIATE_TEST_SUITE_P(, DisplayLengthOf, testing::ValuesIn(kLengthRows), RowName<LengthCase>);
+TEST_ROWS(, DisplayLengthOf, kLengthRows);
 
 struct RunCase {
     const char* name;
@@ -146,15 +147,15 @@ void PrintTo(const RunCase& row, std::ostream* out)
     *out << row.mask << " at " << row.position;
 }
 
-class Runs : public testing::TestWithParam<RunCase> {};
+class Runs : public RowTest<RunCase> {};
 
-TEST_P(Runs, AreCountedBefore)
+ROW_TEST(Runs, AreCountedBefore)
 {
     const RunCase& row = GetParam();
     EXPECT_EQ(MaskPositions(row.mask, row.type).At(row.position).runBefore, row.before);
 }
 
-TEST_P(Runs, AreCountedBehind)
+ROW_TEST(Runs, AreCountedBehind)
 {
     const RunCase& row = GetParam();
     EXPECT_EQ(MaskPositions(row.mask, row.type).At(row.position).runAfter, row.after);
@@ -172,7 +173,7 @@ const RunCase kRunRows[] = {
     {"BehindAnotherEscape",         "~xYYYY",     DT_DATE,   1, 0, 3},
     {"OneCharacter",                "#",          DT_STRING, 0, 0, 0},
 };
-INSTANTIATE_TEST_SUITE_P(, Runs, testing::ValuesIn(kRunRows), RowName<RunCase>);
+TEST_ROWS(, Runs, kRunRows);
 
 TEST(AmPmField, IsExactlyInCapitalsOrSmallLetters)
 {
@@ -203,7 +204,7 @@ void PrintTo(const ItemCase& row, std::ostream* out)
     *out << row.maskChar;
 }
 
-class MaskItems : public testing::TestWithParam<ItemCase> {
+class MaskItems : public RowTest<ItemCase> {
 protected:
     static void CheckTypes(char maskChar)
     {
@@ -218,12 +219,12 @@ protected:
     }
 };
 
-TEST_P(MaskItems, AreFoundByCharacterAndType)
+ROW_TEST(MaskItems, AreFoundByCharacterAndType)
 {
     CheckTypes(GetParam().maskChar);
 }
 
-TEST_P(MaskItems, AreFoundInSmallLettersToo)
+ROW_TEST(MaskItems, AreFoundInSmallLettersToo)
 {
     const char c = GetParam().maskChar;
     CheckTypes(c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c);
@@ -253,7 +254,7 @@ const ItemCase kItemRows[] = {
     {"HighByte",    '\xe4', K::Literal,      K::Literal,     K::Literal,   K::Literal,   K::Literal,   K::Literal  },
     {"End",         '\0',   K::Literal,      K::Literal,     K::Literal,   K::Literal,   K::Literal,   K::Literal  },
 };
-INSTANTIATE_TEST_SUITE_P(, MaskItems, testing::ValuesIn(kItemRows), RowName<ItemCase>);
+TEST_ROWS(, MaskItems, kItemRows);
 
 TEST(MaskItemOfAnotherType, IsOneOfEveryTypeOnly)
 {

@@ -6,6 +6,7 @@
 #include "engine/edit/paste.h"
 #include "engine/format/mask_setting.h"
 #include "engine/mask/mask_table.h"
+#include "tests/support/rows.h"
 #include "tests/units/field_spy.h"
 
 namespace zttest {
@@ -28,9 +29,9 @@ void PrintTo(const EntryRow& row, std::ostream* out)
     *out << row.name << " (" << row.mask << ")";
 }
 
-class NumberKeys : public testing::TestWithParam<EntryRow> {};
+class NumberKeys : public RowTest<EntryRow> {};
 
-TEST_P(NumberKeys, LeadTo)
+ROW_TEST(NumberKeys, LeadTo)
 {
     const EntryRow& row = GetParam();
     Spied spied({row.mask, DT_NUMBER});
@@ -85,8 +86,7 @@ const EntryRow kKeys[] = {
     {"ALongNumberKeepsItsDigits",           "000",           "1|2345",   "7",      "17|345",    0},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, NumberKeys, testing::ValuesIn(kKeys),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, NumberKeys, kKeys);
 
 TEST(NumberKeys, ASymbolThatBeginsWithThePointIsThePoint)
 {
@@ -153,9 +153,9 @@ void PrintTo(const DeletionRow& row, std::ostream* out)
     *out << row.name << " (" << row.mask << ")";
 }
 
-class NumberDelete : public testing::TestWithParam<DeletionRow> {};
+class NumberDelete : public RowTest<DeletionRow> {};
 
-TEST_P(NumberDelete, Leaves)
+ROW_TEST(NumberDelete, Leaves)
 {
     const DeletionRow& row = GetParam();
     Spied spied({row.mask, DT_NUMBER});
@@ -182,12 +182,11 @@ const DeletionRow kDeletions[] = {
     {"OverThePoint",                        "#,##0.00",  "1[2.5]0",    "1|.00"    },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, NumberDelete, testing::ValuesIn(kDeletions),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, NumberDelete, kDeletions);
 
-class NumberBackspace : public testing::TestWithParam<DeletionRow> {};
+class NumberBackspace : public RowTest<DeletionRow> {};
 
-TEST_P(NumberBackspace, Leaves)
+ROW_TEST(NumberBackspace, Leaves)
 {
     const DeletionRow& row = GetParam();
     Spied spied({row.mask, DT_NUMBER});
@@ -207,8 +206,7 @@ const DeletionRow kNumberBackspaces[] = {
     {"BehindTheSign",             "#,##0.00",   "-|12.50",  "|12.50"  },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Rows, NumberBackspace, testing::ValuesIn(kNumberBackspaces),
-                         [](const auto& row) { return std::string(row.param.name); });
+TEST_ROWS(Rows, NumberBackspace, kNumberBackspaces);
 
 // ---- what is asked of the field
 

@@ -8,6 +8,7 @@
 
 #include "engine/mask/shown_number.h"
 #include "tests/support/key_case.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -32,9 +33,9 @@ void PrintTo(const FormatRow& row, std::ostream* out)
     *out << row.mask << " with the symbol " << row.symbol;
 }
 
-class FormatOfMask : public testing::TestWithParam<FormatRow> {};
+class FormatOfMask : public RowTest<FormatRow> {};
 
-TEST_P(FormatOfMask, HasTheSymbolAndTheLiteralsEscaped)
+ROW_TEST(FormatOfMask, HasTheSymbolAndTheLiteralsEscaped)
 {
     const FormatRow& row = GetParam();
     EXPECT_EQ(DisplayFormatText(FromAscii(row.mask), WithSymbol(row.symbol)), FromAscii(row.format));
@@ -61,7 +62,7 @@ const FormatRow kFormatRows[] = {
     {"AnEscapedTildeAlone",          "$",   "~~",     "\\~"      },
     {"ATildeAtTheEnd",               "$",   "0~",     "0\\"      },
 };
-INSTANTIATE_TEST_SUITE_P(, FormatOfMask, testing::ValuesIn(kFormatRows), RowName<FormatRow>);
+TEST_ROWS(, FormatOfMask, kFormatRows);
 
 TEST(UnitsForced, AreTheLastOptionalDigit)
 {
@@ -147,9 +148,9 @@ public:
     ShownNumber number;
 };
 
-class NumberShown : public testing::TestWithParam<ShownRow> {};
+class NumberShown : public RowTest<ShownRow> {};
 
-TEST_P(NumberShown, IsTakenApart)
+ROW_TEST(NumberShown, IsTakenApart)
 {
     const ShownRow& row = GetParam();
     const Shown shown(row.before, row.format, row.behind, row.text);
@@ -173,7 +174,7 @@ const ShownRow kShownRows[] = {
     {"NoPointWhereTheMaskHasNone",      "",  "##0",  "",   "1.2",     0, 3, -1, -1},
     {"Nothing",                         "$", "#",    "%",  "",        0, 0, -1, -1},
 };
-INSTANTIATE_TEST_SUITE_P(, NumberShown, testing::ValuesIn(kShownRows), RowName<ShownRow>);
+TEST_ROWS(, NumberShown, kShownRows);
 
 TEST(DigitsShown, AreThoseOfTheNumberAlone)
 {

@@ -6,6 +6,7 @@
 
 #include "engine/mask/picture.h"
 #include "tests/support/key_case.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -29,9 +30,9 @@ void PrintTo(const PictureCase& row, std::ostream* out)
     *out << row.picture;
 }
 
-class PictureText : public testing::TestWithParam<PictureCase> {};
+class PictureText : public RowTest<PictureCase> {};
 
-TEST_P(PictureText, BecomesAMask)
+ROW_TEST(PictureText, BecomesAMask)
 {
     const zte::Picture conversion = Convert(GetParam().picture);
     EXPECT_EQ(conversion.status, PictureStatus::Ok);
@@ -39,61 +40,61 @@ TEST_P(PictureText, BecomesAMask)
 }
 
 const PictureCase kPictureRows[] = {
-    {"Empty",                          "",                   ""                    },
-    {"UnitedStates",                   "M/d/yy",             "mm/dd/yy"            },
-    {"German",                         "dd.MM.yyyy",         "dd.mm.yyyy"          },
-    {"Iso",                            "yyyy-MM-dd",         "yyyy-mm-dd"          },
-    {"OneMonthLetter",                 "M yy",               "mm yy"               },
-    {"TwoMonthLetters",                "MM yy",              "mm yy"               },
-    {"ThreeMonthLetters",              "MMM yy",             "mm yy"               },
-    {"FourMonthLetters",               "MMMM yy",            "mm yy"               },
-    {"OneDayLetter",                   "d",                  "dd"                  },
-    {"TwoDayLetters",                  "dd",                 "dd"                  },
-    {"ThreeDayLetters",                "ddd",                "ddd"                 },
-    {"FourDayLetters",                 "dddd",               "dd"                  },
-    {"TwoYearLetters",                 "yy",                 "yy"                  },
-    {"FourYearLetters",                "yyyy",               "yyyy"                },
-    {"CapitalYear",                    "YYYY",               "yyyy"                },
-    {"MixedCaseRun",                   "yYyY",               "yyyy"                },
-    {"OneHourLetter",                  "h",                  "hh"                  },
-    {"TwoHourLetters",                 "HH",                 "hh"                  },
-    {"MinutesBehindTheHour",           "hh:mm",              "hh:mm"               },
-    {"OneMinuteLetter",                "h:m",                "hh:mm"               },
-    {"MonthBeforeTheHourMinuteBehind", "M h:m",              "mm hh:mm"            },
-    {"OneSecondLetter",                "h:m:s",              "hh:mm:ss"            },
-    {"TwoSecondLetters",               "hh:mm:ss",           "hh:mm:ss"            },
-    {"OneFractionLetter",              "f",                  "ff"                  },
-    {"SixFractionLetters",             "ffffff",             "fffffff"             },
-    {"CapitalAmPm",                    "h AM/PM",            "hh AM/PM"            },
-    {"SmallAmPm",                      "h am/pm",            "hh AM/PM"            },
-    {"AmPmThenMore",                   "h AM/PM:m",          "hh AM/PM:mm"         },
-    {"ShortAmPmSkipsFiveCharacters",   "h A/P:.m",           "hh AM/PMmm"          },
-    {"SmallShortAmPm",                 "h a/p:.m",           "hh AM/PMmm"          },
-    {"ShortAmPmAtTheEnd",              "h a/p",              "hh AM/PM"            },
-    {"ShortAmPmOneFromTheEnd",         "h a/p.",             "hh AM/PM"            },
-    {"Literals",                       "d. M. yy",           "dd. mm. yy"          },
-    {"Escape",                         "\\dd\\M",            "~ddd~M"              },
-    {"EscapedBackslash",               "d\\\\M",             "dd\\mm"              },
-    {"SingleQuotes",                   "'Day' d",            "~Da~y dd"            },
-    {"DoubleQuotes",                   "\"Day\" d",          "~Da~y dd"            },
-    {"DoubleQuoteInSingleQuotes",      "'\"' d",             "\" dd"               },
-    {"SingleQuoteInDoubleQuotes",      "\"'\" d",            "' dd"                },
-    {"ADayWord",                       "d 'de' MMMM",        "dd ~de mm"           },
-    {"AWordInFront",                   "'den' d.M.yyyy",     "~den dd.mm.yyyy"     },
-    {"TwoWords",                       "d 'de' MMMM \"de\" yyyy", "dd ~de mm ~de yyyy"},
-    {"EveryLetterThatAMaskReads",      "'DMYJHSFXdmyjhsfx!^'", "~D~M~Y~J~H~S~F~X~d~m~y~j~h~s~f~x~!~^"},
-    {"LettersThatNoDateMaskReads",     "'AaBbZz#09/'",       "AaBbZz#09/"          },
-    {"AQuotedDesignatorIsNone",        "h 'AM/PM'",          "hh A~M/P~M"          },
-    {"BytesOfAYearSign",               "yyyy'\xE5\xB9\xB4'M", "yyyy\xE5\xB9\xB4mm"},
-    {"ATildeAmongTheBytes",            "yyyy'\xA6\x7E'M",    "yyyy\xA6~\x7Emm"     },
-    {"EscapedLetters",                 "\\y\\x-d",           "~y~x-dd"             },
-    {"EmptyQuotes",                    "''d\"\"",            "dd"                  },
-    {"BackslashInQuotesIsItself",      "'\\'d",              "\\dd"                },
-    {"QuotesEndARun",                  "d''d",               "dddd"                },
-    {"TimeTemplate",                   "hh':'mm':'ss",       "hh:mm:ss"            },
-    {"EveryPart",                      "dddd, d.M.yyyy h:m", "dd, dd.mm.yyyy hh:mm"},
+    {"Empty",                          "",                        ""                                    },
+    {"UnitedStates",                   "M/d/yy",                  "mm/dd/yy"                            },
+    {"German",                         "dd.MM.yyyy",              "dd.mm.yyyy"                          },
+    {"Iso",                            "yyyy-MM-dd",              "yyyy-mm-dd"                          },
+    {"OneMonthLetter",                 "M yy",                    "mm yy"                               },
+    {"TwoMonthLetters",                "MM yy",                   "mm yy"                               },
+    {"ThreeMonthLetters",              "MMM yy",                  "mm yy"                               },
+    {"FourMonthLetters",               "MMMM yy",                 "mm yy"                               },
+    {"OneDayLetter",                   "d",                       "dd"                                  },
+    {"TwoDayLetters",                  "dd",                      "dd"                                  },
+    {"ThreeDayLetters",                "ddd",                     "ddd"                                 },
+    {"FourDayLetters",                 "dddd",                    "dd"                                  },
+    {"TwoYearLetters",                 "yy",                      "yy"                                  },
+    {"FourYearLetters",                "yyyy",                    "yyyy"                                },
+    {"CapitalYear",                    "YYYY",                    "yyyy"                                },
+    {"MixedCaseRun",                   "yYyY",                    "yyyy"                                },
+    {"OneHourLetter",                  "h",                       "hh"                                  },
+    {"TwoHourLetters",                 "HH",                      "hh"                                  },
+    {"MinutesBehindTheHour",           "hh:mm",                   "hh:mm"                               },
+    {"OneMinuteLetter",                "h:m",                     "hh:mm"                               },
+    {"MonthBeforeTheHourMinuteBehind", "M h:m",                   "mm hh:mm"                            },
+    {"OneSecondLetter",                "h:m:s",                   "hh:mm:ss"                            },
+    {"TwoSecondLetters",               "hh:mm:ss",                "hh:mm:ss"                            },
+    {"OneFractionLetter",              "f",                       "ff"                                  },
+    {"SixFractionLetters",             "ffffff",                  "fffffff"                             },
+    {"CapitalAmPm",                    "h AM/PM",                 "hh AM/PM"                            },
+    {"SmallAmPm",                      "h am/pm",                 "hh AM/PM"                            },
+    {"AmPmThenMore",                   "h AM/PM:m",               "hh AM/PM:mm"                         },
+    {"ShortAmPmSkipsFiveCharacters",   "h A/P:.m",                "hh AM/PMmm"                          },
+    {"SmallShortAmPm",                 "h a/p:.m",                "hh AM/PMmm"                          },
+    {"ShortAmPmAtTheEnd",              "h a/p",                   "hh AM/PM"                            },
+    {"ShortAmPmOneFromTheEnd",         "h a/p.",                  "hh AM/PM"                            },
+    {"Literals",                       "d. M. yy",                "dd. mm. yy"                          },
+    {"Escape",                         "\\dd\\M",                 "~ddd~M"                              },
+    {"EscapedBackslash",               "d\\\\M",                  "dd\\mm"                              },
+    {"SingleQuotes",                   "'Day' d",                 "~Da~y dd"                            },
+    {"DoubleQuotes",                   "\"Day\" d",               "~Da~y dd"                            },
+    {"DoubleQuoteInSingleQuotes",      "'\"' d",                  "\" dd"                               },
+    {"SingleQuoteInDoubleQuotes",      "\"'\" d",                 "' dd"                                },
+    {"ADayWord",                       "d 'de' MMMM",             "dd ~de mm"                           },
+    {"AWordInFront",                   "'den' d.M.yyyy",          "~den dd.mm.yyyy"                     },
+    {"TwoWords",                       "d 'de' MMMM \"de\" yyyy", "dd ~de mm ~de yyyy"                  },
+    {"EveryLetterThatAMaskReads",      "'DMYJHSFXdmyjhsfx!^'",    "~D~M~Y~J~H~S~F~X~d~m~y~j~h~s~f~x~!~^"},
+    {"LettersThatNoDateMaskReads",     "'AaBbZz#09/'",            "AaBbZz#09/"                          },
+    {"AQuotedDesignatorIsNone",        "h 'AM/PM'",               "hh A~M/P~M"                          },
+    {"BytesOfAYearSign",               "yyyy'\xE5\xB9\xB4'M",     "yyyy\xE5\xB9\xB4mm"                  },
+    {"ATildeAmongTheBytes",            "yyyy'\xA6\x7E'M",         "yyyy\xA6~\x7Emm"                     },
+    {"EscapedLetters",                 "\\y\\x-d",                "~y~x-dd"                             },
+    {"EmptyQuotes",                    "''d\"\"",                 "dd"                                  },
+    {"BackslashInQuotesIsItself",      "'\\'d",                   "\\dd"                                },
+    {"QuotesEndARun",                  "d''d",                    "dddd"                                },
+    {"TimeTemplate",                   "hh':'mm':'ss",            "hh:mm:ss"                            },
+    {"EveryPart",                      "dddd, d.M.yyyy h:m",      "dd, dd.mm.yyyy hh:mm"                },
 };
-INSTANTIATE_TEST_SUITE_P(, PictureText, testing::ValuesIn(kPictureRows), RowName<PictureCase>);
+TEST_ROWS(, PictureText, kPictureRows);
 
 struct RefusedCase {
     const char* name;
@@ -105,9 +106,9 @@ void PrintTo(const RefusedCase& row, std::ostream* out)
     *out << row.picture;
 }
 
-class RefusedPicture : public testing::TestWithParam<RefusedCase> {};
+class RefusedPicture : public RowTest<RefusedCase> {};
 
-TEST_P(RefusedPicture, GivesItsStatus)
+ROW_TEST(RefusedPicture, GivesItsStatus)
 {
     EXPECT_EQ(Convert(GetParam().picture).status, GetParam().status);
 }
@@ -135,7 +136,7 @@ const RefusedCase kRefusedRows[] = {
     {"SevenFractionLetters",   "fffffff",     PictureStatus::LongFraction},
     {"TheFirstErrorCounts",    "yyy'",        PictureStatus::BadYear     },
 };
-INSTANTIATE_TEST_SUITE_P(, RefusedPicture, testing::ValuesIn(kRefusedRows), RowName<RefusedCase>);
+TEST_ROWS(, RefusedPicture, kRefusedRows);
 
 TEST(PictureRoom, ExactlyTheMaskAndItsEndFit)
 {
@@ -149,21 +150,21 @@ TEST(PictureRoom, OneLessHasNoRoomForTheEnd)
     EXPECT_EQ(Convert("M/d/yy", 8).status, PictureStatus::DoesNotFit);
 }
 
-class SmallRoom : public testing::TestWithParam<int> {};
+class SmallRoom : public RowTest<int> {};
 
-TEST_P(SmallRoom, IsFullAndNotOverrun)
+ROW_TEST(SmallRoom, IsFullAndNotOverrun)
 {
     EXPECT_EQ(Convert("M/d/yy 'quoted' \\x h:m:s AM/PM ff", GetParam()).status, PictureStatus::DoesNotFit);
 }
 
-TEST_P(SmallRoom, HoldsTheStartOfTheMask)
+ROW_TEST(SmallRoom, HoldsTheStartOfTheMask)
 {
     const std::string whole = "mm/dd/yy quote~d ~x hh:mm:ss AM/PM fff";
     const zte::Picture conversion = Convert("M/d/yy 'quoted' \\x h:m:s AM/PM ff", GetParam());
     EXPECT_EQ(whole.compare(0, conversion.mask.size(), conversion.mask), 0) << conversion.mask;
 }
 
-INSTANTIATE_TEST_SUITE_P(, SmallRoom, testing::Range(0, 39));
+TEST_ROWS(, SmallRoom, Integers(0, 39));
 
 TEST(PictureRoom, TellsOfAnUnclosedQuoteOnlyWhereItFits)
 {
@@ -188,8 +189,8 @@ void PrintTo(const SettingCase& row, std::ostream* out)
     *out << '"' << row.value << '"';
 }
 
-class DateSetting : public testing::TestWithParam<SettingCase> {};
-class TimeSetting : public testing::TestWithParam<SettingCase> {};
+class DateSetting : public RowTest<SettingCase> {};
+class TimeSetting : public RowTest<SettingCase> {};
 
 void Check(const zte::Picture& picture, const SettingCase& row)
 {
@@ -199,14 +200,14 @@ void Check(const zte::Picture& picture, const SettingCase& row)
     }
 }
 
-TEST_P(DateSetting, IsConverted)
+ROW_TEST(DateSetting, IsConverted)
 {
     Settings settings = StandardSettings();
     Assign(settings.shortDate, GetParam().value);
     Check(DatePictureToMask(settings, kRoom), GetParam());
 }
 
-TEST_P(TimeSetting, IsConverted)
+ROW_TEST(TimeSetting, IsConverted)
 {
     Settings settings = StandardSettings();
     Assign(settings.timeSeparator, GetParam().value);
@@ -221,7 +222,7 @@ const SettingCase kDateRows[] = {
     {"ThreeYearLetters", "yyy/MM/dd",   PictureStatus::BadYear,   ""          },
     {"FiveMonthLetters", "MMMMM/dd/yy", PictureStatus::LongMonth, ""          },
 };
-INSTANTIATE_TEST_SUITE_P(, DateSetting, testing::ValuesIn(kDateRows), RowName<SettingCase>);
+TEST_ROWS(, DateSetting, kDateRows);
 
 const SettingCase kTimeRows[] = {
     {"Standard",    ":",           PictureStatus::Ok, "hh:mm:ss"                },
@@ -231,7 +232,7 @@ const SettingCase kTimeRows[] = {
     {"IsCutToNine", "123456789ab", PictureStatus::Ok, "hh123456789mm123456789ss"},
     {"AQuote",      "'x",          PictureStatus::Ok, "hhx~m~m~xss"             },
 };
-INSTANTIATE_TEST_SUITE_P(, TimeSetting, testing::ValuesIn(kTimeRows), RowName<SettingCase>);
+TEST_ROWS(, TimeSetting, kTimeRows);
 
 TEST(SettingRoom, FiveCharactersDoNotHoldADate)
 {

@@ -11,6 +11,7 @@
 #include "tests/support/key_case.h"
 #include "tests/support/native/profile_store.h"
 #include "tests/support/profile.h"
+#include "tests/support/rows.h"
 #include "tests/support/values.h"
 
 namespace zttest {
@@ -51,9 +52,9 @@ void PrintTo(const CurrentCase& row, std::ostream* out)
     *out << '"' << row.text << "\" under " << row.mask;
 }
 
-class CurrentData : public EditedText, public testing::WithParamInterface<CurrentCase> {};
+class CurrentData : public EditedText, public OfRow<CurrentCase> {};
 
-TEST_P(CurrentData, IsReadWithoutTheRulesOfNull)
+ROW_TEST(CurrentData, IsReadWithoutTheRulesOfNull)
 {
     Install(GetParam().mask, GetParam().type);
     EXPECT_EQ(ReadText(GetParam().text), GetParam().value);
@@ -78,7 +79,7 @@ const CurrentCase kCurrentRows[] = {
     {"EmptyString",           "###",            DT_STRING,   "",               ""                          },
     {"EmptyDate",             "MM/DD/YY",       DT_DATE,     "",               ""                          },
 };
-INSTANTIATE_TEST_SUITE_P(, CurrentData, testing::ValuesIn(kCurrentRows), RowName<CurrentCase>);
+TEST_ROWS(, CurrentData, kCurrentRows);
 
 struct ForeignCase {
     const char* name;
@@ -93,10 +94,10 @@ void PrintTo(const ForeignCase& row, std::ostream* out)
     *out << '"' << row.text << "\" under " << row.mask;
 }
 
-class ForeignText : public EditedText, public testing::WithParamInterface<ForeignCase> {};
+class ForeignText : public EditedText, public OfRow<ForeignCase> {};
 
 // A number that the program has set as any text is laid through the mask as soon as a key is refused.
-TEST_P(ForeignText, IsLaidThroughTheMask)
+ROW_TEST(ForeignText, IsLaidThroughTheMask)
 {
     const Regional settings(*GetParam().settings);
     Install(GetParam().mask, GetParam().type);
@@ -106,27 +107,28 @@ TEST_P(ForeignText, IsLaidThroughTheMask)
 }
 
 const ForeignCase kForeignRows[] = {
-    {"GroupsAndFills",           &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1234.5",                  "1,234.50"},
-    {"LeavesWhatIsRight",        &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1,234.50",                "1,234.50"},
-    {"DropsOtherCharacters",     &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1a2b3",                   "123.00"},
-    {"KeepsTheSign",             &kUnitedStates, "$#,##0.00",   DT_NUMBER,  "$-5.00",                  "$-5.00"},
-    {"ShrinkingCountsAsNothing", &kUnitedStates, "#,##0",       DT_NUMBER,  "0000012",                 "12"},
-    {"EmptyIsZero",              &kUnitedStates, "#,##0.00",    DT_NUMBER,  "",                        "0.00"},
-    {"EmptyDecimalIsZero",       &kUnitedStates, "#,##0.00",    DT_DECIMAL, "",                        "0.00"},
-    {"PercentIsAPercentage",     &kUnitedStates, "##0.0%",      DT_NUMBER,  "12.5%",                   "12.5%"},
-    {"PercentOfADecimal",        &kUnitedStates, "##0.0%",      DT_DECIMAL, "12.5%",                   "12.5%"},
-    {"PercentWithoutItsSign",    &kUnitedStates, "##0%",        DT_NUMBER,  "50",                      "50%"},
-    {"ALeadingEscapeIsNoDigit",  &kUnitedStates, "~1##0",       DT_NUMBER,  "15",                      "15"},
-    {"TwoLeadingEscapes",        &kUnitedStates, "~1~2##0",     DT_NUMBER,  "125",                     "125"},
+    {"GroupsAndFills",           &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1234.5",                  "1,234.50"   },
+    {"LeavesWhatIsRight",        &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1,234.50",                "1,234.50"   },
+    {"DropsOtherCharacters",     &kUnitedStates, "#,##0.00",    DT_NUMBER,  "1a2b3",                   "123.00"     },
+    {"KeepsTheSign",             &kUnitedStates, "$#,##0.00",   DT_NUMBER,  "$-5.00",                  "$-5.00"     },
+    {"ShrinkingCountsAsNothing", &kUnitedStates, "#,##0",       DT_NUMBER,  "0000012",                 "12"         },
+    {"EmptyIsZero",              &kUnitedStates, "#,##0.00",    DT_NUMBER,  "",                        "0.00"       },
+    {"EmptyDecimalIsZero",       &kUnitedStates, "#,##0.00",    DT_DECIMAL, "",                        "0.00"       },
+    {"PercentIsAPercentage",     &kUnitedStates, "##0.0%",      DT_NUMBER,  "12.5%",                   "12.5%"      },
+    {"PercentOfADecimal",        &kUnitedStates, "##0.0%",      DT_DECIMAL, "12.5%",                   "12.5%"      },
+    {"PercentWithoutItsSign",    &kUnitedStates, "##0%",        DT_NUMBER,  "50",                      "50%"        },
+    {"ALeadingEscapeIsNoDigit",  &kUnitedStates, "~1##0",       DT_NUMBER,  "15",                      "15"         },
+    {"TwoLeadingEscapes",        &kUnitedStates, "~1~2##0",     DT_NUMBER,  "125",                     "125"        },
     {"ALiteralPrefix",           &kUnitedStates, "Total #,##0", DT_NUMBER,  "Total 1234",              "Total 1,234"},
-    {"ALongDecimal",             &kUnitedStates, "#,##0.00",    DT_DECIMAL, "12345678901234567890.12", "12,345,678,901,234,567,890.12"},
-    {"German",                   &kGerman,       nullptr,       DT_NUMBER,  "1.234,5",                 "1.234,50"},
-    {"GermanDecimal",            &kGerman,       nullptr,       DT_DECIMAL, "1234,5",                  "1.234,50"},
-    {"GermanPercent",            &kGerman,       "##0.0%",      DT_NUMBER,  "12,5%",                   "12,5%"},
-    {"GermanDecimalPercent",     &kGerman,       "##0.0%",      DT_DECIMAL, "12,5%",                   "12,5%"},
-    {"French",                   &kFrench,       nullptr,       DT_NUMBER,  "1234,5",                  "1 234,50"},
+    {"ALongDecimal",             &kUnitedStates, "#,##0.00",    DT_DECIMAL, "12345678901234567890.12",
+     "12,345,678,901,234,567,890.12"                                                                                },
+    {"German",                   &kGerman,       nullptr,       DT_NUMBER,  "1.234,5",                 "1.234,50"   },
+    {"GermanDecimal",            &kGerman,       nullptr,       DT_DECIMAL, "1234,5",                  "1.234,50"   },
+    {"GermanPercent",            &kGerman,       "##0.0%",      DT_NUMBER,  "12,5%",                   "12,5%"      },
+    {"GermanDecimalPercent",     &kGerman,       "##0.0%",      DT_DECIMAL, "12,5%",                   "12,5%"      },
+    {"French",                   &kFrench,       nullptr,       DT_NUMBER,  "1234,5",                  "1 234,50"   },
 };
-INSTANTIATE_TEST_SUITE_P(, ForeignText, testing::ValuesIn(kForeignRows), RowName<ForeignCase>);
+TEST_ROWS(, ForeignText, kForeignRows);
 
 TEST_F(EditedText, ATextThatIsTooLongForANumberStays)
 {

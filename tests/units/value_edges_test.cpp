@@ -19,6 +19,7 @@
 #include "engine/values/settings.h"
 #include "engine/values/typed_number.h"
 #include "tests/support/key_case.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -49,9 +50,9 @@ void PrintTo(const DayCase& row, std::ostream* out)
     *out << "day " << row.dayOfYear << " of " << 1900 + row.year;
 }
 
-class DayOutOfYear : public testing::TestWithParam<DayCase> {};
+class DayOutOfYear : public RowTest<DayCase> {};
 
-TEST_P(DayOutOfYear, LandsWhereTheCheckRefusesIt)
+ROW_TEST(DayOutOfYear, LandsWhereTheCheckRefusesIt)
 {
     DateTimeValue value = {0, GetParam().year, 5, 5, -1, 0, 0, 0};
     DateFromDayOfYear(4, GetParam().dayOfYear, value);
@@ -71,7 +72,7 @@ const DayCase kDayRows[] = {
     {"AsFarAsTheRecord", 95, 461,  11, 127},
     {"FarBehind",        95, 999,  11, 127},
 };
-INSTANTIATE_TEST_SUITE_P(, DayOutOfYear, testing::ValuesIn(kDayRows), RowName<DayCase>);
+TEST_ROWS(, DayOutOfYear, kDayRows);
 
 TEST(MonthNames, OutOfRangeAreEmpty)
 {
@@ -313,9 +314,9 @@ void PrintTo(const RoundCase& row, std::ostream* out)
     *out << row.value << " to " << row.places << " places";
 }
 
-class RoundedDigits : public testing::TestWithParam<RoundCase> {};
+class RoundedDigits : public RowTest<RoundCase> {};
 
-TEST_P(RoundedDigits, GoAwayFromZeroAtTheHalf)
+ROW_TEST(RoundedDigits, GoAwayFromZeroAtTheHalf)
 {
     DecimalDigits number = DecimalDigits::FromDouble(GetParam().value);
     number.RoundToFractionDigits(GetParam().places);
@@ -323,7 +324,7 @@ TEST_P(RoundedDigits, GoAwayFromZeroAtTheHalf)
     EXPECT_EQ(number.IsZero(), number.Count() == 0);
 }
 
-TEST_P(RoundedDigits, StayWhenRoundedAgain)
+ROW_TEST(RoundedDigits, StayWhenRoundedAgain)
 {
     DecimalDigits number = DecimalDigits::FromDouble(GetParam().value);
     number.RoundToFractionDigits(GetParam().places);
@@ -349,7 +350,7 @@ const RoundCase kRoundRows[] = {
     {"NegativeDown",       -0.04,    1, "0.e0"       },
     {"IntegersAreAllKept", 1234567,  0, "0.1234567e7"},
 };
-INSTANTIATE_TEST_SUITE_P(, RoundedDigits, testing::ValuesIn(kRoundRows), RowName<RoundCase>);
+TEST_ROWS(, RoundedDigits, kRoundRows);
 
 // ---- Number texts ---------------------------------------------------------------------------------------------------
 
@@ -363,9 +364,9 @@ void PrintTo(const FarCase& row, std::ostream* out)
     *out << row.text.substr(0, 60);
 }
 
-class FarNumber : public testing::TestWithParam<FarCase> {};
+class FarNumber : public RowTest<FarCase> {};
 
-TEST_P(FarNumber, IsInfiniteOrZero)
+ROW_TEST(FarNumber, IsInfiniteOrZero)
 {
     EXPECT_EQ(NumberFromPlainText(GetParam().text.c_str()), GetParam().value);
 }
@@ -396,7 +397,7 @@ const FarCase kFarRows[] = {
     {"SmallDigitsFromThePoint", "." + kManyZeros + "1",                   0        },
     {"SmallDigitsGrown",        "0." + kManyZeros + kManyZeros + "1e400", 0        },
 };
-INSTANTIATE_TEST_SUITE_P(, FarNumber, testing::ValuesIn(kFarRows), RowName<FarCase>);
+TEST_ROWS(, FarNumber, kFarRows);
 
 TEST(NumbersInText, EndWhereTheExponentIsNone)
 {
@@ -427,9 +428,9 @@ void PrintTo(const TypedCase& row, std::ostream* out)
     *out << row.integer << '.' << row.fraction << " to " << row.places;
 }
 
-class TypedRounding : public testing::TestWithParam<TypedCase> {};
+class TypedRounding : public RowTest<TypedCase> {};
 
-TEST_P(TypedRounding, GoesAwayFromZeroAtTheHalf)
+ROW_TEST(TypedRounding, GoesAwayFromZeroAtTheHalf)
 {
     TypedNumber number;
     EXPECT_FALSE(number.negative);
@@ -455,7 +456,7 @@ const TypedCase kTypedRows[] = {
     {"NoPlacesDown",      "12",  "4",    0, "12."   },
     {"AllNinesDown",      "99",  "994",  2, "99.99" },
 };
-INSTANTIATE_TEST_SUITE_P(, TypedRounding, testing::ValuesIn(kTypedRows), RowName<TypedCase>);
+TEST_ROWS(, TypedRounding, kTypedRows);
 
 TEST(LaidNumbers, HaveUpTo1023Characters)
 {
@@ -496,9 +497,9 @@ std::string MarksOf(const FormatShape& shape)
     return marks;
 }
 
-class FormatShapes : public testing::TestWithParam<ShapeCase> {};
+class FormatShapes : public RowTest<ShapeCase> {};
 
-TEST_P(FormatShapes, AreWhatThePlaceholdersSay)
+ROW_TEST(FormatShapes, AreWhatThePlaceholdersSay)
 {
     const FormatShape shape = ReadShape(GetParam().format);
     EXPECT_EQ(shape.integerPlaces, GetParam().integerPlaces);
@@ -543,7 +544,7 @@ const ShapeCase kShapeRows[] = {
     {"LiteralsOnly",               "abc",          0, 0, 0, 0, 0, 0, ""},
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(, FormatShapes, testing::ValuesIn(kShapeRows), RowName<ShapeCase>);
+TEST_ROWS(, FormatShapes, kShapeRows);
 
 TEST(FormatTokens, TellABackslashAtTheEnd)
 {

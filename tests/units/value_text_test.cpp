@@ -15,6 +15,7 @@
 #include "tests/support/key_case.h"
 #include "tests/support/native/profile_store.h"
 #include "tests/support/profile.h"
+#include "tests/support/rows.h"
 #include "tests/support/values.h"
 
 namespace zttest {
@@ -69,20 +70,20 @@ void PrintTo(const NumberCase& row, std::ostream* out)
     *out << '"' << row.text << '"';
 }
 
-class NumberTexts : public testing::TestWithParam<NumberCase> {};
+class NumberTexts : public RowTest<NumberCase> {};
 
-TEST_P(NumberTexts, AreReadAsCanonicalText)
+ROW_TEST(NumberTexts, AreReadAsCanonicalText)
 {
     EXPECT_EQ(NumberFromPlainText(GetParam().text), GetParam().plain);
 }
 
-TEST_P(NumberTexts, AreReadAsCanonicalTextUnderAnySettings)
+ROW_TEST(NumberTexts, AreReadAsCanonicalTextUnderAnySettings)
 {
     const Regional settings(kGerman);
     EXPECT_EQ(NumberFromPlainText(GetParam().text), GetParam().plain);
 }
 
-TEST_P(NumberTexts, AreReadWithTheRegionalDecimalCharacter)
+ROW_TEST(NumberTexts, AreReadWithTheRegionalDecimalCharacter)
 {
     const Regional settings(kGerman);
     EXPECT_EQ(NumberFromText(*Masked("0", DT_NUMBER), GetParam().text), GetParam().german);
@@ -103,7 +104,7 @@ const NumberCase kNumberRows[] = {
     {"Exponent",      "1e3",   1000,  1000 },
     {"BehindAPoint",  "1.e-2", 0.01,  0.01 },
 };
-INSTANTIATE_TEST_SUITE_P(, NumberTexts, testing::ValuesIn(kNumberRows), RowName<NumberCase>);
+TEST_ROWS(, NumberTexts, kNumberRows);
 
 TEST(SmallNumbers, HaveNoExponentBehindABlank)
 {
@@ -147,19 +148,19 @@ void PrintTo(const FormatCase& row, std::ostream* out)
     *out << row.mask;
 }
 
-class FormatTexts : public testing::TestWithParam<FormatCase> {};
+class FormatTexts : public RowTest<FormatCase> {};
 
-TEST_P(FormatTexts, AreTheMaskWithItsEscapes)
+ROW_TEST(FormatTexts, AreTheMaskWithItsEscapes)
 {
     EXPECT_EQ(DisplayFormatText(GetParam().mask, SettingsInForce()), GetParam().format);
 }
 
-TEST_P(FormatTexts, TellOfLiterals)
+ROW_TEST(FormatTexts, TellOfLiterals)
 {
     EXPECT_EQ(HasLiterals(GetParam().mask, DT_NUMBER, SettingsInForce()), GetParam().literals);
 }
 
-TEST_P(FormatTexts, TellTheLiteralsBeforeTheNumber)
+ROW_TEST(FormatTexts, TellTheLiteralsBeforeTheNumber)
 {
     EXPECT_EQ(Length(LiteralsBefore(DisplayFormatText(GetParam().mask, SettingsInForce()).c_str())), GetParam().before);
 }
@@ -176,7 +177,7 @@ const FormatCase kFormatRows[] = {
     {"AnEscapeAndTheCurrency", "~#$#",        "\\#$#",       true,  2},
     {"AnotherCurrency",        "DM#",         "DM#",         true,  2},
 };
-INSTANTIATE_TEST_SUITE_P(, FormatTexts, testing::ValuesIn(kFormatRows), RowName<FormatCase>);
+TEST_ROWS(, FormatTexts, kFormatRows);
 
 TEST(FormatText, TheSymbolOfTheSettingsIsNoLiteral)
 {
@@ -199,9 +200,9 @@ void PrintTo(const WalkCase& row, std::ostream* out)
     *out << '"' << row.text << "\" under " << row.mask;
 }
 
-class DateWalk : public testing::TestWithParam<WalkCase> {};
+class DateWalk : public RowTest<WalkCase> {};
 
-TEST_P(DateWalk, ReadsFieldByField)
+ROW_TEST(DateWalk, ReadsFieldByField)
 {
     const Masked edit(GetParam().mask, GetParam().type);
     DateTimeValue value = {};
@@ -231,7 +232,7 @@ const WalkCase kWalkRows[] = {
     {"NoFieldOfTheType",           "ABC",              DT_TIME,     "ABC",              true,  ""                          },
     {"Empty",                      "MM/DD/YY",         DT_DATE,     "",                 true,  ""                          },
 };
-INSTANTIATE_TEST_SUITE_P(, DateWalk, testing::ValuesIn(kWalkRows), RowName<WalkCase>);
+TEST_ROWS(, DateWalk, kWalkRows);
 
 struct CheckCase {
     const char* name;
@@ -244,9 +245,9 @@ void PrintTo(const CheckCase& row, std::ostream* out)
     *out << Canonical(row.value);
 }
 
-class FieldCheck : public testing::TestWithParam<CheckCase> {};
+class FieldCheck : public RowTest<CheckCase> {};
 
-TEST_P(FieldCheck, FindsImpossibleDatesAndTimes)
+ROW_TEST(FieldCheck, FindsImpossibleDatesAndTimes)
 {
     DateTimeValue value = GetParam().value;
     const bool possible = CheckFields(GetParam().type, value);
@@ -274,7 +275,7 @@ const CheckCase kCheckRows[] = {
     {"DateWithoutATime",   DT_DATETIME, {0, 95, 6, 4, -1, 0, 0, 0},       "1995-07-04"                },
     {"BadTimeOfAGoodDate", DT_DATETIME, {0, 95, 6, 4, 25, 0, 0, 0},       nullptr                     },
 };
-INSTANTIATE_TEST_SUITE_P(, FieldCheck, testing::ValuesIn(kCheckRows), RowName<CheckCase>);
+TEST_ROWS(, FieldCheck, kCheckRows);
 
 TEST(CanonicalText, OfADateFillsTheValue)
 {
@@ -318,15 +319,15 @@ void PrintTo(const FieldCase& row, std::ostream* out)
     *out << '"' << row.text << "\" under " << row.mask;
 }
 
-class YearOfText : public testing::TestWithParam<FieldCase> {};
-class MonthOfText : public testing::TestWithParam<FieldCase> {};
+class YearOfText : public RowTest<FieldCase> {};
+class MonthOfText : public RowTest<FieldCase> {};
 
-TEST_P(YearOfText, IsRead)
+ROW_TEST(YearOfText, IsRead)
 {
     EXPECT_EQ(YearFromText(*Masked(GetParam().mask, DT_DATE), GetParam().text), GetParam().expected);
 }
 
-TEST_P(MonthOfText, IsRead)
+ROW_TEST(MonthOfText, IsRead)
 {
     EXPECT_EQ(MonthFromText(*Masked(GetParam().mask, DT_DATE), GetParam().text), GetParam().expected);
 }
@@ -343,7 +344,7 @@ const FieldCase kYearFieldRows[] = {
     {"Blank",                        "MM/DD/YY",   "00/00/00",   100},
     {"AnEscapeBeforeShiftsTheField", "~YYY",       "Y49",        109},
 };
-INSTANTIATE_TEST_SUITE_P(, YearOfText, testing::ValuesIn(kYearFieldRows), RowName<FieldCase>);
+TEST_ROWS(, YearOfText, kYearFieldRows);
 
 const FieldCase kMonthFieldRows[] = {
     {"TwoDigits",                 "MM/DD/YY",    "07/04/95",    7 },
@@ -359,7 +360,7 @@ const FieldCase kMonthFieldRows[] = {
     {"AShortText",                "DD.MM.YYYY",  "04",          0 },
     {"AnEmptyText",               "MM/DD/YY",    "",            0 },
 };
-INSTANTIATE_TEST_SUITE_P(, MonthOfText, testing::ValuesIn(kMonthFieldRows), RowName<FieldCase>);
+TEST_ROWS(, MonthOfText, kMonthFieldRows);
 
 }  // namespace
 }  // namespace zttest

@@ -1,14 +1,15 @@
 // What editing does that only a window can show: keys left to the system's own control, key messages of odd kinds, and
 // whom a notification names.
 #include "tests/support/live/window_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
 
 // Keys that the library leaves alone do what they do in a plain edit.
-class KeyLeftAlone : public WindowTest, public testing::WithParamInterface<int> {};
+class KeyLeftAlone : public WindowTest, public OfRow<int> {};
 
-TEST_P(KeyLeftAlone, ActsAsInAPlainEdit)
+ROW_TEST(KeyLeftAlone, ActsAsInAPlainEdit)
 {
     Given("MM/DD/YY", DT_DATE, "07/0|4/95");
     const HWND plain = CreateWindowExA(0, "edit", "07/04/95", WS_CHILD | ES_AUTOHSCROLL, 0, 0, 200, 20, form_.hwnd(),
@@ -23,8 +24,7 @@ TEST_P(KeyLeftAlone, ActsAsInAPlainEdit)
     DestroyWindow(plain);
 }
 
-INSTANTIATE_TEST_SUITE_P(Keys, KeyLeftAlone,
-                         testing::Values(VK_UP, VK_DOWN, VK_HOME, VK_END, VK_PRIOR, VK_NEXT, VK_INSERT, VK_F4, VK_F10));
+TEST_ROWS_OF(Keys, KeyLeftAlone, VK_UP, VK_DOWN, VK_HOME, VK_END, VK_PRIOR, VK_NEXT, VK_INSERT, VK_F4, VK_F10);
 
 class KeyMessages : public WindowTest {};
 

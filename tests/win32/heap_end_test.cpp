@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "tests/support/live/window_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -141,9 +142,9 @@ void PrintTo(const EndingKey& row, std::ostream* out)
     *out << row.name;
 }
 
-class HeapEndInANotification : public HeapEnd, public testing::WithParamInterface<EndingKey> {};
+class HeapEndInANotification : public HeapEnd, public OfRow<EndingKey> {};
 
-TEST_P(HeapEndInANotification, LeavesAPlainEdit)
+ROW_TEST(HeapEndInANotification, LeavesAPlainEdit)
 {
     const EndingKey& row = GetParam();
     MakeIt(row.options);
@@ -171,7 +172,7 @@ constexpr EndingKey kEndingKeys[] = {
     {"OfAStepSet",  ZTEO_SPIN,                 "{Down}",  EN_UPDATE   },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Keys, HeapEndInANotification, testing::ValuesIn(kEndingKeys), RowName<EndingKey>);
+TEST_ROWS(Keys, HeapEndInANotification, kEndingKeys);
 
 class ForeignHeap : public WindowTest {};
 

@@ -8,6 +8,7 @@
 
 #include "tests/support/live/window_test.h"
 #include "tests/support/profile.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -166,7 +167,7 @@ void PrintTo(const DoomedKey& row, std::ostream* out)
     *out << row.name;
 }
 
-class DestroyedInItsNotification : public WindowTest, public testing::WithParamInterface<DoomedKey> {
+class DestroyedInItsNotification : public WindowTest, public OfRow<DoomedKey> {
 protected:
     void MakeDoomed(const DoomedKey& row)
     {
@@ -194,7 +195,7 @@ protected:
     SharedHeap heap_ = nullptr;
 };
 
-TEST_P(DestroyedInItsNotification, IsGoneAndNothingElseHappens)
+ROW_TEST(DestroyedInItsNotification, IsGoneAndNothingElseHappens)
 {
     const DoomedKey& row = GetParam();
     MakeDoomed(row);
@@ -214,7 +215,7 @@ constexpr DoomedKey kDoomedKeys[] = {
     {"ChangeAfterASpinStep",   "####",     DT_NUMBER, "5",          ZTEO_SPIN,     0, "{Up}",    EN_CHANGE   },
 };
 // clang-format on
-INSTANTIATE_TEST_SUITE_P(Keys, DestroyedInItsNotification, testing::ValuesIn(kDoomedKeys), RowName<DoomedKey>);
+TEST_ROWS(Keys, DestroyedInItsNotification, kDoomedKeys);
 
 class SettingsChange : public WindowTest {};
 

@@ -1,5 +1,6 @@
 // What the exports do for windows that are no controls, for no window, and without arguments.
 #include "tests/support/live/window_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -7,7 +8,7 @@ namespace {
 // A plain window of the program's, no window at all, and a handle of none.
 enum class Target { Form, Null, Stale, Edit, Desktop };
 
-class NoControl : public testing::TestWithParam<Target> {
+class NoControl : public RowTest<Target> {
 protected:
     HWND It() const
     {
@@ -33,12 +34,12 @@ protected:
     const HWND edit_ = CreateWindowExA(0, "edit", "", WS_CHILD, 0, 0, 50, 20, form_.hwnd(), nullptr, nullptr, nullptr);
 };
 
-TEST_P(NoControl, TakesNoMask)
+ROW_TEST(NoControl, TakesNoMask)
 {
     EXPECT_EQ(ZTE_FmtSetMask(It(), "##", DT_STRING), 1);
 }
 
-TEST_P(NoControl, IsNotConfigured)
+ROW_TEST(NoControl, IsNotConfigured)
 {
     const SharedHeap heap = SharedHeapCreate();
     EditInitParams params = {};
@@ -53,12 +54,12 @@ TEST_P(NoControl, IsNotConfigured)
     EXPECT_EQ(ZTE_FmtGetDataType(It()), 0);
 }
 
-TEST_P(NoControl, HasNoDataType)
+ROW_TEST(NoControl, HasNoDataType)
 {
     EXPECT_EQ(ZTE_FmtGetDataType(It()), 0);
 }
 
-TEST_P(NoControl, TakesNoData)
+ROW_TEST(NoControl, TakesNoData)
 {
     const double number = 1.0;
     EXPECT_EQ(ZTE_FmtSetData(It(), &number), 0);
@@ -66,7 +67,7 @@ TEST_P(NoControl, TakesNoData)
     EXPECT_EQ(ZTE_FmtSetDataString(It(), "1"), 0);
 }
 
-TEST_P(NoControl, FormatsAndReadsNothing)
+ROW_TEST(NoControl, FormatsAndReadsNothing)
 {
     const double number = 1.0;
     EXPECT_EQ(ZTE_FmtFormatData(It(), &number), nullptr);
@@ -75,7 +76,7 @@ TEST_P(NoControl, FormatsAndReadsNothing)
     EXPECT_EQ(ZTE_FmtUnformatData(It(), "1"), nullptr);
 }
 
-TEST_P(NoControl, HasNoSpinToSetUp)
+ROW_TEST(NoControl, HasNoSpinToSetUp)
 {
     const RECT rect = {0, 0, 10, 30};
     ZTE_SetSpin(It(), 1, "1~2", "a\tb", SPINSTYLE_CODETABLE);
@@ -83,7 +84,7 @@ TEST_P(NoControl, HasNoSpinToSetUp)
     EXPECT_EQ(ZTE_GetSpinWidth(It(), &rect), 0);
 }
 
-TEST_P(NoControl, HasNoRange)
+ROW_TEST(NoControl, HasNoRange)
 {
     const double one = 1.0;
     const double two = 2.0;
@@ -93,15 +94,14 @@ TEST_P(NoControl, HasNoRange)
     EXPECT_EQ(value.day, 7) << "nothing may be written";
 }
 
-std::string TargetName(const testing::TestParamInfo<Target>& info)
+std::string TargetName(const Target& target)
 {
     constexpr const char* kNames[] = {"AForm", "NoWindow", "AHandleOfNone", "AnEdit", "TheDesktop"};
-    return kNames[static_cast<int>(info.param)];
+    return kNames[static_cast<int>(target)];
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, NoControl,
-                         testing::Values(Target::Form, Target::Null, Target::Stale, Target::Edit, Target::Desktop),
-                         TargetName);
+TEST_ROWS_NAMED(Windows, NoControl, TargetName,
+                std::vector{Target::Form, Target::Null, Target::Stale, Target::Edit, Target::Desktop});
 
 class NullArguments : public WindowTest {};
 

@@ -10,6 +10,7 @@
 #include "tests/support/clipboard.h"
 #include "tests/support/key_case.h"
 #include "tests/support/live/form.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -493,19 +494,19 @@ const Row kRows[] = {
 };
 // clang-format on
 
-class PlainEditRow : public testing::TestWithParam<Row> {};
+class PlainEditRow : public RowTest<Row> {};
 
-TEST_P(PlainEditRow, IsThatOfAStandardEdit)
+ROW_TEST(PlainEditRow, IsThatOfAStandardEdit)
 {
     ExpectAlike(GetParam().style, GetParam().script);
 }
 
-INSTANTIATE_TEST_SUITE_P(Scripts, PlainEditRow, testing::ValuesIn(kRows), RowName<Row>);
+TEST_ROWS(Scripts, PlainEditRow, kRows);
 
 // Beside a spin, too: but for Up and Down.
-class PlainEditWithASpin : public testing::TestWithParam<Row> {};
+class PlainEditWithASpin : public RowTest<Row> {};
 
-TEST_P(PlainEditWithASpin, IsThatOfAStandardEdit)
+ROW_TEST(PlainEditWithASpin, IsThatOfAStandardEdit)
 {
     const Script& script = GetParam().script;
     const std::vector<std::string> expected = Play(Kind::Standard, GetParam().style, script, false);
@@ -526,7 +527,7 @@ std::vector<Row> RowsForASpin()
             rows.push_back(row);
     return rows;
 }
-INSTANTIATE_TEST_SUITE_P(Scripts, PlainEditWithASpin, testing::ValuesIn(RowsForASpin()), RowName<Row>);
+TEST_ROWS(Scripts, PlainEditWithASpin, RowsForASpin());
 
 TEST(PlainEditWithoutASpin, IsComparedInManyScripts)
 {

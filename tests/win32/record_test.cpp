@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tests/support/live/window_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -21,15 +22,15 @@ Config DateConfig()
     return config;
 }
 
-class CreationWay : public WindowTest, public testing::WithParamInterface<Creation> {};
+class CreationWay : public WindowTest, public OfRow<Creation> {};
 
-TEST_P(CreationWay, ShowsTheInitialData)
+ROW_TEST(CreationWay, ShowsTheInitialData)
 {
     Make(DateConfig(), GetParam());
     EXPECT_EQ(Text(), "07/04/95");
 }
 
-TEST_P(CreationWay, TakesTyping)
+ROW_TEST(CreationWay, TakesTyping)
 {
     Make(DateConfig(), GetParam());
     PutCaret(0);
@@ -37,13 +38,13 @@ TEST_P(CreationWay, TakesTyping)
     EXPECT_EQ(Shown(), "12/|04/95");
 }
 
-TEST_P(CreationWay, ReadsTheValueBack)
+ROW_TEST(CreationWay, ReadsTheValueBack)
 {
     Make(DateConfig(), GetParam());
     EXPECT_EQ(Value(), "1995-07-04");
 }
 
-TEST_P(CreationWay, NotifiesTheParent)
+ROW_TEST(CreationWay, NotifiesTheParent)
 {
     Config config = DateConfig();
     config.options = ZTEO_AUTOSKIP;
@@ -53,19 +54,19 @@ TEST_P(CreationWay, NotifiesTheParent)
     EXPECT_EQ(Skips(), 1);
 }
 
-TEST_P(CreationWay, AttachesTheProperty)
+ROW_TEST(CreationWay, AttachesTheProperty)
 {
     Make(DateConfig(), GetParam());
     EXPECT_NE(GetPropA(Window(), kProperty), nullptr);
 }
 
-TEST_P(CreationWay, KnowsItsDataType)
+ROW_TEST(CreationWay, KnowsItsDataType)
 {
     Make(DateConfig(), GetParam());
     EXPECT_EQ(ZTE_FmtGetDataType(Window()), DT_DATE);
 }
 
-TEST_P(CreationWay, WithoutInitialDataShowsTheEmptyValue)
+ROW_TEST(CreationWay, WithoutInitialDataShowsTheEmptyValue)
 {
     Config config = DateConfig();
     config.data = nullptr;
@@ -73,7 +74,7 @@ TEST_P(CreationWay, WithoutInitialDataShowsTheEmptyValue)
     EXPECT_EQ(Text(), "00/00/00");
 }
 
-TEST_P(CreationWay, OptionBitsAboveTheLowestByteAreNotRead)
+ROW_TEST(CreationWay, OptionBitsAboveTheLowestByteAreNotRead)
 {
     Config config = DateConfig();
     config.options = 0xFFFFFF00u;
@@ -84,14 +85,14 @@ TEST_P(CreationWay, OptionBitsAboveTheLowestByteAreNotRead)
     EXPECT_EQ(GetWindow(Window(), GW_CHILD), nullptr);
 }
 
-std::string CreationName(const testing::TestParamInfo<Creation>& info)
+std::string CreationName(const Creation& creation)
 {
     constexpr const char* kNames[] = {"ByClass", "ByInit", "BySubclassing"};
-    return kNames[static_cast<int>(info.param)];
+    return kNames[static_cast<int>(creation)];
 }
 
-INSTANTIATE_TEST_SUITE_P(Ways, CreationWay,
-                         testing::Values(Creation::ByClass, Creation::ByInit, Creation::BySubclassing), CreationName);
+TEST_ROWS_NAMED(Ways, CreationWay, CreationName,
+                std::vector{Creation::ByClass, Creation::ByInit, Creation::BySubclassing});
 
 class Record : public WindowTest {};
 
@@ -302,7 +303,7 @@ std::vector<HWND> Windows()
     return windows;
 }
 
-class ExportWithoutAControl : public WindowTest, public testing::WithParamInterface<ExportCase> {
+class ExportWithoutAControl : public WindowTest, public OfRow<ExportCase> {
 protected:
     // The call gives its result, sends nothing to the host, and makes or removes no window.
     void ExpectNothingDone(HWND hwnd)
@@ -324,22 +325,22 @@ protected:
     }
 };
 
-TEST_P(ExportWithoutAControl, LeavesAPlainEditAlone)
+ROW_TEST(ExportWithoutAControl, LeavesAPlainEditAlone)
 {
     ExpectLeftAlone("edit");
 }
 
-TEST_P(ExportWithoutAControl, LeavesAnUnconfiguredControlAlone)
+ROW_TEST(ExportWithoutAControl, LeavesAnUnconfiguredControlAlone)
 {
     ExpectLeftAlone(ZTEDIT_CLASS);
 }
 
-TEST_P(ExportWithoutAControl, TakesANullWindow)
+ROW_TEST(ExportWithoutAControl, TakesANullWindow)
 {
     ExpectNothingDone(nullptr);
 }
 
-TEST_P(ExportWithoutAControl, TakesADestroyedWindow)
+ROW_TEST(ExportWithoutAControl, TakesADestroyedWindow)
 {
     Make(DateConfig());
     const HWND hwnd = Window();
@@ -347,7 +348,7 @@ TEST_P(ExportWithoutAControl, TakesADestroyedWindow)
     ExpectNothingDone(hwnd);
 }
 
-INSTANTIATE_TEST_SUITE_P(Exports, ExportWithoutAControl, testing::ValuesIn(kExports), RowName<ExportCase>);
+TEST_ROWS(Exports, ExportWithoutAControl, kExports);
 
 }  // namespace
 }  // namespace zttest

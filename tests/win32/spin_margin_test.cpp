@@ -5,6 +5,7 @@
 
 #include "tests/support/live/base_recorder.h"
 #include "tests/support/live/window_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -110,7 +111,7 @@ protected:
     }
 };
 
-class TextBesideSpin : public SpinMarginTest, public testing::WithParamInterface<Alignment> {
+class TextBesideSpin : public SpinMarginTest, public OfRow<Alignment> {
 protected:
     void SetUp() override { MakeText(GetParam().style, GetParam().by); }
     void ExpectAllClear(const std::string& what)
@@ -124,19 +125,19 @@ protected:
     }
 };
 
-TEST_P(TextBesideSpin, IsClearOfTheArrows)
+ROW_TEST(TextBesideSpin, IsClearOfTheArrows)
 {
     ExpectAllClear("created");
 }
 
-TEST_P(TextBesideSpin, IsClearWithDataSet)
+ROW_TEST(TextBesideSpin, IsClearWithDataSet)
 {
     ZTE_FmtSetDataString(Window(), kLong.c_str());
     Press(VK_END);
     ExpectClear("long");
 }
 
-TEST_P(TextBesideSpin, StaysClearWhenTheControlIsResized)
+ROW_TEST(TextBesideSpin, StaysClearWhenTheControlIsResized)
 {
     for (const int height : {30, 16, 40, 8}) {
         SetWindowPos(Window(), nullptr, 0, 0, 100 + height, height, SWP_NOMOVE | SWP_NOZORDER);
@@ -145,7 +146,7 @@ TEST_P(TextBesideSpin, StaysClearWhenTheControlIsResized)
     }
 }
 
-TEST_P(TextBesideSpin, KeepsItsCaretInViewWhenTheControlIsResized)
+ROW_TEST(TextBesideSpin, KeepsItsCaretInViewWhenTheControlIsResized)
 {
     ShowEndOf(kLong);
     for (const int width : {100, 130, 60}) {
@@ -154,7 +155,7 @@ TEST_P(TextBesideSpin, KeepsItsCaretInViewWhenTheControlIsResized)
     }
 }
 
-TEST_P(TextBesideSpin, StaysClearUnderAnotherFont)
+ROW_TEST(TextBesideSpin, StaysClearUnderAnotherFont)
 {
     for (const int font : {ANSI_FIXED_FONT, DEFAULT_GUI_FONT, SYSTEM_FONT}) {
         Send(WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(font)), TRUE);
@@ -162,7 +163,7 @@ TEST_P(TextBesideSpin, StaysClearUnderAnotherFont)
     }
 }
 
-TEST_P(TextBesideSpin, StaysClearBesideTheHostsMargin)
+ROW_TEST(TextBesideSpin, StaysClearBesideTheHostsMargin)
 {
     SetRightMargin(11);
     ExpectAllClear("with a margin");
@@ -174,7 +175,7 @@ TEST_P(TextBesideSpin, StaysClearBesideTheHostsMargin)
     ExpectAllClear("with all margins");
 }
 
-TEST_P(TextBesideSpin, TakesTheWholeWidthWithoutIt)
+ROW_TEST(TextBesideSpin, TakesTheWholeWidthWithoutIt)
 {
     const int beside = RealRightMargin();
     ZTE_DestroySpin(Window());
@@ -206,7 +207,7 @@ constexpr Alignment kAlignments[] = {
     {"CentredWithALaterSpin",  ES_CENTER,             SpinBy::CreateSpin },
     {"PasswordWithALaterSpin", ES_PASSWORD,           SpinBy::CreateSpin },
 };
-INSTANTIATE_TEST_SUITE_P(Alignments, TextBesideSpin, testing::ValuesIn(kAlignments), RowName<Alignment>);
+TEST_ROWS(Alignments, TextBesideSpin, kAlignments);
 
 class HostMargin : public SpinMarginTest {};
 

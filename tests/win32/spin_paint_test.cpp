@@ -5,6 +5,7 @@
 #include <initializer_list>
 
 #include "tests/support/live/spin_window_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -202,9 +203,9 @@ protected:
     Canvas canvas_{kSide, kSide};
 };
 
-class SpinOfHeight : public SpinPaint, public testing::WithParamInterface<int> {};
+class SpinOfHeight : public SpinPaint, public OfRow<int> {};
 
-TEST_P(SpinOfHeight, IsPaintedUnpressed)
+ROW_TEST(SpinOfHeight, IsPaintedUnpressed)
 {
     const RECT rect = RectOfHeight(GetParam());
     Paint(rect);
@@ -213,7 +214,7 @@ TEST_P(SpinOfHeight, IsPaintedUnpressed)
     EXPECT_EQ(Difference(canvas_, picture), "");
 }
 
-TEST_P(SpinOfHeight, IsPaintedWithThePressedArrowSunken)
+ROW_TEST(SpinOfHeight, IsPaintedWithThePressedArrowSunken)
 {
     const RECT rect = RectOfHeight(GetParam());
     for (const Pressed pressed : {Pressed::Up, Pressed::Down}) {
@@ -228,7 +229,7 @@ TEST_P(SpinOfHeight, IsPaintedWithThePressedArrowSunken)
     }
 }
 
-TEST_P(SpinOfHeight, IsPaintedOnceWithItsArrowsOnePixelFurtherLeft)
+ROW_TEST(SpinOfHeight, IsPaintedOnceWithItsArrowsOnePixelFurtherLeft)
 {
     const RECT rect = RectOfHeight(GetParam());
     EXPECT_EQ(ZTE_PaintSpinOnce(&rect, canvas_.dc()), ButtonWidth(GetParam()));
@@ -237,7 +238,7 @@ TEST_P(SpinOfHeight, IsPaintedOnceWithItsArrowsOnePixelFurtherLeft)
     EXPECT_EQ(Difference(canvas_, picture), "");
 }
 
-TEST_P(SpinOfHeight, IsPaintedOnItsBackground)
+ROW_TEST(SpinOfHeight, IsPaintedOnItsBackground)
 {
     const COLORREF colour = RGB(0, 128, 200);
     const RECT rect = RectOfHeight(GetParam());
@@ -249,7 +250,7 @@ TEST_P(SpinOfHeight, IsPaintedOnItsBackground)
     EXPECT_EQ(Difference(canvas_, picture), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Heights, SpinOfHeight, testing::Range(0, 61));
+TEST_ROWS(Heights, SpinOfHeight, Integers(0, 61));
 
 // The figures of one spin, worked out by hand: 20 pixels high, buttons 14 wide and 10 high, their left edge at 39.
 enum class Part { Paper, Black, Grey, Highlight, Shadow };
@@ -277,9 +278,9 @@ void PrintTo(const FigureCase& row, std::ostream* out)
     *out << row.name << " at (" << row.x << ", " << row.y << ")";
 }
 
-class TwentyPixelSpin : public SpinPaint, public testing::WithParamInterface<FigureCase> {};
+class TwentyPixelSpin : public SpinPaint, public OfRow<FigureCase> {};
 
-TEST_P(TwentyPixelSpin, HasItsPartsInTheirPlaces)
+ROW_TEST(TwentyPixelSpin, HasItsPartsInTheirPlaces)
 {
     ASSERT_GE(GetSystemMetrics(SM_CXVSCROLL), 14) << "a narrower scroll bar bounds the spin";
     Paint(RectOfHeight(20));
@@ -309,7 +310,7 @@ constexpr FigureCase kFigures[] = {
     {"LowerBaseLeft",         43, 22, Part::Black    },
     {"LowerBaseRight",        49, 22, Part::Black    },
 };
-INSTANTIATE_TEST_SUITE_P(Figures, TwentyPixelSpin, testing::ValuesIn(kFigures), RowName<FigureCase>);
+TEST_ROWS(Figures, TwentyPixelSpin, kFigures);
 
 TEST_F(SpinPaint, AnOddHeightLeavesARowBetweenTheButtons)
 {
@@ -453,16 +454,16 @@ struct Happening {
     void (*happen)(HWND edit, HWND spin);
 };
 constexpr Happening kHappenings[] = {
-    {"Nothing",        Nothing            },
-    {"ADigit",         TypeADigit         },
-    {"AStep",          StepUp             },
-    {"TheFocus",       GiveAndTakeTheFocus},
-    {"AText",          SetAText           },
-    {"APress",         PressAndRelease    },
-    {"Hiding",         HideIt             },
-    {"ItsOwnPaint",    PaintItFirst       },
-    {"AnotherWindow",  CoverAndUncoverIt  },
-    {"BeingDisabled",  Enable             },
+    {"Nothing",       Nothing            },
+    {"ADigit",        TypeADigit         },
+    {"AStep",         StepUp             },
+    {"TheFocus",      GiveAndTakeTheFocus},
+    {"AText",         SetAText           },
+    {"APress",        PressAndRelease    },
+    {"Hiding",        HideIt             },
+    {"ItsOwnPaint",   PaintItFirst       },
+    {"AnotherWindow", CoverAndUncoverIt  },
+    {"BeingDisabled", Enable             },
 };
 
 // A parent that paints the spin inside the notification of a step shows its arrow pressed; after the step it is not.

@@ -2,6 +2,7 @@
 // and the exports for its width and colour.
 #include "tests/support/live/base_recorder.h"
 #include "tests/support/live/spin_window_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -127,9 +128,9 @@ void PrintTo(const OutsideCase& row, std::ostream* out)
     *out << row.name;
 }
 
-class StepWithoutDirection : public SpinWindowTest, public testing::WithParamInterface<OutsideCase> {};
+class StepWithoutDirection : public SpinWindowTest, public OfRow<OutsideCase> {};
 
-TEST_P(StepWithoutDirection, LeadsTo)
+ROW_TEST(StepWithoutDirection, LeadsTo)
 {
     const OutsideCase& row = GetParam();
     if (row.codes)
@@ -151,7 +152,7 @@ const OutsideCase kOutsideRows[] = {
     {"MovesANumberUpward",      "##0",        DT_NUMBER, nullptr,          "|7",          "7"         },
     {"MovesACodeTableBackward", "XXXX",       DT_STRING, "a\t1/b\t2/c\t3", nullptr,       "b"         },
 };
-INSTANTIATE_TEST_SUITE_P(Fields, StepWithoutDirection, testing::ValuesIn(kOutsideRows), RowName<OutsideCase>);
+TEST_ROWS(Fields, StepWithoutDirection, kOutsideRows);
 
 // Turning redrawing on would show the control.
 struct HiddenStep {
@@ -165,9 +166,9 @@ void PrintTo(const HiddenStep& row, std::ostream* out)
     *out << row.name;
 }
 
-class StepOfAHiddenControl : public SpinWindowTest, public testing::WithParamInterface<HiddenStep> {};
+class StepOfAHiddenControl : public SpinWindowTest, public OfRow<HiddenStep> {};
 
-TEST_P(StepOfAHiddenControl, LeavesRedrawingAlone)
+ROW_TEST(StepOfAHiddenControl, LeavesRedrawingAlone)
 {
     Config config;
     config.mask = GetParam().mask;
@@ -191,7 +192,7 @@ const HiddenStep kHiddenSteps[] = {
     {"DateTime", "MM/DD/YY HH:MM", DT_DATETIME, "1995-07-04 10:20"},
     {"String",   "AAAA",           DT_STRING,   "abcd"            },
 };
-INSTANTIATE_TEST_SUITE_P(Types, StepOfAHiddenControl, testing::ValuesIn(kHiddenSteps), RowName<HiddenStep>);
+TEST_ROWS(Types, StepOfAHiddenControl, kHiddenSteps);
 
 struct Width {
     const char* name;
@@ -203,10 +204,10 @@ void PrintTo(const Width& row, std::ostream* out)
     *out << row.name;
 }
 
-class SpinWidth : public SpinWindowTest, public testing::WithParamInterface<Width> {};
+class SpinWidth : public SpinWindowTest, public OfRow<Width> {};
 
 // The figures hold for a scroll bar of at least 20 pixels; a narrower one bounds them.
-TEST_P(SpinWidth, FollowsTheHeight)
+ROW_TEST(SpinWidth, FollowsTheHeight)
 {
     MakeSpin("##0", DT_NUMBER, nullptr, 1, nullptr);
     const int bar = GetSystemMetrics(SM_CXVSCROLL) + 2;
@@ -215,11 +216,9 @@ TEST_P(SpinWidth, FollowsTheHeight)
     EXPECT_EQ(ZTE_GetSpinWidth(Window(), &rect), expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Heights, SpinWidth,
-                         testing::Values(Width{"Nothing", 0, 8}, Width{"Seven", 7, 8}, Width{"Eight", 8, 8},
-                                         Width{"Nine", 9, 8}, Width{"Fifteen", 15, 12}, Width{"Thirty", 30, 22},
-                                         Width{"Negative", -40, 8}, Width{"Tall", 2000, 1000}),
-                         RowName<Width>);
+TEST_ROWS_OF(Heights, SpinWidth, Width{"Nothing", 0, 8}, Width{"Seven", 7, 8}, Width{"Eight", 8, 8},
+             Width{"Nine", 9, 8}, Width{"Fifteen", 15, 12}, Width{"Thirty", 30, 22}, Width{"Negative", -40, 8},
+             Width{"Tall", 2000, 1000});
 
 class SpinExports : public SpinWindowTest {
 protected:

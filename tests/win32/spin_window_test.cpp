@@ -8,6 +8,7 @@
 #include "tests/support/live/base_recorder.h"
 #include "tests/support/live/import_patch.h"
 #include "tests/support/live/spin_window_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -91,9 +92,9 @@ void PrintTo(const HeightCase& row, std::ostream* out)
     *out << row.name;
 }
 
-class CreatedSpin : public SpinWindow, public testing::WithParamInterface<HeightCase> {};
+class CreatedSpin : public SpinWindow, public OfRow<HeightCase> {};
 
-TEST_P(CreatedSpin, StandsAtTheRightEdge)
+ROW_TEST(CreatedSpin, StandsAtTheRightEdge)
 {
     Config config;
     config.mask = "##0";
@@ -113,10 +114,8 @@ TEST_P(CreatedSpin, StandsAtTheRightEdge)
     EXPECT_TRUE(IsShown(spin));
 }
 
-INSTANTIATE_TEST_SUITE_P(Heights, CreatedSpin,
-                         testing::Values(HeightCase{"Six", 6, 7}, HeightCase{"Twenty", 20, 15},
-                                         HeightCase{"TwentyOne", 21, 16}, HeightCase{"Hundred", 100, 68}),
-                         RowName<HeightCase>);
+TEST_ROWS_OF(Heights, CreatedSpin, HeightCase{"Six", 6, 7}, HeightCase{"Twenty", 20, 15},
+             HeightCase{"TwentyOne", 21, 16}, HeightCase{"Hundred", 100, 68});
 
 TEST_F(SpinWindow, OfAControlTwentyHighIsNarrowerThanReported)
 {
@@ -360,13 +359,13 @@ void PrintTo(const ArrowCase& row, std::ostream* out)
     *out << row.name;
 }
 
-class PressThatLeaves : public SpinMouse, public testing::WithParamInterface<ArrowCase> {
+class PressThatLeaves : public SpinMouse, public OfRow<ArrowCase> {
 protected:
     static constexpr POINT kLeft = {-5, 3};
     static constexpr POINT kOneRowBelow = {3, 20};
 };
 
-TEST_P(PressThatLeaves, IsParked)
+ROW_TEST(PressThatLeaves, IsParked)
 {
     for (const POINT& outside : {kLeft, kOneRowBelow}) {
         PressArrow(GetParam().arrow);
@@ -377,7 +376,7 @@ TEST_P(PressThatLeaves, IsParked)
     }
 }
 
-TEST_P(PressThatLeaves, StaysParkedOutside)
+ROW_TEST(PressThatLeaves, StaysParkedOutside)
 {
     PressArrow(GetParam().arrow);
     MouseAt(WM_MOUSEMOVE, kLeft);
@@ -386,7 +385,7 @@ TEST_P(PressThatLeaves, StaysParkedOutside)
     Release();
 }
 
-TEST_P(PressThatLeaves, IsTakenUpAgainAtAnyPlaceInside)
+ROW_TEST(PressThatLeaves, IsTakenUpAgainAtAnyPlaceInside)
 {
     for (const Arrow inside : {Arrow::Up, Arrow::Down}) {
         PressArrow(GetParam().arrow);
@@ -397,7 +396,7 @@ TEST_P(PressThatLeaves, IsTakenUpAgainAtAnyPlaceInside)
     }
 }
 
-TEST_P(PressThatLeaves, StepsItsOwnWayWhenItIsBack)
+ROW_TEST(PressThatLeaves, StepsItsOwnWayWhenItIsBack)
 {
     PressArrow(GetParam().arrow);
     MouseAt(WM_MOUSEMOVE, kLeft);
@@ -411,7 +410,7 @@ constexpr ArrowCase kArrows[] = {
     {"Up",   Arrow::Up,   zte::SPIN_UP,   zte::SPIN_UP_HELD,   "9"},
     {"Down", Arrow::Down, zte::SPIN_DOWN, zte::SPIN_DOWN_HELD, "5"},
 };
-INSTANTIATE_TEST_SUITE_P(Arrows, PressThatLeaves, testing::ValuesIn(kArrows), RowName<ArrowCase>);
+TEST_ROWS(Arrows, PressThatLeaves, kArrows);
 
 TEST_F(SpinMouse, StepsGoOnOutside)
 {
@@ -596,7 +595,7 @@ void PrintTo(const DoomedControl& row, std::ostream* out)
     *out << row.name;
 }
 
-class DestroyedInItsStep : public SpinDestruction, public testing::WithParamInterface<DoomedControl> {
+class DestroyedInItsStep : public SpinDestruction, public OfRow<DoomedControl> {
 protected:
     void SetUp() override
     {
@@ -605,19 +604,19 @@ protected:
     }
 };
 
-TEST_P(DestroyedInItsStep, OfAKey)
+ROW_TEST(DestroyedInItsStep, OfAKey)
 {
     Press(VK_UP);
     ExpectGone();
 }
 
-TEST_P(DestroyedInItsStep, OfAPress)
+ROW_TEST(DestroyedInItsStep, OfAPress)
 {
     Send(WM_LBUTTONDOWN, 2, 18);
     ExpectGone();
 }
 
-TEST_P(DestroyedInItsStep, OfATick)
+ROW_TEST(DestroyedInItsStep, OfATick)
 {
     auto doom = std::move(form_.onNotification);
     form_.onNotification = nullptr;
@@ -635,7 +634,7 @@ constexpr DoomedControl kDoomed[] = {
     {"String",    "AAAA",     DT_STRING,  "abcd",       nullptr,     0                },
     {"CodeTable", "XXXX",     DT_STRING,  "1",          "a\t1/b\t2", ZTEO_CODE_DISPLAY},
 };
-INSTANTIATE_TEST_SUITE_P(Types, DestroyedInItsStep, testing::ValuesIn(kDoomed), RowName<DoomedControl>);
+TEST_ROWS(Types, DestroyedInItsStep, kDoomed);
 
 TEST_F(SpinDestruction, InTheFlipOfAmPm)
 {

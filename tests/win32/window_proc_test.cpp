@@ -4,10 +4,11 @@
 #include <memory>
 #include <string>
 
-#include "tests/support/live/base_recorder.h"
 #include "tests/support/clipboard.h"
+#include "tests/support/live/base_recorder.h"
 #include "tests/support/live/spin_window_test.h"
 #include "tests/support/live/window_test.h"
+#include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
@@ -35,9 +36,9 @@ void PrintTo(const CharResult& row, std::ostream* out)
     *out << row.name;
 }
 
-class CharacterResult : public WindowProc, public testing::WithParamInterface<CharResult> {};
+class CharacterResult : public WindowProc, public OfRow<CharResult> {};
 
-TEST_P(CharacterResult, UnderAMask)
+ROW_TEST(CharacterResult, UnderAMask)
 {
     Given("MM/DD/YY", DT_DATE, "|07/04/95");
     recorder_.Forget();
@@ -57,7 +58,7 @@ constexpr CharResult kCharacters[] = {
     {"CtrlCIsPassedOn",             3,   0, true },
     {"CtrlDIsPassedOn",             4,   0, true },
 };
-INSTANTIATE_TEST_SUITE_P(Rows, CharacterResult, testing::ValuesIn(kCharacters), RowName<CharResult>);
+TEST_ROWS(Rows, CharacterResult, kCharacters);
 
 TEST_F(WindowProc, CtrlVIsKeptWithOne)
 {
@@ -181,9 +182,9 @@ void PrintTo(const PlainMessage& row, std::ostream* out)
     *out << row.name;
 }
 
-class MessageLeftAlone : public WindowProc, public testing::WithParamInterface<PlainMessage> {};
+class MessageLeftAlone : public WindowProc, public OfRow<PlainMessage> {};
 
-TEST_P(MessageLeftAlone, ReachesTheEditOnce)
+ROW_TEST(MessageLeftAlone, ReachesTheEditOnce)
 {
     Given("MM/DD/YY", DT_DATE, "[07/]04/95");
     recorder_.Forget();
@@ -210,10 +211,10 @@ constexpr PlainMessage kPlainMessages[] = {
     {"Paint",          WM_PAINT,         0         },
     {"User",           WM_USER + 77,     0         },
 };
-INSTANTIATE_TEST_SUITE_P(Messages, MessageLeftAlone, testing::ValuesIn(kPlainMessages), RowName<PlainMessage>);
+TEST_ROWS(Messages, MessageLeftAlone, kPlainMessages);
 
 // A window of the class without a record takes every message as a standard edit does.
-class MessageWithoutARecord : public WindowProc, public testing::WithParamInterface<PlainMessage> {
+class MessageWithoutARecord : public WindowProc, public OfRow<PlainMessage> {
 protected:
     HWND MakeWindow(const char* className) const
     {
@@ -223,7 +224,7 @@ protected:
     static LRESULT SendTo(HWND window) { return SendMessageA(window, GetParam().message, GetParam().wParam, 0); }
 };
 
-TEST_P(MessageWithoutARecord, DoesWhatItDoesToAStandardEdit)
+ROW_TEST(MessageWithoutARecord, DoesWhatItDoesToAStandardEdit)
 {
     CopyToClipboard("abc");
     const HWND standard = MakeWindow("edit");
@@ -254,8 +255,7 @@ constexpr PlainMessage kMessagesWithoutARecord[] = {
     {"DoubleClick",    WM_LBUTTONDBLCLK, MK_LBUTTON},
     {"Paste",          WM_PASTE,         0         },
 };
-INSTANTIATE_TEST_SUITE_P(Messages, MessageWithoutARecord, testing::ValuesIn(kMessagesWithoutARecord),
-                         RowName<PlainMessage>);
+TEST_ROWS(Messages, MessageWithoutARecord, kMessagesWithoutARecord);
 
 }  // namespace
 }  // namespace zttest

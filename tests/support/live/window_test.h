@@ -13,6 +13,7 @@
 
 #include "tests/support/key_case.h"
 #include "tests/support/marked_text.h"
+#include "tests/support/rows.h"
 #include "tests/support/values.h"
 
 namespace zttest {
@@ -54,7 +55,7 @@ protected:
     std::unique_ptr<Control> control_;
 };
 
-class WindowKeyTable : public WindowTest, public testing::WithParamInterface<KeyCase> {
+class WindowKeyTable : public WindowTest, public OfRow<KeyCase> {
 protected:
     void Check(const KeyCase& row);
 };
