@@ -106,12 +106,28 @@ void CheckSameDigits(const EditInstance& edit, const Text& text, const Text& bef
            "a refused key leaves the digits of a number", text, before);
 }
 
+// Whether a field has room for one digit of its two. No mask is installed with one; but an escaped letter counts as one of its field, so
+// that "~H:H" shows the first digit of the hour.
+bool HasCutField(const EditInstance& edit)
+{
+    using zte::FieldKind;
+    for (const FieldKind kind :
+         {FieldKind::Month, FieldKind::Day, FieldKind::Hour, FieldKind::Minute, FieldKind::Second}) {
+        const auto* const end = edit.table->positions + edit.table->count;
+        if (std::count_if(edit.table->positions, end, [kind](const auto& at) { return at.kind == kind; }) == 1)
+            return true;
+    }
+    return false;
+}
+
 bool ReadsWhatItShows(const EditInstance& edit)
 {
     if (!ShowsValues(edit))
         return false;
     if (zte::IsNumeric(edit.dataType))
         return IsTypedNumber(edit);
+    if (HasCutField(edit))
+        return false;
     return !zte::HasAmPmField(edit) || (CanTellHalves(*edit.settings) && !ShowsHalfWithoutHour(edit));
 }
 
