@@ -80,6 +80,7 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     list(TRANSFORM zt_text_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
     zt_add_native_tests(texts ${zt_text_sources} ${zt_text_support})
     target_compile_options(test_texts PRIVATE -O1)
+    zt_compile_together(test_texts)
 
     # Lives of controls over and over, and a heap that fails: small here, large by soak.sh. All memory passes through the tests' gate.
     file(GLOB zt_soak_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/soak/*.cpp)
@@ -87,6 +88,7 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     set(zt_soak_support keyboard.cpp profile.cpp native/main.cpp native/profile_store.cpp)
     list(TRANSFORM zt_soak_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
     zt_add_native_tests(soak ${zt_soak_sources} ${zt_soak_support})
+    zt_compile_together(test_soak)
     target_link_options(test_soak PRIVATE -Wl,--wrap=malloc,--wrap=realloc,--wrap=free)
 endif()
 
@@ -98,6 +100,7 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     zt_add_native_tests(model ${zt_model_sources} ${CMAKE_SOURCE_DIR}/tests/support/keyboard.cpp)
     target_link_libraries(test_model PRIVATE gtest_main)
     target_compile_options(test_model PRIVATE -O1)
+    zt_compile_together(test_model)
 endif()
 
 add_test(NAME includes COMMAND ${CMAKE_COMMAND} -DSOURCE_DIR=${CMAKE_SOURCE_DIR}

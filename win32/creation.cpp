@@ -75,14 +75,18 @@ LRESULT CreateControl(HWND hwnd, WPARAM wParam, LPARAM lParam)
     });
 }
 
+// The end of a spin may bring messages to the control, so that it is one until then; they may even destroy it.
 void DiscardRecord(HWND hwnd)
 {
-    EditInstance* edit = GetEditInstance(hwnd);
-    if (!edit)
-        return;
-    if (void* spin = std::exchange(edit->hwndSpin, nullptr))
-        DestroyWindow(static_cast<HWND>(spin));
-    FreeRecord(hwnd, *edit);
+    EditInstance* edit = DetachEditInstance(hwnd);
+    if (edit && edit->hwndSpin) {
+        const bool attached = AttachEditInstance(hwnd, edit);
+        DestroyWindow(static_cast<HWND>(std::exchange(edit->hwndSpin, nullptr)));
+        if (attached)
+            edit = DetachEditInstance(hwnd);
+    }
+    if (edit)
+        FreeRecord(*edit);
 }
 
 }  // namespace zte

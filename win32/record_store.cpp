@@ -7,6 +7,7 @@
 #include "engine/format/code_table.h"
 #include "engine/spin/spin_settings.h"
 #include "win32/heap_watch.h"
+#include "win32/known_record.h"
 #include "win32/life_guard.h"
 #include "win32/open_deletion.h"
 #include "win32/regional_settings.h"
@@ -36,6 +37,14 @@ private:
     HGLOBAL block_;
     EditInstance** address_;
 };
+
+EditInstance* RecordIn(HGLOBAL block)
+{
+    if (!block)
+        return nullptr;
+    const LockedBlock locked(block);
+    return locked.get() ? *locked.get() : nullptr;
+}
 
 struct HeapEnd : SharedHeapWatcher {
     EditInstance* edit;
@@ -112,16 +121,16 @@ EditInstance* NewRecord(HWND hwnd, const EditInitParams& params)
     ApplyOptions(edit, params.options);
     control->heapEnd.edit = &edit;
     WatchHeap(edit.heap, control->heapEnd, LetGoOfHeap);
+    RememberRecord(hwnd, edit);
     return &edit;
 }
 
-void FreeRecord(HWND hwnd, EditInstance& edit)
+void FreeRecord(EditInstance& edit)
 {
     LifeGuard::TellAll(FieldOf(edit));
     UnwatchHeap(edit.heap, ControlOf(edit).heapEnd);
     ForgetDeletion(edit);
     DestroyCodeTable(edit);
-    DetachEditInstance(hwnd);
     SharedHeapFree(edit.heap, &edit);
 }
 
@@ -143,17 +152,16 @@ bool AttachEditInstance(HWND hwnd, EditInstance* edit)
 
 EditInstance* GetEditInstance(HWND hwnd)
 {
-    HGLOBAL block = GetPropA(hwnd, kRecordProperty);
-    if (!block)
-        return nullptr;
-    const LockedBlock locked(block);
-    return locked.get() ? *locked.get() : nullptr;
+    return RecordIn(GetPropA(hwnd, kRecordProperty));
 }
 
-void DetachEditInstance(HWND hwnd)
+EditInstance* DetachEditInstance(HWND hwnd)
 {
-    if (HGLOBAL block = RemovePropA(hwnd, kRecordProperty))
-        GlobalFree(block);
+    HGLOBAL block = RemovePropA(hwnd, kRecordProperty);
+    ForgetRecord(hwnd);
+    EditInstance* edit = RecordIn(block);
+    GlobalFree(block);
+    return edit;
 }
 
 }  // namespace zte

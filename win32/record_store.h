@@ -11,8 +11,8 @@ namespace zte {
 // Makes the record of a control with its field, and attaches it; null when the system does not let it be attached.
 EditInstance* NewRecord(HWND hwnd, const EditInitParams& params);
 
-// Frees the record and detaches it.
-void FreeRecord(HWND hwnd, EditInstance& edit);
+// Frees the record, which is detached.
+void FreeRecord(EditInstance& edit);
 
 // Stores the record under the window's property; a block already there is freed first. False when the system refuses.
 bool AttachEditInstance(HWND hwnd, EditInstance* edit);
@@ -20,7 +20,7 @@ bool AttachEditInstance(HWND hwnd, EditInstance* edit);
 // The record of a window, or null.
 EditInstance* GetEditInstance(HWND hwnd);
 
-// Removes the property and its block; the record itself is not freed.
-void DetachEditInstance(HWND hwnd);
+// Removes the property and its block; the record itself, which is not freed, or null.
+EditInstance* DetachEditInstance(HWND hwnd);
 
 }  // namespace zte

@@ -4,9 +4,10 @@
 #include <initializer_list>
 
 #include "win32/gdi.h"
-#include "win32/record_store.h"
+#include "win32/known_record.h"
 #include "win32/spin_window.h"
 #include "win32/standard_field.h"
+#include "ztedit.h"
 
 namespace zte {
 
@@ -270,7 +271,7 @@ using namespace zte;
 
 void WINAPI ZTE_PaintSpin(HWND hwnd, HDC dc, const RECT* rect)
 {
-    const EditInstance* edit = GetEditInstance(hwnd);
+    const EditInstance* edit = KnownRecord(hwnd);
     if (!edit)
         return;
     PaintSpin(*edit, dc, rect ? *rect : ClientOf(SpinOf(*edit)));

@@ -5,6 +5,7 @@
 
 #include "engine/spin/spin_settings.h"
 #include "engine/spin/step.h"
+#include "win32/known_record.h"
 #include "win32/library.h"
 #include "win32/life_guard.h"
 #include "win32/record_store.h"
@@ -138,6 +139,13 @@ bool IsRouted(UINT message)
     }
 }
 
+EditInstance* RecordFor(HWND spin, UINT message)
+{
+    if (message == WM_PAINT)
+        return KnownRecord(spin);
+    return IsRouted(message) ? GetEditInstance(spin) : nullptr;
+}
+
 // True when the message is handled, with the result 0.
 bool Route(HWND spin, EditInstance& edit, UINT message, WPARAM wParam, LPARAM lParam)
 {
@@ -247,7 +255,7 @@ LRESULT CALLBACK ZTE_SpinWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
         return OnCreate(hwnd, reinterpret_cast<const CREATESTRUCTA*>(lParam));
     if (message == WM_NCPAINT)  // there is no frame; the system would ask for a context first, and then see that
         return 0;
-    EditInstance* edit = IsRouted(message) ? GetEditInstance(hwnd) : nullptr;
+    EditInstance* edit = RecordFor(hwnd, message);
     if (edit && WhileAlive(*edit, true, [&] { return Route(hwnd, *edit, message, wParam, lParam); }))
         return 0;
     return DefWindowProcA(hwnd, message, wParam, lParam);

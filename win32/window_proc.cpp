@@ -3,6 +3,7 @@
 #include "engine/edit/paste.h"
 #include "engine/edit/plain_edit.h"
 #include "win32/creation.h"
+#include "win32/known_record.h"
 #include "win32/library.h"
 #include "win32/life_guard.h"
 #include "win32/mouse.h"
@@ -44,6 +45,25 @@ bool IsInput(UINT message)
     case WM_PASTE: return true;
     default: return false;
     }
+}
+
+// What changes nothing but places and pixels.
+bool IsAppearance(UINT message)
+{
+    return message == WM_PAINT || message == WM_SIZE || message == WM_MOVE;
+}
+
+// A removed property is seen by all but what is painted and placed, which may come with every key: see known_record.h.
+EditInstance* RecordFor(HWND hwnd, UINT message)
+{
+    if (IsAppearance(message))
+        return KnownRecord(hwnd);
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (edit)
+        RememberRecord(hwnd, *edit);
+    else
+        ForgetRecord(hwnd);
+    return edit;
 }
 
 bool IsKeyMessage(UINT message)
@@ -97,7 +117,7 @@ bool Dispatch(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, Handler&& h
 bool IsKept(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
     return Dispatch(hwnd, message, wParam, lParam, [&](auto&& work) {
-        EditInstance* edit = GetEditInstance(hwnd);
+        EditInstance* edit = RecordFor(hwnd, message);
         if (!edit)
             return false;
         const bool isPlain = IsInput(message) && IsPlainEdit(*edit);

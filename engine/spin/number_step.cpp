@@ -30,7 +30,7 @@ Exact operator-(const Exact& first, const Exact& second)
     return {services::Subtract(first.value, second.value)};
 }
 
-Text ShownNumber(const EditInstance& edit)
+Text NumberShown(const EditInstance& edit)
 {
     return ReadShownText(edit, edit.field->ReadText());
 }
@@ -65,7 +65,7 @@ StepRange<Exact> DecimalRange(const EditInstance& edit)
 
 void StepNumber(EditInstance& edit)
 {
-    const double value = NumberFromText(edit, ShownNumber(edit));
+    const double value = NumberFromText(edit, NumberShown(edit));
     const bool hasMaximum = edit.spinMax < 0.0 || edit.spinMax > 0.0;
     const StepRange<double> range = {edit.spinMin, edit.spinMax, hasMaximum, true};
     const std::optional<double> stepped = Step(edit, value, static_cast<double>(edit.spinIncrement), range);
@@ -74,7 +74,7 @@ void StepNumber(EditInstance& edit)
 
 void StepDecimal(EditInstance& edit)
 {
-    const Exact value = {DecimalFromText(edit, ShownNumber(edit))};
+    const Exact value = {DecimalFromText(edit, NumberShown(edit))};
     const Exact increment = {services::DecimalOf(edit.spinIncrement)};
     const std::optional<Exact> stepped = Step(edit, value, increment, DecimalRange(edit));
     ShowStepped(edit, stepped ? &stepped->value : nullptr);

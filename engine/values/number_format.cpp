@@ -5,7 +5,7 @@ namespace zte {
 
 namespace {
 
-constexpr TokenKind KindOf(Char c)
+constexpr TokenKind TokenKindOf(Char c)
 {
     switch (c) {
     case '0': return TokenKind::Digit;
@@ -121,7 +121,7 @@ Token NextToken(const Char*& format)
         return {TokenKind::End, Char{}};
     if (*format != '\\') {
         const Char c = *format++;
-        return {KindOf(c), c};
+        return {TokenKindOf(c), c};
     }
     ++format;
     if (*format == Char{})

@@ -7,15 +7,12 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "model_text.h"
+
 namespace model {
 namespace {
 
 constexpr int kGeneralDigits = 15;
-
-bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
 
 Number Trimmed(Number number)
 {

@@ -17,7 +17,7 @@
 namespace soak {
 namespace {
 
-constexpr int kActs = 16;
+constexpr int kFailingActs = 16;
 constexpr int kOperations = 800;
 
 // How the process of a game ends.
@@ -92,11 +92,11 @@ TEST(MemoryRunningOut, EndsTheProgramByAbort)
     Life life;
     for (int played = 0; played < operations; played += OperationsOfChild(), ++games) {
         const zttest::Regional setting(RegionalSetOf(dice.Below(5)));
-        Throw(life, dice.Number(), kActs);
-        const uint64_t requests = RequestsOf(life);  // the heap of the control is one at least
-        const uint64_t request = 1 + dice.Number() % requests;
+        Throw(life, dice.Number(), kFailingActs);
+        const uint64_t made = RequestsOf(life);  // the heap of the control is one at least
+        const uint64_t request = 1 + dice.Number() % made;
         const int end = EndOfGame(life, request);
-        ASSERT_EQ(end, kAsPromised) << "request " << request << " of " << requests << ", " << Describe(life, kActs);
+        ASSERT_EQ(end, kAsPromised) << "request " << request << " of " << made << ", " << Describe(life, kFailingActs);
         ++failures;
     }
     PrintRow("engine, failing heap", operations, watch,
@@ -110,7 +110,7 @@ TEST(MemoryRunningOut, EndsTheProgramByAbort)
 TEST(MemoryRunningOut, IsSeenNotToHappen)
 {
     Life life;
-    Throw(life, 1, kActs);
+    Throw(life, 1, kFailingActs);
     EXPECT_EQ(EndOfGame(life, RequestsOf(life) + 1), kPlayed);
 }
 

@@ -98,7 +98,7 @@ ROW_TEST(TextThroughEachDoor, MayBePeculiar)
 TEST(ArrowKey, GoesNoFurtherOverATextFromOutsideThanAMaskIsLong)
 {
     constexpr int kLength = 60000;
-    constexpr int kLongestMask = 255;
+    constexpr int kLongest = 255;
     Config config;
     config.mask = "000.00";
     config.type = DT_NUMBER;
@@ -106,10 +106,10 @@ TEST(ArrowKey, GoesNoFurtherOverATextFromOutsideThanAMaskIsLong)
     subject.SetText(std::string(kLength, 'q').c_str());
     subject.Select(kLength, kLength);
     subject.Press("{Left}");
-    EXPECT_EQ(subject.CaretStart(), kLength - kLongestMask);
+    EXPECT_EQ(subject.CaretStart(), kLength - kLongest);
     subject.Select(0, 0);
     subject.Press("{Right}");
-    EXPECT_EQ(subject.CaretStart(), kLongestMask);
+    EXPECT_EQ(subject.CaretStart(), kLongest);
 }
 
 TEST(WindowText, MayBeAsLongAs64KilobytesUnderAMask)

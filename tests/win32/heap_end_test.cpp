@@ -81,6 +81,58 @@ TEST_F(HeapEnd, IsSurvivedByEveryExport)
     EXPECT_EQ(TextOf(hwnd_), "07/04/95");
 }
 
+// Painting and placing may use the record that was used last without asking for it.
+class PaintedHeapEnd : public HeapEnd {
+protected:
+    void PaintAndPlace()
+    {
+        InvalidateRect(hwnd_, nullptr, TRUE);
+        UpdateWindow(hwnd_);
+        MoveWindow(hwnd_, 10, 10, 140, 30, TRUE);
+        UpdateWindow(hwnd_);
+        const HDC dc = GetDC(hwnd_);
+        const RECT place = {0, 0, 16, 24};
+        ZTE_PaintSpin(hwnd_, dc, &place);
+        ReleaseDC(hwnd_, dc);
+    }
+};
+
+TEST_F(PaintedHeapEnd, IsSurvivedByWhatIsPaintedAfterAKey)
+{
+    MakeIt(ZTEO_SPIN);
+    Play("1");
+    PaintAndPlace();
+    SharedHeapDestroy(heap_);
+    PaintAndPlace();
+    EXPECT_FALSE(IsControl(hwnd_));
+}
+
+TEST_F(PaintedHeapEnd, IsSurvivedWithoutTheProperty)
+{
+    MakeIt(ZTEO_SPIN);
+    Play("1");
+    RemovePropA(hwnd_, "MAIN");
+    PaintAndPlace();
+    SharedHeapDestroy(heap_);
+    PaintAndPlace();
+    EXPECT_FALSE(IsControl(hwnd_));
+}
+
+TEST_F(PaintedHeapEnd, IsSurvivedByAControlWhoseWindowWentWithoutTheProperty)
+{
+    MakeIt(ZTEO_SPIN);
+    Play("1");
+    RemovePropA(hwnd_, "MAIN");
+    DestroyWindow(hwnd_);
+    SharedHeapDestroy(heap_);
+    heap_ = SharedHeapCreate();
+    MakeIt();
+    PaintAndPlace();
+    EXPECT_TRUE(IsControl(hwnd_));
+    DestroyWindow(hwnd_);
+    SharedHeapDestroy(heap_);
+}
+
 TEST_F(HeapEnd, TakesTheSpinAlongAndGivesTheMarginBack)
 {
     MakeIt(ZTEO_SPIN);

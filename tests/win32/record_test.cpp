@@ -229,6 +229,19 @@ TEST_F(Record, WithoutAPropertyTheControlIsAPlainEdit)
     SetPropA(Window(), kProperty, property);
 }
 
+TEST_F(Record, WithoutAPropertyTheNextKeySeesItAlsoAfterAPaint)
+{
+    Make(DateConfig());
+    PutCaret(0);
+    Type("1");
+    const HANDLE property = RemovePropA(Window(), kProperty);
+    InvalidateRect(Window(), nullptr, TRUE);
+    UpdateWindow(Window());
+    Type("x");
+    EXPECT_EQ(Shown(), "1x|0/04/95");
+    SetPropA(Window(), kProperty, property);
+}
+
 TEST_F(Record, WithThePropertyPutBackItIsFoundAgain)
 {
     Make(DateConfig());
