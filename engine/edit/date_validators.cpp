@@ -15,15 +15,18 @@ constexpr int32_t kFebruary = 1;
 
 int32_t TwoDigitNumber(Char first, Char second)
 {
-    return IntegerOf(Text{first, second});
+    const Char digits[] = {first, second, Char{}};
+    return IntegerOf(digits);
 }
 
 // The year that a last digit would make: the first character printed of the shown year's value (95 or 104) and the digit. It is
 // the year meant only where two digits make the year; kept, leap days have always been checked against it.
 int32_t CandidateYear(const DateTimeValue& shown, Char digit)
 {
-    const Text printed = NumberText(static_cast<uint32_t>(int32_t{shown.year}), 1);
-    return TwoDigitNumber(printed[0], digit);
+    auto printed = static_cast<uint32_t>(int32_t{shown.year});
+    while (printed >= 10)
+        printed /= 10;
+    return TwoDigitNumber(DigitChar(static_cast<int32_t>(printed)), digit);
 }
 
 bool CompletesYear(const Entry& entry)

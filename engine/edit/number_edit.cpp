@@ -2,6 +2,7 @@
 #include "engine/edit/number_edit.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "engine/text/ascii.h"
 
@@ -27,8 +28,7 @@ int32_t ShownLength(const FormatShape& shape, const Settings& settings, int32_t 
 
 }  // namespace
 
-NumberEdit::NumberEdit(EditInstance& edit, int32_t caret)
-    : edit_(edit), shownBefore_(edit.field->ReadText()), text_(shownBefore_), caret_(caret)
+NumberEdit::NumberEdit(EditInstance& edit, int32_t caret) : edit_(edit), text_(edit.field->ReadText()), caret_(caret)
 {
     TakeApart();
 }
@@ -51,15 +51,20 @@ bool NumberEdit::IsInForm() const
 void NumberEdit::TakeApart()
 {
     shown_.emplace(Mask(), *edit_.settings, text_);
-    digits_ = shown_->Digits();
+    shown_->ReadDigits(digits_);
 }
 
 // More digits than the mask forces were typed, zeros in front too: typed over a full number.
-Text NumberEdit::HeldInteger() const
+int32_t NumberEdit::ZerosWithoutPlace() const
 {
     if (Length(digits_.integer) > Mask().shape.forcedInteger)
-        return digits_.integer;
-    return digits_.integer.substr(std::min(digits_.integer.find_first_not_of(Char{'0'}), digits_.integer.size()));
+        return 0;
+    return static_cast<int32_t>(std::min(digits_.integer.find_first_not_of(Char{'0'}), digits_.integer.size()));
+}
+
+Text NumberEdit::HeldInteger() const
+{
+    return digits_.integer.substr(static_cast<size_t>(ZerosWithoutPlace()));
 }
 
 TypedNumber NumberEdit::WithoutZerosInFront(TypedNumber digits) const
@@ -72,7 +77,7 @@ TypedNumber NumberEdit::WithoutZerosInFront(TypedNumber digits) const
 bool NumberEdit::FitsOneMore() const
 {
     const FormatShape& shape = Mask().shape;
-    return ShownLength(shape, *edit_.settings, Length(HeldInteger()) + 1) <= shape.room;
+    return ShownLength(shape, *edit_.settings, Length(digits_.integer) - ZerosWithoutPlace() + 1) <= shape.room;
 }
 
 bool NumberEdit::IsZero() const
@@ -92,6 +97,8 @@ void NumberEdit::LayOut(TypedNumber digits, DigitPlace place)
     RoundToPlaces(digits, Mask().shape.fractionPlaces);
     if (Length(digits.integer) + Length(digits.fraction) > kMostDigits)
         return;
+    if (!shownBefore_)
+        shownBefore_ = std::move(text_);
     text_ = LayOutDigits(Mask().format, Mask().shape, digits, *edit_.settings);
     TakeApart();
     caret_ = shown_->PositionOf(place);
@@ -99,7 +106,7 @@ void NumberEdit::LayOut(TypedNumber digits, DigitPlace place)
 
 void NumberEdit::Show()
 {
-    const bool changed = text_ != shownBefore_;
+    const bool changed = shownBefore_ && text_ != *shownBefore_;
     if (changed) {
         edit_.field->SetText(text_.c_str());
         edit_.field->KeepLayout();

@@ -48,9 +48,10 @@ public:
 
 private:
     void TakeApart();
+    int32_t ZerosWithoutPlace() const;  // in front of the integer digits
 
     EditInstance& edit_;
-    Text shownBefore_;
+    std::optional<Text> shownBefore_;  // where text_ has been laid out anew
     Text text_;
     std::optional<ShownNumber> shown_;  // of text_
     TypedNumber digits_;

@@ -120,7 +120,7 @@ Outcome TypeIntoFraction(NumberEdit& number, const NumericKey& key, int32_t inde
     else
         typed.fraction[at] = key.typed;
     typed.fraction.resize(std::min(typed.fraction.size(), static_cast<size_t>(places)));
-    number.LayOut(typed, {true, index + 1});
+    number.LayOut(std::move(typed), {true, index + 1});
     return index + 1 == places ? Outcome::Filled : Outcome::Taken;
 }
 
@@ -145,7 +145,7 @@ Outcome InsertDigit(const EditInstance& edit, NumberEdit& number, Char digit, in
     const int32_t behind = std::min(right, Length(typed.integer));
     if (digit != '0' || behind < Length(typed.integer))
         typed.integer.insert(typed.integer.size() - static_cast<size_t>(behind), 1, digit);
-    number.LayOut(typed, {false, behind});
+    number.LayOut(std::move(typed), {false, behind});
     return GoOn(edit, number, behind);
 }
 
@@ -158,7 +158,7 @@ Outcome OverwriteDigit(const EditInstance& edit, NumberEdit& number, const Numer
         return edit.decimalPlaces != 0 ? TypeIntoFraction(number, key, 0) : Outcome::Refused;
     }
     typed.integer[typed.integer.size() - static_cast<size_t>(right)] = key.typed;
-    number.LayOut(typed, {false, right - 1});
+    number.LayOut(std::move(typed), {false, right - 1});
     return GoOn(edit, number, right - 1);
 }
 

@@ -1,6 +1,8 @@
 // The validators of single characters, and the table of all kinds.
 #include "engine/edit/validators.h"
 
+#include <iterator>
+
 #include "engine/services.h"
 #include "engine/text/ascii.h"
 
@@ -38,12 +40,20 @@ Verdict ValidateLowerCase(const Entry& entry)
     return Verdict::Placing(services::ToLower(entry.typed, *entry.edit.settings));
 }
 
+Verdict Refuse(const Entry& /*entry*/)
+{
+    return Verdict::Refused();
+}
+
 struct ValidatorRow {
     FieldKind kind;
     Verdict (*validate)(const Entry&);
 };
 
+// In the order of the kinds.
 constexpr ValidatorRow kValidators[] = {
+    {FieldKind::Literal,      Refuse                },
+    {FieldKind::NumberDigit,  Refuse                },
     {FieldKind::Digit,        ValidateDigit         },
     {FieldKind::Alphanumeric, ValidateAlphanumeric  },
     {FieldKind::Any,          ValidateAny           },
@@ -57,7 +67,17 @@ constexpr ValidatorRow kValidators[] = {
     {FieldKind::Minute,       ValidateMinuteOrSecond},
     {FieldKind::Second,       ValidateMinuteOrSecond},
     {FieldKind::Fraction,     ValidateDigit         },
+    {FieldKind::AmPm,         Refuse                },
 };
+
+constexpr bool StandInOrder()
+{
+    for (size_t i = 0; i < std::size(kValidators); ++i)
+        if (static_cast<size_t>(kValidators[i].kind) != i)
+            return false;
+    return true;
+}
+static_assert(StandInOrder(), "each kind finds its validator by its number");
 
 }  // namespace
 
@@ -66,10 +86,7 @@ Verdict Validate(const Entry& entry)
     if (IsControl(entry.typed))
         return Verdict::Refused();
     const FieldKind kind = PositionAt(entry.edit, entry.text, entry.position).kind;
-    for (const ValidatorRow& row : kValidators)
-        if (row.kind == kind)
-            return row.validate(entry);
-    return Verdict::Refused();
+    return kValidators[static_cast<size_t>(kind)].validate(entry);
 }
 
 }  // namespace zte

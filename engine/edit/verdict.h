@@ -39,7 +39,13 @@ struct Verdict {
         Assign(verdict.placed, text);
         return verdict;
     }
-    static Verdict Placing(Char c) { return Placing(Text(1, c)); }
+    static Verdict Placing(Char c)
+    {
+        Verdict verdict;
+        verdict.accepted = true;
+        verdict.placed[0] = c;
+        return verdict;
+    }
     static Verdict Padding(const Text& text)
     {
         Verdict verdict = Placing(text);

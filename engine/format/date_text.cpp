@@ -46,6 +46,8 @@ private:
     // A number of a fixed count of characters; none when they are no number.
     std::optional<int32_t> NumberAt(int32_t position, int32_t length) const
     {
+        if (const int32_t number = DigitsAt(text_, position, length); number >= 0)
+            return number;
         const Text digits = Slice(text_, position, length);
         if (!services::IsNumber(digits.c_str(), *edit_.settings))
             return std::nullopt;
@@ -119,7 +121,7 @@ private:
     // It waits for a year that is still to come.
     bool ReadDayOfYear(int32_t position)
     {
-        dayOfYear_ = IntegerOf(Slice(text_, position, 3));
+        dayOfYear_ = IntegerAt(text_, position, 3);
         if (HasDate(value_))
             TakeDayOfYear();
         return true;

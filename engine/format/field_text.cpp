@@ -1,6 +1,8 @@
 // Reads the year and the month out of the text now shown.
 #include "engine/format/field_text.h"
 
+#include <algorithm>
+
 #include "engine/mask/mask_table.h"
 #include "engine/values/date_time.h"
 #include "engine/values/month_names.h"
@@ -9,9 +11,11 @@ namespace zte {
 
 namespace {
 
-Text Cut(const EditInstance& edit, const Text& text, const MaskSpan& field)
+// Kept: a month at the end of the text is read without its last character.
+int32_t MonthLength(const Text& text, int32_t start, int32_t length)
 {
-    return Slice(text, FieldStart(edit, text, field), field.length);
+    const int32_t shown = std::clamp(Length(text) - start, 0, length);
+    return shown > 0 && start + shown == Length(text) ? shown - 1 : shown;
 }
 
 }  // namespace
@@ -19,7 +23,8 @@ Text Cut(const EditInstance& edit, const Text& text, const MaskSpan& field)
 int32_t YearFromText(const EditInstance& edit, const Text& text)
 {
     const MaskSpan field = edit.table->year;
-    return field.length == 0 ? 0 : YearValue(IntegerOf(Cut(edit, text, field)), field.length);
+    return field.length == 0 ? 0
+                             : YearValue(IntegerAt(text, FieldStart(edit, text, field), field.length), field.length);
 }
 
 int32_t MonthFromText(const EditInstance& edit, const Text& text)
@@ -27,10 +32,10 @@ int32_t MonthFromText(const EditInstance& edit, const Text& text)
     const MaskSpan field = edit.table->month;
     if (field.length == 0)
         return 0;
-    Text month = Cut(edit, text, field);
-    if (FieldStart(edit, text, field) + Length(month) == Length(text) && !month.empty())
-        month.pop_back();
-    return field.length == 2 ? IntegerOf(month) : MonthFromName(*edit.settings, month) + 1;
+    const int32_t start = FieldStart(edit, text, field);
+    const int32_t length = MonthLength(text, start, field.length);
+    return field.length == 2 ? IntegerAt(text, start, length)
+                             : MonthFromName(*edit.settings, Slice(text, start, length)) + 1;
 }
 
 }  // namespace zte

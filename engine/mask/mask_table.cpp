@@ -57,12 +57,6 @@ void MakeLiteralsPlain(MaskPosition* positions, int32_t count)
     std::for_each_n(positions, count, [](MaskPosition& at) { at.escaped = false; });
 }
 
-// The designator shown is shorter than the field is written.
-int32_t MissingAmPmLetters(const EditInstance& edit, const Text& text)
-{
-    return kAmPmLength - AmPmWidth(edit, text);
-}
-
 // Lays the parts of a mask's block out, one behind the other.
 class BlockLayout {
 public:
@@ -206,19 +200,14 @@ bool PositionsUnder::IsInFraction(int32_t position) const
     return point >= 0 && position > point && position <= point + edit_.decimalPlaces;
 }
 
-MaskPosition PositionAt(const EditInstance& edit, const Text& text, int32_t position)
+int32_t MissingAmPmLetters(const EditInstance& edit, const Text& text)
 {
-    return PositionsUnder(edit, text).At(position);
+    return kAmPmLength - AmPmWidth(edit, text);
 }
 
-const MaskPosition& PositionOf(const EditInstance& edit, const Text& text, int32_t position)
+MaskPosition NumberPositionAt(const EditInstance& edit, const Text& text, int32_t position)
 {
-    const MaskTable& table = *edit.table;
-    if (position < 0)
-        return kNoPosition;
-    if (table.fieldsBehindAmPm && position >= table.ampmPosition)
-        position += MissingAmPmLetters(edit, text);
-    return position < table.count ? table.positions[position] : table.beyond;
+    return PositionsUnder(edit, text).At(position);
 }
 
 int32_t ShownLength(const EditInstance& edit, const Text& text)

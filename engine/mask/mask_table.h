@@ -34,11 +34,26 @@ struct MaskTable {
     bool hasLiterals;                        // the currency symbol alone, separators and '%' do not count
 };
 
-// What stands at a position, under the text shown. Past the end see MaskPositions::Beyond.
-MaskPosition PositionAt(const EditInstance& edit, const Text& text, int32_t position);
+// How many letters of the AM/PM field the designator shown does not have.
+int32_t MissingAmPmLetters(const EditInstance& edit, const Text& text);
 
-// The same for masks whose positions do not follow digits; nothing for the others.
-const MaskPosition& PositionOf(const EditInstance& edit, const Text& text, int32_t position);
+// The same for masks whose positions do not follow digits; nothing for the others. Asked several times a key.
+inline const MaskPosition& PositionOf(const EditInstance& edit, const Text& text, int32_t position)
+{
+    const MaskTable& table = *edit.table;
+    if (position < 0)
+        return kNoPosition;
+    if (table.fieldsBehindAmPm && position >= table.ampmPosition)
+        position += MissingAmPmLetters(edit, text);
+    return position < table.count ? table.positions[position] : table.beyond;
+}
+
+// What stands at a position, under the text shown. Past the end see MaskPositions::Beyond.
+MaskPosition NumberPositionAt(const EditInstance& edit, const Text& text, int32_t position);
+inline MaskPosition PositionAt(const EditInstance& edit, const Text& text, int32_t position)
+{
+    return edit.table->number.format ? NumberPositionAt(edit, text, position) : PositionOf(edit, text, position);
+}
 
 // How many positions the display has under the text shown: displayLength, less what the AM/PM field takes in the mask only.
 int32_t ShownLength(const EditInstance& edit, const Text& text);

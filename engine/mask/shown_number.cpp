@@ -12,7 +12,7 @@ namespace {
 bool StandsAt(const Text& text, int32_t position, const MaskLiterals& literals)
 {
     const auto length = static_cast<size_t>(literals.length);
-    return text.compare(static_cast<size_t>(position), length, literals.text, length) == 0;
+    return length == 0 || text.compare(static_cast<size_t>(position), length, literals.text, length) == 0;
 }
 
 bool IsLiteral(const Token& token)
@@ -52,8 +52,9 @@ ShownNumber::ShownNumber(const NumberMask& mask, const Settings& settings, const
     if (end_ - mask.behind.length >= start_ && StandsAt(text, end_ - mask.behind.length, mask.behind))
         end_ -= mask.behind.length;
     bool digitSeen = false;
+    const Char* const characters = text.c_str();
     for (int32_t i = start_; i < end_; ++i) {
-        const Char c = At(text, i);
+        const Char c = characters[i];
         digitSeen = digitSeen || IsDigit(c);
         if (c == '-' && !digitSeen && sign_ < 0)
             sign_ = i;
@@ -67,11 +68,15 @@ ShownNumber::ShownNumber(const NumberMask& mask, const Settings& settings, const
 TypedNumber ShownNumber::Digits() const
 {
     TypedNumber number;
-    number.negative = sign_ >= 0;
-    number.integer = CollectDigits(start_, PointOrEnd());
-    if (point_ >= 0)
-        number.fraction = CollectDigits(point_ + 1, end_);
+    ReadDigits(number);
     return number;
+}
+
+void ShownNumber::ReadDigits(TypedNumber& number) const
+{
+    number.negative = sign_ >= 0;
+    CollectDigits(start_, PointOrEnd(), number.integer);
+    CollectDigits(point_ >= 0 ? point_ + 1 : end_, end_, number.fraction);
 }
 
 bool ShownNumber::IsDigitAt(int32_t position) const
@@ -134,13 +139,11 @@ int32_t ShownNumber::CountDigits(int32_t from, int32_t to) const
     return count;
 }
 
-Text ShownNumber::CollectDigits(int32_t from, int32_t to) const
+// Between two places of the number.
+void ShownNumber::CollectDigits(int32_t from, int32_t to, Text& digits) const
 {
-    Text digits;
-    for (int32_t i = from; i < to; ++i)
-        if (IsDigitAt(i))
-            digits += At(text_, i);
-    return digits;
+    digits.assign(text_, static_cast<size_t>(from), static_cast<size_t>(std::max(to - from, 0)));
+    digits.erase(std::remove_if(digits.begin(), digits.end(), [](Char c) { return !IsDigit(c); }), digits.end());
 }
 
 }  // namespace zte

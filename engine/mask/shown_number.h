@@ -46,6 +46,7 @@ public:
     int32_t Sign() const { return sign_; }    // of the '-'; -1: none
     int32_t Point() const { return point_; }  // -1: none
     TypedNumber Digits() const;
+    void ReadDigits(TypedNumber& number) const;  // into one that is there
 
     bool IsInFraction(int32_t position) const { return point_ >= 0 && position > point_; }
     bool IsDigitAt(int32_t position) const;  // of the number, not of a literal
@@ -62,7 +63,7 @@ public:
 private:
     int32_t PointOrEnd() const { return point_ >= 0 ? point_ : end_; }
     int32_t CountDigits(int32_t from, int32_t to) const;
-    Text CollectDigits(int32_t from, int32_t to) const;
+    void CollectDigits(int32_t from, int32_t to, Text& digits) const;
 
     const NumberMask& mask_;
     const Text& text_;

@@ -56,6 +56,27 @@ int32_t IntegerOf(const Char* text)
     return static_cast<int32_t>(negative ? -number : number);
 }
 
+int32_t DigitsAt(const Text& text, int32_t position, int32_t count)
+{
+    constexpr int32_t kMost = 9;
+    if (position < 0 || count <= 0 || count > kMost || position > Length(text) - count)
+        return -1;
+    int32_t number = 0;
+    for (const Char* digit = text.c_str() + position; count > 0; --count, ++digit) {
+        if (!IsDigit(*digit))
+            return -1;
+        number = number * 10 + DigitValue(*digit);
+    }
+    return number;
+}
+
+// Fields hold digits but for what was set from outside.
+int32_t IntegerAt(const Text& text, int32_t position, int32_t count)
+{
+    const int32_t number = DigitsAt(text, position, count);
+    return number >= 0 ? number : IntegerOf(Slice(text, position, count));
+}
+
 Text NumberText(uint32_t number, int32_t digits)
 {
     Text text;

@@ -65,6 +65,12 @@ inline int32_t IntegerOf(const Text& text)
     return IntegerOf(text.c_str());
 }
 
+// The same of a place in a text, as Slice takes it.
+int32_t IntegerAt(const Text& text, int32_t position, int32_t count);
+
+// Of a place where nothing but digits stands, nine at most; -1 for all others.
+int32_t DigitsAt(const Text& text, int32_t position, int32_t count);
+
 // The number in decimal, with at least the count of digits (zeros in front).
 Text NumberText(uint32_t number, int32_t digits);
 

@@ -5,18 +5,6 @@ namespace zte {
 
 namespace {
 
-constexpr TokenKind TokenKindOf(Char c)
-{
-    switch (c) {
-    case '0': return TokenKind::Digit;
-    case '#': return TokenKind::SignificantDigit;
-    case '.': return TokenKind::Point;
-    case ',': return TokenKind::Group;
-    case '%': return TokenKind::Percent;
-    default: return TokenKind::Literal;
-    }
-}
-
 // Takes the tokens of a format in their order.
 class ShapeReader {
 public:
@@ -114,20 +102,6 @@ private:
 };
 
 }  // namespace
-
-Token NextToken(const Char*& format)
-{
-    if (*format == Char{})
-        return {TokenKind::End, Char{}};
-    if (*format != '\\') {
-        const Char c = *format++;
-        return {TokenKindOf(c), c};
-    }
-    ++format;
-    if (*format == Char{})
-        return {TokenKind::Invalid, Char{}};
-    return {TokenKind::Literal, *format++};
-}
 
 FormatShape ReadShape(const Char* format)
 {

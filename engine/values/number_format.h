@@ -22,8 +22,32 @@ constexpr bool IsPlaceholder(TokenKind kind)
     return kind == TokenKind::Digit || kind == TokenKind::SignificantDigit;
 }
 
+constexpr TokenKind TokenKindOf(Char c)
+{
+    switch (c) {
+    case '0': return TokenKind::Digit;
+    case '#': return TokenKind::SignificantDigit;
+    case '.': return TokenKind::Point;
+    case ',': return TokenKind::Group;
+    case '%': return TokenKind::Percent;
+    default: return TokenKind::Literal;
+    }
+}
+
 // Takes the token at format and moves format behind it; at the end it stays.
-Token NextToken(const Char*& format);
+inline Token NextToken(const Char*& format)
+{
+    if (*format == Char{})
+        return {TokenKind::End, Char{}};
+    if (*format != '\\') {
+        const Char c = *format++;
+        return {TokenKindOf(c), c};
+    }
+    ++format;
+    if (*format == Char{})
+        return {TokenKind::Invalid, Char{}};
+    return {TokenKind::Literal, *format++};
+}
 
 // What the placeholders of a format say together.
 struct FormatShape {

@@ -100,7 +100,7 @@ private:
             ShowSign();
             --digitsLeft_;
             output_.Put(digits_.IntegerDigit(digitsLeft_));
-            if (IsGrouped(shape_, settings_) && digitsLeft_ > 0 && digitsLeft_ % kGroupSize == 0)
+            if (isGrouped_ && digitsLeft_ > 0 && digitsLeft_ % kGroupSize == 0)
                 output_.Put(settings_.thousandChar);
         }
     }
@@ -134,6 +134,7 @@ private:
     const FormatShape& shape_;
     const Digits& digits_;
     const Settings& settings_;
+    const bool isGrouped_ = IsGrouped(shape_, settings_);
     const int32_t fractionDigits_ = std::max(digits_.FractionDigits(), shape_.forcedFraction);
     int32_t placesLeft_ = shape_.integerPlaces;  // integer placeholders still to come
     int32_t digitsLeft_ = std::max(digits_.IntegerDigits(), shape_.forcedInteger);  // integer digits still to be shown
