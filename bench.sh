@@ -9,10 +9,24 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")" && pwd)
 cd "$root"
 
+# Of a whole program.
 instructions()
 {
-    valgrind --tool=callgrind --callgrind-out-file=/dev/null "$program" --play "$1" "$2" 2>&1 |
-        sed -n 's/^==.*refs: *//p' | tr -d ,
+    valgrind --tool=callgrind --callgrind-out-file=/dev/null "$@" 2>&1 | sed -n 's/^==.*refs: *//p' | tr -d ,
+}
+
+# Instructions of one operation at each of the sizes, which are the columns.
+measure_scale()
+{
+    local name=$1 size few many
+    shift
+    printf '%-14s' "$name"
+    for size in "$@"; do
+        few=$(instructions build/native-release/bin/scale "$name" "$size" 10)
+        many=$(instructions build/native-release/bin/scale "$name" "$size" 110)
+        printf ' %11d' $(((many - few) / 100))
+    done
+    echo
 }
 
 measure_engine()
@@ -25,9 +39,17 @@ measure_engine()
     printf '\n%-12s %18s\n' "case" "instructions a key"
     for name in date month_name time string number decimal; do
         keys=$("$program" --play "$name" 0)
-        few=$(instructions "$name" 100)
-        many=$(instructions "$name" 1100)
+        few=$(instructions "$program" --play "$name" 100)
+        many=$(instructions "$program" --play "$name" 1100)
         printf '%-12s %18d\n' "$name" $(((many - few) / (1000 * keys)))
+    done
+    printf '\n%-14s %11s %11s %11s %11s   instructions, by characters\n' operation 1 10 100 255
+    for name in mask-create mask-key mask-set-get text-set-get; do
+        measure_scale "$name" 1 10 100 255
+    done
+    printf '\n%-14s %11s %11s %11s %11s %11s   instructions, by entries\n' operation 1 10 100 1000 10000
+    for name in table-create table-set-get table-step; do
+        measure_scale "$name" 1 10 100 1000 10000
     done
 }
 

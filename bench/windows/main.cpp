@@ -7,27 +7,19 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
+#include "bench/windows/clock.h"
 #include "bench/windows/form.h"
 #include "bench/windows/operations.h"
+#include "bench/windows/scale.h"
 
 namespace bench {
 namespace {
 
 constexpr int kRounds = 61;
 constexpr int kCounted = 5;  // bursts between two marks
-
-double Now()
-{
-    LARGE_INTEGER frequency;
-    LARGE_INTEGER ticks;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&ticks);
-    return 1e6 * static_cast<double>(ticks.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 void PlayBurst(const Side& side, int burst)
 {
@@ -42,13 +34,6 @@ double TimeBurst(const Side& side, int burst)
     const double begin = Now();
     PlayBurst(side, burst);
     return (Now() - begin) / burst;
-}
-
-double Median(std::vector<double> values)
-{
-    const auto middle = values.begin() + static_cast<ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
 }
 
 // The sides take turns, so that what slows the machine down for a while slows all of them.
@@ -103,6 +88,8 @@ int Run(bool counts)
     for (const Operation& operation : MakeOperations(form))
         counts ? Count(operation) : Time(operation);
     if (!counts) {
+        MeasureForms();
+        MeasureMixedForm();
         const HeapBytes bytes = MeasureHeap(form);
         std::printf("heap|%.0f|%.0f|%.2f\n", bytes.control, bytes.edit, bytes.control / bytes.edit);
     }

@@ -120,13 +120,19 @@ bool HasCutField(const EditInstance& edit)
     return false;
 }
 
+// Kept: a month at the end of the text is read without its last digit where it is asked whether there is a date at all.
+bool EndsWithMonth(const EditInstance& edit)
+{
+    return edit.table->count > 0 && edit.table->positions[edit.table->count - 1].kind == zte::FieldKind::Month;
+}
+
 bool ReadsWhatItShows(const EditInstance& edit)
 {
     if (!ShowsValues(edit))
         return false;
     if (zte::IsNumeric(edit.dataType))
         return IsTypedNumber(edit);
-    if (HasCutField(edit))
+    if (HasCutField(edit) || EndsWithMonth(edit))
         return false;
     return !zte::HasAmPmField(edit) || (CanTellHalves(*edit.settings) && !ShowsHalfWithoutHour(edit));
 }
