@@ -113,12 +113,13 @@ struct Face {
 // Light from the upper left.
 void AddHighlight(Polylines& lines, const Face& face, int32_t width, int32_t height)
 {
-    if (!face.pressed)
-        lines.Add(face.origin, {
-                                   {1,         height - 2},
-                                   {1,         1         },
-                                   {width - 2, 1         }
-        });
+    if (face.pressed)
+        return;
+    lines.Add(face.origin, {
+                               {1,         height - 2},
+                               {1,         1         },
+                               {width - 2, 1         }
+    });
 }
 
 void AddShadow(Polylines& lines, const Face& face, int32_t width, int32_t height)

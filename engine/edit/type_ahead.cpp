@@ -33,12 +33,12 @@ void TypeAhead(EditInstance& edit, Char typed)
     const CodeTableEntry* entry = FindFrom(cycle, services::Next(cycle), typed);
     if (!entry)
         entry = FindFrom(cycle, services::First(cycle), typed);
-    if (entry)
-        AsUserChange(edit, [&] {
-            ShowText(edit, Text(entry->display).c_str());
-        });  // a copy: the table may be replaced meanwhile
-    else
+    if (!entry) {
         services::Seek(cycle, former);
+        return;
+    }
+    const Text chosen = entry->display;  // a copy: the table may be replaced meanwhile
+    AsUserChange(edit, [&] { ShowText(edit, chosen.c_str()); });
 }
 
 }  // namespace zte

@@ -1,6 +1,8 @@
 // Tests of ASCII characters that never depend on a host's locale. Letters beyond ASCII and their cases are the settings' business.
 #pragma once
 
+#include <type_traits>
+
 #include "engine/text/text.h"
 
 namespace zte {
@@ -39,7 +41,7 @@ constexpr bool IsSpace(Char c)
 // Characters that no mask position takes.
 constexpr bool IsControl(Char c)
 {
-    const auto code = static_cast<uint32_t>(c);
+    const auto code = static_cast<std::make_unsigned_t<Char>>(c);
     return code < 0x20 || code == 0x7F;
 }
 

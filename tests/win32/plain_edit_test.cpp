@@ -302,8 +302,9 @@ private:
         SendMessageA(edit_, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
         std::string look =
             " shows '" + TextOf(edit_) + "' " + std::to_string(start) + "-" + std::to_string(end) + " state";
-        for (const UINT question :
-             {EM_GETMODIFY, EM_CANUNDO, EM_GETLIMITTEXT, EM_GETLINECOUNT, EM_GETMARGINS, EM_GETPASSWORDCHAR})
+        constexpr UINT kQuestions[] = {EM_GETMODIFY,    EM_CANUNDO,    EM_GETLIMITTEXT,
+                                       EM_GETLINECOUNT, EM_GETMARGINS, EM_GETPASSWORDCHAR};
+        for (const UINT question : kQuestions)
             look += Answer(question);
         look += Answer(EM_LINEINDEX, static_cast<WPARAM>(-1)) + Answer(EM_LINELENGTH, static_cast<WPARAM>(-1)) +
                 Answer(WM_GETDLGCODE) + (withPlaces_ ? Places(start) : "");
