@@ -1,4 +1,5 @@
 // The library's control without a window: the engine over a field in memory.
+#include "raw_values.h"
 #include "subject.h"
 
 #include "engine/format/data.h"
@@ -16,41 +17,9 @@ using zte::FieldEvent;
 
 constexpr int kControlKey = 0x11;
 
-DateTimeValue Raw(const Stamp& stamp)
-{
-    DateTimeValue raw = {};
-    raw.microsecond = static_cast<uint32_t>(stamp.microsecond);
-    raw.year = static_cast<int16_t>(stamp.year);
-    raw.month = static_cast<int8_t>(stamp.month);
-    raw.day = static_cast<int8_t>(stamp.day);
-    raw.hour = static_cast<int8_t>(stamp.hour);
-    raw.minute = static_cast<int8_t>(stamp.minute);
-    raw.second = static_cast<int8_t>(stamp.second);
-    return raw;
-}
-
-Stamp StampOf(const DateTimeValue& raw)
-{
-    Stamp stamp;
-    stamp.microsecond = static_cast<int>(raw.microsecond);
-    stamp.year = raw.year;
-    stamp.month = raw.month;
-    stamp.day = raw.day;
-    stamp.hour = raw.hour;
-    stamp.minute = raw.minute;
-    stamp.second = raw.second;
-    return stamp;
-}
-
 DateTimeValue TellToday()
 {
     return Raw(Today());
-}
-
-uint32_t OptionsOf(const Config& config)
-{
-    return (config.autoskip ? ZTEO_AUTOSKIP : 0u) | (config.increment != 0 ? ZTEO_SPIN : 0u) |
-           (config.codePick ? ZTEO_CODE_PICK : 0u) | (config.codeDisplay ? ZTEO_CODE_DISPLAY : 0u);
 }
 
 // Empty conventions count as absent ones.
