@@ -64,5 +64,5 @@ readCases(process.argv[2]).forEach(tellTakenWrong);
 console.log();
 for (const difference of differences)
     console.log(`\\* ${difference}`);
-const spreads = [...figures.values()].filter(({ rates }) => rates.length > 1).map(({ rates }) => Math.max(...rates) / Math.min(...rates));
+const spreads = [...figures.values()].filter(({ rates }) => rates[0] > 0).map(({ rates }) => Math.max(...rates) / Math.min(...rates));
 console.log(`The fastest round of a figure was ${median(spreads).toFixed(1)} times as fast as its slowest (median of all figures).`);
