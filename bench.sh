@@ -5,6 +5,7 @@
 #                                 trips to the window server
 #        ./bench.sh --native      the engine on this machine: times by Google Benchmark, and instructions per key as callgrind counts them,
 #                                 which are the same in every run, so that a change can be compared exactly
+#        ./bench.sh --peers       the engine on this machine beside a formatter and two mask libraries of the web (bench/peers)
 set -euo pipefail
 root=$(cd "$(dirname "$0")" && pwd)
 cd "$root"
@@ -98,6 +99,7 @@ measure_windows()
 
 case ${1:-both} in
 --native) measure_engine ;;
+--peers) bench/peers/run.sh ;;
 x86 | x64 | both)
     tools/install_deps.sh
     presets=${1:-both}
@@ -108,7 +110,7 @@ x86 | x64 | both)
     done
     ;;
 *)
-    echo "usage: ./bench.sh [x86 | x64 | --native]" >&2
+    echo "usage: ./bench.sh [x86 | x64 | --native | --peers]" >&2
     exit 2
     ;;
 esac

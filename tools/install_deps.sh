@@ -1,9 +1,10 @@
 #!/bin/bash
 # Installs what building, testing and the demo need on Debian 12; does nothing when all is there.
-# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --coverage]
+# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --peers | --coverage]
 #     --clang      the second compiler and the code checkers as well
 #     --fuzz       the fuzzers of clang; --mutate  what tools/mutate needs
 #     --bench      what measuring the engine needs, --coverage what counting covered lines needs
+#     --peers      what measuring the engine beside others of its kind needs
 set -euo pipefail
 
 # package:file that shows it is there
@@ -34,6 +35,9 @@ case ${1:-} in
     packages+=(libclang-rt-14-dev:/usr/lib/llvm-14/lib/clang/14.0.6/lib/linux/libclang_rt.fuzzer-x86_64.a)
     ;;
 --bench) packages+=(libbenchmark-dev:/usr/include/benchmark/benchmark.h valgrind:valgrind) ;;
+--peers)
+    packages+=(libbenchmark-dev:/usr/include/benchmark/benchmark.h libicu-dev:/usr/include/unicode/utypes.h nodejs:node npm:npm)
+    ;;
 --coverage) packages+=(gcovr:gcovr) ;;
 --mutate) packages+=(clang:clang++ lld:ld.lld python3-clang:/usr/lib/python3/dist-packages/clang/cindex.py) ;;
 esac
