@@ -94,7 +94,15 @@ measure_windows()
             before = $2
             printf "%-32s %-20s %10.1f %8s %8s\n", first ? $2 : "", $3, $4, first ? "" : $5, trips[$2 "|" $3]
         }
-        $1 == "heap" { printf "%-32s control %s, edit %s, ratio %s\n", "heap bytes", $2, $3, $4 }' "$counts" "$times"
+        $1 == "scale" && !forms++ {
+            printf "\n%-32s %8s %8s %8s %8s %10s\n", "controls on a form", "made", "filled", "key", "set, get", "destroyed"
+        }
+        $1 == "scale" { printf "%-32s %8s %8s %8s %8s %10s\n", $2, $3, $4, $5, $6, $7 }
+        $1 == "form" { printf "\n%-32s controls %s, date pickers %s, ratio %s\n", "200 on a form, milliseconds", $2, $3, $4 }
+        $1 == "heap" {
+            own = $2 - $3
+            printf "%-32s edit %s, control %s: of its own %s, %.2f x the edit\n", "heap bytes", $3, $2, own, own / $3
+        }' "$counts" "$times"
 }
 
 case ${1:-both} in

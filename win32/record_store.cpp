@@ -136,7 +136,6 @@ void FreeRecord(EditInstance& edit)
 
 bool AttachEditInstance(HWND hwnd, EditInstance* edit)
 {
-    DetachEditInstance(hwnd);
     HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, sizeof(EditInstance*));
     {
         const LockedBlock locked(block);

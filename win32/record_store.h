@@ -14,7 +14,7 @@ EditInstance* NewRecord(HWND hwnd, const EditInitParams& params);
 // Frees the record, which is detached.
 void FreeRecord(EditInstance& edit);
 
-// Stores the record under the window's property; a block already there is freed first. False when the system refuses.
+// Stores the record under the property of a window that has none. False when the system refuses.
 bool AttachEditInstance(HWND hwnd, EditInstance* edit);
 
 // The record of a window, or null.
