@@ -136,7 +136,10 @@ void MemoryField::Put(const Char* text, int32_t count, bool canUndo)
         Remember(selection, count);
     else if (count > 0 || !selection.IsEmpty())
         ForgetUndo();
-    text_.replace(start, static_cast<size_t>(selection.end) - start, text, static_cast<size_t>(count));
+    if (count == selection.end - selection.start)
+        std::copy_n(text, count, text_.begin() + selection.start);
+    else
+        text_.replace(start, static_cast<size_t>(selection.end) - start, text, static_cast<size_t>(count));
     FoldCase(start, static_cast<size_t>(count));
     MoveCaret(selection.start + count, false);
     modified_ = true;

@@ -74,7 +74,7 @@ void MoveOnWhenFull(EditInstance& edit)
         edit.field->NotifyFull();
 }
 
-void SkipLiterals(EditInstance& edit, const Text& text, int32_t position)
+bool SkipLiterals(EditInstance& edit, const Text& text, int32_t position)
 {
     const PositionsUnder positions(edit, text);
     const int32_t end = ShownLength(edit, text);
@@ -82,10 +82,11 @@ void SkipLiterals(EditInstance& edit, const Text& text, int32_t position)
     while (next < end && !positions.MayTypeAt(next))
         ++next;
     if (next >= end || next == position)
-        return;
+        return next < end;
     edit.carriedFrom = position;
     edit.carriedTo = next;
     PlaceCaret(edit, next);
+    return true;
 }
 
 CarriedOver TakeCarriedOver(EditInstance& edit)

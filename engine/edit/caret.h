@@ -18,9 +18,9 @@ void MoveCaret(EditInstance& edit, Key key, KeyData keyData, bool shift);
 // capitals are typed with it.
 void MoveOnWhenFull(EditInstance& edit);
 
-// Puts the caret, which stands at position, behind the literals there, and remembers them as passed by typing. It stays where no
-// position that may be typed at follows.
-void SkipLiterals(EditInstance& edit, const Text& text, int32_t position);
+// Puts the caret, which stands at position, behind the literals there, and remembers them as passed by typing. False where no position
+// that may be typed at follows: it stays.
+bool SkipLiterals(EditInstance& edit, const Text& text, int32_t position);
 
 // The literals that typing has just carried the caret over (from equals to: none, the caret stands behind a digit just
 // inserted); forgotten by the call.

@@ -99,11 +99,7 @@ int32_t Place(EditInstance& edit, int32_t position, Char typed)
 // Past the literals to the next position; where none follows the field is full and the focus may move on.
 void GoOn(EditInstance& edit, const Text& text, int32_t caret)
 {
-    if (caret < ShownLength(edit, text) && MayTypeAt(edit, text, caret))
-        return;
-    if (StepsToEditable(edit, text, caret - 1, Direction::Forward) != 0)
-        SkipLiterals(edit, text, caret);
-    else
+    if (!SkipLiterals(edit, text, caret))
         MoveOnWhenFull(edit);
 }
 

@@ -213,6 +213,7 @@ struct SkipRow {
     const char* text;
     int32_t position;
     int32_t caretSet;  // -1: left where it is
+    bool follows;      // a position that may be typed at
 };
 void PrintTo(const SkipRow& row, std::ostream* out)
 {
@@ -227,7 +228,7 @@ ROW_TEST(LiteralsSkipped, LeadToTheNextPosition)
     Spied spied(row.setup);
     spied.Show(row.text);
     const Text text = spied.Edit().ReadText();
-    SkipLiterals(spied.Record(), text, row.position);
+    EXPECT_EQ(SkipLiterals(spied.Record(), text, row.position), row.follows);
     const std::string at = std::to_string(row.caretSet);
     EXPECT_EQ(spied.Spy().Calls(), row.caretSet < 0 ? Calls{} : Calls{"Select " + at + "-" + at});
     EXPECT_EQ(spied.Record().carriedTo, std::max(row.caretSet, 0));
@@ -236,12 +237,12 @@ ROW_TEST(LiteralsSkipped, LeadToTheNextPosition)
 
 // clang-format off
 const SkipRow kSkips[] = {
-    {"OneLiteral",              kDate,             "07/04/95|",   2, 3 },
-    {"SeveralLiterals",         kPhone,            "(555) 123|",  4, 6 },
-    {"AtADigitNone",            kDate,             "07/04/95|",   3, -1},
-    {"BehindTheEndNone",        kDate,             "07/04/95|",   8, -1},
-    {"LiteralsAtTheEnd",        {"## km", DT_STRING}, "12 km|",   2, -1},
-    {"OfAnAmPmField",           {"HH:MM AM/PM", DT_TIME}, "02:30 PM|", 5, 6},
+    {"OneLiteral",              kDate,             "07/04/95|",   2, 3,  true },
+    {"SeveralLiterals",         kPhone,            "(555) 123|",  4, 6,  true },
+    {"AtADigitNone",            kDate,             "07/04/95|",   3, -1, true },
+    {"BehindTheEndNone",        kDate,             "07/04/95|",   8, -1, false},
+    {"LiteralsAtTheEnd",        {"## km", DT_STRING}, "12 km|",   2, -1, false},
+    {"OfAnAmPmField",           {"HH:MM AM/PM", DT_TIME}, "02:30 PM|", 5, 6, true},
 };
 // clang-format on
 TEST_ROWS(Rows, LiteralsSkipped, kSkips);
