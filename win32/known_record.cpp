@@ -22,7 +22,7 @@ public:
 
 bool IsLast(HWND hwnd)
 {
-    return lastRecord && (hwnd == lastControl || hwnd == lastRecord->hwndSpin);
+    return hwnd && lastRecord && (hwnd == lastControl || hwnd == lastRecord->hwndSpin);
 }
 
 }  // namespace

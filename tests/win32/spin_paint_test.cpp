@@ -608,6 +608,18 @@ TEST_F(SpinPaint, OddRectanglesAndContextsAreHarmless)
     EXPECT_EQ(Difference(canvas_, picture), "") << "all is as before";
 }
 
+TEST_F(SpinPaint, NoWindowIsNotTheControlWithoutASpinThatWasUsedLast)
+{
+    Config config;
+    config.mask = "MM/DD/YY";
+    config.type = DT_DATE;
+    Make(config);
+    Type("1");
+    const RECT rect = RectOfHeight(20);
+    ZTE_PaintSpin(nullptr, canvas_.dc(), &rect);
+    EXPECT_EQ(Difference(canvas_, Expected(kSide, kSide)), "");
+}
+
 TEST_F(SpinPaint, AWindowThatIsNoControlIsNotPainted)
 {
     const RECT rect = RectOfHeight(20);
