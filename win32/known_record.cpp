@@ -35,7 +35,7 @@ EditInstance* KnownRecord(HWND hwnd)
             return lastRecord;
     }
     EditInstance* edit = GetEditInstance(hwnd);
-    if (edit)
+    if (edit && IsOnThisThread(hwnd))
         RememberRecord(static_cast<HWND>(edit->hwnd), *edit);
     return edit;
 }

@@ -62,11 +62,6 @@ Control& ControlOf(EditInstance& edit)
     return reinterpret_cast<Control&>(edit);
 }
 
-bool IsOnThisThread(HWND hwnd)
-{
-    return GetWindowThreadProcessId(hwnd, nullptr) == GetCurrentThreadId();
-}
-
 // The spin goes, and the text has its room. False when the control went with it.
 bool TakeSpinAway(EditInstance& edit)
 {
@@ -123,6 +118,11 @@ EditInstance* NewRecord(HWND hwnd, const EditInitParams& params)
     WatchHeap(edit.heap, control->heapEnd, LetGoOfHeap);
     RememberRecord(hwnd, edit);
     return &edit;
+}
+
+bool IsOnThisThread(HWND hwnd)
+{
+    return GetWindowThreadProcessId(hwnd, nullptr) == GetCurrentThreadId();
 }
 
 void FreeRecord(EditInstance& edit)

@@ -20,6 +20,9 @@ bool AttachEditInstance(HWND hwnd, EditInstance* edit);
 // The record of a window, or null.
 EditInstance* GetEditInstance(HWND hwnd);
 
+// Whether the window's messages come to this thread: on another one its control may end at any time.
+bool IsOnThisThread(HWND hwnd);
+
 // Removes the property and its block; the record itself, which is not freed, or null.
 EditInstance* DetachEditInstance(HWND hwnd);
 
