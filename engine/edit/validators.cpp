@@ -1,8 +1,6 @@
 // The validators of single characters, and the table of all kinds.
 #include "engine/edit/validators.h"
 
-#include <iterator>
-
 #include "engine/services.h"
 #include "engine/text/ascii.h"
 
@@ -40,20 +38,12 @@ Verdict ValidateLowerCase(const Entry& entry)
     return Verdict::Placing(services::ToLower(entry.typed, *entry.edit.settings));
 }
 
-Verdict Refuse(const Entry& /*entry*/)
-{
-    return Verdict::Refused();
-}
-
 struct ValidatorRow {
     FieldKind kind;
     Verdict (*validate)(const Entry&);
 };
 
-// In the order of the kinds.
 constexpr ValidatorRow kValidators[] = {
-    {FieldKind::Literal,      Refuse                },
-    {FieldKind::NumberDigit,  Refuse                },
     {FieldKind::Digit,        ValidateDigit         },
     {FieldKind::Alphanumeric, ValidateAlphanumeric  },
     {FieldKind::Any,          ValidateAny           },
@@ -67,17 +57,7 @@ constexpr ValidatorRow kValidators[] = {
     {FieldKind::Minute,       ValidateMinuteOrSecond},
     {FieldKind::Second,       ValidateMinuteOrSecond},
     {FieldKind::Fraction,     ValidateDigit         },
-    {FieldKind::AmPm,         Refuse                },
 };
-
-constexpr bool StandInOrder()
-{
-    for (size_t i = 0; i < std::size(kValidators); ++i)
-        if (static_cast<size_t>(kValidators[i].kind) != i)
-            return false;
-    return true;
-}
-static_assert(StandInOrder(), "each kind finds its validator by its number");
 
 }  // namespace
 
@@ -86,7 +66,10 @@ Verdict Validate(const Entry& entry)
     if (IsControl(entry.typed))
         return Verdict::Refused();
     const FieldKind kind = PositionAt(entry.edit, entry.text, entry.position).kind;
-    return kValidators[static_cast<size_t>(kind)].validate(entry);
+    for (const ValidatorRow& row : kValidators)
+        if (row.kind == kind)
+            return row.validate(entry);
+    return Verdict::Refused();
 }
 
 }  // namespace zte
