@@ -159,7 +159,8 @@ EditInstance* DetachEditInstance(HWND hwnd)
     HGLOBAL block = RemovePropA(hwnd, kRecordProperty);
     ForgetRecord(hwnd);
     EditInstance* edit = RecordIn(block);
-    GlobalFree(block);
+    if (block)
+        GlobalFree(block);
     return edit;
 }
 
