@@ -14,8 +14,7 @@ namespace {
 // Kept: a month at the end of the text is read without its last character.
 int32_t MonthLength(const Text& text, int32_t start, int32_t length)
 {
-    const int32_t shown = std::clamp(Length(text) - start, 0, length);
-    return shown > 0 && start + shown == Length(text) ? shown - 1 : shown;
+    return std::min(length, Length(text) - 1 - start);
 }
 
 }  // namespace

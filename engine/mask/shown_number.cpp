@@ -12,7 +12,7 @@ namespace {
 bool StandsAt(const Text& text, int32_t position, const MaskLiterals& literals)
 {
     const auto length = static_cast<size_t>(literals.length);
-    return length == 0 || text.compare(static_cast<size_t>(position), length, literals.text, length) == 0;
+    return text.compare(static_cast<size_t>(position), length, literals.text, length) == 0;
 }
 
 bool IsLiteral(const Token& token)
@@ -76,7 +76,7 @@ void ShownNumber::ReadDigits(TypedNumber& number) const
 {
     number.negative = sign_ >= 0;
     CollectDigits(start_, PointOrEnd(), number.integer);
-    CollectDigits(point_ >= 0 ? point_ + 1 : end_, end_, number.fraction);
+    CollectDigits(PointOrEnd(), end_, number.fraction);
 }
 
 bool ShownNumber::IsDigitAt(int32_t position) const
@@ -142,7 +142,7 @@ int32_t ShownNumber::CountDigits(int32_t from, int32_t to) const
 // Between two places of the number.
 void ShownNumber::CollectDigits(int32_t from, int32_t to, Text& digits) const
 {
-    digits.assign(text_, static_cast<size_t>(from), static_cast<size_t>(std::max(to - from, 0)));
+    digits.assign(text_, static_cast<size_t>(from), static_cast<size_t>(to - from));
     digits.erase(std::remove_if(digits.begin(), digits.end(), [](Char c) { return !IsDigit(c); }), digits.end());
 }
 

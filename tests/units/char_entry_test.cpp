@@ -244,6 +244,9 @@ TEST(Verdicts, AreGivenByTheFieldAndWhatStandsInIt)
         {"MM/DD/YYYY", DT_DATE, "02/29/1996", 9, '5', nullptr, false},
         {"MM/DD/YYYY", DT_DATE, "02/29/1904", 9, '0', "0", false},  // the year meant is taken for 1940 ...
         {"MM/DD/YYYY", DT_DATE, "02/29/1900", 9, '4', "4", false},  // ... and for 1904
+        {"MM/DD/YYYY", DT_DATE, "02/29/1910", 9, '2', "2", false},  // ... and for 1912
+        {"MM/DD/YY", DT_DATE, "02/29/88", 7, '4', "4", false},
+        {"MM/DD/YY", DT_DATE, "02/29/88", 7, '2', nullptr, false},
         // the month, and the name of one, with a day from outside that no month has
         {"DD/MM/YY", DT_DATE, "99/10/95", 3, '0', "0", false},
         {"DD/MM/YY", DT_DATE, "99/01/95", 4, '1', "",  false},

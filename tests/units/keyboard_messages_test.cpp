@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/edit/deletion.h"
+#include "engine/edit/key_down.h"
 #include "engine/edit/keyboard.h"
 #include "tests/support/rows.h"
 #include "tests/units/field_spy.h"
@@ -25,6 +26,19 @@ constexpr SpiedSetup kMaskedCodeField = {"XXXXX", DT_STRING, kCodes, ZTEO_SPIN |
 constexpr SpiedSetup kPickList = {"", DT_STRING, kCodes, ZTEO_SPIN | ZTEO_CODE_DISPLAY | ZTEO_CODE_PICK};
 constexpr SpiedSetup kMaskedPickList = {"XXXXX", DT_STRING, kCodes, ZTEO_SPIN | ZTEO_CODE_DISPLAY | ZTEO_CODE_PICK};
 constexpr SpiedSetup kPlainEditWithPick = {"XXXXX", DT_STRING, kCodes, ZTEO_SPIN | ZTEO_CODE_PICK};
+
+// ---- which keys matter on their way down
+
+TEST(KeyDowns, MatterWhereTheyMoveDeleteOrAreMarkedByTheHost)
+{
+    for (uint32_t key = 0; key < 0x100; ++key) {
+        const bool moves = key >= KEY_PAGE_UP && key <= KEY_DELETE;
+        EXPECT_EQ(ConcernsKeyDown(key), key == KEY_BACKSPACE || moves) << key;
+    }
+    EXPECT_FALSE(ConcernsKeyDown(0x8000 + kLetterA));
+    EXPECT_TRUE(ConcernsKeyDown(0x10000 + kLetterA));
+    EXPECT_TRUE(ConcernsKeyDown(KEY_TAB << 16));
+}
 
 // ---- replies
 

@@ -292,6 +292,7 @@ TEST_F(MaskInForce, TheWordsOfAPictureArePlainLiteralsFromTheFirstToTheLast)
 {
     Assign(settings_.shortDate, FromAscii("'d'd.M.yyyy'd'"));
     const EditInstance& record = Make("[date]", DT_DATE);
+    EXPECT_FALSE(PositionOf(record, Text(), -1).exists);
     EXPECT_TRUE(PositionOf(record, Text(), 0).IsPlainLiteral());
     EXPECT_TRUE(PositionOf(record, Text(), 11).IsPlainLiteral());
 }
@@ -330,6 +331,12 @@ TEST_F(MaskInForce, FieldsMoveBehindAHalfThatBeginsTheMask)
     const Text text = FromAscii("AM 05:30");
     EXPECT_EQ(PositionOf(record, text, 3).kind, FieldKind::Hour);
     EXPECT_EQ(ShownLength(record, text), 8);
+}
+
+TEST(ShownLengthOf, AControlThatHasNoMaskYetIsNothing)
+{
+    const EditInstance record{};
+    EXPECT_EQ(ShownLength(record, FromAscii("abc")), 0);
 }
 
 // ---- The half of the day ----

@@ -53,6 +53,51 @@ TEST(WholeNumbers, StandBehindWhiteSpaceOfEveryKind)
     EXPECT_EQ(IntegerOf(" \t\n\v\f\r-7x"), -7);
 }
 
+TEST(WholeNumbers, AreWrittenWithAllTheirDigits)
+{
+    EXPECT_EQ(NumberText(0, 0), "");
+    EXPECT_EQ(NumberText(7, 3), "007");
+    EXPECT_EQ(NumberText(1234, 2), "1234");
+}
+
+struct PlaceCase {
+    const char* text;
+    int32_t position;
+    int32_t count;
+    int32_t digits;   // DigitsAt
+    int32_t integer;  // IntegerAt, of places that are not negative
+};
+
+constexpr PlaceCase kPlaces[] = {
+    {"0712",        0,  2,  7,         7        },
+    {"0712",        2,  2,  12,        12       },
+    {"0712",        2,  1,  1,         1        },
+    {"0712",        3,  2,  -1,        2        }, // not so much is left
+    {"0712",        4,  1,  -1,        0        },
+    {"0712",        0,  0,  -1,        0        },
+    {"0712",        -1, 2,  -1,        0        },
+    {"07/2",        1,  2,  -1,        7        },
+    {" 712",        0,  2,  -1,        7        },
+    {"-712",        0,  2,  -1,        -7       },
+    {"123456789",   0,  9,  123456789, 123456789},
+    {"9999999999",  0,  10, -1,        INT32_MAX},
+    {"00000000005", 0,  11, -1,        5        },
+};
+
+TEST(DigitsAtAPlace, AreReadWhereNothingElseStands)
+{
+    for (const PlaceCase& row : kPlaces)
+        EXPECT_EQ(DigitsAt(row.text, row.position, row.count), row.digits) << row.text << ' ' << row.position;
+}
+
+TEST(TheIntegerAtAPlace, IsReadAsFarAsItGoes)
+{
+    for (const PlaceCase& row : kPlaces)
+        if (row.position >= 0) {
+            EXPECT_EQ(IntegerAt(row.text, row.position, row.count), row.integer) << row.text << ' ' << row.position;
+        }
+}
+
 TEST(Writing, TerminatesTheBufferAtOnceAndAfterEveryCharacter)
 {
     Char buffer[4] = {'x', 'x', 'x', 'x'};

@@ -357,6 +357,7 @@ const FieldCase kMonthFieldRows[] = {
     {"Blank",                     "MM/DD/YY",    "00/00/00",    0 },
     {"AtTheEndItLosesItsLast",    "YY/MM",       "95/12",       1 },
     {"ANameAtTheEndLosesItsLast", "YY/MMM",      "95/JUL",      0 },
+    {"CutInTheMonth",             "DD.MM.YYYY",  "04.1",        0 },
     {"AShortText",                "DD.MM.YYYY",  "04",          0 },
     {"AnEmptyText",               "MM/DD/YY",    "",            0 },
 };
