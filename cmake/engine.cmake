@@ -18,7 +18,7 @@ function(zt_add_floor name)
 endfunction()
 
 set(zt_value_folders engine/text engine/values)
-set(zt_editing_folders engine/mask engine/format engine/spin engine/edit)
+set(zt_editing_folders engine/mask engine/format engine/spin engine/edit engine/modern)
 if(WIN32)
     zt_add_floor(zt_values ${zt_value_folders})
     zt_add_floor(zt_editing ${zt_editing_folders})

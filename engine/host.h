@@ -85,6 +85,13 @@ public:
     virtual void Beep() = 0;
     virtual void NotifyFull() = 0;  // the last position was filled, or the end reached by Right: the focus may move on
     virtual void NotifyStepped() = 0;  // the spin has made a step
+    // Tells the parent that the user's act was refused: a ZTR_ reason, the place, the character typed (0: none). True when the parent
+    // does without the beep.
+    virtual bool NotifyRejected(int32_t reason, int32_t position, Char character) = 0;
+    virtual void NotifyState(int32_t was, int32_t is) = 0;  // ZTS_ values
+
+    // Of any clock, and going round: only differences count.
+    virtual uint32_t Milliseconds() const = 0;
 
 protected:
     ~Field() = default;

@@ -54,6 +54,23 @@ extern "C" {
 #define ZTEDIT_CLASS "ZTEDIT050"
 #define ZTN_AUTOSKIP 0x0903
 
+/* What the parent of a modern control hears as WM_NOTIFY; see ZTE_SetModern. It may destroy the control in either. */
+#define ZTN_REJECTED 0x0904 /* an act of the user was refused: lParam points to a ZTNotifyRejected. Not 0: no beep */
+#define ZTN_STATECHANGED 0x0905 /* lParam points to a ZTNotifyState */
+
+typedef struct ZTNotifyRejected {
+    NMHDR hdr;
+    int32_t reason;    /* ZTR_ value */
+    int32_t position;  /* the caret, the start of the selection, or in a pasted text the offset of what was refused */
+    int32_t character; /* the character typed; 0 for other acts */
+} ZTNotifyRejected;
+
+typedef struct ZTNotifyState {
+    NMHDR hdr;
+    int32_t was; /* ZTS_ values */
+    int32_t is;
+} ZTNotifyState;
+
 /* Configures a new control: the creation parameter of CreateWindowEx, or given to ZTE_Init. Only read; everything in it is
  * borrowed for the call except heap, which is to outlive the control. */
 typedef struct EditInitParams {

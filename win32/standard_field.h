@@ -46,6 +46,9 @@ public:
     void Beep() override;
     void NotifyFull() override;
     void NotifyStepped() override;
+    bool NotifyRejected(int32_t reason, int32_t position, Char character) override;
+    void NotifyState(int32_t was, int32_t is) override;
+    uint32_t Milliseconds() const override;
 
     // True for a message to the control that the library sends itself, and once for each: what a host sends meanwhile is its own.
     static bool TakeOwnMessage(HWND hwnd);
@@ -60,6 +63,9 @@ public:
 
 private:
     HWND Window() const { return static_cast<HWND>(edit_.hwnd); }
+
+    template <typename Notification>
+    LRESULT Tell(Notification& notification, UINT code);
 
     EditInstance& edit_;
     bool redrawOff_ = false;  // redrawing was turned off by the library

@@ -1,0 +1,60 @@
+// Classic and modern editing: two readings of the same keys, messages and calls, each a table of functions. Whoever routes takes a
+// control's table and asks no further.
+#pragma once
+
+#include "engine/record.h"
+#include "engine/reply.h"
+
+namespace zte {
+
+struct Editing {
+    // ---- keys and characters, as the messages carry them
+    Reply (*keyDown)(EditInstance&, uint32_t key, KeyData);
+    Reply (*keyUp)(EditInstance&, uint32_t key);
+    Reply (*character)(EditInstance&, uint32_t typed, KeyData);
+
+    // ---- the other acts of a user. Not kept: they are the field's own.
+    Reply (*paste)(EditInstance&);
+    Reply (*cut)(EditInstance&);    // WM_CUT
+    Reply (*clear)(EditInstance&);  // WM_CLEAR
+    Reply (*undo)(EditInstance&);   // the result tells whether anything was undone
+    Reply (*redo)(EditInstance&);
+    // A wheel turned, upwards where notches is positive; kept where it stepped.
+    Reply (*wheel)(EditInstance&, int32_t notches);
+    void (*step)(EditInstance&, bool up, bool repeated);  // by an arrow of the spin; repeated: it is still held
+    // A mouse button: before the field handles its release, whether the caret is to be put right afterwards; and that.
+    bool (*beforeClick)(EditInstance&);
+    bool (*afterClick)(EditInstance&);
+    Reply (*doubleClick)(EditInstance&, int32_t position);
+    void (*focusLost)(EditInstance&);
+
+    // ---- what a program does to an edit control
+    void (*beforeTextSet)(EditInstance&);  // WM_SETTEXT, EM_SETSEL: not the library's own
+    void (*afterTextSet)(EditInstance&);   // the field has done it
+    Reply (*replaceSelection)(EditInstance&, const Char* text, bool canUndo);  // EM_REPLACESEL
+    Reply (*canUndo)(EditInstance&);                                           // EM_CANUNDO
+    Reply (*emptyUndo)(EditInstance&);                                         // EM_EMPTYUNDOBUFFER
+
+    // ---- the library's own calls
+    int32_t (*setMask)(EditInstance&, const Char* mask, int32_t dataType);
+    int32_t (*setData)(EditInstance&, const void*);
+    int32_t (*setDataString)(EditInstance&, const Char*);
+    void* (*getData)(const EditInstance&);
+    void (*setSpin)(EditInstance&, uint32_t increment, const Char* range, const Char* codeTable, uint32_t style);
+};
+
+const Editing& EditingOf(const EditInstance& edit);
+
+// Turns modern editing on or off: what the positions hold stays, laid anew. True when it was on.
+bool SetModern(EditInstance& edit, bool on);
+
+// ZTS_ value, of controls of both kinds.
+int32_t StateOf(const EditInstance& edit);
+
+// The canonical text of what is shown; false when there is none: an incomplete or invalid value. Of controls of both kinds.
+bool CanonicalText(const EditInstance& edit, Text& text);
+
+// Shows a text given as data, canonical or as a user might paste it. 0, or a ZTR_ reason: then nothing changes. null: the empty value.
+int32_t TrySetDataString(EditInstance& edit, const Char* text);
+
+}  // namespace zte
