@@ -30,7 +30,8 @@ struct Editing {
 
     // ---- what a program does to an edit control
     void (*beforeTextSet)(EditInstance&);  // WM_SETTEXT, EM_SETSEL: not the library's own
-    void (*afterTextSet)(EditInstance&);   // the field has done it
+    void (*afterTextSet)(EditInstance&);   // the field has done it: the text
+    void (*afterSelect)(EditInstance&);    // ... the selection
     Reply (*replaceSelection)(EditInstance&, const Char* text, bool canUndo);  // EM_REPLACESEL
     Reply (*canUndo)(EditInstance&);                                           // EM_CANUNDO
     Reply (*emptyUndo)(EditInstance&);                                         // EM_EMPTYUNDOBUFFER
@@ -45,6 +46,11 @@ struct Editing {
 
 const Editing& EditingOf(const EditInstance& edit);
 
+// A control that is being created with ZTEO_MODERN: before its mask is set, and when all is set. The parent is told of no states
+// between.
+void BeginModern(EditInstance& edit);
+void EndCreation(EditInstance& edit);
+
 // Turns modern editing on or off: what the positions hold stays, laid anew. True when it was on.
 bool SetModern(EditInstance& edit, bool on);
 
@@ -56,5 +62,8 @@ bool CanonicalText(const EditInstance& edit, Text& text);
 
 // Shows a text given as data, canonical or as a user might paste it. 0, or a ZTR_ reason: then nothing changes. null: the empty value.
 int32_t TrySetDataString(EditInstance& edit, const Char* text);
+
+// Ends what modern editing remembers of a control, whose end is near: the field is not touched.
+void DropEditor(EditInstance& edit);
 
 }  // namespace zte

@@ -21,6 +21,7 @@ enum Key : int32_t {
     KEY_BACKSPACE = 0x08,
     KEY_TAB = 0x09,
     KEY_SHIFT = 0x10,
+    KEY_CONTROL = 0x11,
     KEY_PAGE_UP = 0x21,
     KEY_PAGE_DOWN = 0x22,
     KEY_END = 0x23,

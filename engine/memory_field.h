@@ -76,7 +76,7 @@ public:
     // The operations of the engine.
     Text ReadText() const override { return text_; }
     Selection ReadSelection() const override;
-    bool IsHeld(Key key) const override { return (key == KEY_SHIFT && shiftHeld_) || (key == KEY_RIGHT && rightHeld_); }
+    bool IsHeld(Key key) const override;
     bool RefusesInput() const override { return style_.readOnly || style_.disabled; }
     std::optional<Text> ReadClipboard() const override { return clipboard_; }
     void Select(int32_t start, int32_t end) override { SetSelection(start, end); }

@@ -50,7 +50,7 @@ void ShowEmptyValue(EditInstance& edit)
 
 }  // namespace
 
-int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
+bool ChangeMask(EditInstance& edit, const Char* mask, int32_t dataType)
 {
     edit.dataType = dataType;
     FieldLayout layout{};
@@ -61,15 +61,21 @@ int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
     edit.decimalPlaces = edit.table->number.shape.fractionPlaces;
     SetFlag(edit, PERCENT, edit.table->number.shape.percent);
     SetFlag(edit, SPUN, false);
-    const bool isNew = edit.maskJustSet == 0;
-    edit.maskJustSet = 1;
     ForgetPassed(edit);
     ChooseEditMode(edit);
+    return chosen.asGiven;
+}
+
+int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
+{
+    const bool asGiven = ChangeMask(edit, mask, dataType);
+    const bool isNew = edit.maskJustSet == 0;
+    edit.maskJustSet = 1;
     if (isNew && ShowsPlainEmptyText(edit))
         edit.formatFlags = FORMAT_DONE;
     else if (!Has(edit, CODE_SPIN))
         ShowEmptyValue(edit);
-    return chosen.asGiven ? 1 : 0;
+    return asGiven ? 1 : 0;
 }
 
 }  // namespace zte

@@ -5,8 +5,6 @@ namespace zte::modern {
 
 namespace {
 
-constexpr uint32_t kPause = 1000;  // milliseconds that end a run
-
 bool IsSameText(const Content& one, const Content& other)
 {
     return one.text == other.text && one.isEmpty == other.isEmpty;
@@ -35,11 +33,13 @@ void History::Add(const Content& before, const Content& after, Run run, uint32_t
     lastTime_ = time;
 }
 
-void History::Amend(const Content& after)
+void History::Amend(const Content& before, const Content& after)
 {
     EndRun();
-    if (CanUndo() && !CanRedo())
+    if (CanUndo() && !CanRedo() && IsSameText(steps_.back().after, before))
         steps_.back().after = Untyped(after);
+    else
+        Add(before, after, Run::None, lastTime_);
 }
 
 void History::Clear()

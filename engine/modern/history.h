@@ -13,11 +13,12 @@ enum class Run : uint8_t { None, Typing, Deleting, Stepping };
 class History {
 public:
     static constexpr size_t kMostSteps = 100;
+    static constexpr uint32_t kPause = 1000;  // milliseconds that end a run
 
     // time: of the act, in milliseconds of any clock that goes round.
     void Add(const Content& before, const Content& after, Run run, uint32_t time);
-    // What ends a field belongs to the step before it, and ends the run: the content that the step led to is this one now.
-    void Amend(const Content& after);
+    // What completes a field belongs to the step that led there, and ends its run; without such a step it is one of its own.
+    void Amend(const Content& before, const Content& after);
     void EndRun() { run_ = Run::None; }
     void Clear();
 

@@ -40,6 +40,9 @@ struct Kind {
     // The caret leaves for another position (-1: the control loses the focus): the content with what that completes, its caret still where
     // it was.
     Content (*leave)(const EditInstance&, const Content&, int32_t position);
+
+    // A second without a key ends what the keys before it have begun.
+    bool forgetsTyping;
 };
 
 extern const Kind kStrings;  // string_kind.cpp

@@ -56,8 +56,8 @@ Content Leave(const EditInstance&, const Content& content, int32_t)
 
 }  // namespace numbers
 
-const Kind kNumbers = {numbers::Show, numbers::ReadCanonical, numbers::State,  numbers::Canonical,
-                       numbers::Type, numbers::Erase,         numbers::Paste,  numbers::Step,
-                       numbers::Move, numbers::Click,         numbers::WordAt, numbers::Leave};
+const Kind kNumbers = {numbers::Show,   numbers::ReadCanonical, numbers::State, numbers::Canonical, numbers::Type,
+                       numbers::Erase,  numbers::Paste,         numbers::Step,  numbers::Move,      numbers::Click,
+                       numbers::WordAt, numbers::Leave,         false};
 
 }  // namespace zte::modern
