@@ -13,6 +13,8 @@ namespace zte::modern {
 
 namespace dates {
 
+namespace {
+
 constexpr int32_t kFourDigits = 4;
 constexpr int32_t kPivot = 50;  // two digits below it are of the 2000s
 
@@ -40,6 +42,8 @@ int32_t PowerOfTen(int32_t exponent)
     return power;
 }
 
+}  // namespace
+
 bool IsPart(const Place& place)
 {
     return place.kind >= FieldKind::Year && place.length > 0;
@@ -61,6 +65,8 @@ Bounds BoundsOf(const Place& place)
     return {0, shown};
 }
 
+namespace {
+
 int32_t LeadingDigits(const Text& text)
 {
     return static_cast<int32_t>(std::find_if_not(text.begin(), text.end(), IsDigit) - text.begin());
@@ -72,6 +78,8 @@ Text Folded(const EditInstance& edit, Text text)
         c = edit.settings->letters->upper(c);
     return text;
 }
+
+}  // namespace
 
 Text MonthShown(const EditInstance& edit, const Place& place, int32_t month)
 {
@@ -91,6 +99,8 @@ MonthsFound FindMonths(const EditInstance& edit, const Place& place, const Text&
     }
     return found;
 }
+
+namespace {
 
 FieldText ReadDigits(const Text& part, const Bounds& bounds)
 {
@@ -137,6 +147,8 @@ Bounds ShownBounds(const EditInstance& edit, const Place& place)
     return place.kind == FieldKind::Hour && HasAmPmField(edit) ? Bounds{1, 12} : BoundsOf(place);
 }
 
+}  // namespace
+
 FieldText ReadField(const EditInstance& edit, const Text& text, const Place& place)
 {
     if (place.kind == FieldKind::AmPm)
@@ -149,7 +161,11 @@ FieldText ReadField(const EditInstance& edit, const Text& text, const Place& pla
     return {IsBlank(part) ? Fill::Blank : Fill::Full, 0, place.length};
 }
 
+namespace {
+
 // ---- writing
+
+}  // namespace
 
 void PutNumber(const EditInstance& edit, Text& text, const Place& place, int32_t number)
 {
@@ -191,6 +207,8 @@ void SettleHour(const EditInstance& edit, Content& content)
         PutHalf(edit, content, isPm ? HalfOfDay::Pm : HalfOfDay::Am);
 }
 
+namespace {
+
 // Two digits of a year are completed by the pivot, one stands for 200x; three may be any.
 int32_t CompletedYear(const FieldText& field, const Place& place)
 {
@@ -212,6 +230,8 @@ int32_t CompletedNumber(const FieldText& field, const Place& place)
     return field.number >= bounds.least && field.number <= bounds.most ? field.number : -1;
 }
 
+}  // namespace
+
 void Complete(const EditInstance& edit, Content& content, const Place& place)
 {
     if (!IsPart(place) || place.kind == FieldKind::AmPm)
@@ -228,6 +248,8 @@ void Complete(const EditInstance& edit, Content& content, const Place& place)
     if (place.kind == FieldKind::Hour)
         SettleHour(edit, content);
 }
+
+namespace {
 
 // ---- all fields
 
@@ -279,12 +301,16 @@ void Take(Collected& all, const Place& place, const FieldText& field)
     TakeTime(all, place.kind, field.number, place.length);
 }
 
+}  // namespace
+
 bool Exists(const DateTimeValue& value)
 {
     const int32_t year = value.year + kFirstYear;
     return year >= 1 && year <= 9999 && value.month >= 0 && value.month < kMonths && value.day >= 1 &&
            value.day <= MonthRowOf(kFourDigits, value.year, value.month).days;
 }
+
+namespace {
 
 // A mask without days means the first of the month. False: there is no such date.
 bool FinishDate(const EditInstance& edit, Collected& all)
@@ -314,6 +340,8 @@ void FinishTime(const EditInstance& edit, const Text& text, Collected& all)
     all.value.hour = static_cast<int8_t>(hour);
 }
 
+}  // namespace
+
 Reading ReadAll(const EditInstance& edit, const Text& text)
 {
     const Layout layout(edit, text);
@@ -333,10 +361,14 @@ Reading ReadAll(const EditInstance& edit, const Text& text)
     return {Whole::Value, all.value};
 }
 
+namespace {
+
 bool IsOfTheDate(FieldKind kind)
 {
     return kind >= FieldKind::Year && kind <= FieldKind::DayOfYear;
 }
+
+}  // namespace
 
 Text Shown(const EditInstance& edit, const DateTimeValue& value)
 {
