@@ -68,7 +68,7 @@ int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
 {
     const bool asGiven = ChangeMask(edit, mask, dataType);
     edit.maskJustSet = 1;
-    if (&KindOf(edit) != &kChoices)
+    if (&KindOf(edit) != &kChoices || edit.editor->Look().text.empty())  // an entry that is shown stays
         modern::SetData(edit, nullptr);
     return asGiven ? 1 : 0;
 }

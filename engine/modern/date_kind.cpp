@@ -76,7 +76,8 @@ Text Canonical(const EditInstance& edit, const Content& content)
 Content Leave(const EditInstance& edit, const Content& content, int32_t position)
 {
     const Layout layout(edit, content.text);
-    const Place* place = layout.Around(content.Caret());
+    const int32_t caret = content.Caret();
+    const Place* place = caret == layout.End() ? layout.Before(caret) : layout.At(caret);
     if (!place || !layout.Fits() || place->Holds(position))
         return content;
     Content after = content;

@@ -36,6 +36,7 @@ public:
     bool Redo();
     void EndRun() { history_.EndRun(); }
     void ForgetHistory() { history_.Clear(); }
+    bool CanRedo() const { return history_.CanRedo(); }
     size_t UndoSteps() const { return history_.Steps(); }
 
     // What a program shows: a content as data, or whatever it has set as the window's text.
