@@ -284,6 +284,12 @@ Outcome TypeAt(const EditInstance& edit, const Layout& layout, Content content, 
     return GoneOn(layout, std::move(content), position + 1);
 }
 
+// A separator of the writer's own stands for the literals just passed: 555-123-4567 is typed as it is written under any mask.
+bool IsPassedFor(const EditInstance& edit, const Text& text, int32_t position, Char typed)
+{
+    return IsSeparator(typed) && Taken(edit, KindAt(edit, text, position), typed) == Char{};
+}
+
 Outcome Type(const EditInstance& edit, const Content& before, Char typed)
 {
     Content content = Start(edit, before);
@@ -294,6 +300,10 @@ Outcome Type(const EditInstance& edit, const Content& before, Char typed)
     }
     const Layout layout(edit, content.text);
     const int32_t caret = content.Caret();
+    if (typing.carriedFrom < typing.carriedTo && layout.At(caret) && IsPassedFor(edit, content.text, caret, typed)) {
+        typing = {};
+        return Accepted(content);
+    }
     if (layout.At(caret))
         return TypeAt(edit, layout, content, caret, typed);
     const Place* next = layout.Next(caret);
