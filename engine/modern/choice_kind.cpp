@@ -16,7 +16,7 @@ using Entry = CodeTableEntry;
 std::vector<const Entry*> Entries(const EditInstance& edit)
 {
     std::vector<const Entry*> entries;
-    for (int32_t i = 0; i < edit.codeTable->count; ++i)
+    for (int32_t i = 0; edit.codeTable && i < edit.codeTable->count; ++i)
         if (edit.codeTable->Entries()[i].value)
             entries.push_back(&edit.codeTable->Entries()[i]);
     return entries;

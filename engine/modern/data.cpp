@@ -132,8 +132,11 @@ void* GetData(const EditInstance& edit)
 
 void SetSpin(EditInstance& edit, uint32_t increment, const Char* range, const Char* codeTable, uint32_t style)
 {
+    const bool hadCodes = Has(edit, CODE_SPIN) || edit.codeTable;
     zte::SetSpin(edit, increment, range, codeTable, style);
     edit.editor->Look();
+    if (hadCodes || Has(edit, CODE_SPIN))  // what was chosen is no step of another table
+        edit.editor->ForgetHistory();
     edit.editor->TellState();
 }
 

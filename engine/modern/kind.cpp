@@ -5,7 +5,7 @@ namespace zte::modern {
 
 const Kind& KindOf(const EditInstance& edit)
 {
-    if (edit.codeTable && Has(edit, CODE_SPIN))
+    if (Has(edit, CODE_SPIN) && (edit.codeTable || !HasMask(edit)))  // without a table there is nothing to choose
         return kChoices;
     if (IsNumeric(edit.dataType))
         return kNumbers;
