@@ -84,13 +84,14 @@ Selection WordBefore(const HeldNumber& number)
     return integer.start < integer.end ? integer : DigitBefore(number);
 }
 
+// From the front the sign goes with the digits.
 Selection WordBehind(const HeldNumber& number)
 {
-    const int32_t caret = std::max(number.Caret(), HeldFrom(number));
-    if (caret < number.IntegerEnd())
-        return {caret, number.IntegerEnd()};
-    const int32_t fraction = std::max(caret, std::min(number.IntegerEnd() + 1, number.Shown().End()));
-    return {fraction, number.Shown().End()};
+    const bool takesSign = number.Caret() <= number.Shown().Sign();
+    const int32_t from = takesSign ? number.Shown().Sign() : std::max(number.Caret(), HeldFrom(number));
+    if (from < number.IntegerEnd())
+        return {from, number.IntegerEnd()};
+    return {std::max(from, std::min(number.IntegerEnd() + 1, number.Shown().End())), number.Shown().End()};
 }
 
 struct EraserRow {
@@ -124,6 +125,13 @@ Content Unchanged(const Content& content, int32_t caret)
     return WithCaret(content.isEmpty ? Untyped(content) : content, caret);
 }
 
+// A zero that was typed or set, under a mask that shows none.
+bool ShowsNoDigit(const HeldNumber& number)
+{
+    const TypedNumber shown = number.Shown().Digits();
+    return shown.integer.empty() && shown.fraction.empty();
+}
+
 bool GoesBack(Eraser eraser)
 {
     return eraser == Eraser::Back || eraser == Eraser::BackWord;
@@ -153,9 +161,11 @@ Outcome Erase(const EditInstance& edit, const Content& content, Eraser eraser)
     if (MaskOf(edit).isGeneral)
         return Refused(ZTR_WRONG_KIND);
     const Content shown = InForm(edit, content);
+    const HeldNumber number(edit, shown);
+    if (!shown.isEmpty && ShowsNoDigit(number))
+        return Accepted(Emptied(edit, number.Shown().Sign() >= 0));
     if (!shown.selection.IsEmpty())
         return Accepted(Without(edit, shown, shown.selection));
-    const HeldNumber number(edit, shown);
     const Selection taken = TakenBy(eraser, number);
     if (taken.IsEmpty() || (shown.isEmpty && taken.start != number.Shown().Sign()))
         return Accepted(Unchanged(shown, GoesBack(eraser) ? CaretWithNothingBefore(number) : number.Caret()));

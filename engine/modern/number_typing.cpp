@@ -60,6 +60,13 @@ bool MayBeginNumber(const NumberKey& key)
     return IsDigit(key.typed) || IsSign(key.typed) || (MaskOf(key.edit).shape.point && IsPointKey(key));
 }
 
+// Behind a number that nobody has begun its integer part is meant, and not the end of a fraction of zeros.
+bool IsBehindFresh(const Content& content, const HeldNumber& number)
+{
+    const bool isFresh = number.IsZero() && (content.isEmpty || content.isUntouched) && !content.typing.goesOn;
+    return isFresh && number.Caret() >= number.Shown().End();
+}
+
 // ---- literals around the number
 
 // Where the currency symbol begins among literals that end with it; 0 where they do not.
@@ -82,7 +89,8 @@ int32_t LiteralsTyped(const Content& content, int32_t count)
 int32_t LiteralBefore(const NumberKey& key, const HeldNumber& number)
 {
     const MaskLiterals& literals = MaskOf(key.edit).before;
-    if (number.Front() == 0 || key.content.typing.goesOn || key.content.Caret() > number.Front())
+    const bool isAtFront = key.content.Caret() <= number.Front() || IsBehindFresh(key.content, number);
+    if (number.Front() == 0 || key.content.typing.goesOn || !isAtFront)
         return -1;
     const int32_t typed = LiteralsTyped(key.content, literals.length);
     if (typed >= literals.length || (typed == 0 && MayBeginNumber(key)))
@@ -125,12 +133,9 @@ std::optional<Content> PassLiteral(const NumberKey& key)
 
 // ---- where the number is typed into
 
-// Behind a number that nobody has begun the integer part is meant, not the end of a fraction of zeros.
 int32_t TypingCaret(const NumberKey& key, const HeldNumber& number)
 {
-    const Content& content = key.content;
-    const bool isFresh = number.IsZero() && (content.isEmpty || content.isUntouched) && !content.typing.goesOn;
-    return isFresh && number.Caret() >= number.Shown().End() ? number.IntegerEnd() : number.Caret();
+    return IsBehindFresh(key.content, number) ? number.IntegerEnd() : number.Caret();
 }
 
 // Before the first digit of a number nothing is added to it: another one begins there.
