@@ -7,7 +7,7 @@
 #include "tests/support/modern_kind.h"
 #include "tests/support/number_law.h"
 
-namespace zttest {
+namespace zttest::modern_numbers {
 namespace {
 
 constexpr size_t kDoubleDigits = 15;
@@ -281,5 +281,83 @@ TEST(ModernNumberLaw, WhatIsTypedIsWhatIsRead)
     EXPECT_GT(played, 5000u);
 }
 
+// ---- any acts in any order
+
+constexpr zte::Key kMoves[] = {zte::KEY_HOME, zte::KEY_END, zte::KEY_LEFT, zte::KEY_RIGHT};
+
+int ActAtRandom(Subject& subject, uint32_t seed)
+{
+    constexpr char kKeys[] = "0012345678999-+.,%$ 'x";
+    const uint32_t choice = Mix(seed, 2);
+    switch (Mix(seed, 1) % 12) {
+    case 0: subject.Move(kMoves[choice % 4], choice % 8 < 4); return 0;
+    case 1: subject.SelectAll(); return 0;
+    case 2: {
+        const int length = zte::Length(subject.Text());
+        const int start = static_cast<int>(choice % static_cast<uint32_t>(length + 1));
+        subject.Select(start, start + static_cast<int>(Mix(seed, 3) % static_cast<uint32_t>(length - start + 1)));
+        return 0;
+    }
+    case 3:
+    case 4: return subject.Erase(static_cast<zte::modern::Eraser>(choice % 4));
+    case 5: return subject.Step(choice % 3 == 0 ? 10 : choice % 2 == 0 ? 1 : -1);
+    case 6: return subject.TypeKeypadPoint('.');
+    default: return subject.Type(std::string(1, kKeys[choice % (sizeof kKeys - 1)]));
+    }
+}
+
+void ExpectInForm(Subject& subject, const std::string& what)
+{
+    const std::string text = subject.Text();
+    const NumberMask& mask = subject.Mask();
+    EXPECT_EQ(text.compare(0, mask.Before().size(), mask.Before()), 0) << what << text;
+    ASSERT_GE(text.size(), mask.Before().size() + mask.Behind().size()) << what << text;
+    EXPECT_EQ(text.substr(text.size() - mask.Behind().size()), mask.Behind()) << what << text;
+    EXPECT_NE(subject.State(), ZTS_INVALID) << what << text;
+    const zte::Selection selection = subject.Content().selection;
+    EXPECT_TRUE(selection.start >= 0 && selection.start <= selection.end && selection.end <= zte::Length(text)) << what << text;
+}
+
+// What is shown can be pasted, and what is read can be handed in: neither changes anything.
+void ExpectTakenAgain(Subject& subject, const std::string& what)
+{
+    subject.Leave();
+    if (subject.State() != ZTS_COMPLETE || subject.Text().find_first_of("0123456789") == std::string::npos)
+        return;
+    const zte::modern::Content before = subject.Content();
+    EXPECT_EQ(subject.Paste(before.text), 0) << what << before.text;
+    EXPECT_EQ(subject.Text(), before.text) << what;
+    EXPECT_TRUE(subject.ShowCanonical(subject.Canonical())) << what;
+    EXPECT_EQ(subject.Text(), before.text) << what;
+    subject.Content() = before;
+}
+
+TEST(ModernNumberLaw, NoActLeavesTheMaskAndARefusedOneHasAReason)
+{
+    constexpr uint32_t kActs = 60;
+    uint32_t seed = 0;
+    uint32_t refused = 0;
+    for (const char* text : kNumberMasks) {
+        for (const NumberSettings& settings : AllNumberSettings()) {
+            const NumberMask mask(text, ++seed % 2 == 0 ? DT_NUMBER : DT_DECIMAL, settings);
+            Subject subject(mask);
+            if (!subject.IsAccepted() || seed % Every(4) != 0)
+                continue;
+            const std::string what = mask.Mask() + " under " + settings.name + ": ";
+            for (uint32_t act = 0; act < kActs; ++act) {
+                const std::string before = subject.Marks();
+                const int reason = ActAtRandom(subject, Mix(seed, act));
+                EXPECT_TRUE(reason >= 0 && reason <= ZTR_NOT_IN_CODE_PAGE) << what << reason;
+                EXPECT_TRUE(reason == 0 || subject.Marks() == before) << what << before;
+                refused += reason != 0;
+                ExpectInForm(subject, what);
+                if (act % 16 == 15)
+                    ExpectTakenAgain(subject, what);
+            }
+        }
+    }
+    EXPECT_GT(refused, 100u);
+}
+
 }  // namespace
-}  // namespace zttest
+}  // namespace zttest::modern_numbers
