@@ -13,6 +13,8 @@ namespace {
 constexpr int32_t kDoubleDigits = 15;
 constexpr int32_t kDecimalDigits = 28;
 constexpr int32_t kPercentDigits = 2;
+constexpr int32_t kMostDoubleDigits = 309;  // of the largest values, before the point
+constexpr int32_t kMostDecimalDigits = 29;
 
 bool IsZeros(const Text& digits)
 {
@@ -224,11 +226,8 @@ bool IsEmpty(const EditInstance& edit, const Content& content)
 
 Content InForm(const EditInstance& edit, const Content& content)
 {
-    if (!content.text.empty() && IsOfMask(edit, content.text))
-        return content;
-    Content blank = content.text.empty() && !IsEmpty(edit, content) ? content : Blank(edit);
-    blank.typing.keypadPoint = content.typing.keypadPoint;
-    return blank;
+    const bool isShown = content.text.empty() ? !IsEmpty(edit, content) : IsOfMask(edit, content.text);
+    return isShown ? content : Blank(edit);
 }
 
 Text PlainText(const TypedNumber& number)
@@ -248,6 +247,11 @@ Text PlainValue(const EditInstance& edit, const Text& text)
         MovePoint(number, -kPercentDigits);
     }
     return PlainText(number);
+}
+
+bool IsValue(const EditInstance& edit, const TypedNumber& number)
+{
+    return Length(number.integer) <= (edit.dataType == DT_DECIMAL ? kMostDecimalDigits : kMostDoubleDigits);
 }
 
 std::optional<TypedNumber> ReadPlain(const EditInstance& edit, const Text& plain)

@@ -73,6 +73,8 @@ Content InForm(const EditInstance& edit, const Content& content);
 Text PlainText(const TypedNumber& number);
 // The value in plain text, '.' being the point, a percentage as its fraction.
 Text PlainValue(const EditInstance& edit, const Text& text);
+// Whether a value of the control's type can be as large.
+bool IsValue(const EditInstance& edit, const TypedNumber& number);
 // The digits of a plain text as the mask shows them, not rounded; none where it is another text.
 std::optional<TypedNumber> ReadPlain(const EditInstance& edit, const Text& plain);
 

@@ -152,7 +152,6 @@ Content Without(const EditInstance& edit, const Content& content, Selection sele
     left.fraction = KeptDigits(shown, number.IntegerEnd(), shown.End(), selection);
     Content laid = IsZero(left) ? Emptied(edit, left.negative) : Laid(edit, left, PlaceOf(number, selection));
     laid.typing.goesOn = !laid.isEmpty;
-    laid.typing.keypadPoint = content.typing.keypadPoint;
     return laid;
 }
 

@@ -33,7 +33,8 @@ std::optional<Content> ReadCanonical(const EditInstance& edit, const Text& text)
 {
     if (text.empty())
         return Blank(edit);
-    if (!ReadPlain(edit, text))
+    const std::optional<TypedNumber> number = ReadPlain(edit, text);
+    if (!number || !IsValue(edit, *number))
         return std::nullopt;
     return ShowingValue(edit, text);
 }

@@ -115,11 +115,10 @@ Outcome Climb(const EditInstance& edit, const Range& range, Ladder ladder, int32
     return Stepped(edit, ladder.Value());
 }
 
-// What is no number counts from 0, and so does a lone sign.
+// What is no number counts from 0; a lone sign is shown before zeros.
 Text CountedFrom(const EditInstance& edit, const Content& content)
 {
-    const bool counts = !IsEmpty(edit, content) && IsOfMask(edit, content.text);
-    return counts ? PlainValue(edit, content.text) : FromAscii("0");
+    return IsOfMask(edit, content.text) ? PlainValue(edit, content.text) : FromAscii("0");
 }
 
 bool IsExact(const Text& plain)

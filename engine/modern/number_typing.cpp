@@ -18,6 +18,7 @@ struct NumberKey {
     const EditInstance& edit;
     const Content& content;  // in form, nothing selected
     Char typed;
+    bool isPoint;   // by itself, or as the keypad's decimal key
     bool replaces;  // it takes the place of a selection that has gone
 };
 
@@ -50,14 +51,9 @@ bool IsPoint(const EditInstance& edit, Char c)
     return c == edit.settings->decimalChar || ((c == '.' || c == ',') && !IsThousands(edit, c));
 }
 
-bool IsPointKey(const NumberKey& key)
-{
-    return key.content.typing.keypadPoint || IsPoint(key.edit, key.typed);
-}
-
 bool MayBeginNumber(const NumberKey& key)
 {
-    return IsDigit(key.typed) || IsSign(key.typed) || (MaskOf(key.edit).shape.point && IsPointKey(key));
+    return IsDigit(key.typed) || IsSign(key.typed) || (MaskOf(key.edit).shape.point && key.isPoint);
 }
 
 // Behind a number that nobody has begun its integer part is meant, and not the end of a fraction of zeros.
@@ -117,7 +113,7 @@ bool IsLiteralBehind(const NumberKey& key, const HeldNumber& number)
     const int32_t caret = key.content.Caret();
     if (caret < number.Shown().End() || At(key.content.text, caret) != key.typed || key.typed == Char{})
         return false;
-    const bool isPoint = IsPointKey(key) && MaskOf(key.edit).shape.point && !number.Shown().IsInFraction(caret);
+    const bool isPoint = key.isPoint && MaskOf(key.edit).shape.point && !number.Shown().IsInFraction(caret);
     return caret > number.Shown().End() || !(IsDigit(key.typed) || IsSign(key.typed) || isPoint);
 }
 
@@ -133,9 +129,9 @@ std::optional<Content> PassLiteral(const NumberKey& key)
 
 // ---- where the number is typed into
 
-int32_t TypingCaret(const NumberKey& key, const HeldNumber& number)
+int32_t TypingCaret(const Content& content, const HeldNumber& number)
 {
-    return IsBehindFresh(key.content, number) ? number.IntegerEnd() : number.Caret();
+    return IsBehindFresh(content, number) ? number.IntegerEnd() : number.Caret();
 }
 
 // Before the first digit of a number nothing is added to it: another one begins there.
@@ -147,20 +143,17 @@ bool BeginsAnother(const NumberKey& key, const HeldNumber& number, int32_t caret
 
 struct Typed {
     TypedNumber number;
-    DigitPlace place;
-    bool isAnother;
+    DigitPlace place{false, 0};
+    bool isAnother = false;
 };
 
 // The number and the place that a digit or the point is typed at.
 Typed Beginning(const NumberKey& key)
 {
     const HeldNumber number(key.edit, key.content);
-    const int32_t caret = TypingCaret(key, number);
-    Typed typed = {
-        { },
-        { false, 0},
-        BeginsAnother(key, number, caret)
-    };
+    const int32_t caret = TypingCaret(key.content, number);
+    Typed typed;
+    typed.isAnother = BeginsAnother(key, number, caret);
     if (!typed.isAnother) {
         typed.number = number.Digits();
         typed.place = number.Shown().PlaceAt(caret);
@@ -266,8 +259,7 @@ Content WithSign(const EditInstance& edit, const Content& content, bool negative
 Content WithFreshCaret(const EditInstance& edit, const Content& content)
 {
     const HeldNumber number(edit, content);
-    const NumberKey key = {edit, content, Char{}, false};
-    return content.selection.IsEmpty() ? WithCaret(content, TypingCaret(key, number)) : content;
+    return content.selection.IsEmpty() ? WithCaret(content, TypingCaret(content, number)) : content;
 }
 
 // The caret of an empty number goes before its digits, unless it stands in the fraction, which may have been begun by the point.
@@ -312,7 +304,7 @@ Outcome TypeSign(const EditInstance& edit, const Content& content, Char sign)
 
 Outcome TypeSeparator(const NumberKey& key)
 {
-    if (IsPointKey(key))
+    if (key.isPoint)
         return TypePoint(key);
     return IsThousands(key.edit, key.typed) ? TypeThousands(key) : Refused(ZTR_WRONG_KIND);
 }
@@ -326,10 +318,11 @@ Outcome Type(const EditInstance& edit, const Content& content, Char typed)
     const Content shown = InForm(edit, content);
     const bool replaces = !shown.selection.IsEmpty();
     const Content left = replaces ? Without(edit, shown, shown.selection) : shown;
-    const NumberKey key = {edit, left, typed, replaces};
+    const bool isKeypadPoint = content.typing.keypadPoint;
+    const NumberKey key = {edit, left, typed, isKeypadPoint || IsPoint(edit, typed), replaces};
     if (std::optional<Content> passed = PassLiteral(key))
         return Accepted(*std::move(passed));
-    if (shown.typing.keypadPoint)
+    if (isKeypadPoint)
         return TypePoint(key);
     if (IsSign(typed))
         return TypeSign(edit, shown, typed);
