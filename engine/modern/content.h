@@ -15,6 +15,10 @@ struct Typing {
     Text rest;
     // A code table's prefix.
     Text prefix;
+    // The caret stands where typing or deleting in a number has left it: what is typed goes on there, and begins no other number.
+    bool goesOn = false;
+    // The next character comes from the keypad's decimal key.
+    bool keypadPoint = false;
 };
 
 struct Content {
