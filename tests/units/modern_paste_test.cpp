@@ -593,5 +593,151 @@ const PasteRow kDateTimes[] = {
 TEST_ROWS(DateTimes, ModernPaste, kDateTimes);
 // clang-format on
 
+// ---- strings
+
+constexpr PasteSetup kPhone = {"(###) ###-####", DT_STRING};
+constexpr PasteSetup kCalled = {"+## (###) #####", DT_STRING};
+constexpr PasteSetup kZip = {"#####-####", DT_STRING};
+constexpr PasteSetup kWord = {"AAAAA", DT_STRING};
+constexpr PasteSetup kAnything = {"XXXXX", DT_STRING};
+constexpr PasteSetup kPlate = {"!!-###", DT_STRING};
+constexpr PasteSetup kSmall = {"^^^/^^", DT_STRING};
+constexpr PasteSetup kClock = {"##:##", DT_STRING};
+constexpr PasteSetup kKey = {"##:XX", DT_STRING};
+constexpr PasteSetup kNumbered = {"No. ####", DT_STRING};
+constexpr PasteSetup kAreaAndName = {"(###) XXXX", DT_STRING};
+constexpr PasteSetup kDigitLiteral = {"1-###-##", DT_STRING};
+constexpr PasteSetup kDigitBetween = {"##-1-##", DT_STRING};
+constexpr PasteSetup kBehind = {"## kg", DT_STRING};
+
+// clang-format off
+const PasteRow kStrings[] = {
+    // a phone number as people write it
+    {kPhone, nullptr, "5551234567",              "(555) 123-4567|"},
+    {kPhone, nullptr, "555-123-4567",            "(555) 123-4567|"},
+    {kPhone, nullptr, "(555) 123-4567",          "(555) 123-4567|"},
+    {kPhone, nullptr, "(555)123-4567",           "(555) 123-4567|"},
+    {kPhone, nullptr, "555.123.4567",            "(555) 123-4567|"},
+    {kPhone, nullptr, "555/123 4567",            "(555) 123-4567|"},
+    {kPhone, nullptr, "555 123 4567",            "(555) 123-4567|"},
+    {kPhone, nullptr, " 555 123 4567 ",          "(555) 123-4567|"},
+    {kPhone, nullptr, "5-5-5-1-2-3-4-5-6-7",     "(555) 123-4567|"},
+    {kPhone, nullptr, "555",                     "(555) |   -    "},
+    {kPhone, nullptr, "(555",                    "(555) |   -    "},
+    {kPhone, nullptr, "(555)",                   "(555) |   -    "},
+    {kPhone, nullptr, "55",                      "(55| )    -    "},
+    {kPhone, nullptr, "555123",                  "(555) 123-|    "},
+    {kPhone, nullptr, "(555)    -4567",          "(555)    -4567|"},
+    {kPhone, "(555) 123-456|7", "(   )    -    ", "(   )    -    |"},
+    {kPhone, nullptr, "555123456",               "(555) 123-456| "},
+    {kPhone, nullptr, "55512345678",             "does not fit 10"},
+    {kPhone, nullptr, "(555) 123-4567 x1",       "does not fit 15"},
+    {kPhone, nullptr, "555-CALL",                "wrong kind 4"},
+    {kPhone, nullptr, "(abc) 123-4567",          "wrong kind 1"},
+    {kPhone, nullptr, "+1 555 123 4567",         "wrong kind 0"},
+    {kPhone, nullptr, "555\t123",                "wrong kind 3"},
+    {kPhone, nullptr, "555\n123",                "wrong kind 3"},
+    {kPhone, nullptr, "---",                     "(|   )    -    "},
+    // at the caret and over a selection
+    {kPhone, "(555) |123-4567", "999",           "(555) 999-|4567"},
+    {kPhone, "(555) |123-4567", "999-8888",      "(555) 999-8888|"},
+    {kPhone, "(555) |123-4567", "99988887",      "does not fit 7"},
+    {kPhone, "(555) 1|23-4567", "9",             "(555) 19|3-4567"},
+    {kPhone, "(555) [123]-4567", "9",            "(555) 9|  -4567"},
+    {kPhone, "(555) [123]-4567", "9876",         "(555) 987-6|567"},
+    {kPhone, "(555) [123-4567]", "98",           "(555) 98| -    "},
+    {kPhone, "[(555) 123-4567]", "98",           "(98| )    -    "},
+    {kPhone, "[(555) 123-4567]", "9998887777",   "(999) 888-7777|"},
+    {kPhone, "(55[5) 1]23-4567", "78",           "(557) 8|23-4567"},
+    {kPhone, "(555[) ]123-4567", "9",            "(555) 9|23-4567"},
+    {kPhone, "(555) [123]-4567", "abc",          "wrong kind 0"},
+    {kPhone, "(555) 123-4567|", "8",             "does not fit 0"},
+    {kPhone, "(555) 123|-4567", "-89",           "(555) 123-89|67"},
+    {kPhone, "(555) [123]-4567", "(999) 888-7777", "(999) 888-7777|"},
+    {kPhone, "junk|", "555",                     "(555) |   -    "},
+    // other literals
+    {kCalled, nullptr, "+49 (123) 45678",        "+49 (123) 45678|"},
+    {kCalled, nullptr, "49 123 45678",           "+49 (123) 45678|"},
+    {kCalled, nullptr, "+49-123-45678",          "+49 (123) 45678|"},
+    {kCalled, nullptr, "0049 123 45678",         "does not fit 12"},
+    {kZip, nullptr, "12345",                     "12345-|    "},
+    {kZip, nullptr, "123456789",                 "12345-6789|"},
+    {kZip, nullptr, "12345 6789",                "12345-6789|"},
+    {kZip, nullptr, "12345-",                    "12345-|    "},
+    {kZip, nullptr, "1234-5678",                 "12345-678| "},
+    {kClock, nullptr, "12:34",                   "12:34|"},
+    {kClock, nullptr, "1234",                    "12:34|"},
+    {kClock, nullptr, "12.34",                   "12:34|"},
+    {kClock, nullptr, "1:234",                   "wrong kind 1"},
+    {kClock, "12:|34", ":56",                    "12:56|"},
+    {kClock, "12|:34", ":56",                    "12:56|"},
+    {kClock, "12[:34]", ":5",                    "12:5| "},
+    {kClock, "12:3|4", ":5",                     "wrong kind 0"},
+    {kKey, "12:|ab", ":c",                       "12::c|"},
+    {kKey, nullptr, "12:ab",                     "12:ab|"},
+    {kKey, nullptr, "12ab",                      "12:ab|"},
+    {kNumbered, nullptr, "No. 1234",             "No. 1234|"},
+    {kNumbered, nullptr, "No.1234",              "No. 1234|"},
+    {kNumbered, nullptr, "1234",                 "No. 1234|"},
+    {kNumbered, nullptr, "no. 1234",             "wrong kind 0"},
+    {kAreaAndName, nullptr, "555 abcd",          "(555) abcd|"},
+    {kAreaAndName, nullptr, "555)abcd",          "(555) abcd|"},
+    {kAreaAndName, nullptr, "555abcd",           "(555) abcd|"},
+    {kAreaAndName, nullptr, "(555) a-cd",        "(555) a-cd|"},
+    {kDigitLiteral, nullptr, "1-234-56",         "1-234-56|"},
+    {kDigitLiteral, nullptr, "123456",           "1-234-56|"},
+    {kDigitLiteral, nullptr, "23456",            "1-234-56|"},
+    {kDigitBetween, nullptr, "1213",             "12-1-13|"},
+    {kDigitBetween, nullptr, "12-1-13",          "12-1-13|"},
+    {kBehind, nullptr, "12 kg",                  "12| kg"},
+    {kBehind, nullptr, "12",                     "12| kg"},
+    {kBehind, nullptr, "12kg",                   "does not fit 2"},
+    // positions that take more than digits
+    {kWord, nullptr, "ab1",                      "ab1|  "},
+    {kWord, nullptr, "ab-cd",                    "abcd| "},
+    {kWord, nullptr, "abcdef",                   "does not fit 5"},
+    {kWord, nullptr, "ab_cd",                    "wrong kind 2"},
+    {kWord, "ab|cde", "xy",                      "abxy|e"},
+    {kWord, "a[bcd]e", "x",                      "ax|  e"},
+    {kWord, "ab|cde", "vwxyz",                   "vwxyz|"},
+    {kAnything, nullptr, "a b-c",                "a b-c|"},
+    {kAnything, nullptr, "(.)",                  "(.)|  "},
+    {kAnything, nullptr, "a\tb",                 "wrong kind 1"},
+    {kAnything, nullptr, "a\tbcd",               "wrong kind 1"},
+    {kPlate, nullptr, "ab123",                   "AB-123|"},
+    {kPlate, nullptr, "AB-123",                  "AB-123|"},
+    {kPlate, nullptr, "ab-123",                  "AB-123|"},
+    {kSmall, nullptr, "ABCDE",                   "abc/de|"},
+};
+TEST_ROWS(Strings, ModernPaste, kStrings);
+// clang-format on
+
+// ---- entries of a code table
+
+constexpr PasteSetup kColours = {"", DT_STRING, "Red\tr/Green\tg/Light blue\tb/None\tnull!"};
+constexpr PasteSetup kNumbers = {"###", DT_NUMBER, "One\t1/Twenty\t20"};
+constexpr PasteSetup kNoNull = {"", DT_STRING, "Red\tr/Green\tg"};
+
+// clang-format off
+const PasteRow kEntries[] = {
+    {kColours, nullptr, "Green",       "[Green]"},
+    {kColours, "[Red]", "Green",       "[Green]"},
+    {kColours, "[Red]", "green",       "[Green]"},
+    {kColours, "[Red]", "LIGHT BLUE",  "[Light blue]"},
+    {kColours, "[Red]", "g",           "[Green]"},
+    {kColours, "[Red]", "None",        "[None]"},
+    {kColours, "[Red]", "null!",       "[None]"},
+    {kColours, "[Red]", "Gree",        "no such entry 0"},
+    {kColours, "[Red]", "Yellow",      "no such entry 0"},
+    {kColours, "[Red]", "Red Green",   "no such entry 0"},
+    {kColours, "Re|d", "x",            "no such entry 0"},
+    {kNumbers, nullptr, "Twenty",      "[Twenty]"},
+    {kNumbers, nullptr, "20",          "[Twenty]"},
+    {kNumbers, nullptr, "3",           "no such entry 0"},
+    {kNoNull, "[Red]", "null!",        "no such entry 0"},
+};
+TEST_ROWS(Entries, ModernPaste, kEntries);
+// clang-format on
+
 }  // namespace
 }  // namespace zttest
