@@ -31,6 +31,7 @@ struct Bounds {
 // A part of the value, which is missing until it is filled. Free text, and a designator that the settings do not have, are none.
 bool IsPart(const Place& place);
 bool IsMonthName(const Place& place);
+bool IsOfTheDate(FieldKind kind);
 Bounds BoundsOf(const Place& place);
 
 FieldText ReadField(const EditInstance& edit, const Text& text, const Place& place);

@@ -318,7 +318,7 @@ Outcome Type(const EditInstance& edit, const Content& before, Char typed)
 bool IsOfTheForm(const EditInstance& edit, const Text& text)
 {
     const Layout layout(edit, text);
-    return layout.Fits() && IsTyped(edit, layout, text);
+    return layout.Fits() && IsTyped(edit, layout, text) && std::none_of(text.begin(), text.end(), IsControl);
 }
 
 Outcome Fill(const EditInstance& edit, const Text& text)
@@ -344,12 +344,10 @@ public:
     // 0, or why the character has no place.
     Reason Take(Char c)
     {
-        if (!layout_.At(at_) && At(content_.text, at_) == c && at_ < Length(content_.text)) {
-            ++at_;
-            return 0;
-        }
         const Place* next = layout_.At(at_) ? nullptr : layout_.Next(at_);
         const int32_t position = next ? next->start : at_;
+        if (PassLiteral(c, next ? position : Length(content_.text)))
+            return 0;
         if (!layout_.At(position))
             return IsSeparator(c) ? 0 : ZTR_DOES_NOT_FIT;
         const Char shown = Taken(edit_, KindAt(edit_, content_.text, position), c);
@@ -367,19 +365,49 @@ public:
     }
 
 private:
+    // The literal that comes next; a separator may stand for those before it in its run.
+    bool PassLiteral(Char c, int32_t end)
+    {
+        for (int32_t i = at_; i < end && !layout_.At(i); ++i) {
+            if (At(content_.text, i) == c) {
+                at_ = i + 1;
+                return true;
+            }
+            if (!IsSeparator(c))
+                return false;
+        }
+        return false;
+    }
+
     const EditInstance& edit_;
     Content content_;
     const Layout layout_;
     int32_t at_;
 };
 
+// Where a text begins: at the caret, or at the literal directly before it that the text begins with and its position does not take. The
+// first position has all the literals before it.
+int32_t WalkStart(const EditInstance& edit, const Content& content, Char first)
+{
+    const Layout layout(edit, content.text);
+    const int32_t caret = content.Caret();
+    if (caret == layout.First())
+        return 0;
+    const Place* place = layout.At(caret);
+    const bool mayBegin = !place || (caret == place->start && Taken(edit, place->kind, first) == Char{});
+    const Place* before = layout.Before(caret);
+    if (!mayBegin || !before)
+        return caret;
+    const int32_t literal = Find(Slice(content.text, before->End(), caret - before->End()), first);
+    return literal < 0 ? caret : before->End() + literal;
+}
+
 Outcome Paste(const EditInstance& edit, const Content& before, const Text& text)
 {
     if (IsOfTheForm(edit, text))
         return Fill(edit, text);
     const Content content = Untyped(Start(edit, before));
-    const int32_t caret = content.Caret();
-    Walk walk(edit, content, caret == Layout(edit, content.text).First() ? 0 : caret);
+    Walk walk(edit, content, WalkStart(edit, content, At(text, 0)));
     for (int32_t i = 0; i < Length(text); ++i)
         if (const Reason reason = IsControl(At(text, i)) ? ZTR_WRONG_KIND : walk.Take(At(text, i)))
             return Refused(reason, i);
