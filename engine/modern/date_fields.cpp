@@ -361,14 +361,10 @@ Reading ReadAll(const EditInstance& edit, const Text& text)
     return {Whole::Value, all.value};
 }
 
-namespace {
-
 bool IsOfTheDate(FieldKind kind)
 {
     return kind >= FieldKind::Year && kind <= FieldKind::DayOfYear;
 }
-
-}  // namespace
 
 Text Shown(const EditInstance& edit, const DateTimeValue& value)
 {
