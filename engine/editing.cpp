@@ -47,11 +47,11 @@ void StepClassic(EditInstance& edit, bool up, bool)
 void Ignore(EditInstance&) {}
 
 constexpr Editing kClassic = {
-    OnKeyDown,        OnKeyUp,      OnChar,           PasteClassic, LeaveToField,
-    LeaveToField,     LeaveToField, LeaveToField,     nullptr,      StepClassic,
-    IsClickCorrected, CorrectClick, nullptr,          OnFocusLost,  OnTextSetFromOutside,
-    Ignore,           Ignore,       LeaveReplacing,   LeaveToField, LeaveToField,
-    SetMask,          SetData,      SetDataString,    GetData,      SetSpin,
+    OnKeyDown,        OnKeyUp,      OnChar,         PasteClassic, LeaveToField,
+    LeaveToField,     LeaveToField, LeaveToField,   nullptr,      StepClassic,
+    IsClickCorrected, CorrectClick, nullptr,        OnFocusLost,  OnTextSetFromOutside,
+    Ignore,           Ignore,       LeaveReplacing, LeaveToField, LeaveToField,
+    SetMask,          SetData,      SetDataString,  GetData,      SetSpin,
 };
 
 // ---- modern

@@ -6,8 +6,6 @@
 namespace zttest {
 namespace {
 
-constexpr char kPhone[] = "(###) ###-####";
-
 struct EndCase {
     const char* name;
     const char* at;  // how the notification begins in which it ends
@@ -63,11 +61,16 @@ ROW_TEST(ModernEnd, OfTheWindowIsSurvived)
 {
     Prepare();
     const HWND hwnd = Window();
-    DoAtNotification([hwnd] { DestroyWindow(hwnd); });
+    DoAtNotification([&] {
+        DestroyWindow(hwnd);
+        TakeTold();  // the focus is lost while the window goes
+    });
     Act();
     EXPECT_EQ(ended_, 1);
     EXPECT_FALSE(IsWindow(hwnd));
-    EXPECT_TRUE(TakeTold().back().find(GetParam().at) == 0) << "nothing is told of a window that is gone";
+    // The standard edit itself may tell the rest of a change of which it has told the beginning.
+    for (const std::string& told : TakeTold())
+        EXPECT_EQ(told, "change") << "of a window that is gone";
 }
 
 ROW_TEST(ModernEnd, OfTheHeapLeavesAPlainEdit)
@@ -148,13 +151,13 @@ const EndCase kEnds[] = {
     {"AtTheStateOfADeletion",     "state",    0, 0, "{Ctrl+A}{Del}"},
     {"AtTheRefusalOfAKey",        "rejected", 0, 0, "x"},
     {"AtTheSkip",                 "skip",     0, 0, "9234567"},
-    {"AtTheUpdateOfAPaste",       "update",   WM_PASTE, 0, "1234567"},
+    {"AtTheUpdateOfAPaste",       "update",   WM_PASTE, 0, "7654321"},
     {"AtTheRefusalOfAPaste",      "rejected", WM_PASTE, 0, "none"},
     {"AtTheChangeOfACut",         "change",   WM_CUT, 0, ""},
     {"AtTheChangeOfAClearing",    "change",   WM_CLEAR, 0, ""},
     {"AtTheChangeOfAnUndo",       "change",   WM_UNDO, 0, ""},
     {"AtTheUpdateOfAnUndo",       "update",   EM_UNDO, 0, ""},
-    {"AtTheChangeOfAReplacement", "change",   EM_REPLACESEL, 1, "1234567"},
+    {"AtTheChangeOfAReplacement", "change",   EM_REPLACESEL, 1, "7654321"},
     {"AtTheRefusalOfAReplacement", "rejected", EM_REPLACESEL, 0, "none"},
     {"AtTheStateOfAWindowText",   "state",    WM_SETTEXT, 0, "any"},
 };

@@ -5,22 +5,21 @@
 namespace zttest {
 namespace {
 
-constexpr char kDate[] = "MM/DD/YYYY";
-constexpr char kNull[] = "null";
+constexpr char kNothing[] = "null";
 
 class ModernExports : public ModernWindow {
 protected:
     std::string Canonical() const
     {
         char* text = ZTE_GetDataString(Window());
-        const std::string copy = text ? text : kNull;
+        const std::string copy = text ? text : kNothing;
         SharedHeapFree(control_->heap(), text);
         return copy;
     }
     std::string Read() const
     {
         void* data = ZTE_FmtGetData(Window());
-        const std::string read = data ? "value" : kNull;
+        const std::string read = data ? "value" : kNothing;
         SharedHeapFree(control_->heap(), data);
         return read;
     }
@@ -104,14 +103,14 @@ ROW_TEST(ModernState, IsToldAndNoGetterGivesMore)
     EXPECT_EQ(State(), row.state);
     EXPECT_EQ(Canonical(), row.canonical);
     EXPECT_EQ(Read(), row.read);
-    if (Canonical() != kNull) {
+    if (Canonical() != kNothing) {
         EXPECT_EQ(Try(Canonical().c_str()), 0);
         EXPECT_EQ(control_->Text(), row.windowText);
     }
 }
 
 // clang-format off
-const StateCase kStates[] = {
+const StateCase kDateStates[] = {
     {"Empty",      "  /  /    ", ZTS_EMPTY,        "",           "null"},
     {"Incomplete", "02/2 /    ", ZTS_INCOMPLETE,   "null",       "null"},
     {"NoSuchDay",  "02/30/2024", ZTS_INVALID,      "null",       "null"},
@@ -120,7 +119,7 @@ const StateCase kStates[] = {
     {"Complete",   "02/29/2024", ZTS_COMPLETE,     "2024-02-29", "value"},
 };
 // clang-format on
-TEST_ROWS(Rows, ModernState, kStates);
+TEST_ROWS(Rows, ModernState, kDateStates);
 
 TEST_F(ModernExports, SetATextOrChangeNothing)
 {
@@ -167,7 +166,7 @@ TEST_F(ModernExports, TellMidnightFromNothing)
 {
     Make("HH:MM", DT_TIME);
     EXPECT_EQ(State(), ZTS_EMPTY);
-    EXPECT_EQ(Read(), kNull);
+    EXPECT_EQ(Read(), kNothing);
     ASSERT_EQ(Try("00:00"), 0);
     EXPECT_EQ(State(), ZTS_COMPLETE);
     EXPECT_EQ(Read(), "value");

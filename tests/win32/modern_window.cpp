@@ -4,17 +4,26 @@
 namespace zttest {
 namespace {
 
-constexpr char kClass[] = "zttest modern parent";
-constexpr int kEditId = 11;
+constexpr char kParentClass[] = "zttest modern parent";
+constexpr int kModernId = 11;
 
-constexpr const char* kStates[] = {"empty", "incomplete", "invalid", "out of range", "complete"};
-constexpr const char* kReasons[] = {"nothing",       "wrong kind",     "out of bounds",    "full",
-                                    "read-only",     "does not fit",   "in doubt",         "does not exist",
-                                    "no such entry", "end of the range", "not in the code page"};
+constexpr const char* kStateNames[] = {"empty", "incomplete", "invalid", "out of range", "complete"};
+constexpr const char* kReasonNames[] = {"nothing",
+                                        "wrong kind",
+                                        "out of bounds",
+                                        "full",
+                                        "read-only",
+                                        "does not fit",
+                                        "in doubt",
+                                        "does not exist",
+                                        "no such entry",
+                                        "end of the range",
+                                        "not in the code page"};
 
 std::string TextOfRefusal(const ZTNotifyRejected& refusal)
 {
-    std::string text = std::string("rejected ") + kReasons[refusal.reason] + " at " + std::to_string(refusal.position);
+    std::string text =
+        std::string("rejected ") + kReasonNames[refusal.reason] + " at " + std::to_string(refusal.position);
     if (refusal.character != 0)
         text += std::string(" by ") + static_cast<char>(refusal.character);
     return text;
@@ -22,7 +31,7 @@ std::string TextOfRefusal(const ZTNotifyRejected& refusal)
 
 std::string TextOfState(const ZTNotifyState& state)
 {
-    return std::string("state ") + kStates[state.was] + " to " + kStates[state.is];
+    return std::string("state ") + kStateNames[state.was] + " to " + kStateNames[state.is];
 }
 
 std::string TextOfCommand(int code)
@@ -42,9 +51,10 @@ ModernParent::ModernParent()
     WNDCLASSA parentClass = {};
     parentClass.lpfnWndProc = Proc;
     parentClass.hInstance = GetModuleHandleA(nullptr);
-    parentClass.lpszClassName = kClass;
+    parentClass.lpszClassName = kParentClass;
     RegisterClassA(&parentClass);
-    hwnd_ = CreateWindowExA(0, kClass, "", WS_POPUP, 20, 20, 400, 300, nullptr, nullptr, parentClass.hInstance, nullptr);
+    hwnd_ = CreateWindowExA(0, kParentClass, "", WS_POPUP, 20, 20, 400, 300, nullptr, nullptr, parentClass.hInstance,
+                            nullptr);
     SetWindowLongPtrA(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
@@ -66,14 +76,14 @@ void ModernParent::Tell(std::string text)
     if (text.empty())
         return;
     told_.push_back(text);
-    if (onTold)
-        onTold(text);
+    if (const auto listener = onTold)  // a copy: it may end its own listening
+        listener(text);
 }
 
 LRESULT ModernParent::Notify(const NMHDR& header)
 {
-    EXPECT_EQ(header.idFrom, static_cast<UINT_PTR>(kEditId));
-    EXPECT_EQ(header.hwndFrom, GetDlgItem(hwnd_, kEditId));
+    EXPECT_EQ(header.idFrom, static_cast<UINT_PTR>(kModernId));
+    EXPECT_EQ(header.hwndFrom, GetDlgItem(hwnd_, kModernId));
     if (header.code == ZTN_REJECTED)
         Tell(TextOfRefusal(reinterpret_cast<const ZTNotifyRejected&>(header)));
     else if (header.code == ZTN_STATECHANGED)
@@ -99,7 +109,7 @@ void ModernWindow::Make(const Config& config, uint32_t options)
     Config given = config;
     given.options |= options;
     control_.reset();
-    control_ = std::make_unique<Control>(parent_.hwnd(), kEditId, given);
+    control_ = std::make_unique<Control>(parent_.hwnd(), kModernId, given);
     typist_.Use(control_->hwnd());
     parent_.TakeTold();
     beeps_.Forget();

@@ -18,6 +18,9 @@ namespace zttest {
 
 using Told = std::vector<std::string>;
 
+inline constexpr char kPhone[] = "(###) ###-####";
+inline constexpr char kDate[] = "MM/DD/YYYY";
+
 // "update", "change", "skip", "rejected wrong kind at 3 by x", "state empty to incomplete".
 class ModernParent {
 public:
