@@ -22,6 +22,7 @@ set(zt_editing_folders engine/mask engine/format engine/spin engine/edit engine/
 if(WIN32)
     zt_add_floor(zt_values ${zt_value_folders})
     zt_add_floor(zt_editing ${zt_editing_folders})
+    target_sources(zt_editing PRIVATE ${CMAKE_SOURCE_DIR}/engine/editing.cpp)
     target_link_libraries(zt_editing PUBLIC zt_values)
     add_library(zt_memory STATIC ${CMAKE_SOURCE_DIR}/engine/memory_field.cpp)
     target_link_libraries(zt_memory PUBLIC zt_values)

@@ -30,16 +30,6 @@ Reply PasteClassic(EditInstance& edit)
     return Keep();
 }
 
-Reply IgnoreWheel(EditInstance&, int32_t)
-{
-    return kPassOn;
-}
-
-Reply LeaveDoubleClick(EditInstance&, int32_t)
-{
-    return kPassOn;
-}
-
 Reply LeaveReplacing(EditInstance& edit, const Char*, bool)
 {
     OnTextSetFromOutside(edit);
@@ -57,11 +47,11 @@ void StepClassic(EditInstance& edit, bool up, bool)
 void Ignore(EditInstance&) {}
 
 constexpr Editing kClassic = {
-    OnKeyDown,        OnKeyUp,      OnChar,           PasteClassic, LeaveToField,
-    LeaveToField,     LeaveToField, LeaveToField,     IgnoreWheel,  StepClassic,
-    IsClickCorrected, CorrectClick, LeaveDoubleClick, OnFocusLost,  OnTextSetFromOutside,
-    Ignore,           Ignore,       LeaveReplacing,   LeaveToField, LeaveToField,
-    SetMask,          SetData,      SetDataString,    GetData,      SetSpin,
+    OnKeyDown,        OnKeyUp,      OnChar,         PasteClassic, LeaveToField,
+    LeaveToField,     LeaveToField, LeaveToField,   nullptr,      StepClassic,
+    IsClickCorrected, CorrectClick, nullptr,        OnFocusLost,  OnTextSetFromOutside,
+    Ignore,           Ignore,       LeaveReplacing, LeaveToField, LeaveToField,
+    SetMask,          SetData,      SetDataString,  GetData,      SetSpin,
 };
 
 // ---- modern

@@ -19,13 +19,13 @@ struct Editing {
     Reply (*clear)(EditInstance&);  // WM_CLEAR
     Reply (*undo)(EditInstance&);   // the result tells whether anything was undone
     Reply (*redo)(EditInstance&);
-    // A wheel turned, upwards where notches is positive; kept where it stepped.
+    // A wheel turned, upwards where notches is positive; kept where it steps, which no notches ask alone. Null: the field's own.
     Reply (*wheel)(EditInstance&, int32_t notches);
     void (*step)(EditInstance&, bool up, bool repeated);  // by an arrow of the spin; repeated: it is still held
     // A mouse button: before the field handles its release, whether the caret is to be put right afterwards; and that.
     bool (*beforeClick)(EditInstance&);
     bool (*afterClick)(EditInstance&);
-    Reply (*doubleClick)(EditInstance&, int32_t position);
+    Reply (*doubleClick)(EditInstance&, int32_t position);  // null: the field's own
     void (*focusLost)(EditInstance&);
 
     // ---- what a program does to an edit control

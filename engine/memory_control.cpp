@@ -120,13 +120,15 @@ void MemoryControl::Redo()
 
 void MemoryControl::Wheel(int32_t notches)
 {
-    Reading().wheel(record_, notches);
+    if (Reading().wheel)
+        Reading().wheel(record_, notches);
 }
 
 void MemoryControl::DoubleClick(int32_t position)
 {
     ForgetPassed(record_);
-    if (IsPlainEdit(record_) || !Reading().doubleClick(record_, position).kept)
+    const auto select = IsPlainEdit(record_) ? nullptr : Reading().doubleClick;
+    if (!select || !select(record_, position).kept)
         field_.DoubleClick(position);
 }
 

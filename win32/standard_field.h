@@ -59,6 +59,7 @@ public:
 
     uint16_t stripInMargin = 0;  // pixels of the right margin that the spin's strip takes, beside the host's own
     uint32_t arrowsShown = 0;    // the arrows that the spin's window shows pressed
+    int32_t wheelRest = 0;       // what the wheel has turned beside whole notches
     LifeGuard* guard = nullptr;  // innermost entry into the library that works on this control
 
 private:

@@ -286,7 +286,8 @@ Reply OnWheel(EditInstance& edit, int32_t notches)
 {
     if (!MayStep(edit))
         return kPassOn;
-    Step(edit, notches, true);
+    if (notches != 0)
+        Step(edit, notches, true);
     return Keep(0);
 }
 
