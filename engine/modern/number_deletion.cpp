@@ -166,7 +166,7 @@ Outcome Erase(const EditInstance& edit, const Content& content, Eraser eraser)
     if (!shown.selection.IsEmpty())
         return Accepted(Without(edit, shown, shown.selection));
     const Selection taken = TakenBy(eraser, number);
-    if (taken.IsEmpty() || (shown.isEmpty && taken.start != number.Shown().Sign()))
+    if (taken.IsEmpty())
         return Accepted(Unchanged(shown, GoesBack(eraser) ? CaretWithNothingBefore(number) : number.Caret()));
     Content left = Without(edit, shown, taken);
     if (left.text == shown.text && left.isEmpty == shown.isEmpty && !GoesBack(eraser))

@@ -216,7 +216,7 @@ private:
     Reason JudgeTwoKinds()
     {
         const Char last = At(text_, found_.last);
-        if (found_.kinds > 2 || !IsPoint(last) || found_.ofLast > 1 || IsPointOnly(At(text_, found_.first)))
+        if (found_.kinds > 2 || !IsPoint(last) || found_.ofLast > 1)
             return ZTR_DOES_NOT_FIT;
         point_ = found_.last;
         return JudgeGroups(found_.last);

@@ -1,6 +1,7 @@
 // Numbers under modern editing: keys, deletion, the caret, paste, steps and states, straight over the functions that judge them.
 #include <gtest/gtest.h>
 
+#include "engine/services.h"
 #include "tests/support/modern_kind.h"
 #include "tests/support/rows.h"
 
@@ -29,6 +30,8 @@ constexpr Region kRegions[] = {
     {"IR", '/',    ',',    "R",   0},
     {"EQ", '.',    '.',    "$",   0},
     {"RP", '\xB7', '_',    "L",   0},
+    {"FB", '.',    ',',    "F.-", 1},
+    {"PB", '.',    ',',    ".-",  1},
 };
 
 zte::Settings SettingsOf(const std::string& name)
@@ -258,6 +261,7 @@ const KeyRow kSigns[] = {
     {"#,##0.00",      "1[2.3]4",       "-",          "-1[2.3]4",       0},
     {"#,##0.00",      "-1[2.3]4",      "-",          "1[2.3]4",        0},
     {"#,##0.00",      "[12].34",       "-",          "-[12].34",       0},
+    {"#,##0.00",      "[-1]2.34",      "-",          "[1]2.34",        0},
     {"#,##0.00",      "[12.34]",       "-",          "-|0.00",         0},
     {"#,##0.00",      "[-12.34]",      "-5",         "-5|.00",         0},
     {"#,##0.00",      "-[12.34]",      "-",          "-|0.00",         0},
@@ -331,6 +335,11 @@ const KeyRow kSeparators[] = {
     {"[currency(9)]", "",              "Fr.1.5",     "Fr.1.5|0",       0, "CH"},
     {"[currency(9)]", "",              "-1.5",       "Fr.-1.5|0",      0, "CH"},
     {"[currency(9)]", "",              "1,50EUR",    "1,50EUR|",       0, "DE"},
+    {"[currency(9)]", "",              "1.50F.-",    "1.50F.-|",       0, "FB"},
+    {"[currency(9)]", "",              "1.50.-",     "1.50.-|",        0, "PB"},
+    {"[currency(9)]", "",              "1.",         "1.|00.-",        0, "PB"},
+    {"$#,#.00",       "",              "0$",         "$|.00",          ZTR_WRONG_KIND},
+    {"$#,#.00",       "",              ".b$5",       "$5|.00",         0},
 };
 TEST_ROWS(Separators, ModernNumberKeys, kSeparators);
 
@@ -375,6 +384,7 @@ const KeyRow kDeletion[] = {
     {"000",           "0|12",          "d",          "00|2",           0},
     {"##0%",          "12|%",          "d",          "12|%",           0},
     {"0.00",          "=0",            "d",          "|0.00",          0},
+    {"0.00",          "",              ".d",         "0.|00",          0},
     // words
     {"#,##0.00",      "1,23|4.56",     "B",          "|4.56",          0},
     {"#,##0.00",      "1,234.5|6",     "B",          "1,234.|60",      0},
@@ -551,6 +561,9 @@ const PasteRow kNumbers[] = {
     {"1/5",              "#,##0.00",   "IR",   "1/50|",          0,                -1},
     {"1.5",              "#,##0.00",   "IR",   "1/50|",          0,                -1},
     {"1/5",              "#,##0.00",   "US",   kRefused,         ZTR_DOES_NOT_FIT, 1},
+    {"1/234",            "#,##0.00",   "IR",   "1/23|",          0,                -1},
+    {"1/234,50",         "#,##0.00",   "IR",   kRefused,         ZTR_DOES_NOT_FIT, 5},
+    {"1/234/567",        "#,##0.00",   "IR",   kRefused,         ZTR_DOES_NOT_FIT, 5},
     {"1_5",              "#,##0.00",   "RP",   kRefused,         ZTR_DOES_NOT_FIT, 2},
     // one alone before three digits
     {"1,234",            "#,##0.00",   "US",   "1,234.00|",      0,                -1},
@@ -626,6 +639,9 @@ const PasteRow kNumbers[] = {
     {"1.234,50EUR",      "[currency(9)]", "DE", "1.234,50|EUR",  0,                -1},
     {"EUR 5",            "$#,##0.00",  "US",   kRefused,         ZTR_DOES_NOT_FIT, 0},
     {"5 USD",            "$#,##0.00",  "US",   kRefused,         ZTR_DOES_NOT_FIT, 2},
+    {"CHF 5",            "CHF#,##0.00", "US",  "CHF5.00|",       0,                -1},
+    {"5 CHF",            "CHF#,##0.00", "US",  "CHF5.00|",       0,                -1},
+    {"-",                "###",        "US",   kRefused,         ZTR_DOES_NOT_FIT, 0},
     {"T $5",             "~T~ $#,##0.00", "US", "T $5.00|",      0,                -1},
     {"$5",               "~T~ $#,##0.00", "US", "T $5.00|",      0,                -1},
     {"5",                "##0.0%",     "US",   "5.0|%",          0,                -1},
@@ -727,6 +743,7 @@ const StateRow kStates[] = {
     {"0.00",        "",          "5b",    ZTS_EMPTY,        nullptr},
     {"0.00",        "",          ".",     ZTS_EMPTY,        nullptr},
     {"0.00",        "",          "-",     ZTS_INCOMPLETE,   nullptr},
+    {"0.00",        "",          ".-",    ZTS_INCOMPLETE,   nullptr},
     {"0.00",        "",          "-5b",   ZTS_INCOMPLETE,   nullptr},
     {"0.00",        "",          "-5bb",  ZTS_EMPTY,        nullptr},
     {"0.00",        "",          "-5",    ZTS_COMPLETE,     "-5.00"},
