@@ -50,12 +50,12 @@ void ShowEmptyValue(EditInstance& edit)
 
 }  // namespace
 
-bool ChangeMask(EditInstance& edit, const Char* mask, int32_t dataType)
+bool ChangeMask(EditInstance& edit, const Char* mask, int32_t dataType, const Settings& settings)
 {
     edit.dataType = dataType;
     FieldLayout layout{};
     layout.yearDigits = edit.yearDigits;
-    const ChosenMask chosen = ChooseMask(GivenMask(mask), dataType, *edit.settings, layout);
+    const ChosenMask chosen = ChooseMask(GivenMask(mask), dataType, settings, layout);
     KeepLayout(edit, layout);
     InstallMask(edit, chosen.text, chosen.origin, chosen.unitsForced);
     edit.decimalPlaces = edit.table->number.shape.fractionPlaces;
@@ -68,7 +68,7 @@ bool ChangeMask(EditInstance& edit, const Char* mask, int32_t dataType)
 
 int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
 {
-    const bool asGiven = ChangeMask(edit, mask, dataType);
+    const bool asGiven = ChangeMask(edit, mask, dataType, *edit.settings);
     const bool isNew = edit.maskJustSet == 0;
     edit.maskJustSet = 1;
     if (isNew && ShowsPlainEmptyText(edit))

@@ -59,12 +59,6 @@ void EraseSelection(EditInstance& edit)
     editor.Finish(KindOf(edit).erase(edit, editor.Look(), Eraser::Forward), Run::None);
 }
 
-// The keypad's decimal key is the point of every number, whatever it types.
-Char Meant(const EditInstance& edit, Char typed)
-{
-    return edit.editor->keypadPoint && &KindOf(edit) == &kNumbers ? edit.settings->decimalChar : typed;
-}
-
 void Enter(EditInstance& edit, Char typed)
 {
     if (!MayChange(edit, typed))
@@ -180,7 +174,7 @@ Reply Obey(EditInstance& edit, uint32_t typed)
 
 Reply OnKeyDown(EditInstance& edit, uint32_t key, KeyData keyData)
 {
-    edit.editor->keypadPoint = key == kKeypadPoint;
+    edit.editor->ExpectKeypadPoint(key == kKeypadPoint);
     if (key >> 16 == KEY_TAB)
         return Keep(0);
     switch (key) {
@@ -207,8 +201,7 @@ Reply OnChar(EditInstance& edit, uint32_t typed, KeyData)
 {
     if (IsControl(static_cast<Char>(typed)))
         return Obey(edit, typed);
-    Enter(edit, Meant(edit, static_cast<Char>(typed)));
-    edit.editor->keypadPoint = false;
+    Enter(edit, static_cast<Char>(typed));
     return Keep();
 }
 

@@ -41,6 +41,14 @@ DateTimeValue* ShownDateTime(const EditInstance& edit, const Content& content)
     return block;
 }
 
+// Under these a number's mask is what it is written as, '.' and ',' being placeholders: one mask serves every country.
+Settings WithPlainSeparators(Settings settings)
+{
+    settings.decimalChar = '.';
+    settings.thousandChar = ',';
+    return settings;
+}
+
 // The text as a value of classic editing reads it, which refuses nothing.
 void ShowWhatCanBeRead(EditInstance& edit, const Char* text)
 {
@@ -66,7 +74,8 @@ void ShowWhatCanBeRead(EditInstance& edit, const Char* text)
 
 int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
 {
-    const bool asGiven = ChangeMask(edit, mask, dataType);
+    const bool asGiven = ChangeMask(edit, mask, dataType, *edit.settings) ||
+                         (IsNumeric(dataType) && ChangeMask(edit, mask, dataType, WithPlainSeparators(*edit.settings)));
     edit.maskJustSet = 1;
     if (&KindOf(edit) != &kChoices || edit.editor->Look().text.empty())  // an entry that is shown stays
         modern::SetData(edit, nullptr);

@@ -63,6 +63,7 @@ const Content& Editor::LookAtTyping(bool pauseEnds)
     const uint32_t now = edit_.field->Milliseconds();
     if (pauseEnds && now - std::exchange(lastTyped_, now) >= History::kPause)
         left_.typing = {};
+    left_.typing.keypadPoint = std::exchange(keypadPoint_, false);
     return left_;
 }
 

@@ -49,8 +49,8 @@ public:
     // Begins with a content, and shows it where the field shows another text. Nobody is told of its state.
     void TakeOver(const Content& content);
 
-    // The character of the keypad's decimal key is to come, or that of a Backspace already carried out.
-    bool keypadPoint = false;
+    // The next character is that of the keypad's decimal key.
+    void ExpectKeypadPoint(bool expected) { keypadPoint_ = expected; }
 
 private:
     void Tell(const Outcome& refused, Char typed);
@@ -64,6 +64,7 @@ private:
     int32_t state_ = ZTS_EMPTY;
     uint32_t lastTyped_ = 0;
     bool tells_ = false;
+    bool keypadPoint_ = false;
 };
 
 }  // namespace zte::modern
