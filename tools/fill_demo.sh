@@ -131,16 +131,16 @@ press_arrow() # field row times
     done
 }
 
-# Two clicks on one spot would be a double click, which does not bring the focus back to a field that a full one has left.
-offset=6
+# Two clicks on one spot of a field would be a double click, which does not bring the focus back to a field that a full one has left.
+declare -A offsets
 
 do_step() # field action
 {
     local left top right bottom
     read -r left top right bottom <<<"$(place_of "$1")"
     [ -n "${bottom:-}" ] || fail "there is no field $1"
-    offset=$((26 - offset))
-    click $((left + offset)) $(((top + bottom) / 2))
+    offsets[$1]=$((26 - ${offsets[$1]:-20}))
+    click $((left + offsets[$1])) $(((top + bottom) / 2))
     case $2 in
     over:*) xdotool key --delay 20 Home shift+End type --delay 25 -- "${2#over:}" ;;
     keys:*)

@@ -23,7 +23,7 @@ namespace {
 // What the control holds, of whichever editing it is.
 Content ContentOf(const EditInstance& edit)
 {
-    return edit.editor ? edit.editor->Look() : ClassicContent(edit);
+    return edit.editor ? edit.editor->Peek() : ClassicContent(edit);
 }
 
 bool HoldsValue(int32_t state)
@@ -130,7 +130,7 @@ void* GetData(const EditInstance& edit)
 {
     if (!edit.mask)
         return nullptr;
-    const Content& content = edit.editor->Look();
+    const Content content = edit.editor->Peek();
     const int32_t state = KindOf(edit).state(edit, content);
     if (edit.dataType == DT_STRING)
         return zte::GetData(edit);

@@ -57,6 +57,15 @@ const Content& Editor::Look()
     return left_;
 }
 
+Content Editor::Peek() const
+{
+    Content now = AtField();
+    const bool isSame = now.text == left_.text;
+    now.isEmpty = isSame && left_.isEmpty;
+    now.isUntouched = isSame && left_.isUntouched;
+    return now;
+}
+
 const Content& Editor::LookAtTyping(bool pauseEnds)
 {
     Look();

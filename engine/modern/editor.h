@@ -15,6 +15,8 @@ public:
 
     // What stands in the field, with what is remembered of it where nobody else has changed it since.
     const Content& Look();
+    // The same for one who only asks, in the middle of a change too: nothing is taken note of.
+    Content Peek() const;
     // The same before a key is typed; a pause may end what the keys before it have begun.
     const Content& LookAtTyping(bool pauseEnds);
     // The same, as it was when it was last looked at.
@@ -31,7 +33,7 @@ public:
     // The focus is about to leave.
     void Leave();
 
-    bool CanUndo();
+    bool CanUndo();  // where nobody else has changed the text
     bool Undo();
     bool Redo();
     void EndRun() { history_.EndRun(); }

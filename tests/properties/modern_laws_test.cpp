@@ -124,12 +124,15 @@ public:
         : random_(seed), row_(row), settings_(SettingsOf(settings)), control_(SetupOf(row), settings_, Today, this)
     {
         told_ = StateOf(control_.Record());
+        made_ = true;
     }
 
     void OnFieldEvent(FieldEvent event) override
     {
         if (event == FieldEvent::State)
             told_ = control_.Edit().LastState().is;
+        if (event == FieldEvent::Change && made_)
+            StateOf(control_.Record());
     }
 
     MemoryControl& Control() { return control_; }
@@ -223,6 +226,7 @@ private:
     const LawMask row_;
     Settings settings_;
     int32_t told_ = ZTS_EMPTY;
+    bool made_ = false;
     MemoryControl control_;
 };
 
@@ -241,6 +245,21 @@ void WithEveryControl(Check check)
             Played played(row, settings, settings * 7919 + static_cast<uint32_t>(&row - kMasks));
             ASSERT_NO_FATAL_FAILURE(check(played));
         }
+}
+
+// ---- what a parent may do in a notification
+
+// The literals that typing has passed, and the letters of a prefix, are remembered although the parent has asked for the state between.
+TEST(ModernNotifications, MayAskForTheStateWithoutDisturbingTheTyping)
+{
+    Played time({"HH:MM:SS:FFF", DT_TIME}, 0, 1);
+    for (const char typed : std::string("14:07:09:250"))
+        time.Control().Type(static_cast<uint32_t>(typed));
+    EXPECT_EQ(time.Edit().Shown(), "14:07:09:250");
+    Played codes({"", DT_STRING, "Red\tR/Green\tG/Grey\tY"}, 0, 1);
+    for (const char typed : std::string("grey"))
+        codes.Control().Type(static_cast<uint32_t>(typed));
+    EXPECT_EQ(codes.Edit().Shown(), "Grey");
 }
 
 // ---- the laws
