@@ -10,7 +10,7 @@
 #include "tests/support/marked_text.h"
 #include "tests/support/rows.h"
 
-namespace zttest {
+namespace zttest::pasting {
 namespace {
 
 using namespace zte;
@@ -740,4 +740,4 @@ TEST_ROWS(Entries, ModernPaste, kEntries);
 // clang-format on
 
 }  // namespace
-}  // namespace zttest
+}  // namespace zttest::pasting
