@@ -1,5 +1,6 @@
 // The entries of a code table as a kind: what is shown is always one of them, chosen by letters, keys and the spin.
 #include <algorithm>
+#include <vector>
 
 #include "engine/format/code_table.h"
 #include "engine/modern/kind.h"
