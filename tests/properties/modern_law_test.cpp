@@ -554,5 +554,88 @@ TEST(ModernLaw, EveryStringTypedIsRead)
     EXPECT_GT(tally.Played(), 1000u);
 }
 
+// ---- what is pasted
+
+std::string RandomText(uint32_t seed)
+{
+    static const char* const kPieces[] = {"7",    "4",    "04",       "31",  "13",   "30",  "99",         "000",
+                                          "2024", "1999", "20240704", "/",   "-",    ".",   ":",          " ",
+                                          ", ",   "//",   "T",        "JUL", "July", "mar", "ma",         "AM",
+                                          "pm",   "p",    "x",        "\t",  "+",    "(",   "  /  /    ", "07/04/2024"};
+    std::string text;
+    const uint32_t count = 1 + Mix(seed, 1) % 9;
+    for (uint32_t i = 0; i < count; ++i)
+        text += kPieces[Mix(seed, 2, i) % std::size(kPieces)];
+    return text;
+}
+
+// What a field shows goes into an empty one as it is.
+void ExpectOwnTextIsTaken(Field& field, const std::string& row)
+{
+    const std::string shown = field.Shown();
+    field.SetData("");
+    field.Control().Edit().SetClipboard(FromAscii(shown.c_str()));
+    field.Control().Paste();
+    ASSERT_EQ(field.Shown(), shown) << row;
+}
+
+void ExpectValueOrRefusal(Field& field, const std::string& mask, const std::string& text)
+{
+    MemoryField& edit = field.Control().Edit();
+    const std::string before = field.Shown();
+    const Selection selection = edit.ReadSelection();
+    edit.ForgetCounts();
+    edit.SetModifiedFlag(false);
+    edit.SetClipboard(FromAscii(text.c_str()));
+    field.Control().Paste();
+    const std::string row = mask + " \"" + before + "\": \"" + text + '"';
+    if (edit.Count(FieldEvent::Rejected) == 0) {
+        ASSERT_NE(StateOf(field.Control().Record()), ZTS_INVALID) << row << " shows " << field.Shown();
+        ASSERT_EQ(edit.ReadSelection().start, edit.ReadSelection().end) << row;
+        ExpectOwnTextIsTaken(field, row);
+        return;
+    }
+    ASSERT_EQ(edit.Count(FieldEvent::Rejected), 1) << row;
+    ASSERT_EQ(edit.Count(FieldEvent::Change), 0) << row;
+    ASSERT_FALSE(edit.IsModified()) << row;
+    ASSERT_EQ(field.Shown(), before) << row;
+    ASSERT_EQ(edit.ReadSelection().start, selection.start) << row;
+    ASSERT_EQ(edit.ReadSelection().end, selection.end) << row;
+    ASSERT_LE(edit.LastRejected().position, static_cast<int32_t>(text.size())) << row;
+}
+
+TEST(ModernLaw, WhatIsPastedIsAValueOrRefused)
+{
+    struct Pasted {
+        const char* mask;
+        int32_t type;
+        const char* other;
+    };
+    const Pasted kFields[] = {
+        {"MM/DD/YYYY",         DT_DATE,     "1999-12-31"      },
+        {"DD-MMM-YY",          DT_DATE,     "1999-12-31"      },
+        {"JJJ/YYYY",           DT_DATE,     "1999-12-31"      },
+        {"YYYY/DD/MM",         DT_DATE,     "1999-12-31"      },
+        {"MM/YY",              DT_DATE,     "1999-12-01"      },
+        {"HH:MM",              DT_TIME,     "23:59"           },
+        {"AM/PM HH.MM.SS.FF",  DT_TIME,     "23:59"           },
+        {"MM/DD/YYYY HH:MM",   DT_DATETIME, "1999-12-31 23:59"},
+        {"HH:MM AM/PM JJJ.YY", DT_DATETIME, "1999-12-31 23:59"},
+        {"XX",                 DT_DATETIME, ""                },
+        {"(###) XX-AA",        DT_STRING,   "123ab"           },
+    };
+    const uint64_t texts = 120000 / std::min<uint64_t>(Every(97), 120);
+    for (const Pasted& pasted : kFields) {
+        Field field(pasted.mask, pasted.type, StandardSettings());
+        ASSERT_TRUE(field.HasMask()) << pasted.mask;
+        for (uint32_t i = 0; i < texts; ++i) {
+            field.SetData(i % 2 == 0 ? pasted.other : "");
+            if (i % 3 == 0)
+                field.Control().Type(1);
+            ASSERT_NO_FATAL_FAILURE(ExpectValueOrRefusal(field, pasted.mask, RandomText(i)));
+        }
+    }
+}
+
 }  // namespace
 }  // namespace zttest::modern_law

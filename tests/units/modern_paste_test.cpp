@@ -503,6 +503,8 @@ constexpr PasteSetup kPointed = {"DD.MM.YYYY HH.MM", DT_DATETIME, nullptr, Germa
 constexpr PasteSetup kPointedTimeFirst = {"HH.MM JJJ.YYYY", DT_DATETIME, nullptr, German};
 constexpr PasteSetup kDateOfBoth = {"MM/DD/YYYY", DT_DATETIME};
 constexpr PasteSetup kHalfBefore = {"AM/PM MM/DD/YYYY HH:MM", DT_DATETIME, nullptr, Dotted};
+constexpr PasteSetup kFree = {"XXX", DT_DATETIME};
+constexpr PasteSetup kFreeTime = {"XXX", DT_TIME};
 constexpr PasteSetup kAtWord = {"MM/DD/YYYY at HH:MM", DT_DATETIME};
 
 // clang-format off
@@ -586,6 +588,9 @@ const PasteRow kDateTimes[] = {
     {kHalfBefore, "p.m. 07/04/2024 |01:30", "1/2/2023", "p.m. 01/02/2023 01:30|"},
     {kHalfBefore, "p.m. 07/04/2024 |01:30", "13:45", "p.m. 07/04/2024 01:45|"},
     {kHalfBefore, nullptr, "1:30 P.M. 7/4/2024",  "p.m. 07/04/2024 01:30|"},
+    {kFree, nullptr, "7/4/2024",                  "does not fit 0"},
+    {kFree, nullptr, "13:30",                     "does not fit 0"},
+    {kFreeTime, nullptr, "13:30",                 "does not fit 0"},
     {kAtWord, nullptr, "7/4/2024 at 13:30",       "07/04/2024 at 13:30|"},
     {kAtWord, nullptr, "7/4/2024 13:30",          "07/04/2024 at 13:30|"},
     {kAtWord, nullptr, "7/4/2024 AT 1:30 PM",     "07/04/2024 at 13:30|"},
