@@ -245,6 +245,7 @@ const PasteRow kDates[] = {
     {kUsDate, nullptr, "7//4/2024",        "does not fit 1"},
     {kUsDate, nullptr, "7/ /4/2024",       "does not fit 1"},
     {kUsDate, nullptr, "7:4:2024",         "does not fit 1"},
+    {kUsDate, nullptr, "7+4+2024",         "does not fit 1"},
     {kUsDate, nullptr, "12:30:45",         "does not fit 2"},
     {kUsDate, nullptr, "/7/4/2024",        "does not fit 0"},
     {kUsDate, nullptr, "-7/4/2024",        "does not fit 0"},
@@ -742,6 +743,45 @@ const PasteRow kEntries[] = {
     {kNoNull, "[Red]", "null!",        "no such entry 0"},
 };
 TEST_ROWS(Entries, ModernPaste, kEntries);
+// clang-format on
+
+// ---- a program's own replacement
+
+// EM_REPLACESEL with nothing takes the selection out, as a deletion does.
+class ModernReplacement : public RowTest<PasteRow> {};
+
+ROW_TEST(ModernReplacement, ByAProgram)
+{
+    Settings settings = StandardSettings();
+    const Text mask = FromAscii(GetParam().setup.mask);
+    ControlSetup setup;
+    setup.mask = mask.c_str();
+    setup.dataType = GetParam().setup.type;
+    setup.options = ZTEO_MODERN;
+    MemoryControl control(setup, settings, FourthOfJune);
+    const Marked before = Unmark(GetParam().before);
+    control.SetText(FromAscii(before.text.c_str()).c_str());
+    control.Select(before.start, before.end);
+    control.Replace(FromAscii(GetParam().text).c_str(), true);
+    const Selection selection = control.Edit().ReadSelection();
+    EXPECT_EQ(Mark({control.Edit().Shown().begin(), control.Edit().Shown().end()}, selection.start, selection.end),
+              GetParam().expected);
+    control.Undo();
+    EXPECT_EQ(control.Edit().Shown(), FromAscii(before.text.c_str()));
+}
+
+// clang-format off
+const PasteRow kReplacements[] = {
+    {kUsDate, "[12/31]/1999", "",             "|  /  /1999"},
+    {kUsDate, "12/3|1/1999", "",              "12/3|1/1999"},
+    {kUsDate, "[12/31]/1999", "7/4/2024",     "07/04/2024|"},
+    {kUsDate, "[12/31]/1999", "x",            "[12/31]/1999"},
+    {kBoth, "[12/31/1999] 23:59", "7/4/2024", "07/04/2024 23:59|"},
+    {kPhone, "(555) [123]-4567", "",          "(555) |   -4567"},
+    {kPhone, "(555) 1|23-4567", "",           "(555) 1|23-4567"},
+    {kPhone, "(555) [123]-4567", "9",         "(555) 9|  -4567"},
+};
+TEST_ROWS(Replacements, ModernReplacement, kReplacements);
 // clang-format on
 
 }  // namespace
