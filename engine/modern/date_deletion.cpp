@@ -65,7 +65,8 @@ Outcome EraseBack(const EditInstance& edit, const Content& content, bool word)
     if (!place)
         return Accepted(content);
     const int32_t end = std::min(caret, place->start + Filled(content.text, *place));
-    return Accepted(Without(content, *place, word ? place->start : std::max(end - 1, place->start), end));
+    return Accepted(
+        Without(content, *place, word ? place->start : std::max(end - 1, place->start), word ? place->End() : end));
 }
 
 Outcome EraseForward(const EditInstance& edit, const Content& content, bool word)

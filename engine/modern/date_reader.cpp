@@ -207,7 +207,8 @@ private:
             std::any_of(tokens_.begin(), tokens_.end(), [](const Token& token) { return token.HasColon(); });
         if (anyColon && !HasColonInDate())
             return Peek(1).HasColon();
-        return IsTimeField(allFields_.front()) && !Peek().IsNumber(kYearDigits) && !IsNext(TokenKind::Month);
+        return !allFields_.empty() && IsTimeField(allFields_.front()) && !Peek().IsNumber(kYearDigits) &&
+               !IsNext(TokenKind::Month);
     }
 
     bool HasColonInDate() const

@@ -49,6 +49,21 @@ int32_t Left(const Layout& layout, int32_t caret, bool byWord)
     return whole ? place->start : std::min(caret - 1, place->End() - 1);
 }
 
+// Of a place that holds several words the one at a position; else the place.
+Selection WordIn(const Text& text, const Place& place, int32_t position)
+{
+    const auto isOfWord = [&](int32_t at) { return place.Holds(at) && zte::At(text, at) != ' '; };
+    Selection word = {position, position};
+    while (isOfWord(word.start - 1))
+        --word.start;
+    while (isOfWord(word.end))
+        ++word.end;
+    const Text part = TextAt(text, place);
+    const size_t first = part.find_first_not_of(Char{' '});
+    const bool several = part.find(Char{' '}, first) < part.find_last_not_of(Char{' '});
+    return several && !word.IsEmpty() ? word : Selection{place.start, place.End()};
+}
+
 }  // namespace
 
 int32_t Move(const EditInstance& edit, const Content& content, Key key, bool control)
@@ -83,7 +98,7 @@ Selection WordAt(const EditInstance& edit, const Content& content, int32_t posit
     const Place* place = layout.Around(std::min(position, layout.End()));
     if (!place)
         place = layout.Next(position);
-    return place ? Selection{place->start, place->End()} : Selection{0, Length(content.text)};
+    return place ? WordIn(content.text, *place, position) : Selection{0, Length(content.text)};
 }
 
 }  // namespace zte::modern::places

@@ -10,7 +10,7 @@
 #include "tests/support/marked_text.h"
 #include "tests/support/rows.h"
 
-namespace zttest {
+namespace zttest::pasting {
 namespace {
 
 using namespace zte;
@@ -245,6 +245,7 @@ const PasteRow kDates[] = {
     {kUsDate, nullptr, "7//4/2024",        "does not fit 1"},
     {kUsDate, nullptr, "7/ /4/2024",       "does not fit 1"},
     {kUsDate, nullptr, "7:4:2024",         "does not fit 1"},
+    {kUsDate, nullptr, "7+4+2024",         "does not fit 1"},
     {kUsDate, nullptr, "12:30:45",         "does not fit 2"},
     {kUsDate, nullptr, "/7/4/2024",        "does not fit 0"},
     {kUsDate, nullptr, "-7/4/2024",        "does not fit 0"},
@@ -503,6 +504,8 @@ constexpr PasteSetup kPointed = {"DD.MM.YYYY HH.MM", DT_DATETIME, nullptr, Germa
 constexpr PasteSetup kPointedTimeFirst = {"HH.MM JJJ.YYYY", DT_DATETIME, nullptr, German};
 constexpr PasteSetup kDateOfBoth = {"MM/DD/YYYY", DT_DATETIME};
 constexpr PasteSetup kHalfBefore = {"AM/PM MM/DD/YYYY HH:MM", DT_DATETIME, nullptr, Dotted};
+constexpr PasteSetup kFree = {"XXX", DT_DATETIME};
+constexpr PasteSetup kFreeTime = {"XXX", DT_TIME};
 constexpr PasteSetup kAtWord = {"MM/DD/YYYY at HH:MM", DT_DATETIME};
 
 // clang-format off
@@ -586,6 +589,9 @@ const PasteRow kDateTimes[] = {
     {kHalfBefore, "p.m. 07/04/2024 |01:30", "1/2/2023", "p.m. 01/02/2023 01:30|"},
     {kHalfBefore, "p.m. 07/04/2024 |01:30", "13:45", "p.m. 07/04/2024 01:45|"},
     {kHalfBefore, nullptr, "1:30 P.M. 7/4/2024",  "p.m. 07/04/2024 01:30|"},
+    {kFree, nullptr, "7/4/2024",                  "does not fit 0"},
+    {kFree, nullptr, "13:30",                     "does not fit 0"},
+    {kFreeTime, nullptr, "13:30",                 "does not fit 0"},
     {kAtWord, nullptr, "7/4/2024 at 13:30",       "07/04/2024 at 13:30|"},
     {kAtWord, nullptr, "7/4/2024 13:30",          "07/04/2024 at 13:30|"},
     {kAtWord, nullptr, "7/4/2024 AT 1:30 PM",     "07/04/2024 at 13:30|"},
@@ -739,5 +745,44 @@ const PasteRow kEntries[] = {
 TEST_ROWS(Entries, ModernPaste, kEntries);
 // clang-format on
 
+// ---- a program's own replacement
+
+// EM_REPLACESEL with nothing takes the selection out, as a deletion does.
+class ModernReplacement : public RowTest<PasteRow> {};
+
+ROW_TEST(ModernReplacement, ByAProgram)
+{
+    Settings settings = StandardSettings();
+    const Text mask = FromAscii(GetParam().setup.mask);
+    ControlSetup setup;
+    setup.mask = mask.c_str();
+    setup.dataType = GetParam().setup.type;
+    setup.options = ZTEO_MODERN;
+    MemoryControl control(setup, settings, FourthOfJune);
+    const Marked before = Unmark(GetParam().before);
+    control.SetText(FromAscii(before.text.c_str()).c_str());
+    control.Select(before.start, before.end);
+    control.Replace(FromAscii(GetParam().text).c_str(), true);
+    const Selection selection = control.Edit().ReadSelection();
+    EXPECT_EQ(Mark({control.Edit().Shown().begin(), control.Edit().Shown().end()}, selection.start, selection.end),
+              GetParam().expected);
+    control.Undo();
+    EXPECT_EQ(control.Edit().Shown(), FromAscii(before.text.c_str()));
+}
+
+// clang-format off
+const PasteRow kReplacements[] = {
+    {kUsDate, "[12/31]/1999", "",             "|  /  /1999"},
+    {kUsDate, "12/3|1/1999", "",              "12/3|1/1999"},
+    {kUsDate, "[12/31]/1999", "7/4/2024",     "07/04/2024|"},
+    {kUsDate, "[12/31]/1999", "x",            "[12/31]/1999"},
+    {kBoth, "[12/31/1999] 23:59", "7/4/2024", "07/04/2024 23:59|"},
+    {kPhone, "(555) [123]-4567", "",          "(555) |   -4567"},
+    {kPhone, "(555) 1|23-4567", "",           "(555) 1|23-4567"},
+    {kPhone, "(555) [123]-4567", "9",         "(555) 9|  -4567"},
+};
+TEST_ROWS(Replacements, ModernReplacement, kReplacements);
+// clang-format on
+
 }  // namespace
-}  // namespace zttest
+}  // namespace zttest::pasting
