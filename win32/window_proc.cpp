@@ -4,6 +4,7 @@
 #include "engine/edit/key_down.h"
 #include "engine/edit/plain_edit.h"
 #include "engine/editing.h"
+#include "win32/context_menu.h"
 #include "win32/creation.h"
 #include "win32/known_record.h"
 #include "win32/library.h"
@@ -68,6 +69,7 @@ bool IsLeftToPlainEdit(UINT message)
     case WM_LBUTTONDBLCLK:
     case WM_LBUTTONUP:
     case WM_MOUSEWHEEL:
+    case WM_CONTEXTMENU:
     case WM_PASTE:
     case WM_CUT:
     case WM_CLEAR:
@@ -170,6 +172,7 @@ bool Dispatch(const MSG& message, Handler&& handle)
     case WM_SETTEXT:
         return !StandardField::TakeOwnMessage(message.hwnd) &&
                handle([&](EditInstance& edit) { return OnTextSet(edit, message); });
+    case WM_CONTEXTMENU: return handle([&](EditInstance& edit) { return OnContextMenu(edit, message); });
     case EM_REPLACESEL: return handle([=](EditInstance& edit) { return OnReplace(edit, wParam, lParam); });
     case WM_PASTE: return act(&Editing::paste);
     case WM_CUT: return act(&Editing::cut);
