@@ -60,6 +60,8 @@ public:
     uint16_t stripInMargin = 0;  // pixels of the right margin that the spin's strip takes, beside the host's own
     uint32_t arrowsShown = 0;    // the arrows that the spin's window shows pressed
     int32_t wheelRest = 0;       // what the wheel has turned beside whole notches
+    uint32_t hotArrow = 0;       // the arrow of a modern control's spin that the pointer is over
+    uint32_t pressedAt = 0;      // when the mouse button went down on the spin, in milliseconds
     LifeGuard* guard = nullptr;  // innermost entry into the library that works on this control
 
 private:

@@ -154,6 +154,11 @@ bool Dispatch(const MSG& message, Handler&& handle)
     case WM_SETFOCUS: return handle([](EditInstance& edit) { return OnFocus(edit); });
     case WM_KILLFOCUS: return handle([](EditInstance& edit) { return OnKillFocus(edit); });
     case WM_PAINT: return handle([](EditInstance& edit) { return OnPaint(edit); });
+    case WM_ENABLE:
+    case EM_SETREADONLY:
+    case WM_THEMECHANGED:
+    case WM_SYSCOLORCHANGE: return handle([](EditInstance& edit) { return OnLooksChanged(edit); });
+    case WM_DPICHANGED_AFTERPARENT: return handle([](EditInstance& edit) { return OnDpiChanged(edit); });
     case WM_SETFONT: return handle([=](EditInstance& edit) { return OnSetFont(edit, wParam, lParam); });
     case WM_KEYDOWN:
         return ConcernsKeyDownHere(number) &&
