@@ -5,18 +5,6 @@ namespace zte {
 
 namespace {
 
-// In the system's own folder alone. Never unloaded: its own windows' procedures may be in it.
-HMODULE SystemLibrary(const char* name)
-{
-    return LoadLibraryExA(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-}
-
-template <typename Function>
-Function Find(HMODULE library, const char* name)
-{
-    return library ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name))) : nullptr;
-}
-
 struct DpiCalls {
     UINT(WINAPI* dpiForWindow)(HWND);
     int(WINAPI* metricForDpi)(int, UINT);
@@ -25,8 +13,8 @@ struct DpiCalls {
 const DpiCalls& Dpi()
 {
     static const HMODULE user = GetModuleHandleA("user32.dll");
-    static const DpiCalls calls = {Find<decltype(DpiCalls::dpiForWindow)>(user, "GetDpiForWindow"),
-                                   Find<decltype(DpiCalls::metricForDpi)>(user, "GetSystemMetricsForDpi")};
+    static const DpiCalls calls = {FindFunction<decltype(DpiCalls::dpiForWindow)>(user, "GetDpiForWindow"),
+                                   FindFunction<decltype(DpiCalls::metricForDpi)>(user, "GetSystemMetricsForDpi")};
     return calls;
 }
 
@@ -41,11 +29,11 @@ struct StyleCalls {
 const StyleCalls& Styles()
 {
     static const HMODULE library = SystemLibrary("uxtheme.dll");
-    static const StyleCalls calls = {Find<decltype(StyleCalls::open)>(library, "OpenThemeData"),
-                                     Find<decltype(StyleCalls::openForDpi)>(library, "OpenThemeDataForDpi"),
-                                     Find<decltype(StyleCalls::close)>(library, "CloseThemeData"),
-                                     Find<decltype(StyleCalls::draw)>(library, "DrawThemeBackground"),
-                                     Find<decltype(StyleCalls::isActive)>(library, "IsThemeActive")};
+    static const StyleCalls calls = {FindFunction<decltype(StyleCalls::open)>(library, "OpenThemeData"),
+                                     FindFunction<decltype(StyleCalls::openForDpi)>(library, "OpenThemeDataForDpi"),
+                                     FindFunction<decltype(StyleCalls::close)>(library, "CloseThemeData"),
+                                     FindFunction<decltype(StyleCalls::draw)>(library, "DrawThemeBackground"),
+                                     FindFunction<decltype(StyleCalls::isActive)>(library, "IsThemeActive")};
     return calls;
 }
 
@@ -62,6 +50,11 @@ HANDLE OpenStyle(HWND hwnd, const wchar_t* parts)
 }
 
 }  // namespace
+
+HMODULE SystemLibrary(const char* name)
+{
+    return LoadLibraryExA(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+}
 
 UINT DpiOf(HWND hwnd)
 {

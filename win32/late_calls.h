@@ -5,6 +5,15 @@
 
 namespace zte {
 
+// A library of the system's own folder, never unloaded; null when there is none.
+HMODULE SystemLibrary(const char* name);
+
+template <typename Function>
+Function FindFunction(HMODULE library, const char* name)
+{
+    return library ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name))) : nullptr;
+}
+
 // Dots per inch of a window, as its thread sees it.
 UINT DpiOf(HWND hwnd);
 

@@ -85,11 +85,15 @@ void PaintNativeSpin(const EditInstance& edit, HDC dc, const RECT& rect)
     }
 }
 
+RECT ArrowPlace(HWND spin, uint32_t arrow)
+{
+    return PlaceOf(kArrows[arrow == SPIN_UP ? 0 : 1], ClientOf(spin));
+}
+
 uint32_t ArrowAt(HWND spin, POINT point)
 {
-    const RECT client = ClientOf(spin);
     for (const Arrow& arrow : kArrows) {
-        const RECT place = PlaceOf(arrow, client);
+        const RECT place = ArrowPlace(spin, arrow.flag);
         if (PtInRect(&place, point))
             return arrow.flag;
     }

@@ -11,6 +11,7 @@
 #include "win32/life_guard.h"
 #include "win32/native_spin.h"
 #include "win32/record_store.h"
+#include "win32/spin_accessible.h"
 #include "win32/spin_layout.h"
 #include "ztedit.h"
 
@@ -194,6 +195,11 @@ void OnSetRedraw(HWND spin, WPARAM on)
         ShowWindow(spin, SW_HIDE);
 }
 
+bool IsAskedFor(const EditInstance* edit, LPARAM object)
+{
+    return edit && edit->editor && static_cast<LONG>(object) == OBJID_CLIENT;
+}
+
 // What Route takes; for all others the record is not looked up, which is a call into the window manager.
 bool IsRouted(UINT message)
 {
@@ -330,6 +336,9 @@ LRESULT CALLBACK ZTE_SpinWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
         return OnCreate(hwnd, reinterpret_cast<const CREATESTRUCTA*>(lParam));
     if (message == WM_NCPAINT)  // there is no frame; the system would ask for a context first, and then see that
         return 0;
+    if (message == WM_GETOBJECT && IsAskedFor(GetEditInstance(hwnd), lParam))
+        if (const LRESULT answer = AnswerAssistance(hwnd, wParam))
+            return answer;
     EditInstance* edit = RecordFor(hwnd, message);
     if (edit && WhileAlive(*edit, true, [&] { return Route(hwnd, *edit, message, wParam, lParam); }))
         return 0;

@@ -4,6 +4,7 @@
 #include "engine/edit/key_down.h"
 #include "engine/edit/plain_edit.h"
 #include "engine/editing.h"
+#include "win32/characters.h"
 #include "win32/context_menu.h"
 #include "win32/creation.h"
 #include "win32/known_record.h"
@@ -25,6 +26,7 @@ Reply OnKillFocus(EditInstance& edit)
 {
     EditingOf(edit).focusLost(edit);
     FieldOf(edit).wheelRest = 0;
+    FieldOf(edit).bytesToCome = 0;
     return OnFocus(edit);
 }
 
@@ -66,6 +68,8 @@ bool IsLeftToPlainEdit(UINT message)
     case WM_KEYUP:
     case WM_CHAR:
     case WM_SYSCHAR:
+    case WM_IME_CHAR:
+    case WM_UNICHAR:
     case WM_LBUTTONDBLCLK:
     case WM_LBUTTONUP:
     case WM_MOUSEWHEEL:
@@ -165,7 +169,9 @@ bool Dispatch(const MSG& message, Handler&& handle)
                handle([=](EditInstance& edit) { return EditingOf(edit).keyDown(edit, number, lParam); });
     case WM_KEYUP:
         return DeletionIsOpen() && handle([=](EditInstance& edit) { return EditingOf(edit).keyUp(edit, number); });
-    case WM_CHAR: return handle([=](EditInstance& edit) { return EditingOf(edit).character(edit, number, lParam); });
+    case WM_CHAR: return handle([=](EditInstance& edit) { return OnCharacter(edit, wParam, lParam); });
+    case WM_IME_CHAR: return handle([=](EditInstance& edit) { return OnInputMethodCharacter(edit, wParam, lParam); });
+    case WM_UNICHAR: return handle([=](EditInstance& edit) { return OnCodePoint(edit, wParam, lParam); });
     case WM_SYSCHAR: return wParam == kBackspace && act(&Editing::undo);
     case WM_LBUTTONDOWN: return handle([](EditInstance& edit) { return OnButtonDown(edit); });
     case WM_LBUTTONDBLCLK: return handle([=](EditInstance& edit) { return OnDoubleClick(edit, lParam); });
