@@ -47,11 +47,13 @@ void StepClassic(EditInstance& edit, bool up, bool)
 void Ignore(EditInstance&) {}
 
 constexpr Editing kClassic = {
-    OnKeyDown,        OnKeyUp,      OnChar,         PasteClassic, LeaveToField,
-    LeaveToField,     LeaveToField, LeaveToField,   nullptr,      StepClassic,
-    IsClickCorrected, CorrectClick, nullptr,        OnFocusLost,  OnTextSetFromOutside,
-    Ignore,           Ignore,       LeaveReplacing, LeaveToField, LeaveToField,
-    SetMask,          SetData,      SetDataString,  GetData,      SetSpin,
+    OnKeyDown,    OnKeyUp,      OnChar,         nullptr,
+    PasteClassic, LeaveToField, LeaveToField,   LeaveToField,
+    LeaveToField, nullptr,      StepClassic,    IsClickCorrected,
+    CorrectClick, nullptr,      OnFocusLost,    OnTextSetFromOutside,
+    Ignore,       Ignore,       LeaveReplacing, LeaveToField,
+    LeaveToField, SetMask,      SetData,        SetDataString,
+    GetData,      SetSpin,
 };
 
 // ---- modern
@@ -75,6 +77,7 @@ constexpr Editing kModern = {
     modern::OnKeyDown,
     modern::OnKeyUp,
     modern::OnChar,
+    modern::OnForeignChar,
     modern::Paste,
     modern::Cut,
     modern::Clear,

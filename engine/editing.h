@@ -12,6 +12,8 @@ struct Editing {
     Reply (*keyDown)(EditInstance&, uint32_t key, KeyData);
     Reply (*keyUp)(EditInstance&, uint32_t key);
     Reply (*character)(EditInstance&, uint32_t typed, KeyData);
+    Reply (*foreignCharacter)(
+        EditInstance&);  // one that the code page does not have, or has in several bytes; null: the field's own
 
     // ---- the other acts of a user. Not kept: they are the field's own.
     Reply (*paste)(EditInstance&);

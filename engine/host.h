@@ -90,6 +90,8 @@ public:
     // does without the beep.
     virtual bool NotifyRejected(int32_t reason, int32_t position, Char character) = 0;
     virtual void NotifyState(int32_t was, int32_t is) = 0;  // ZTS_ values
+    // Another value stands there than the user has typed: by a step, a choice, an undo. For those who cannot see it.
+    virtual void NotifyValue() {}
 
     // Of any clock, and going round: only differences count.
     virtual uint32_t Milliseconds() const = 0;

@@ -123,7 +123,11 @@ int32_t WINAPI ZTE_SetModern(HWND hwnd, int32_t on)
     const bool was = edit->editor != nullptr;
     if (was && on == 0)  // what an outer call has still to do would be the work of an editor that is gone
         LifeGuard::EndOuterWork(FieldOf(*edit));
-    WhileAlive(*edit, [&] { SetModern(*edit, on != 0); });
+    WhileAlive(*edit, [&] {
+        SetModern(*edit, on != 0);
+        if (edit->hwndSpin)  // it is drawn otherwise
+            InvalidateRect(SpinOf(*edit), nullptr, TRUE);
+    });
     return was ? 1 : 0;
 }
 
@@ -179,7 +183,7 @@ int16_t WINAPI ZTE_GetSpinWidth(HWND hwnd, const RECT* rect)
     const EditInstance* edit = GetEditInstance(hwnd);
     if (!edit)
         return 0;
-    return EvenSpinWidth(rect ? *rect : ClientOf(SpinOf(*edit)));
+    return EvenSpinWidth(*edit, rect ? *rect : ClientOf(SpinOf(*edit)));
 }
 
 int16_t WINAPI ZTE_SpinDateRange(HWND hwnd, DateTimeValue* value, const char* text)

@@ -298,6 +298,13 @@ void StandardField::NotifyState(int32_t was, int32_t is)
     Tell(state, ZTN_STATECHANGED);
 }
 
+void StandardField::NotifyValue()
+{
+    for (const HWND shown : {Window(), SpinOf(edit_)})
+        if (shown)
+            NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, shown, OBJID_CLIENT, CHILDID_SELF);
+}
+
 uint32_t StandardField::Milliseconds() const
 {
     return static_cast<uint32_t>(GetMessageTime());

@@ -48,6 +48,7 @@ public:
     void NotifyStepped() override;
     bool NotifyRejected(int32_t reason, int32_t position, Char character) override;
     void NotifyState(int32_t was, int32_t is) override;
+    void NotifyValue() override;
     uint32_t Milliseconds() const override;
 
     // True for a message to the control that the library sends itself, and once for each: what a host sends meanwhile is its own.
@@ -60,6 +61,9 @@ public:
     uint16_t stripInMargin = 0;  // pixels of the right margin that the spin's strip takes, beside the host's own
     uint32_t arrowsShown = 0;    // the arrows that the spin's window shows pressed
     int32_t wheelRest = 0;       // what the wheel has turned beside whole notches
+    uint32_t hotArrow = 0;       // the arrow of a modern control's spin that the pointer is over
+    int32_t bytesToCome = 0;     // of a character of several bytes that was refused
+    uint32_t pressedAt = 0;      // when the mouse button went down on the spin, in milliseconds
     LifeGuard* guard = nullptr;  // innermost entry into the library that works on this control
 
 private:

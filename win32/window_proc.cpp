@@ -4,6 +4,8 @@
 #include "engine/edit/key_down.h"
 #include "engine/edit/plain_edit.h"
 #include "engine/editing.h"
+#include "win32/characters.h"
+#include "win32/context_menu.h"
 #include "win32/creation.h"
 #include "win32/known_record.h"
 #include "win32/library.h"
@@ -24,6 +26,7 @@ Reply OnKillFocus(EditInstance& edit)
 {
     EditingOf(edit).focusLost(edit);
     FieldOf(edit).wheelRest = 0;
+    FieldOf(edit).bytesToCome = 0;
     return OnFocus(edit);
 }
 
@@ -65,9 +68,12 @@ bool IsLeftToPlainEdit(UINT message)
     case WM_KEYUP:
     case WM_CHAR:
     case WM_SYSCHAR:
+    case WM_IME_CHAR:
+    case WM_UNICHAR:
     case WM_LBUTTONDBLCLK:
     case WM_LBUTTONUP:
     case WM_MOUSEWHEEL:
+    case WM_CONTEXTMENU:
     case WM_PASTE:
     case WM_CUT:
     case WM_CLEAR:
@@ -152,13 +158,20 @@ bool Dispatch(const MSG& message, Handler&& handle)
     case WM_SETFOCUS: return handle([](EditInstance& edit) { return OnFocus(edit); });
     case WM_KILLFOCUS: return handle([](EditInstance& edit) { return OnKillFocus(edit); });
     case WM_PAINT: return handle([](EditInstance& edit) { return OnPaint(edit); });
+    case WM_ENABLE:
+    case EM_SETREADONLY:
+    case WM_THEMECHANGED:
+    case WM_SYSCOLORCHANGE: return handle([](EditInstance& edit) { return OnLooksChanged(edit); });
+    case WM_DPICHANGED_AFTERPARENT: return handle([](EditInstance& edit) { return OnDpiChanged(edit); });
     case WM_SETFONT: return handle([=](EditInstance& edit) { return OnSetFont(edit, wParam, lParam); });
     case WM_KEYDOWN:
         return ConcernsKeyDownHere(number) &&
                handle([=](EditInstance& edit) { return EditingOf(edit).keyDown(edit, number, lParam); });
     case WM_KEYUP:
         return DeletionIsOpen() && handle([=](EditInstance& edit) { return EditingOf(edit).keyUp(edit, number); });
-    case WM_CHAR: return handle([=](EditInstance& edit) { return EditingOf(edit).character(edit, number, lParam); });
+    case WM_CHAR: return handle([=](EditInstance& edit) { return OnCharacter(edit, wParam, lParam); });
+    case WM_IME_CHAR: return handle([=](EditInstance& edit) { return OnInputMethodCharacter(edit, wParam, lParam); });
+    case WM_UNICHAR: return handle([=](EditInstance& edit) { return OnCodePoint(edit, wParam, lParam); });
     case WM_SYSCHAR: return wParam == kBackspace && act(&Editing::undo);
     case WM_LBUTTONDOWN: return handle([](EditInstance& edit) { return OnButtonDown(edit); });
     case WM_LBUTTONDBLCLK: return handle([=](EditInstance& edit) { return OnDoubleClick(edit, lParam); });
@@ -170,6 +183,7 @@ bool Dispatch(const MSG& message, Handler&& handle)
     case WM_SETTEXT:
         return !StandardField::TakeOwnMessage(message.hwnd) &&
                handle([&](EditInstance& edit) { return OnTextSet(edit, message); });
+    case WM_CONTEXTMENU: return handle([&](EditInstance& edit) { return OnContextMenu(edit, message); });
     case EM_REPLACESEL: return handle([=](EditInstance& edit) { return OnReplace(edit, wParam, lParam); });
     case WM_PASTE: return act(&Editing::paste);
     case WM_CUT: return act(&Editing::cut);

@@ -205,6 +205,15 @@ Reply OnChar(EditInstance& edit, uint32_t typed, KeyData)
     return Keep();
 }
 
+Reply OnForeignChar(EditInstance& edit)
+{
+    if (MayChange(edit)) {
+        edit.editor->Look();
+        edit.editor->Refuse(ZTR_NOT_IN_CODE_PAGE);
+    }
+    return Keep();
+}
+
 Reply Paste(EditInstance& edit)
 {
     if (!MayChange(edit))

@@ -9,6 +9,7 @@ namespace zte::modern {
 Reply OnKeyDown(EditInstance& edit, uint32_t key, KeyData keyData);
 Reply OnKeyUp(EditInstance& edit, uint32_t key);
 Reply OnChar(EditInstance& edit, uint32_t typed, KeyData keyData);
+Reply OnForeignChar(EditInstance& edit);
 
 Reply Paste(EditInstance& edit);
 Reply Cut(EditInstance& edit);

@@ -313,6 +313,8 @@ private:
 
     Outcome SeparateAtEnd(const Layout& after, bool completed)
     {
+        if (after.Places().empty())  // a mask of literals alone
+            return Refused(ZTR_WRONG_KIND);
         const int32_t end = after.End();
         const bool isLiteral = end < Length(content_.text) && At(content_.text, end) == typed_;
         if (!completed && !(isLiteral && Caret() > after.Places().back().start))

@@ -86,7 +86,10 @@ void Editor::Finish(Outcome outcome, Run run, Char typed)
     if (!IsSameValue(before, outcome.content))
         history_.Add(before, outcome.content, run, edit_.field->Milliseconds());
     const bool goesOn = outcome.isFull && Has(edit_, AUTOSKIP);
+    const bool chosen = run == Run::Stepping || &KindOf(edit_) == &kChoices;
     Show(before, outcome.content);
+    if (chosen && !IsSameValue(before, outcome.content))
+        edit_.field->NotifyValue();
     if (goesOn && state_ != ZTS_INVALID)
         edit_.field->NotifyFull();
 }
@@ -173,6 +176,7 @@ bool Editor::Undo()
     if (!history_.CanUndo())
         return false;
     Show(before, Content(history_.Undo()));
+    edit_.field->NotifyValue();
     return true;
 }
 
@@ -182,6 +186,7 @@ bool Editor::Redo()
     if (!history_.CanRedo())
         return false;
     Show(before, Content(history_.Redo()));
+    edit_.field->NotifyValue();
     return true;
 }
 

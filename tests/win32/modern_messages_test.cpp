@@ -63,9 +63,11 @@ ROW_TEST(ModernAct, IsToldOnce)
 
 // clang-format off
 const ActCase kActs[] = {
-    {"ADigit", kPhone, DT_STRING, nullptr, 1, 1, Act::Keys, "5", 0, "(5|  )    -    ", {"update", "change", "state empty to incomplete"}, 0},
+    {"ADigit", kPhone, DT_STRING, nullptr, 1, 1, Act::Keys, "5", 0, "(5|  )    -    ",
+        {"update", "change", "state empty to incomplete"}, 0},
     {"ALetterInADigitsPlace", kPhone, DT_STRING, "555", 1, 4, Act::Keys, "x", 0, "([555])    -    ", {"rejected wrong kind at 1 by x"}, 1},
-    {"ADigitOfADate", kDate, DT_DATE, nullptr, 0, 0, Act::Keys, "1", 0, "1| /  /    ", {"update", "change", "state empty to incomplete"}, 0},
+    {"ADigitOfADate", kDate, DT_DATE, nullptr, 0, 0, Act::Keys, "1", 0, "1| /  /    ",
+        {"update", "change", "state empty to incomplete"}, 0},
     {"TheLastDigit", kDate, DT_DATE, nullptr, 0, 0, Act::Keys, "02302024", 0, "02/30/2024|",
         {"update", "change", "state empty to incomplete", "update", "change", "update", "change", "update", "change", "update", "change",
          "update", "change", "update", "change", "update", "change", "state incomplete to invalid"}, 0},
@@ -74,21 +76,42 @@ const ActCase kActs[] = {
     {"EscapeTabAndEnter", kPhone, DT_STRING, "555", 1, 4, Act::Keys, "{Esc}{Tab}{Enter}", 0, "([555])    -    ", {}, 0},
     {"CopyByKey", kPhone, DT_STRING, "555", 1, 4, Act::Keys, "{Ctrl+C}", 0, "([555])    -    ", {}, 0},
     {"SelectAllByKey", kPhone, DT_STRING, "555", 1, 1, Act::Keys, "{Ctrl+A}", 0, "[(555)    -    ]", {}, 0},
-    {"Cut", kPhone, DT_STRING, "5551234567", 1, 8, Act::Message, nullptr, WM_CUT, "(|   )   3-4567", {"update", "change", "state complete to incomplete"}, 0},
+    {"Cut", kPhone, DT_STRING, "5551234567", 1, 8, Act::Message, nullptr, WM_CUT, "(|   )   3-4567",
+        {"update", "change", "state complete to incomplete"}, 0},
     {"CutWithoutASelection", kPhone, DT_STRING, "555", 2, 2, Act::Message, nullptr, WM_CUT, "(5|55)    -    ", {}, 0},
-    {"Clear", kPhone, DT_STRING, "555", 0, -1, Act::Message, nullptr, WM_CLEAR, "(|   )    -    ", {"update", "change", "state incomplete to empty"}, 0},
+    {"Clear", kPhone, DT_STRING, "555", 0, -1, Act::Message, nullptr, WM_CLEAR, "(|   )    -    ",
+        {"update", "change", "state incomplete to empty"}, 0},
     {"ClearWithoutASelection", kPhone, DT_STRING, "555", 2, 2, Act::Message, nullptr, WM_CLEAR, "(5|55)    -    ", {}, 0},
     {"UndoOfNothing", kPhone, DT_STRING, "555", 2, 2, Act::Message, nullptr, WM_UNDO, "(5|55)    -    ", {}, 0},
     {"UndoOfNothingByAnotherName", kPhone, DT_STRING, "555", 2, 2, Act::Message, nullptr, EM_UNDO, "(5|55)    -    ", {}, 0},
-    {"Paste", kPhone, DT_STRING, nullptr, 1, 1, Act::Paste, "555-123-4567", WM_PASTE, "(555) 123-4567|", {"update", "change", "state empty to complete"}, 0},
+    {"Paste", kPhone, DT_STRING, nullptr, 1, 1, Act::Paste, "555-123-4567", WM_PASTE, "(555) 123-4567|",
+        {"update", "change", "state empty to complete"}, 0},
     {"PasteOfLetters", kPhone, DT_STRING, "555", 0, -1, Act::Paste, "555x", WM_PASTE, "[(555)    -    ]", {"rejected wrong kind at 3"}, 1},
     {"PasteOfNothing", kPhone, DT_STRING, "555", 1, 1, Act::Paste, "", WM_PASTE, "(|555)    -    ", {}, 0},
-    {"ReplacementOfTheSelection", kPhone, DT_STRING, "5551234567", 6, 9, Act::Replace, "999", 0, "(555) 999-|4567", {"update", "change"}, 0},
-    {"ReplacementThatDoesNotFit", kPhone, DT_STRING, "5551234567", 6, 9, Act::Replace, "none", 0, "(555) [123]-4567", {"rejected wrong kind at 0"}, 1},
+    {"ReplacementOfTheSelection", kPhone, DT_STRING, "5551234567", 6, 9, Act::Replace, "999", 0, "(555) 999-|4567",
+        {"update", "change"}, 0},
+    {"ReplacementThatDoesNotFit", kPhone, DT_STRING, "5551234567", 6, 9, Act::Replace, "none", 0, "(555) [123]-4567",
+        {"rejected wrong kind at 0"}, 1},
     {"WindowText", kPhone, DT_STRING, nullptr, 1, 1, Act::WindowText, "any", 0, "|any", {"update", "change", "state empty to invalid"}, 0},
 };
 // clang-format on
 TEST_ROWS(Rows, ModernAct, kActs);
+
+// ---- masks that have nothing to fill in
+
+class ModernMaskOfLiterals : public ModernWindow {};
+
+TEST_F(ModernMaskOfLiterals, TakesNothing)
+{
+    for (const int32_t type : {DT_STRING, DT_TIME}) {
+        Make("----", type);
+        const std::string text = "----";
+        Select(0, 0);
+        Play("-x1 {Right}-x1 {Back}{Del}{End}-x1 {Ctrl+A}{Del}-x1 {Home}{Up}{Down}");
+        EXPECT_EQ(control_->Text(), text) << type;
+        EXPECT_FALSE(CanUndo()) << type;
+    }
+}
 
 // ---- undo
 
@@ -479,9 +502,8 @@ TEST_F(ClassicBesideModern, PassesOnWhatItHasNoPartIn)
     config.options = ZTEO_SPIN;
     Make(config, 0);
     BaseRecorder recorder;
-    constexpr UINT kMessages[] = {WM_CUT,           WM_CLEAR,           WM_UNDO,       EM_UNDO,    EM_CANUNDO,
-                                  EM_SETSEL,        EM_EMPTYUNDOBUFFER, WM_MOUSEWHEEL, WM_SYSCHAR, WM_LBUTTONDBLCLK,
-                                  WM_INITMENUPOPUP, WM_COMMAND};
+    constexpr UINT kMessages[] = {WM_CUT,    WM_CLEAR,           WM_UNDO,       EM_UNDO,    EM_CANUNDO,
+                                  EM_SETSEL, EM_EMPTYUNDOBUFFER, WM_MOUSEWHEEL, WM_SYSCHAR, WM_LBUTTONDBLCLK};
     for (const UINT message : kMessages) {
         recorder.Forget();
         Send(message, message == WM_SYSCHAR ? 8 : 0, 0);
