@@ -57,7 +57,9 @@ void ShowWhatCanBeRead(EditInstance& edit, const Char* text)
         return;
     }
     if (IsDateOrTime(edit.dataType)) {
-        modern::SetData(edit, nullptr);
+        DateTimeValue value;  // the empty one where the text is none
+        ParseCanonical(edit, text, value);
+        modern::SetData(edit, &value);
         return;
     }
     const Text plain = PlainNumberOf(edit, text);

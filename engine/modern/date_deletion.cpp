@@ -74,8 +74,8 @@ Outcome EraseForward(const EditInstance& edit, const Content& content, bool word
     const Layout layout(edit, content.text);
     const int32_t caret = content.Caret();
     const Place* place = layout.At(caret);
-    if (!place)
-        place = layout.Next(caret);
+    if (!place || IsBlank(Slice(content.text, caret, place->End() - caret)))
+        place = layout.Next(caret + 1);
     if (!place)
         return Accepted(content);
     const int32_t from = std::max(caret, place->start);

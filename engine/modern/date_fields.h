@@ -66,6 +66,9 @@ Reading ReadAll(const EditInstance& edit, const Text& text);
 // The display of a value; what it does not have is blank.
 Text Shown(const EditInstance& edit, const DateTimeValue& value);
 
+// The mask shows the value as it is, but for seconds that it does not have: no other century, no day lost.
+bool ShowsSame(const EditInstance& edit, const DateTimeValue& value);
+
 // The value lies outside the range of the spin.
 bool IsOutOfRange(const EditInstance& edit, const DateTimeValue& value);
 

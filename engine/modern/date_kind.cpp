@@ -31,7 +31,7 @@ Content Show(const EditInstance& edit, const void* data)
 std::optional<Content> ReadCanonical(const EditInstance& edit, const Text& text)
 {
     DateTimeValue value;
-    if (!ParseCanonical(edit, text.c_str(), value))
+    if (!ParseCanonical(edit, text.c_str(), value) || !ShowsSame(edit, value))
         return std::nullopt;
     return AtFirst(edit, Shown(edit, value));
 }

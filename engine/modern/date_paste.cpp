@@ -130,14 +130,25 @@ std::optional<Outcome> ShowOwn(const EditInstance& edit, const Content& content,
 
 }  // namespace
 
+bool ShowsSame(const EditInstance& edit, const DateTimeValue& value)
+{
+    const Reading back = ReadAll(edit, Shown(edit, Completed(value)));
+    if (back.whole != Whole::Value)
+        return false;
+    const DateTimeValue shown = Completed(back.value);
+    const bool sameDate = value.year == shown.year && value.month == shown.month && value.day == shown.day;
+    const bool sameTime = value.hour == shown.hour && value.minute == shown.minute;
+    return (sameDate || !HasDate(value)) && (sameTime || !HasTime(value));
+}
+
 Outcome Paste(const EditInstance& edit, const Content& content, const Text& text)
 {
     if (text.empty())  // of a program that takes the selection out
         return content.selection.IsEmpty() ? Accepted(content) : Erase(edit, content, Eraser::Forward);
+    // What the field itself shows comes first: a day before a month, copied and pasted back, stays one.
+    if (std::optional<Outcome> own = ShowOwn(edit, content, text))
+        return std::move(*own);
     const DateReading reading = ReadDateText(edit, text);
-    if (!reading.isCanonical)
-        if (std::optional<Outcome> own = ShowOwn(edit, content, text))
-            return std::move(*own);
     return reading.reason == 0 ? ShowRead(edit, content, reading) : Refused(reading.reason, reading.position);
 }
 

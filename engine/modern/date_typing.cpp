@@ -141,9 +141,16 @@ private:
             return Result();
         if (Choose(Text(1, typed_)))
             return Result();
-        if (IsDigit(typed_) && place.kind != FieldKind::AmPm)
-            return TypeDigit(place);
+        if (IsDigit(typed_))
+            return place.kind == FieldKind::AmPm ? TypeBehind(place) : TypeDigit(place);
         return IsSeparator() ? Separate() : Refused(ZTR_WRONG_KIND);
+    }
+
+    // A digit at the designator is the next field's.
+    Outcome TypeBehind(const Place& marker)
+    {
+        const Place* next = layout_.Next(marker.End());
+        return next && IsPart(*next) ? TypeDigit(*next) : Refused(ZTR_WRONG_KIND);
     }
 
     // Free text takes every character.

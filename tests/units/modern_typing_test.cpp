@@ -542,7 +542,7 @@ constexpr TypingSetup kNoNull = {"", DT_STRING, 0, "Red\tr/Green\tg"};
 const TypingRow kStringRows[] = {
     {kPhone, nullptr, "5551234567",          "(555) 123-4567|"},
     {kPhone, nullptr, "(555) 123-4567",      "(555) 123-4567|"},
-    {kPhone, nullptr, "555-",                "(555)    -|    "},
+    {kPhone, nullptr, "555-",                "(555) |   -    "},
     {kPhone, nullptr, "555",                 "(555) |   -    "},
     {kPhone, nullptr, "55x",                 "(55| )    -    ", "wrong kind"},
     {kPhone, nullptr, "55512345678",         "(555) 123-4567|", "full"},
