@@ -120,6 +120,14 @@ void EndCreation(EditInstance& edit)
         edit.editor->StartTelling();
 }
 
+void TellState(EditInstance& edit)
+{
+    if (!edit.editor)
+        return;
+    edit.editor->Look();
+    edit.editor->TellState();
+}
+
 bool SetModern(EditInstance& edit, bool on)
 {
     const bool was = edit.editor != nullptr;

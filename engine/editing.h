@@ -53,6 +53,9 @@ const Editing& EditingOf(const EditInstance& edit);
 void BeginModern(EditInstance& edit);
 void EndCreation(EditInstance& edit);
 
+// Another range or code table may have made another state of what is shown; the parent of a modern control is told.
+void TellState(EditInstance& edit);
+
 // Turns modern editing on or off: what the positions hold stays, laid anew. True when it was on.
 bool SetModern(EditInstance& edit, bool on);
 

@@ -169,7 +169,10 @@ void WINAPI ZTE_DestroySpin(HWND hwnd)
 {
     EditInstance* edit = GetEditInstance(hwnd);
     if (edit && edit->hwndSpin)
-        WhileAlive(*edit, [&] { DestroySpin(*edit); });
+        WhileAlive(*edit, [&] {
+            DestroySpin(*edit);
+            TellState(*edit);
+        });
 }
 
 void WINAPI ZTE_SetSpinBkColor(HWND hwnd, COLORREF colour)
