@@ -2,6 +2,7 @@
 // control's table and asks no further.
 #pragma once
 
+#include "engine/format/display.h"
 #include "engine/record.h"
 #include "engine/reply.h"
 
@@ -43,6 +44,7 @@ struct Editing {
     int32_t (*setData)(EditInstance&, const void*);
     int32_t (*setDataString)(EditInstance&, const Char*);
     void* (*getData)(const EditInstance&);
+    Display (*format)(EditInstance&, const void*);  // what setData would show
     void (*setSpin)(EditInstance&, uint32_t increment, const Char* range, const Char* codeTable, uint32_t style);
 };
 
