@@ -53,7 +53,7 @@ constexpr Editing kClassic = {
     CorrectClick, nullptr,      OnFocusLost,    OnTextSetFromOutside,
     Ignore,       Ignore,       LeaveReplacing, LeaveToField,
     LeaveToField, SetMask,      SetData,        SetDataString,
-    GetData,      SetSpin,
+    GetData,      FormatValue,  SetSpin,
 };
 
 // ---- modern
@@ -99,6 +99,7 @@ constexpr Editing kModern = {
     modern::SetData,
     modern::SetDataString,
     modern::GetData,
+    modern::Format,
     modern::SetSpin,
 };
 
@@ -118,6 +119,14 @@ void EndCreation(EditInstance& edit)
 {
     if (edit.editor)
         edit.editor->StartTelling();
+}
+
+void TellState(EditInstance& edit)
+{
+    if (!edit.editor)
+        return;
+    edit.editor->Look();
+    edit.editor->TellState();
 }
 
 bool SetModern(EditInstance& edit, bool on)

@@ -2,6 +2,7 @@
 // control's table and asks no further.
 #pragma once
 
+#include "engine/format/display.h"
 #include "engine/record.h"
 #include "engine/reply.h"
 
@@ -43,6 +44,7 @@ struct Editing {
     int32_t (*setData)(EditInstance&, const void*);
     int32_t (*setDataString)(EditInstance&, const Char*);
     void* (*getData)(const EditInstance&);
+    Display (*format)(EditInstance&, const void*);  // what setData would show
     void (*setSpin)(EditInstance&, uint32_t increment, const Char* range, const Char* codeTable, uint32_t style);
 };
 
@@ -52,6 +54,9 @@ const Editing& EditingOf(const EditInstance& edit);
 // between.
 void BeginModern(EditInstance& edit);
 void EndCreation(EditInstance& edit);
+
+// Another range or code table may have made another state of what is shown; the parent of a modern control is told.
+void TellState(EditInstance& edit);
 
 // Turns modern editing on or off: what the positions hold stays, laid anew. True when it was on.
 bool SetModern(EditInstance& edit, bool on);

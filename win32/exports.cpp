@@ -1,6 +1,5 @@
 // The exported functions of ztedit.h, each around a function of the engine: they find the record, and survive its going away.
 #include "engine/editing.h"
-#include "engine/format/display.h"
 #include "engine/format/read_back.h"
 #include "engine/heap_block.h"
 #include "engine/spin/range.h"
@@ -101,7 +100,7 @@ FormatResult* WINAPI ZTE_FmtFormatData(HWND hwnd, const void* data)
     EditInstance* edit = GetEditInstance(hwnd);
     if (!edit)
         return nullptr;
-    const Display display = FormatValue(*edit, data);
+    const Display display = EditingOf(*edit).format(*edit, data);
     auto* result = NewBlock<FormatResult>(*edit);
     result->text = Duplicate(*edit, display.text);
     result->formatFlags = display.formatFlags;
@@ -169,7 +168,10 @@ void WINAPI ZTE_DestroySpin(HWND hwnd)
 {
     EditInstance* edit = GetEditInstance(hwnd);
     if (edit && edit->hwndSpin)
-        WhileAlive(*edit, [&] { DestroySpin(*edit); });
+        WhileAlive(*edit, [&] {
+            DestroySpin(*edit);
+            TellState(*edit);
+        });
 }
 
 void WINAPI ZTE_SetSpinBkColor(HWND hwnd, COLORREF colour)

@@ -62,6 +62,7 @@ public:
     uint32_t arrowsShown = 0;    // the arrows that the spin's window shows pressed
     int32_t wheelRest = 0;       // what the wheel has turned beside whole notches
     uint32_t hotArrow = 0;       // the arrow of a modern control's spin that the pointer is over
+    bool isPointToCome = false;  // the keypad's decimal key has gone down in a modern control, its character is to come
     int32_t bytesToCome = 0;     // of a character of several bytes that was refused
     uint32_t pressedAt = 0;      // when the mouse button went down on the spin, in milliseconds
     LifeGuard* guard = nullptr;  // innermost entry into the library that works on this control

@@ -123,16 +123,18 @@ Reply OnPlainInput(EditInstance& edit, const MSG& message)
 }
 
 // What was left open by a key's way down is known before the next message.
-Reply AfterKey(EditInstance& edit, UINT message, Reply reply)
+Reply AfterKey(EditInstance& edit, const MSG& message, Reply reply)
 {
-    if (IsKeyMessage(message))
-        NoteDeletion(edit);
+    if (!IsKeyMessage(message.message))
+        return reply;
+    FieldOf(edit).isPointToCome = edit.editor && message.message == WM_KEYDOWN && message.wParam == VK_DECIMAL;
+    NoteDeletion(edit);
     return reply;
 }
 
 Reply LeaveToPlainEdit(EditInstance& edit, const MSG& message)
 {
-    const Reply reply = AfterKey(edit, message.message, OnPlainInput(edit, message));
+    const Reply reply = AfterKey(edit, message, OnPlainInput(edit, message));
     return reply.kept ? reply : PassOnAndNote(edit, message, EditingOf(edit).afterTextSet);
 }
 
@@ -217,7 +219,7 @@ bool IsKept(const MSG& message, LRESULT& result)
             if (IsLeftToPlainEdit(message.message) && IsPlainEdit(*edit))
                 reply = LeaveToPlainEdit(*edit, message);
             else
-                reply = AfterKey(*edit, message.message, work(*edit));
+                reply = AfterKey(*edit, message, work(*edit));
         });
         const Reply done = reply ? *reply : IfGone(message);
         result = done.result;

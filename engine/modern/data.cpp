@@ -141,6 +141,14 @@ void* GetData(const EditInstance& edit)
     return HoldsValue(state) || state == ZTS_EMPTY ? zte::GetData(edit) : nullptr;
 }
 
+Display Format(EditInstance& edit, const void* data)
+{
+    Display display = FormatValue(edit, data);
+    if (edit.mask)
+        display.text = KindOf(edit).show(edit, data).text;
+    return display;
+}
+
 void SetSpin(EditInstance& edit, uint32_t increment, const Char* range, const Char* codeTable, uint32_t style)
 {
     const bool hadCodes = Has(edit, CODE_SPIN) || edit.codeTable;

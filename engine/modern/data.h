@@ -1,6 +1,7 @@
 // Values into a modern control and out of it, its state, and the way from classic editing and back.
 #pragma once
 
+#include "engine/format/display.h"
 #include "engine/record.h"
 
 namespace zte::modern {
@@ -9,6 +10,7 @@ int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType);
 int32_t SetData(EditInstance& edit, const void* data);
 int32_t SetDataString(EditInstance& edit, const Char* text);
 void* GetData(const EditInstance& edit);
+Display Format(EditInstance& edit, const void* data);
 void SetSpin(EditInstance& edit, uint32_t increment, const Char* range, const Char* codeTable, uint32_t style);
 
 // See engine/editing.h. Of controls of both kinds.

@@ -124,6 +124,15 @@ void Editor::ReplaceDifference(const Text& before, const Text& after)
     edit_.field->Select(beginning, Length(before) - end);
     edit_.field->SetRedraw(true);
     edit_.field->ReplaceSelection(Slice(after, beginning, Length(after) - end - beginning).c_str());
+    PutBackWhatWasCut(after);
+}
+
+// A field may take less than what is put there: its limit is reached, or it is too narrow and does not scroll.
+void Editor::PutBackWhatWasCut(const Text& text)
+{
+    const bool isCurrent = left_.text == text;  // the parent has put in nothing else meanwhile
+    if (isCurrent && edit_.field->ReadText() != text)
+        edit_.field->SetText(text.c_str());
 }
 
 void Editor::MoveCaret(Selection selection)

@@ -58,6 +58,7 @@ private:
     void Tell(const Outcome& refused, Char typed);
     void Show(const Content& before, const Content& after);
     void ReplaceDifference(const Text& before, const Text& after);
+    void PutBackWhatWasCut(const Text& text);
     Content AtField() const;
 
     EditInstance& edit_;

@@ -145,6 +145,17 @@ TEST_F(ModernExports, SetATextOrChangeNothing)
     EXPECT_EQ(State(), ZTS_EMPTY);
 }
 
+TEST_F(ModernExports, FormatAsTheyWouldShow)
+{
+    Make(kDate, DT_DATE, "2024-02-29");
+    FormatResult* result = ZTE_FmtFormatData(Window(), nullptr);
+    ASSERT_NE(result, nullptr);
+    EXPECT_STREQ(result->text, "  /  /    ");
+    EXPECT_EQ(control_->Text(), "02/29/2024");
+    SharedHeapFree(control_->heap(), result->text);
+    SharedHeapFree(control_->heap(), result);
+}
+
 TEST_F(ModernExports, ServeClassicControls)
 {
     Config config;

@@ -448,6 +448,47 @@ TEST_F(ModernProgram, IsNotMisunderstood)
     EXPECT_EQ(ZTE_SetModern(Window(), 0), 1);
 }
 
+TEST_F(ModernProgram, IsToldWhenARangeGoesWithItsSpin)
+{
+    Config config;
+    config.mask = kDate;
+    config.type = DT_DATE;
+    config.data = "2024-02-29";
+    config.range = "2024-03-01~2024-03-31";
+    config.options = ZTEO_SPIN;
+    Make(config);
+    EXPECT_EQ(State(), ZTS_OUT_OF_RANGE);
+    ZTE_DestroySpin(Window());
+    EXPECT_EQ(TakeTold().back(), "state out of range to complete");
+    control_->AcceptHeap();
+}
+
+// The standard edit puts no more in than its limit says.
+TEST_F(ModernProgram, LimitsNoText)
+{
+    Make(kPhone, DT_STRING);
+    SetWindowTextA(Window(), "");
+    Send(EM_SETLIMITTEXT, 3);
+    Type("555");
+    EXPECT_EQ(Shown(), "(555) |   -    ");
+    EXPECT_EQ(State(), ZTS_INCOMPLETE);
+}
+
+// Nor more than can be seen of a line that does not scroll.
+TEST_F(ModernProgram, LosesNoLiteralInAFieldThatIsTooNarrow)
+{
+    Config config;
+    config.mask = kPhone;
+    config.style = WS_CHILD | WS_VISIBLE;
+    config.width = 30;
+    Make(config);
+    Select(1, 1);
+    Type("5551234567");
+    EXPECT_EQ(Shown(), "(555) 123-4567|");
+    Send(WM_UNDO);
+    EXPECT_EQ(Shown(), "(|   )    -    ");
+}
+
 // ---- a control without a mask
 
 class ModernPlainEdit : public ModernWindow {};
