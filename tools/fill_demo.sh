@@ -210,4 +210,9 @@ done <<<"$steps"
 [ -z "$picture" ] || import -window root -crop "$(xdotool getwindowgeometry --shell "$window" |
     awk -F= '{ v[$1] = $2 } END { print v["WIDTH"] "x" v["HEIGHT"] "+" v["X"] "+" v["Y"] }')" +repage "$picture"
 xdotool key --window "$window" alt+F4
+is_closed()
+{
+    ! xdotool search --onlyvisible --name '^Masked edit fields$'
+}
+wait_for 20 is_closed || fail "the form does not close"
 [ $failures -eq 0 ] || fail "$failures fields differ"

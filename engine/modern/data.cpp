@@ -81,6 +81,8 @@ int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
     edit.maskJustSet = 1;
     if (&KindOf(edit) != &kChoices || edit.editor->Look().text.empty())  // an entry that is shown stays
         modern::SetData(edit, nullptr);
+    else
+        edit.editor->NoteTextSet();
     return asGiven ? 1 : 0;
 }
 

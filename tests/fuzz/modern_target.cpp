@@ -44,14 +44,17 @@ public:
     template <typename Act>
     void ByUser(Act act)
     {
-        CountStep();
-        const Standing before = Look();
-        control_.Edit().ForgetCounts();
-        act(control_);
-        const Standing after = Look();
-        CheckRefusal(before, after);
-        CheckChange(before, after);
-        CheckState();
+        const Standing before = Play(act);
+        const bool positional = !control_.Record().codeTable && !IsNumeric(control_.Record().dataType) && !IsPlain();
+        if (positional && Editor() && before.text != Edit().Shown())
+            Demand(modern::Layout(control_.Record(), Edit().Shown()).Fits(), "literals do not stand", Edit().Shown());
+    }
+
+    // The same by one who may bring a text back that the program has set.
+    template <typename Act>
+    void ByHistory(Act act)
+    {
+        Play(act);
     }
 
     // What the program does.
@@ -85,6 +88,9 @@ public:
         Demand(Editor()->UndoSteps() == 0, "not all was undone");
     }
 
+    // A switch tells nobody: who switches can ask.
+    void BeginAgain() { told_ = StateOf(control_.Record()); }
+
     // Masks and tables take blocks of their own.
     void Unsettle() { settled_ = false; }
     MemoryField& Edit() { return control_.Edit(); }
@@ -92,6 +98,20 @@ public:
 private:
     modern::Editor* Editor() { return control_.Record().editor; }
     bool IsPlain() const { return !HasMask(control_.Record()) && !Has(control_.Record(), CODE_SPIN); }
+
+    template <typename Act>
+    Standing Play(Act act)
+    {
+        CountStep();
+        Standing before = Look();
+        control_.Edit().ForgetCounts();
+        act(control_);
+        const Standing after = Look();
+        CheckRefusal(before, after);
+        CheckChange(before, after);
+        CheckState();
+        return before;
+    }
 
     Standing Look()
     {
@@ -124,9 +144,6 @@ private:
         Demand(Edit().Count(FieldEvent::Change) == changes, "the parent hears of a change not once", before.text,
                after.text);
         Demand(after.selection.end <= Length(after.text), "the caret is outside the text", after.text);
-        const bool positional = !control_.Record().codeTable && !IsNumeric(control_.Record().dataType);
-        if (positional && changes != 0)
-            Demand(modern::Layout(control_.Record(), after.text).Fits(), "literals do not stand", after.text);
     }
 
     void CheckState()
@@ -161,6 +178,12 @@ template <void (MemoryControl::*act)()>
 void Do(ModernControl& modern, Bytes&)
 {
     modern.ByUser([](MemoryControl& control) { (control.*act)(); });
+}
+
+template <void (MemoryControl::*act)()>
+void GoInHistory(ModernControl& modern, Bytes&)
+{
+    modern.ByHistory([](MemoryControl& control) { (control.*act)(); });
 }
 
 int32_t TakePlace(Bytes& bytes)
@@ -284,9 +307,10 @@ void Switch(ModernControl& modern, Bytes& bytes)
 {
     const bool on = bytes.TakeBool();
     modern.Unsettle();
-    modern.ByProgram([=](MemoryControl& control) {
+    modern.ByProgram([&](MemoryControl& control) {
         SetModern(control.Record(), on);
         SetModern(control.Record(), true);
+        modern.BeginAgain();
     });
 }
 
@@ -330,9 +354,9 @@ constexpr Act kActs[0x20] = {
     /* 17 */ Switch,
     /* 18 */ Hold,
     /* 19 */ TypeIt<127>,
-    /* 1A */ Do<&MemoryControl::Undo>,
+    /* 1A */ GoInHistory<&MemoryControl::Undo>,
     /* 1B */ SetInput,
-    /* 1C */ Do<&MemoryControl::Redo>,
+    /* 1C */ GoInHistory<&MemoryControl::Redo>,
     /* 1D */ Wait,
     /* 1E */ DoubleClickIt,
     /* 1F */ UndoAll,
