@@ -1,5 +1,5 @@
-// The edit control's own context menu, over a control that has an undo of its own. What is chosen comes as messages, but for the
-// selection of all. The base offers Undo after its own undo, which never holds anything, and does not tell its window of the menu:
+// The edit control's own context menu, over a control that has an undo of its own. What is chosen comes as messages.
+// The base offers Undo after its own undo, which never holds anything, and does not tell its window of the menu:
 // the menu is met when it is about to be shown.
 #include "win32/context_menu.h"
 
@@ -57,9 +57,7 @@ Reply OnContextMenu(EditInstance& edit, const MSG& message)
     if (!canUndo.kept)
         return kPassOn;
     const OfferedUndo offered(canUndo.result != 0 && !edit.field->RefusesInput());
-    const LRESULT result = FieldOf(edit).ToBase(message.message, message.wParam, message.lParam);
-    EditingOf(edit).afterSelect(edit);
-    return Keep(result);
+    return Keep(FieldOf(edit).ToBase(message.message, message.wParam, message.lParam));
 }
 
 }  // namespace zte

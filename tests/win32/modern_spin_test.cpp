@@ -17,11 +17,18 @@ constexpr int kSpinHeight = 20;
 
 std::vector<UINT> delaysAsked;
 DWORD timeTold;
+int timersEnded;
 
 UINT_PTR WINAPI NoteTimer(HWND, UINT_PTR id, UINT delay, TIMERPROC)
 {
     delaysAsked.push_back(delay);
     return id;
+}
+
+BOOL WINAPI EndTimer(HWND, UINT_PTR)
+{
+    ++timersEnded;
+    return TRUE;
 }
 
 DWORD WINAPI TellTime()
@@ -65,13 +72,16 @@ class ModernPace : public ModernSpinWindow {
 protected:
     ModernPace()
         : timers_("user32.dll", "SetTimer", reinterpret_cast<void*>(NoteTimer)),
+          endings_("user32.dll", "KillTimer", reinterpret_cast<void*>(EndTimer)),
           clock_("kernel32.dll", "GetTickCount", reinterpret_cast<void*>(TellTime))
     {
         delaysAsked.clear();
+        timersEnded = 0;
         timeTold = 0xFFFFFF00;  // it goes round while the button is held
     }
 
     ImportPatch timers_;
+    ImportPatch endings_;
     ImportPatch clock_;
 };
 
@@ -112,7 +122,9 @@ TEST_F(ModernPace, EndsWhenAnotherWindowTakesTheMouse)
 {
     MakeSpin("2024-02-26");
     PressUp();
+    EXPECT_EQ(timersEnded, 0);
     SetCapture(parent_.hwnd());
+    EXPECT_EQ(timersEnded, 1);
     Tick();
     EXPECT_EQ(control_->Text(), "02/27/2024");
     ReleaseCapture();
