@@ -169,7 +169,8 @@ if [ $way = classic ]; then
     options=(--classic)
     steps=$classic_steps
 fi
-wine "$demo" ${options[@]+"${options[@]}"} --places "$(winepath -w "$work/places")" --table "$(winepath -w "$work/table")" </dev/null >/dev/null 2>&1 &
+options+=(--places "$(winepath -w "$work/places")" --table "$(winepath -w "$work/table")")
+wine "$demo" "${options[@]}" </dev/null >/dev/null 2>&1 &
 wait_for 60 test -s "$work/places" || fail "the form did not open"
 window=$(xdotool search --sync --onlyvisible --name '^Masked edit fields$' | head -n 1)
 [ -n "$window" ] || fail "the form has no window"
