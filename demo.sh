@@ -1,7 +1,9 @@
 #!/bin/bash
 # Installs what is missing, builds for x86 and x64, and opens the demo form. Without a display the form runs on one of its
 # own: real key and mouse presses fill it in, and the results are printed and pictured in demo.png.
-# Usage: ./demo.sh [--unattended]     (--unattended: fill it in by itself although there is a display)
+# Usage: ./demo.sh [--classic] [--unattended]
+#   --classic      the fields are edited in the classic way
+#   --unattended   fill it in by itself although there is a display
 set -uo pipefail
 root=$(cd "$(dirname "$0")" && pwd)
 cd "$root" || exit
@@ -12,13 +14,18 @@ fail()
     exit 1
 }
 
-case ${1:-} in
-"" | --unattended) ;;
-*)
-    echo "usage: ./demo.sh [--unattended]" >&2
-    exit 2
-    ;;
-esac
+way=()
+unattended=
+for argument in "$@"; do
+    case $argument in
+    --classic) way=(--classic) ;;
+    --unattended) unattended=yes ;;
+    *)
+        echo "usage: ./demo.sh [--classic] [--unattended]" >&2
+        exit 2
+        ;;
+    esac
+done
 
 tools/install_deps.sh || exit
 for preset in x86 x64; do
@@ -26,12 +33,12 @@ for preset in x86 x64; do
 done
 
 . tools/wine_session.sh
-if [ -n "${DISPLAY:-}" ] && [ "${1:-}" != --unattended ]; then
+if [ -n "${DISPLAY:-}" ] && [ -z "$unattended" ]; then
     start_wine_session any-display || exit
     echo "The form is open; close it to end."
-    wine build/x64/bin/demo.exe </dev/null
+    wine build/x64/bin/demo.exe ${way[@]+"${way[@]}"} </dev/null
     exit
 fi
 start_wine_session new-display || exit
-tools/fill_demo.sh build/x64/bin/demo.exe demo.png || fail "the demo form did not show what was expected of it"
+tools/fill_demo.sh ${way[@]+"${way[@]}"} build/x64/bin/demo.exe demo.png || fail "the demo form did not show what was expected of it"
 echo "Picture of the form: $root/demo.png"

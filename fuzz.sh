@@ -3,13 +3,13 @@
 # What is found lies in build/fuzz; inputs that reach something new are kept there and are where the next run begins.
 # Usage: ./fuzz.sh [MINUTES] [TARGET...]
 #     MINUTES    of each target; 1 when not given
-#     TARGET     masks, number_formats, canonical, displays, tables, pictures, control; all when not given
+#     TARGET     masks, number_formats, canonical, displays, tables, pictures, control, modern; all when not given
 #        ./fuzz.sh --keep       takes the inputs kept that reach something new into tests/fuzz/corpus, as few as will do
 # A finding is played by:  ZT_FUZZ_TELL=1 build/native-fuzz/bin/fuzz_TARGET FILE
 set -uo pipefail
 cd "$(dirname "$0")" || exit
 
-all=(masks number_formats canonical displays tables pictures control)
+all=(masks number_formats canonical displays tables pictures control modern)
 corpus=tests/fuzz/corpus
 work=build/fuzz
 bin=build/native-fuzz/bin

@@ -10,16 +10,20 @@ set(rank_engine/mask 3)
 set(rank_engine/format 4)
 set(rank_engine/spin 5)
 set(rank_engine/edit 6)
-set(rank_engine/memory 7)  # the field and control in memory, and the engine's own services
-set(rank_companions 8)
-set(rank_win32 9)
+set(rank_engine/modern 6)
+set(rank_engine/editing 7)  # the two ways of editing as tables
+set(rank_engine/memory 8)   # the field and control in memory, and the engine's own services
+set(rank_companions 9)
+set(rank_win32 10)
 
 # floor_of(<path> <out>): the floor of a file; empty for headers of the system and of include/.
 function(floor_of path out)
-    if(path MATCHES "^engine/(text|values|mask|format|spin|edit)/")
+    if(path MATCHES "^engine/(text|values|mask|format|spin|edit|modern)/")
         set(floor engine/${CMAKE_MATCH_1})
     elseif(path MATCHES "^engine/(memory_|own_services)")
         set(floor engine/memory)
+    elseif(path MATCHES "^engine/editing")
+        set(floor engine/editing)
     elseif(path MATCHES "^engine/")
         set(floor engine/host)
     elseif(path MATCHES "^(companions|win32)/")

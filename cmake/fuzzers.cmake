@@ -7,7 +7,8 @@ set(zt_fuzz_doors
     displays PlayDisplays
     tables PlayTables
     pictures PlayPictures
-    control PlayControl)
+    control PlayControl
+    modern PlayModern)
 
 file(GLOB zt_fuzz_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/*.cpp)
 list(FILTER zt_fuzz_sources EXCLUDE REGEX "/(fuzzer|replay)\\.cpp$")

@@ -32,7 +32,7 @@ target_link_libraries(test_field PRIVATE gtest_main)
 
 # Functions of the engine by themselves.
 file(GLOB zt_unit_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/units/*.cpp)
-set(zt_unit_support marked_text.cpp profile.cpp values.cpp native/main.cpp native/profile_store.cpp)
+set(zt_unit_support marked_text.cpp modern_rows.cpp profile.cpp values.cpp native/main.cpp native/profile_store.cpp)
 list(TRANSFORM zt_unit_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
 # The companions' functions over values, with the tests that their libraries meet under Wine.
 set(zt_value_functions ztdecimal/exports.cpp ztshared/date_time.cpp ztshared/number_format.cpp ztshared/text.cpp)
@@ -67,7 +67,7 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
 
     # Laws over many random inputs; a sample of the law of typing stands among the tests of the engine, too.
     file(GLOB zt_property_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/properties/*.cpp)
-    set(zt_property_support currencies.cpp keyboard.cpp number_law.cpp profile.cpp native/profile_store.cpp)
+    set(zt_property_support currencies.cpp keyboard.cpp marked_text.cpp number_law.cpp profile.cpp native/profile_store.cpp)
     list(TRANSFORM zt_property_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
     zt_add_native_tests(properties ${zt_property_sources} ${zt_property_support})
     target_link_libraries(test_properties PRIVATE gtest_main)

@@ -1,9 +1,10 @@
 /* The demo form: one labelled masked edit for each kind of field, and a status line that shows the notifications as they
- * arrive. The focus moves on when a field says that it is full.
+ * arrive: what was refused and why, and the state of the field. The focus moves on when a field says that it is full.
  *
- *   demo.exe [--places FILE] [--table FILE]
+ *   demo.exe [--classic] [--places FILE] [--table FILE]
+ *     --classic       the fields are edited in the classic way
  *     --places FILE   where the fields stand on the screen is written there when the form is shown, for scripts
- *     --table FILE    what each field shows, and the value read back, is written there at F2
+ *     --table FILE    what each field shows, the value read back and the state are written there at F2
  */
 #include <stdio.h>
 #include <string.h>
@@ -33,6 +34,21 @@ typedef struct Form {
 static Form form;
 static const char* tablePath;
 static const char* placesPath;
+static BOOL classic;
+
+/* By their numbers. */
+static const char* const kStates[] = {"empty", "incomplete", "invalid", "out of range", "complete"};
+static const char* const kReasons[] = {"",
+                                       "it does not belong there",
+                                       "there is no such number",
+                                       "there is no room for more",
+                                       "the field is read-only",
+                                       "the text does not fit",
+                                       "the number is in doubt",
+                                       "there is no such date",
+                                       "there is no such entry",
+                                       "the range ends here",
+                                       "the character is not in the code page"};
 
 static int RowsPerColumn(void)
 {
@@ -70,7 +86,7 @@ static void AddField(int index)
     params.spinRangeText = field->range;
     params.spinIncrement = field->increment;
     params.codeTableText = field->codeTable;
-    params.options = field->options | ZTEO_AUTOSKIP;
+    params.options = field->options | ZTEO_AUTOSKIP | (classic ? 0 : ZTEO_MODERN);
     AddChild("static", field->label, SS_LEFT, label, -1, NULL);
     AddChild(ZTEDIT_CLASS, "", WS_TABSTOP | ES_AUTOHSCROLL | WS_CLIPCHILDREN, edit, FIRST_ID + index, &params);
 }
@@ -122,6 +138,11 @@ static void ReadValue(int index, char* text, size_t size)
     SharedHeapFree(form.heap, data);
 }
 
+static const char* StateName(int index)
+{
+    return kStates[ZTE_GetState(FieldWindow(index))];
+}
+
 static void WriteTable(void)
 {
     char shown[256], value[256];
@@ -132,7 +153,7 @@ static void WriteTable(void)
     for (i = 0; i < kFieldCount; ++i) {
         GetWindowTextA(FieldWindow(i), shown, sizeof shown);
         ReadValue(i, value, sizeof value);
-        fprintf(file, "%s|%s|%s|%s\n", kFields[i].name, kFields[i].label, shown, value);
+        fprintf(file, "%s|%s|%s|%s|%s\n", kFields[i].name, kFields[i].label, shown, value, StateName(i));
     }
     fclose(file);
 }
@@ -161,21 +182,47 @@ static const char* NotificationName(WORD code)
     }
 }
 
+static void ShowStatus(int index, const char* what)
+{
+    char text[250], shown[100];
+    GetWindowTextA(FieldWindow(index), shown, sizeof shown);
+    snprintf(text, sizeof text, "  %s: %s   %s   %s", kFields[index].label, shown, StateName(index), what);
+    SetWindowTextA(form.status, text);
+}
+
+static BOOL IsField(int index)
+{
+    return index >= 0 && index < kFieldCount && form.status;
+}
+
 static void OnNotification(WORD id, WORD code, HWND control)
 {
-    char text[200], shown[100];
     const char* name = NotificationName(code);
-    const int index = id - FIRST_ID;
-    if (!name || index < 0 || index >= kFieldCount || !form.status)
+    if (!name || !IsField(id - FIRST_ID))
         return;
-    GetWindowTextA(control, shown, sizeof shown);
-    snprintf(text, sizeof text, "  %s: %s   %s", kFields[index].label, shown, name);
-    SetWindowTextA(form.status, text);
+    ShowStatus(id - FIRST_ID, name);
     if (code == ZTN_AUTOSKIP) {
         const HWND next = GetNextDlgTabItem(form.window, control, FALSE);
         SetFocus(next);
         SendMessageA(next, EM_SETSEL, 0, -1);
     }
+}
+
+/* What was refused is told in the status line, and the beep left to the field. */
+static void OnRefused(const ZTNotifyRejected* refused)
+{
+    char what[100];
+    snprintf(what, sizeof what, "refused: %s", kReasons[refused->reason]);
+    if (IsField((int)refused->hdr.idFrom - FIRST_ID))
+        ShowStatus((int)refused->hdr.idFrom - FIRST_ID, what);
+}
+
+static void OnNotify(const NMHDR* header)
+{
+    if (header->code == ZTN_REJECTED)
+        OnRefused((const ZTNotifyRejected*)header);
+    else if (header->code == ZTN_STATECHANGED && IsField((int)header->idFrom - FIRST_ID))
+        ShowStatus((int)header->idFrom - FIRST_ID, "");
 }
 
 static void OnActivate(BOOL active)
@@ -191,6 +238,7 @@ static LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARA
     switch (message) {
     case WM_CREATE: CreateForm(window); return 0;
     case WM_COMMAND: OnNotification(LOWORD(wParam), HIWORD(wParam), (HWND)lParam); return 0;
+    case WM_NOTIFY: OnNotify((const NMHDR*)lParam); return 0;
     case WM_ACTIVATE: OnActivate(LOWORD(wParam) != WA_INACTIVE); return 0;
     case WM_DESTROY: PostQuitMessage(0); return 0;
     default: return DefWindowProcA(window, message, wParam, lParam);
@@ -200,11 +248,13 @@ static LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARA
 static void ReadArguments(int count, char** arguments)
 {
     int i;
-    for (i = 1; i + 1 < count; i += 2) {
-        if (strcmp(arguments[i], "--table") == 0)
-            tablePath = arguments[i + 1];
-        else if (strcmp(arguments[i], "--places") == 0)
-            placesPath = arguments[i + 1];
+    for (i = 1; i < count; ++i) {
+        if (strcmp(arguments[i], "--classic") == 0)
+            classic = TRUE;
+        else if (strcmp(arguments[i], "--table") == 0 && i + 1 < count)
+            tablePath = arguments[++i];
+        else if (strcmp(arguments[i], "--places") == 0 && i + 1 < count)
+            placesPath = arguments[++i];
     }
 }
 

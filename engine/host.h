@@ -21,6 +21,7 @@ enum Key : int32_t {
     KEY_BACKSPACE = 0x08,
     KEY_TAB = 0x09,
     KEY_SHIFT = 0x10,
+    KEY_CONTROL = 0x11,
     KEY_PAGE_UP = 0x21,
     KEY_PAGE_DOWN = 0x22,
     KEY_END = 0x23,
@@ -85,6 +86,15 @@ public:
     virtual void Beep() = 0;
     virtual void NotifyFull() = 0;  // the last position was filled, or the end reached by Right: the focus may move on
     virtual void NotifyStepped() = 0;  // the spin has made a step
+    // Tells the parent that the user's act was refused: a ZTR_ reason, the place, the character typed (0: none). True when the parent
+    // does without the beep.
+    virtual bool NotifyRejected(int32_t reason, int32_t position, Char character) = 0;
+    virtual void NotifyState(int32_t was, int32_t is) = 0;  // ZTS_ values
+    // Another value stands there than the user has typed: by a step, a choice, an undo. For those who cannot see it.
+    virtual void NotifyValue() {}
+
+    // Of any clock, and going round: only differences count.
+    virtual uint32_t Milliseconds() const = 0;
 
 protected:
     ~Field() = default;

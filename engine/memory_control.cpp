@@ -1,15 +1,10 @@
 // A masked edit in memory.
 #include "engine/memory_control.h"
 
-#include "engine/edit/click.h"
-#include "engine/edit/keyboard.h"
-#include "engine/edit/paste.h"
 #include "engine/edit/plain_edit.h"
-#include "engine/format/data.h"
-#include "engine/format/mask_setting.h"
+#include "engine/editing.h"
 #include "engine/own_heap.h"
 #include "engine/spin/spin_settings.h"
-#include "engine/spin/step.h"
 
 namespace zte {
 
@@ -31,15 +26,19 @@ MemoryControl::MemoryControl(const ControlSetup& setup, const Settings& settings
     ApplyOptions(record_, setup.options);
     if (Has(record_, HAS_SPIN))
         SetSpin(record_, setup.spinIncrement, setup.spinRange, setup.codeTable, SpinStyleOf(setup.options));
-    SetMask(record_, setup.mask, setup.dataType);
+    if ((setup.options & ZTEO_MODERN) != 0)
+        BeginModern(record_);
+    Reading().setMask(record_, setup.mask, setup.dataType);
     if (setup.data)
-        SetDataString(record_, setup.data);
+        Reading().setDataString(record_, setup.data);
     if (Has(record_, HAS_SPIN))
         CreateSpin();
+    EndCreation(record_);
 }
 
 MemoryControl::~MemoryControl()
 {
+    DropEditor(record_);
     DestroyHeap(record_.heap);  // with all that the record points to
 }
 
@@ -47,7 +46,7 @@ void MemoryControl::KeyDown(int32_t key)
 {
     const auto pressed = static_cast<uint32_t>(key);
     const bool plain = IsPlainEdit(record_);
-    const Reply reply = plain ? OnPlainKeyDown(record_, pressed) : OnKeyDown(record_, pressed, kFromKeyboard);
+    const Reply reply = plain ? OnPlainKeyDown(record_, pressed) : Reading().keyDown(record_, pressed, kFromKeyboard);
     if (!reply.kept)
         field_.Press(static_cast<Key>(key));
 }
@@ -55,7 +54,8 @@ void MemoryControl::KeyDown(int32_t key)
 void MemoryControl::Type(uint32_t character)
 {
     const bool plain = IsPlainEdit(record_);
-    const Reply reply = plain ? OnPlainChar(record_, character) : OnChar(record_, character, kFromKeyboard);
+    const Reply reply =
+        plain ? OnPlainChar(record_, character) : Reading().character(record_, character, kFromKeyboard);
     if (!reply.kept)
         field_.Type(static_cast<Char>(character));
 }
@@ -63,7 +63,7 @@ void MemoryControl::Type(uint32_t character)
 void MemoryControl::KeyUp(int32_t key)
 {
     if (!IsPlainEdit(record_))
-        OnKeyUp(record_, static_cast<uint32_t>(key));
+        Reading().keyUp(record_, static_cast<uint32_t>(key));
 }
 
 template <typename Mouse>
@@ -71,8 +71,8 @@ void MemoryControl::UseMouse(Mouse mouse)
 {
     ForgetPassed(record_);
     mouse();
-    if (!IsPlainEdit(record_) && IsClickCorrected(record_))
-        CorrectClick(record_);
+    if (!IsPlainEdit(record_) && Reading().beforeClick(record_))
+        Reading().afterClick(record_);
 }
 
 void MemoryControl::Click(int32_t position, bool shift)
@@ -85,35 +85,76 @@ void MemoryControl::Drag(int32_t from, int32_t to)
     UseMouse([&] { field_.Drag(from, to); });
 }
 
+// What is not kept is the field's own.
+template <typename Act, typename Own>
+void MemoryControl::Do(Act act, Own own)
+{
+    if (IsPlainEdit(record_) || !(Reading().*act)(record_).kept)
+        (field_.*own)();
+}
+
 void MemoryControl::Paste()
 {
-    if (IsPlainEdit(record_))
-        field_.Paste();
-    else
-        PasteClipboard(record_);
+    Do(&Editing::paste, &MemoryField::Paste);
+}
+
+void MemoryControl::Cut()
+{
+    Do(&Editing::cut, &MemoryField::Cut);
+}
+
+void MemoryControl::Clear()
+{
+    Do(&Editing::clear, &MemoryField::Clear);
+}
+
+void MemoryControl::Undo()
+{
+    Do(&Editing::undo, &MemoryField::Undo);
+}
+
+void MemoryControl::Redo()
+{
+    Reading().redo(record_);
+}
+
+void MemoryControl::Wheel(int32_t notches)
+{
+    if (Reading().wheel)
+        Reading().wheel(record_, notches);
+}
+
+void MemoryControl::DoubleClick(int32_t position)
+{
+    ForgetPassed(record_);
+    const auto select = IsPlainEdit(record_) ? nullptr : Reading().doubleClick;
+    if (!select || !select(record_, position).kept)
+        field_.DoubleClick(position);
 }
 
 void MemoryControl::Select(int32_t anchor, int32_t caret)
 {
-    OnTextSetFromOutside(record_);
+    Reading().beforeTextSet(record_);
     field_.SetSelection(anchor, caret);
+    Reading().afterSelect(record_);
 }
 
 void MemoryControl::SetText(const Char* text)
 {
-    OnTextSetFromOutside(record_);
+    Reading().beforeTextSet(record_);
     field_.SetText(text);
+    Reading().afterTextSet(record_);
 }
 
 void MemoryControl::Replace(const Char* text, bool canUndo)
 {
-    OnTextSetFromOutside(record_);
-    field_.Replace(text, canUndo);
+    if (IsPlainEdit(record_) || !Reading().replaceSelection(record_, text, canUndo).kept)
+        field_.Replace(text, canUndo);
 }
 
 void MemoryControl::LoseFocus()
 {
-    OnFocusLost(record_);
+    Reading().focusLost(record_);
 }
 
 void MemoryControl::DestroySpin()
@@ -124,9 +165,7 @@ void MemoryControl::DestroySpin()
 
 void MemoryControl::Step(bool up)
 {
-    record_.flags |= up ? SPIN_UP : SPIN_DOWN;
-    SpinStep(record_);
-    SetFlag(record_, SPIN_UP | SPIN_DOWN, false);
+    Reading().step(record_, up, false);
 }
 
 uint32_t MemoryControl::BlockCount() const

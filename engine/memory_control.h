@@ -1,6 +1,7 @@
 // A masked edit in memory: the engine over a field in memory, with the routing that the window procedure does in a window.
 #pragma once
 
+#include "engine/editing.h"
 #include "engine/memory_field.h"
 #include "engine/record.h"
 
@@ -39,7 +40,13 @@ public:
     // What a mouse and the menus send.
     void Click(int32_t position, bool shift = false);
     void Drag(int32_t from, int32_t to);
+    void DoubleClick(int32_t position);
+    void Wheel(int32_t notches);
     void Paste();
+    void Cut();
+    void Clear();
+    void Undo();
+    void Redo();
 
     // What a program does to an edit control that it does not know to be a masked one.
     void Select(int32_t anchor, int32_t caret);
@@ -56,6 +63,9 @@ public:
     uint32_t BlockCount() const;
 
 private:
+    const Editing& Reading() const { return EditingOf(record_); }
+    template <typename Act, typename Own>
+    void Do(Act act, Own own);
     template <typename Mouse>
     void UseMouse(Mouse mouse);
 

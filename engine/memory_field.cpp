@@ -406,6 +406,29 @@ void MemoryField::SetRedraw(bool on)
     Tell(on ? FieldEvent::RedrawOn : FieldEvent::RedrawOff);
 }
 
+bool MemoryField::IsHeld(Key key) const
+{
+    switch (key) {
+    case KEY_SHIFT: return shiftHeld_;
+    case KEY_CONTROL: return controlHeld_;
+    case KEY_RIGHT: return rightHeld_;
+    default: return false;
+    }
+}
+
+bool MemoryField::NotifyRejected(int32_t reason, int32_t position, Char character)
+{
+    rejected_ = {reason, position, character};
+    Tell(FieldEvent::Rejected);
+    return quiet_;
+}
+
+void MemoryField::NotifyState(int32_t was, int32_t is)
+{
+    stateChange_ = {was, is};
+    Tell(FieldEvent::State);
+}
+
 void MemoryField::Tell(FieldEvent event)
 {
     ++counts_[static_cast<size_t>(event)];

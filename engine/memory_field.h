@@ -31,6 +31,8 @@ enum class FieldEvent : uint8_t {
     Layout,
     Repaint,
     RepaintSpin,
+    Rejected,  // an act of the user, see LastRejected
+    State,     // see LastState
     Count
 };
 
@@ -41,6 +43,17 @@ public:
 
 protected:
     ~FieldListener() = default;
+};
+
+// What was told last.
+struct Rejection {
+    int32_t reason;
+    int32_t position;
+    Char character;
+};
+struct StateChange {
+    int32_t was;
+    int32_t is;
 };
 
 enum class LetterCase : uint8_t { AsTyped, Upper, Lower };
@@ -63,7 +76,7 @@ public:
     // The operations of the engine.
     Text ReadText() const override { return text_; }
     Selection ReadSelection() const override;
-    bool IsHeld(Key key) const override { return (key == KEY_SHIFT && shiftHeld_) || (key == KEY_RIGHT && rightHeld_); }
+    bool IsHeld(Key key) const override;
     bool RefusesInput() const override { return style_.readOnly || style_.disabled; }
     std::optional<Text> ReadClipboard() const override { return clipboard_; }
     void Select(int32_t start, int32_t end) override { SetSelection(start, end); }
@@ -83,6 +96,9 @@ public:
     void Beep() override { Tell(FieldEvent::Beep); }
     void NotifyFull() override { Tell(FieldEvent::Full); }
     void NotifyStepped() override { Tell(FieldEvent::Stepped); }
+    bool NotifyRejected(int32_t reason, int32_t position, Char character) override;
+    void NotifyState(int32_t was, int32_t is) override;
+    uint32_t Milliseconds() const override { return now_; }
 
     // The user's side: what the control itself does on a key-down, a character, a mouse button.
     void HoldControl(bool down) { controlHeld_ = down; }
@@ -114,6 +130,11 @@ public:
     void SetClipboard(std::optional<Text> text) { clipboard_ = std::move(text); }
     void SetReadOnly(bool on) { style_.readOnly = on; }
     void Enable(bool on) { style_.disabled = !on; }
+
+    const Rejection& LastRejected() const { return rejected_; }
+    const StateChange& LastState() const { return stateChange_; }
+    void BeQuiet(bool on) { quiet_ = on; }  // the parent does without the beeps of what is refused
+    void LetTimePass(uint32_t milliseconds) { now_ += milliseconds; }
 
     void SetListener(FieldListener* listener) { listener_ = listener; }
     int32_t Count(FieldEvent event) const { return counts_[static_cast<size_t>(event)]; }
@@ -156,6 +177,10 @@ private:
     Text restored_;  // keeps its capacity between undo steps
 
     std::optional<Text> clipboard_;
+    Rejection rejected_{};
+    StateChange stateChange_{};
+    bool quiet_ = false;
+    uint32_t now_ = 0;
     FieldListener* listener_ = nullptr;
     std::array<int32_t, static_cast<size_t>(FieldEvent::Count)> counts_{};
 };

@@ -12,6 +12,9 @@ namespace zte {
 
 struct CodeTable;
 struct MaskTable;
+namespace modern {
+class Editor;
+}
 
 // Bits of EditInstance::flags.
 enum : uint32_t {
@@ -82,6 +85,7 @@ struct EditInstance {
     int32_t carriedTo;       // ... to here; 0: it has not
     int32_t spelled;         // of the literals before a number, the characters that were typed directly before
     bool swallowBackspace;   // the character of a Backspace already carried out in a number is to come
+    modern::Editor* editor;  // of a control in modern editing, which it belongs to; null: classic
 };
 
 static_assert(std::is_trivially_copyable_v<EditInstance>, "the record is allocated zeroed and freed as one block");

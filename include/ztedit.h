@@ -9,8 +9,9 @@
  *   literal    a fixed character of the mask, shown as it stands and skipped by the caret; '~' makes the next one a literal.
  *   position   a place in the text shown, counted from 0.
  *   data type  what the text means: DT_STRING to DT_DECIMAL.
- *   canonical  the form in which dates and times are handed in as text, the same under every mask and setting:
- *              "1995-07-04", "14:07:09:000250", "1995-07-04 14:07".
+ *   canonical  the form in which values are handed in and out as text, the same under every mask and setting: "1995-07-04",
+ *              "14:07:09:000250", "1995-07-04 14:07"; "-1234.5"; strings without the mask's literals.
+ *   modern     the way of editing that ZTE_SetModern tells of; without it a control is classic.
  *
  * All functions are called on the thread that owns the control. For a window that is no control they do nothing and return
  * what is stated there. Nothing is thrown or logged and no message is shown; a refused key beeps. Without memory the process ends
@@ -18,8 +19,11 @@
  * edit.
  *
  * The parent gets two notifications as WM_COMMAND (control identifier in the low word, lParam the control):
- *   ZTN_AUTOSKIP  the last position was filled, or Right pressed at the end, while autoskip is on: move the focus on.
- *   EN_CHANGE     after each step of the spin, beside those that the standard edit control sends.
+ *   ZTN_AUTOSKIP  the last position was filled, or Right pressed at the end, while autoskip is on: move the focus on. Not sent
+ *                 by a modern control that shows an invalid value.
+ *   EN_CHANGE     after each step of the spin, beside those that the standard edit control sends; a modern control sends one
+ *                 EN_UPDATE and one EN_CHANGE for each change of its text, however it is made, and none for what changes nothing.
+ * and of a modern control two more as WM_NOTIFY, see below. It may destroy the control in any of them.
  *
  * A control's record and strings live in the heap given at creation, which the caller discards as a whole (usually one heap
  * per form). Results are blocks of that heap, to be freed with SharedHeapFree.
@@ -53,6 +57,37 @@ extern "C" {
 
 #define ZTEDIT_CLASS "ZTEDIT050"
 #define ZTN_AUTOSKIP 0x0903
+
+/* What the parent of a modern control hears as WM_NOTIFY; see ZTE_SetModern.
+ *
+ *   ZTN_REJECTED      an act of the user (a key, a paste, a step) was refused, once for each; lParam points to a ZTNotifyRejected.
+ *                     Text, selection and modified flag are as they were before. Comes ahead of the beep; an answer other than 0
+ *                     is taken for it. Nobody hears of keys that move, copy, or leave the field.
+ *   ZTN_STATECHANGED  what ZTE_GetState returns has changed, by the user or by a call; lParam points to a ZTNotifyState. Comes
+ *                     after EN_CHANGE; not while the control is created.
+ *
+ *     case WM_NOTIFY:
+ *         if (((NMHDR*)lParam)->code == ZTN_REJECTED)
+ *             ShowHint(((ZTNotifyRejected*)lParam)->reason);
+ *         if (((NMHDR*)lParam)->code == ZTN_STATECHANGED)
+ *             EnableWindow(ok, ((ZTNotifyState*)lParam)->is == ZTS_COMPLETE);
+ *         return 0;
+ */
+#define ZTN_REJECTED 0x0904
+#define ZTN_STATECHANGED 0x0905
+
+typedef struct ZTNotifyRejected {
+    NMHDR hdr;
+    int32_t reason;    /* ZTR_ value */
+    int32_t position;  /* the caret, the start of the selection, or in a pasted text the offset of what was refused */
+    int32_t character; /* the character typed, 0 to 255; 0 for other acts, and for ZTR_NOT_IN_CODE_PAGE */
+} ZTNotifyRejected;
+
+typedef struct ZTNotifyState {
+    NMHDR hdr;
+    int32_t was; /* ZTS_ values */
+    int32_t is;
+} ZTNotifyState;
 
 /* Configures a new control: the creation parameter of CreateWindowEx, or given to ZTE_Init. Only read; everything in it is
  * borrowed for the call except heap, which is to outlive the control. */
@@ -135,6 +170,9 @@ int32_t WINAPI ZTE_FmtSetDataString(HWND hwnd, const char* text);
  * decimals the number as text, with the regional decimal character, a percentage as the fraction it stands for, to the last
  * digit; a number of zeros alone has no sign, also while one is shown; for dates and times a DateTimeValue. Null for a
  * window that is no control and for the empty date; midnight reads as null in a DT_TIME control, on purpose.
+ *
+ * A modern control gives a value or none: null for an empty, incomplete or invalid date or time and for a number that is only a
+ * sign, and a DateTimeValue for midnight.
  */
 void* WINAPI ZTE_FmtGetData(HWND hwnd);
 
@@ -148,6 +186,59 @@ FormatResult* WINAPI ZTE_FmtFormatData(HWND hwnd, const void* data);
  * as canonical text only (an unreadable one gives the empty DateTimeValue), and a percentage is not divided. Null for an
  * empty or null text. */
 void* WINAPI ZTE_FmtUnformatData(HWND hwnd, const char* text);
+
+/* ---- Modern editing ------------------------------------------------------------------------------------------------ */
+
+/* Turns modern editing on or off; ZTEO_MODERN at creation turns it on from the start. It is another reading of the same keys, of
+ * the clipboard, of the mouse and of data: what is refused changes nothing and is told (ZTN_REJECTED), what is changed can be
+ * undone and redone, literals always stand, unfilled positions are shown as blanks instead of zeros, a date is edited field by
+ * field, and the control knows the state of its value.
+ *
+ * on  not 0: modern; 0: classic.
+ *
+ * Returns what it was, 1 or 0; 0 for a window that is no control. What the positions hold stays and is laid anew: a blank display
+ * of zeros becomes the empty value, and the other way round. The undo history is emptied. The parent may call it in a
+ * notification: what led to that ends there.
+ *
+ *     ZTE_SetModern(GetDlgItem(dialog, IDC_DUE), 1);
+ */
+int32_t WINAPI ZTE_SetModern(HWND hwnd, int32_t on);
+
+/* What can be said of the value shown: ZTS_EMPTY, ZTS_INCOMPLETE, ZTS_INVALID, ZTS_OUT_OF_RANGE or ZTS_COMPLETE, judged in this
+ * order; the control is not changed. -1 for a window that is no control. In a classic control zeros are all that empty can be
+ * told by: 00:00 is empty there.
+ *
+ *     if (ZTE_GetState(due) != ZTS_COMPLETE)
+ *         SetFocus(due);
+ */
+int32_t WINAPI ZTE_GetState(HWND hwnd);
+
+/* Shows a value given as text where the text is one, and changes nothing where it is none.
+ *
+ * text  canonical; else what a user might paste (a date or a number in the usual forms, a string with its literals). Null or ""
+ *       for the empty value. Borrowed for the call.
+ *
+ * Returns 0 when the value is shown, else the ZTR_ reason; ZTR_DOES_NOT_FIT for a window that is no control. As with all data the
+ * text counts as not modified, there is nothing to undo, and no ZTN_REJECTED is sent.
+ *
+ *     if (ZTE_TrySetDataString(due, line) == ZTR_DOES_NOT_EXIST)
+ *         Complain("There is no such day.");
+ */
+int32_t WINAPI ZTE_TrySetDataString(HWND hwnd, const char* text);
+
+/* Reads the value shown as canonical text. Numbers as the digits shown with '.' as the point, at least one digit before it, a
+ * percentage as the fraction that it stands for; times as HH:MM:SS, with microseconds behind ':' where there are any; strings
+ * without literals and without blanks at their end, also while they are incomplete. Handed to ZTE_TrySetDataString it changes
+ * nothing.
+ *
+ * Returns a block of the control's heap that the caller frees: "" for the empty value. Null for an incomplete or invalid value and
+ * for a window that is no control.
+ *
+ *     char* text = ZTE_GetDataString(due);
+ *     Store(text);
+ *     SharedHeapFree(heap, text);
+ */
+char* WINAPI ZTE_GetDataString(HWND hwnd);
 
 /* ---- Spin ---------------------------------------------------------------------------------------------------------- */
 

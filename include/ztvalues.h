@@ -71,6 +71,26 @@ typedef struct SharedListData* SharedList;
 #define ZTEO_SPIN 0x2         /* the control owns a spin; the spin fields below are used */
 #define ZTEO_CODE_PICK 0x4    /* typed characters choose entries of the code table */
 #define ZTEO_CODE_DISPLAY 0x8 /* values are shown through the code table */
+#define ZTEO_MODERN 0x10      /* modern editing, see ZTE_SetModern */
+
+/* ZTE_GetState, judged in this order */
+#define ZTS_EMPTY 0      /* nothing is filled in */
+#define ZTS_INCOMPLETE 1 /* something is still to be filled in */
+#define ZTS_INVALID 2 /* no value: a date that does not exist, a text that the mask or the code table does not have */
+#define ZTS_OUT_OF_RANGE 3 /* a value outside the spin's range */
+#define ZTS_COMPLETE 4
+
+/* Why something was refused */
+#define ZTR_WRONG_KIND 1        /* a character that does not belong there */
+#define ZTR_OUT_OF_BOUNDS 2     /* the field has no such number: a month 13 */
+#define ZTR_FULL 3              /* there is no room for more */
+#define ZTR_READ_ONLY 4         /* the control is read-only or disabled */
+#define ZTR_DOES_NOT_FIT 5      /* a text that cannot be read, or is more than the mask can show */
+#define ZTR_IN_DOUBT 6          /* a text that could be read in two ways: "1,234" */
+#define ZTR_DOES_NOT_EXIST 7    /* a date or time that there is not: the 30th of February */
+#define ZTR_NO_SUCH_ENTRY 8     /* the code table has no such entry */
+#define ZTR_END_OF_RANGE 9      /* a step would leave the range */
+#define ZTR_NOT_IN_CODE_PAGE 10 /* a character that the control's code page does not have */
 
 #ifdef __cplusplus
 }

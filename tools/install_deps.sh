@@ -22,6 +22,7 @@ packages=(
     xvfb:Xvfb
     xauth:xauth
     xdotool:xdotool
+    xclip:xclip
     imagemagick:import
     fonts-liberation:/usr/share/fonts/truetype/liberation
 )

@@ -3,8 +3,7 @@
 
 #include <utility>
 
-#include "engine/format/data.h"
-#include "engine/format/mask_setting.h"
+#include "engine/editing.h"
 #include "engine/spin/spin_settings.h"
 #include "win32/heap_watch.h"
 #include "win32/life_guard.h"
@@ -24,15 +23,18 @@ void SetUpSpin(EditInstance& edit, const EditInitParams& params)
         SetSpin(edit, params.spinIncrement, params.spinRangeText, params.codeTableText, SpinStyleOf(params.options));
 }
 
-// Mask, initial data, and the spin child when asked for.
+// How the control is edited, mask, initial data, and the spin child when asked for.
 void SetUpContents(EditInstance& edit, const EditInitParams& params)
 {
+    if ((params.options & ZTEO_MODERN) != 0)
+        BeginModern(edit);
     ReadPicturesFor(params.maskText);
-    SetMask(edit, params.maskText, edit.dataType);
+    EditingOf(edit).setMask(edit, params.maskText, edit.dataType);
     if (params.initialData)
-        SetDataString(edit, params.initialData);
+        EditingOf(edit).setDataString(edit, params.initialData);
     if (Has(edit, HAS_SPIN))
         CreateHiddenSpin(edit);
+    EndCreation(edit);
 }
 
 }  // namespace

@@ -1,11 +1,8 @@
 // The exported functions of ztedit.h, each around a function of the engine: they find the record, and survive its going away.
-#include "engine/format/data.h"
-#include "engine/format/display.h"
-#include "engine/format/mask_setting.h"
+#include "engine/editing.h"
 #include "engine/format/read_back.h"
 #include "engine/heap_block.h"
 #include "engine/spin/range.h"
-#include "engine/spin/spin_settings.h"
 #include "engine/values/caller_value.h"
 #include "win32/creation.h"
 #include "win32/heap_watch.h"
@@ -67,7 +64,7 @@ int32_t WINAPI ZTE_FmtSetMask(HWND hwnd, const char* mask, int32_t dataType)
     if (!edit)
         return 1;
     ReadPicturesFor(mask);
-    return WhileAlive(*edit, 1, [&] { return SetMask(*edit, mask, dataType); });
+    return WhileAlive(*edit, 1, [&] { return EditingOf(*edit).setMask(*edit, mask, dataType); });
 }
 
 int32_t WINAPI ZTE_FmtSetData(HWND hwnd, const void* data)
@@ -75,7 +72,7 @@ int32_t WINAPI ZTE_FmtSetData(HWND hwnd, const void* data)
     EditInstance* edit = GetEditInstance(hwnd);
     if (!edit)
         return 0;
-    return WhileAlive(*edit, 0, [&] { return SetData(*edit, data); });
+    return WhileAlive(*edit, 0, [&] { return EditingOf(*edit).setData(*edit, data); });
 }
 
 int32_t WINAPI ZTE_FmtSetDataString(HWND hwnd, const char* text)
@@ -83,13 +80,13 @@ int32_t WINAPI ZTE_FmtSetDataString(HWND hwnd, const char* text)
     EditInstance* edit = GetEditInstance(hwnd);
     if (!edit)
         return 0;
-    return WhileAlive(*edit, 0, [&] { return SetDataString(*edit, text); });
+    return WhileAlive(*edit, 0, [&] { return EditingOf(*edit).setDataString(*edit, text); });
 }
 
 void* WINAPI ZTE_FmtGetData(HWND hwnd)
 {
     const EditInstance* edit = GetEditInstance(hwnd);
-    return edit ? GetData(*edit) : nullptr;
+    return edit ? EditingOf(*edit).getData(*edit) : nullptr;
 }
 
 uint16_t WINAPI ZTE_FmtGetDataType(HWND hwnd)
@@ -103,7 +100,7 @@ FormatResult* WINAPI ZTE_FmtFormatData(HWND hwnd, const void* data)
     EditInstance* edit = GetEditInstance(hwnd);
     if (!edit)
         return nullptr;
-    const Display display = FormatValue(*edit, data);
+    const Display display = EditingOf(*edit).format(*edit, data);
     auto* result = NewBlock<FormatResult>(*edit);
     result->text = Duplicate(*edit, display.text);
     result->formatFlags = display.formatFlags;
@@ -117,10 +114,47 @@ void* WINAPI ZTE_FmtUnformatData(HWND hwnd, const char* text)
     return edit ? UnformatData(*edit, text) : nullptr;
 }
 
+int32_t WINAPI ZTE_SetModern(HWND hwnd, int32_t on)
+{
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (!edit)
+        return 0;
+    const bool was = edit->editor != nullptr;
+    if (was && on == 0)  // what an outer call has still to do would be the work of an editor that is gone
+        LifeGuard::EndOuterWork(FieldOf(*edit));
+    WhileAlive(*edit, [&] {
+        SetModern(*edit, on != 0);
+        if (edit->hwndSpin)  // it is drawn otherwise
+            InvalidateRect(SpinOf(*edit), nullptr, TRUE);
+    });
+    return was ? 1 : 0;
+}
+
+int32_t WINAPI ZTE_GetState(HWND hwnd)
+{
+    const EditInstance* edit = GetEditInstance(hwnd);
+    return edit ? StateOf(*edit) : -1;
+}
+
+int32_t WINAPI ZTE_TrySetDataString(HWND hwnd, const char* text)
+{
+    EditInstance* edit = GetEditInstance(hwnd);
+    if (!edit)
+        return ZTR_DOES_NOT_FIT;
+    return WhileAlive(*edit, 0, [&] { return TrySetDataString(*edit, text); });
+}
+
+char* WINAPI ZTE_GetDataString(HWND hwnd)
+{
+    const EditInstance* edit = GetEditInstance(hwnd);
+    Text text;
+    return edit && CanonicalText(*edit, text) ? Duplicate(*edit, text) : nullptr;
+}
+
 void WINAPI ZTE_SetSpin(HWND hwnd, uint32_t increment, const char* range, const char* codeTable, uint32_t style)
 {
     if (EditInstance* edit = GetEditInstance(hwnd))
-        SetSpin(*edit, increment, range, codeTable, style);
+        WhileAlive(*edit, [&] { EditingOf(*edit).setSpin(*edit, increment, range, codeTable, style); });
 }
 
 void WINAPI ZTE_CreateSpin(HWND hwnd)
@@ -134,7 +168,10 @@ void WINAPI ZTE_DestroySpin(HWND hwnd)
 {
     EditInstance* edit = GetEditInstance(hwnd);
     if (edit && edit->hwndSpin)
-        WhileAlive(*edit, [&] { DestroySpin(*edit); });
+        WhileAlive(*edit, [&] {
+            DestroySpin(*edit);
+            TellState(*edit);
+        });
 }
 
 void WINAPI ZTE_SetSpinBkColor(HWND hwnd, COLORREF colour)
@@ -148,7 +185,7 @@ int16_t WINAPI ZTE_GetSpinWidth(HWND hwnd, const RECT* rect)
     const EditInstance* edit = GetEditInstance(hwnd);
     if (!edit)
         return 0;
-    return EvenSpinWidth(rect ? *rect : ClientOf(SpinOf(*edit)));
+    return EvenSpinWidth(*edit, rect ? *rect : ClientOf(SpinOf(*edit)));
 }
 
 int16_t WINAPI ZTE_SpinDateRange(HWND hwnd, DateTimeValue* value, const char* text)

@@ -29,6 +29,13 @@ public:
             guard->alive_ = false;
     }
 
+    // The work of all entries on the stack ends at the next message that they look at: the control stays, what they work with goes.
+    static void EndOuterWork(StandardField& field)
+    {
+        TellAll(field);
+        field.guard = nullptr;
+    }
+
 private:
     StandardField& field_;
     LifeGuard* outer_;

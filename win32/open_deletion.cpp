@@ -25,7 +25,7 @@ bool DeletionIsOpen()
 
 void NoteDeletion(const EditInstance& edit)
 {
-    if (edit.deletePending == 0 && !edit.swallowBackspace)
+    if (edit.deletePending == 0 && !edit.swallowBackspace && !FieldOf(edit).isPointToCome)
         return ForgetDeletion(edit);
     const HWND hwnd = WindowOf(edit);
     const HWND former = openAt.Get();

@@ -29,7 +29,7 @@ void PlaceSpin(EditInstance& edit)
         return;
     const RECT client = ClientOf(WindowOf(edit));
     const auto height = static_cast<int16_t>(client.bottom - client.top);
-    const int16_t width = EvenSpinWidth(client);
+    const int16_t width = EvenSpinWidth(edit, client);
     DropFaces(edit);
     MoveWindow(SpinOf(edit), client.right - width, client.top, width, height, TRUE);
     ShowWindow(SpinOf(edit), SW_SHOW);
@@ -45,6 +45,22 @@ Reply PassOnAndKeepTextOffSpin(EditInstance& edit, UINT message, WPARAM wParam, 
 }
 
 }  // namespace
+
+Reply OnLooksChanged(EditInstance& edit)
+{
+    if (edit.editor && edit.hwndSpin)
+        InvalidateRect(SpinOf(edit), nullptr, TRUE);
+    return kPassOn;
+}
+
+Reply OnDpiChanged(EditInstance& edit)
+{
+    if (edit.editor && edit.hwndSpin) {
+        PlaceSpin(edit);
+        KeepTextOffSpin(edit);
+    }
+    return kPassOn;
+}
 
 Reply OnMove(EditInstance& edit)
 {

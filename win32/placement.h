@@ -8,6 +8,8 @@
 namespace zte {
 
 Reply OnMove(EditInstance& edit);
+Reply OnLooksChanged(EditInstance& edit);  // enabled, read-only, theme, colours
+Reply OnDpiChanged(EditInstance& edit);
 Reply OnSize(EditInstance& edit, WPARAM wParam, LPARAM lParam);
 Reply OnFocus(EditInstance& edit);
 Reply OnPaint(EditInstance& edit);

@@ -4,6 +4,7 @@
 #include <new>
 #include <utility>
 
+#include "engine/editing.h"
 #include "engine/format/code_table.h"
 #include "engine/spin/spin_settings.h"
 #include "win32/heap_watch.h"
@@ -93,6 +94,7 @@ void WINAPI LetGoOfHeap(SharedHeapWatcher* watcher)
     else if (!TakeSpinAway(edit))
         return;
     LifeGuard::TellAll(FieldOf(edit));
+    DropEditor(edit);
     DetachEditInstance(hwnd);
 }
 
@@ -128,6 +130,7 @@ bool IsOnThisThread(HWND hwnd)
 void FreeRecord(EditInstance& edit)
 {
     LifeGuard::TellAll(FieldOf(edit));
+    DropEditor(edit);
     UnwatchHeap(edit.heap, ControlOf(edit).heapEnd);
     ForgetDeletion(edit);
     DestroyCodeTable(edit);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "win32/late_calls.h"
 #include "win32/standard_field.h"
 
 namespace zte {
@@ -10,11 +11,17 @@ namespace zte {
 namespace {
 
 // Narrows the formatting rectangle by the width of a spin as high as the control.
-void NarrowFormatRect(HWND hwnd)
+void NarrowFormatRect(const EditInstance& edit)
 {
+    const HWND hwnd = WindowOf(edit);
     RECT rect = ClientOf(hwnd);
-    rect.right -= SpinWidthForHeight(static_cast<int16_t>(rect.bottom - rect.top));
+    rect.right -= SpinWidthForHeight(edit, static_cast<int16_t>(rect.bottom - rect.top));
     CallBaseEdit(hwnd, EM_SETRECTNP, 0, reinterpret_cast<LPARAM>(&rect));
+}
+
+int32_t ScrollBarWidth(const EditInstance& edit)
+{
+    return edit.editor ? MetricFor(WindowOf(edit), SM_CXVSCROLL) : GetSystemMetrics(SM_CXVSCROLL);
 }
 
 uint32_t CaretWidth()
@@ -31,7 +38,7 @@ uint16_t StripOf(const EditInstance& edit)
     const bool manyLines = (GetWindowLongA(WindowOf(edit), GWL_STYLE) & ES_MULTILINE) != 0;
     if (!edit.hwndSpin || manyLines)
         return 0;
-    return static_cast<uint16_t>(static_cast<uint32_t>(EvenSpinWidth(ClientOf(WindowOf(edit)))) + CaretWidth());
+    return static_cast<uint16_t>(static_cast<uint32_t>(EvenSpinWidth(edit, ClientOf(WindowOf(edit)))) + CaretWidth());
 }
 
 // Setting a margin repaints the control, so it is set only when it changes.
@@ -47,25 +54,25 @@ void SetStrip(const EditInstance& edit, uint16_t strip)
 
 }  // namespace
 
-int16_t SpinWidthForHeight(int16_t height)
+int16_t SpinWidthForHeight(const EditInstance& edit, int16_t height)
 {
     const int32_t width = 2 * height / 3 + 2;
-    const int32_t widest = GetSystemMetrics(SM_CXVSCROLL) + 2;
+    const int32_t widest = ScrollBarWidth(edit) + 2;
     if (width < 7)
         return 7;
     return static_cast<int16_t>(width > widest ? widest : width);
 }
 
-int16_t EvenSpinWidth(const RECT& rect)
+int16_t EvenSpinWidth(const EditInstance& edit, const RECT& rect)
 {
-    const int16_t width = SpinWidthForHeight(static_cast<int16_t>(rect.bottom - rect.top));
+    const int16_t width = SpinWidthForHeight(edit, static_cast<int16_t>(rect.bottom - rect.top));
     return static_cast<int16_t>(width + (width & 1));
 }
 
 void KeepTextOffSpin(const EditInstance& edit)
 {
     if (edit.hwndSpin || Has(edit, HAS_SPIN))
-        NarrowFormatRect(WindowOf(edit));
+        NarrowFormatRect(edit);
     SetStrip(edit, StripOf(edit));
 }
 

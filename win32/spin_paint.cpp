@@ -5,6 +5,7 @@
 
 #include "win32/gdi.h"
 #include "win32/known_record.h"
+#include "win32/native_spin.h"
 #include "win32/spin_window.h"
 #include "win32/standard_field.h"
 #include "ztedit.h"
@@ -250,9 +251,7 @@ void DrawBorder(HDC dc, const SpinMeasures& spin)
     lines.Draw(dc);
 }
 
-}  // namespace
-
-void PaintSpin(const EditInstance& edit, HDC dc, const RECT& rect)
+void PaintClassicSpin(const EditInstance& edit, HDC dc, const RECT& rect)
 {
     DrawingTools tools(dc);
     if (edit.spinBkColor != 0)
@@ -264,6 +263,14 @@ void PaintSpin(const EditInstance& edit, HDC dc, const RECT& rect)
     DrawArrows(dc, tools, spin, MeasureArrows(spin, spin.rect.right), up, down);
     if (Has(edit, SPIN_BORDER))
         DrawBorder(dc, spin);
+}
+
+}  // namespace
+
+void PaintSpin(const EditInstance& edit, HDC dc, const RECT& rect)
+{
+    const auto paint = edit.editor ? PaintNativeSpin : PaintClassicSpin;
+    paint(edit, dc, rect);
 }
 
 }  // namespace zte

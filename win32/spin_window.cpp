@@ -3,12 +3,15 @@
 
 #include <utility>
 
+#include "engine/editing.h"
 #include "engine/spin/spin_settings.h"
 #include "engine/spin/step.h"
 #include "win32/known_record.h"
 #include "win32/library.h"
 #include "win32/life_guard.h"
+#include "win32/native_spin.h"
 #include "win32/record_store.h"
+#include "win32/spin_accessible.h"
 #include "win32/spin_layout.h"
 #include "ztedit.h"
 
@@ -18,7 +21,13 @@ namespace {
 
 constexpr char kSpinClass[] = "spin";
 constexpr UINT_PTR kRepeatTimer = 1;
-constexpr UINT kRepeatMilliseconds = 150;  // from the first press on, without a longer first delay
+constexpr UINT kClassicRepeat = 150;  // milliseconds, from the first press on, without a longer first delay
+
+// Of modern controls.
+constexpr UINT kRepeat = 100;
+constexpr UINT kFastRepeat = 30;
+constexpr UINT kFastAfter = 2000;
+constexpr UINT kKeyboardDelay = 250;  // what the system counts a keyboard's delay in
 
 void Invalidate(HWND spin)
 {
@@ -63,6 +72,27 @@ bool IsPressed(HWND spin, const EditInstance& edit)
     return edit.hwndSpin == spin && Has(edit, SPIN_TRACKING);
 }
 
+UINT KeyboardDelay()
+{
+    int delay = 1;
+    SystemParametersInfoA(SPI_GETKEYBOARDDELAY, 0, &delay, 0);
+    return kKeyboardDelay * static_cast<UINT>(delay + 1);
+}
+
+UINT FirstDelay(const EditInstance& edit)
+{
+    return edit.editor ? KeyboardDelay() : kClassicRepeat;
+}
+
+// A press steps at once and again at each turn of the timer. Of a classic control while the pointer is outside, too: kept.
+void StepPressed(EditInstance& edit, bool repeated)
+{
+    if (!edit.editor)
+        SpinStep(edit);
+    else if (ArrowsPressed(edit) != 0)
+        EditingOf(edit).step(edit, Has(edit, SPIN_UP), repeated);
+}
+
 void OnPress(HWND spin, EditInstance& edit, LPARAM lParam)
 {
     if (edit.field->RefusesInput())
@@ -77,11 +107,52 @@ void OnPress(HWND spin, EditInstance& edit, LPARAM lParam)
     SetFocus(WindowOf(edit));
     life.Check();
     if (IsPressed(spin, edit))
-        SpinStep(edit);
+        StepPressed(edit, false);
     life.Check();
     if (!IsPressed(spin, edit))
         return;
-    SetTimer(spin, kRepeatTimer, kRepeatMilliseconds, nullptr);
+    FieldOf(edit).pressedAt = GetTickCount();
+    SetTimer(spin, kRepeatTimer, FirstDelay(edit), nullptr);
+    Invalidate(spin);
+}
+
+// The timer of a modern control goes faster with the time.
+void OnTimer(HWND spin, EditInstance& edit)
+{
+    const LifeCheck life(edit);
+    StepPressed(edit, true);
+    life.Check();
+    if (!edit.editor || !IsPressed(spin, edit))
+        return;
+    const bool fast = GetTickCount() - FieldOf(edit).pressedAt >= kFastAfter;
+    SetTimer(spin, kRepeatTimer, fast ? kFastRepeat : kRepeat, nullptr);
+}
+
+// Which arrow the pointer is over, for what is drawn.
+void SetHotArrow(HWND spin, EditInstance& edit, uint32_t arrow)
+{
+    if (std::exchange(FieldOf(edit).hotArrow, arrow) != arrow)
+        Invalidate(spin);
+}
+
+void OnHover(HWND spin, EditInstance& edit, LPARAM lParam)
+{
+    if (!edit.editor)
+        return;
+    if (FieldOf(edit).hotArrow == 0) {
+        TRACKMOUSEEVENT leaving = {sizeof leaving, TME_LEAVE, spin, 0};
+        TrackMouseEvent(&leaving);
+    }
+    SetHotArrow(spin, edit, ArrowAt(spin, PointOf(lParam)));
+}
+
+// The button may have been let go over another window: a message box that a step has led to, say.
+void OnCaptureLost(HWND spin, EditInstance& edit)
+{
+    if (!edit.editor || !Has(edit, SPIN_TRACKING))
+        return;
+    SetFlag(edit, SPIN_UP | SPIN_DOWN | SPIN_UP_HELD | SPIN_DOWN_HELD | SPIN_TRACKING, false);
+    KillTimer(spin, kRepeatTimer);
     Invalidate(spin);
 }
 
@@ -124,6 +195,11 @@ void OnSetRedraw(HWND spin, WPARAM on)
         ShowWindow(spin, SW_HIDE);
 }
 
+bool IsAskedFor(const EditInstance* edit, LPARAM object)
+{
+    return edit && edit->editor && static_cast<LONG>(object) == OBJID_CLIENT;
+}
+
 // What Route takes; for all others the record is not looked up, which is a call into the window manager.
 bool IsRouted(UINT message)
 {
@@ -133,6 +209,8 @@ bool IsRouted(UINT message)
     case WM_PAINT:
     case WM_TIMER:
     case WM_MOUSEMOVE:
+    case WM_MOUSELEAVE:
+    case WM_CAPTURECHANGED:
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP: return true;
     default: return false;
@@ -153,11 +231,14 @@ bool Route(HWND spin, EditInstance& edit, UINT message, WPARAM wParam, LPARAM lP
     case WM_DESTROY: OnDestroy(spin, edit); return true;
     case WM_SETREDRAW: OnSetRedraw(spin, wParam); return true;
     case WM_PAINT: OnPaint(spin, edit); return true;
-    case WM_TIMER: SpinStep(edit); return true;
+    case WM_TIMER: OnTimer(spin, edit); return true;
     case WM_MOUSEMOVE:
         if (Has(edit, SPIN_TRACKING))
             OnTrack(spin, edit, lParam);
+        OnHover(spin, edit, lParam);
         return true;
+    case WM_MOUSELEAVE: SetHotArrow(spin, edit, 0); return true;
+    case WM_CAPTURECHANGED: OnCaptureLost(spin, edit); return true;
     case WM_LBUTTONDOWN: OnPress(spin, edit, lParam); return true;
     case WM_LBUTTONUP: OnRelease(spin, edit); return true;
     default: return false;
@@ -221,7 +302,7 @@ void CreateSpin(EditInstance& edit)
         return;
     RECT client = ClientOf(WindowOf(edit));
     RECT place = client;
-    place.left = client.right - SpinWidthForHeight(static_cast<int16_t>(client.bottom - client.top));
+    place.left = client.right - SpinWidthForHeight(edit, static_cast<int16_t>(client.bottom - client.top));
     CreateSpinWindow(edit, WS_CHILD | WS_VISIBLE, place);
     KeepTextOffSpin(edit);
     client.right = place.left;
@@ -255,6 +336,9 @@ LRESULT CALLBACK ZTE_SpinWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
         return OnCreate(hwnd, reinterpret_cast<const CREATESTRUCTA*>(lParam));
     if (message == WM_NCPAINT)  // there is no frame; the system would ask for a context first, and then see that
         return 0;
+    if (message == WM_GETOBJECT && IsAskedFor(GetEditInstance(hwnd), lParam))
+        if (const LRESULT answer = AnswerAssistance(hwnd, wParam))
+            return answer;
     EditInstance* edit = RecordFor(hwnd, message);
     if (edit && WhileAlive(*edit, true, [&] { return Route(hwnd, *edit, message, wParam, lParam); }))
         return 0;

@@ -71,6 +71,12 @@ private:
     bool open_;
 };
 
+// Of one byte, whatever its sign.
+int32_t CodeOf(Char character)
+{
+    return static_cast<uint8_t>(character);
+}
+
 bool HasStyle(HWND hwnd, LONG style)
 {
     return (GetWindowLongA(hwnd, GWL_STYLE) & style) != 0;
@@ -266,6 +272,42 @@ void StandardField::NotifyStepped()
     const LifeCheck life(*this);
     NotifyParent(Window(), GetParent(Window()), EN_CHANGE);
     life.Check();
+}
+
+// A notification as WM_NOTIFY; the parent's answer. The control may be gone afterwards.
+template <typename Notification>
+LRESULT StandardField::Tell(Notification& notification, UINT code)
+{
+    const LifeCheck life(*this);
+    const auto id = static_cast<UINT_PTR>(GetWindowLongA(Window(), GWL_ID));
+    notification.hdr = {Window(), id, code};
+    const LRESULT answer = SendMessageA(GetParent(Window()), WM_NOTIFY, id, reinterpret_cast<LPARAM>(&notification));
+    life.Check();
+    return answer;
+}
+
+bool StandardField::NotifyRejected(int32_t reason, int32_t position, Char character)
+{
+    ZTNotifyRejected rejected = {{}, reason, position, CodeOf(character)};
+    return Tell(rejected, ZTN_REJECTED) != 0;
+}
+
+void StandardField::NotifyState(int32_t was, int32_t is)
+{
+    ZTNotifyState state = {{}, was, is};
+    Tell(state, ZTN_STATECHANGED);
+}
+
+void StandardField::NotifyValue()
+{
+    for (const HWND shown : {Window(), SpinOf(edit_)})
+        if (shown)
+            NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, shown, OBJID_CLIENT, CHILDID_SELF);
+}
+
+uint32_t StandardField::Milliseconds() const
+{
+    return static_cast<uint32_t>(GetMessageTime());
 }
 
 }  // namespace zte

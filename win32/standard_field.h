@@ -46,6 +46,10 @@ public:
     void Beep() override;
     void NotifyFull() override;
     void NotifyStepped() override;
+    bool NotifyRejected(int32_t reason, int32_t position, Char character) override;
+    void NotifyState(int32_t was, int32_t is) override;
+    void NotifyValue() override;
+    uint32_t Milliseconds() const override;
 
     // True for a message to the control that the library sends itself, and once for each: what a host sends meanwhile is its own.
     static bool TakeOwnMessage(HWND hwnd);
@@ -56,10 +60,18 @@ public:
 
     uint16_t stripInMargin = 0;  // pixels of the right margin that the spin's strip takes, beside the host's own
     uint32_t arrowsShown = 0;    // the arrows that the spin's window shows pressed
+    int32_t wheelRest = 0;       // what the wheel has turned beside whole notches
+    uint32_t hotArrow = 0;       // the arrow of a modern control's spin that the pointer is over
+    bool isPointToCome = false;  // the keypad's decimal key has gone down in a modern control, its character is to come
+    int32_t bytesToCome = 0;     // of a character of several bytes that was refused
+    uint32_t pressedAt = 0;      // when the mouse button went down on the spin, in milliseconds
     LifeGuard* guard = nullptr;  // innermost entry into the library that works on this control
 
 private:
     HWND Window() const { return static_cast<HWND>(edit_.hwnd); }
+
+    template <typename Notification>
+    LRESULT Tell(Notification& notification, UINT code);
 
     EditInstance& edit_;
     bool redrawOff_ = false;  // redrawing was turned off by the library

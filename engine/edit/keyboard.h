@@ -2,19 +2,9 @@
 #pragma once
 
 #include "engine/record.h"
+#include "engine/reply.h"
 
 namespace zte {
-
-// What became of a message: kept, or left to the edit control underneath.
-struct Reply {
-    bool kept;
-    intptr_t result;
-};
-constexpr Reply kPassOn{false, 0};
-constexpr Reply Keep(intptr_t result = 1)
-{
-    return {true, result};
-}
 
 // Printable characters and Backspace: what enters or deletes text, as the characters of the Ctrl key do not.
 constexpr bool IsTyped(uint32_t character)

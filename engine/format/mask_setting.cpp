@@ -50,26 +50,32 @@ void ShowEmptyValue(EditInstance& edit)
 
 }  // namespace
 
-int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
+bool ChangeMask(EditInstance& edit, const Char* mask, int32_t dataType, const Settings& settings)
 {
     edit.dataType = dataType;
     FieldLayout layout{};
     layout.yearDigits = edit.yearDigits;
-    const ChosenMask chosen = ChooseMask(GivenMask(mask), dataType, *edit.settings, layout);
+    const ChosenMask chosen = ChooseMask(GivenMask(mask), dataType, settings, layout);
     KeepLayout(edit, layout);
     InstallMask(edit, chosen.text, chosen.origin, chosen.unitsForced);
     edit.decimalPlaces = edit.table->number.shape.fractionPlaces;
     SetFlag(edit, PERCENT, edit.table->number.shape.percent);
     SetFlag(edit, SPUN, false);
-    const bool isNew = edit.maskJustSet == 0;
-    edit.maskJustSet = 1;
     ForgetPassed(edit);
     ChooseEditMode(edit);
+    return chosen.asGiven;
+}
+
+int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
+{
+    const bool asGiven = ChangeMask(edit, mask, dataType, *edit.settings);
+    const bool isNew = edit.maskJustSet == 0;
+    edit.maskJustSet = 1;
     if (isNew && ShowsPlainEmptyText(edit))
         edit.formatFlags = FORMAT_DONE;
     else if (!Has(edit, CODE_SPIN))
         ShowEmptyValue(edit);
-    return chosen.asGiven ? 1 : 0;
+    return asGiven ? 1 : 0;
 }
 
 }  // namespace zte

@@ -21,6 +21,7 @@ void PlayDisplays(const uint8_t* data, size_t size);       // values shown, and 
 void PlayTables(const uint8_t* data, size_t size);         // code tables and ranges
 void PlayPictures(const uint8_t* data, size_t size);       // regional pictures and settings
 void PlayControl(const uint8_t* data, size_t size);        // a whole control: keys, mouse, data, settings
+void PlayModern(const uint8_t* data, size_t size);         // the same in modern editing
 
 constexpr FuzzTarget kFuzzTargets[] = {
     {"masks",          PlayMasks        },
@@ -30,6 +31,7 @@ constexpr FuzzTarget kFuzzTargets[] = {
     {"tables",         PlayTables       },
     {"pictures",       PlayPictures     },
     {"control",        PlayControl      },
+    {"modern",         PlayModern       },
 };
 
 }  // namespace zttest

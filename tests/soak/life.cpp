@@ -234,7 +234,7 @@ void Throw(Life& life, uint64_t seed, int acts)
     life.config = {};
     life.config.mask = mask.mask;
     life.config.type = mask.type;
-    life.config.options = static_cast<uint32_t>(dice.Below(16));
+    life.config.options = static_cast<uint32_t>(dice.Below(32));
     life.config.data = dice.Chance(60) ? life.data.c_str() : nullptr;
     life.config.range = spin.range;
     life.config.increment = spin.increment;

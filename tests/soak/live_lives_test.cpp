@@ -103,6 +103,30 @@ TEST(GateBeforeWindows, SeesTheBlocksTaken)
     SharedHeapDestroy(heap);
 }
 
+// What a modern control remembers is the runtime's, not the heap's.
+TEST(ModernControl, GivesBackWhatItRemembersAlsoWhereItsHeapEndsFirst)
+{
+    const Gate gate;
+    const zttest::Form form;
+    zttest::Config config;
+    config.mask = "MM/DD/YY";
+    config.type = DT_DATE;
+    config.options = ZTEO_MODERN;
+    const int64_t before = gate.Blocks();
+    for (const bool heapFirst : {false, true}) {
+        const SharedHeap heap = SharedHeapCreate();
+        LiveControl control;
+        control.Create(form.hwnd(), heap, config, Way::ByClass, false);
+        EXPECT_GT(gate.Blocks(), before + 1);
+        if (!heapFirst)
+            control.Destroy();
+        SharedHeapDestroy(heap);
+        if (heapFirst)
+            control.Destroy();
+        EXPECT_EQ(gate.Blocks(), before) << heapFirst;
+    }
+}
+
 TEST_F(Windows, GiveBackWhatTheyWereLent)
 {
     const int lives = NumberOf("ZT_SOAK_LIVES", kLives);

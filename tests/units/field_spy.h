@@ -74,6 +74,12 @@ public:
     void Beep() override { Note("Beep"); }
     void NotifyFull() override { Note("Full"); }
     void NotifyStepped() override { under_.NotifyStepped(); }
+    bool NotifyRejected(int32_t reason, int32_t position, zte::Char character) override
+    {
+        return under_.NotifyRejected(reason, position, character);
+    }
+    void NotifyState(int32_t was, int32_t is) override { under_.NotifyState(was, is); }
+    uint32_t Milliseconds() const override { return under_.Milliseconds(); }
 
     const std::vector<std::string>& Calls() const { return calls_; }
     int Count(const std::string& call) const

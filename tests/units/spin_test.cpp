@@ -250,7 +250,7 @@ TEST_F(SpinOf, AFieldReadOnlyIsNotStepped)
 
 // ---- Code tables ----
 
-constexpr char kColours[] = "Red\tR/Green\tG/Blue\tB";
+constexpr char kColourEntries[] = "Red\tR/Green\tG/Blue\tB";
 
 TEST_F(SpinOf, ACodeTableGoesOnFromTheEntryShown)
 {
@@ -261,13 +261,13 @@ TEST_F(SpinOf, ACodeTableGoesOnFromTheEntryShown)
         control_->Step(true);
         return control_->Edit().Shown();
     };
-    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColours, "Green"), FromAscii("Blue"));
-    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColours, "Green   "), FromAscii("Blue"));
-    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColours, "G"), FromAscii("Blue"));
-    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColours, "G       "), FromAscii("Blue"));
-    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColours, "Green!!!"), FromAscii("Red"));
-    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColours, "Yellow"), FromAscii("Red"));
-    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColours, ""), FromAscii("Red"));
+    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColourEntries, "Green"), FromAscii("Blue"));
+    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColourEntries, "Green   "), FromAscii("Blue"));
+    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColourEntries, "G"), FromAscii("Blue"));
+    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColourEntries, "G       "), FromAscii("Blue"));
+    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColourEntries, "Green!!!"), FromAscii("Red"));
+    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColourEntries, "Yellow"), FromAscii("Red"));
+    EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, kColourEntries, ""), FromAscii("Red"));
     EXPECT_EQ(fromText("XXXXXXXX", DT_STRING, "a\t1/ \t2/b\t3", " "), FromAscii("b"));
     EXPECT_EQ(fromText("XX-XX", DT_STRING, "a\t1234/b\t5678/c\t9", "56-78"), FromAscii("c"));
     EXPECT_EQ(fromText("XX-XX", DT_STRING, "a\t/b\t5678/c\t9", "  -  "), FromAscii("a"));
@@ -276,7 +276,7 @@ TEST_F(SpinOf, ACodeTableGoesOnFromTheEntryShown)
 
 TEST_F(SpinOf, TheTextOfAnEntryIsLaidOut)
 {
-    Make("XXXXXXXX", DT_STRING, "", ZTEO_CODE_DISPLAY, kColours);
+    Make("XXXXXXXX", DT_STRING, "", ZTEO_CODE_DISPLAY, kColourEntries);
     EXPECT_EQ(Up(""), FromAscii("Red"));
     using E = FieldEvent;
     ASSERT_GE(events_.size(), 3u);

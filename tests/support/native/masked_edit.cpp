@@ -297,7 +297,7 @@ bool MaskedEdit::CanUndo() const
 
 void MaskedEdit::Undo()
 {
-    it_->field.Undo();
+    it_->control.Undo();
 }
 
 void MaskedEdit::Paste()

@@ -1,0 +1,153 @@
+// The rows of modern editing through a keyboard and a mouse: in memory, and by real messages on live windows.
+#include "tests/support/modern_rows.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "tests/support/engine_test.h"
+#include "tests/support/rows.h"
+
+namespace zttest {
+namespace {
+
+using typing::TypingRow;
+
+// An act of the rows: a key under its name at the keyboard, or what else is done to the control.
+struct ActRow {
+    const char* name;
+    const char* key;
+    void (*act)(MaskedEdit&);
+};
+
+constexpr ActRow kActs[] = {
+    {"Bs",        "{Back}",       nullptr                                           },
+    {"CtrlBs",    "{Ctrl+Back}",  nullptr                                           },
+    {"Del",       "{Del}",        nullptr                                           },
+    {"CtrlDel",   "{Ctrl+Del}",   nullptr                                           },
+    {"ShiftDel",  "{Shift+Del}",  nullptr                                           },
+    {"ShiftIns",  "{Shift+Ins}",  nullptr                                           },
+    {"Left",      "{Left}",       nullptr                                           },
+    {"Right",     "{Right}",      nullptr                                           },
+    {"CtrlLeft",  "{Ctrl+Left}",  nullptr                                           },
+    {"CtrlRight", "{Ctrl+Right}", nullptr                                           },
+    {"Home",      "{Home}",       nullptr                                           },
+    {"End",       "{End}",        nullptr                                           },
+    {"Up",        "{Up}",         nullptr                                           },
+    {"Down",      "{Down}",       nullptr                                           },
+    {"PageUp",    "{PgUp}",       nullptr                                           },
+    {"PageDown",  "{PgDn}",       nullptr                                           },
+    {"All",       "{Ctrl+A}",     nullptr                                           },
+    {"CtrlV",     "{Ctrl+V}",     nullptr                                           },
+    {"CtrlX",     "{Ctrl+X}",     nullptr                                           },
+    {"CtrlZ",     "{Ctrl+Z}",     nullptr                                           },
+    {"Escape",    "{Esc}",        nullptr                                           },
+    {"Cut",       "{Ctrl+X}",     nullptr                                           },
+    {"Paste",     nullptr,        [](MaskedEdit& control) { control.Paste(); }      },
+    {"Undo",      nullptr,        [](MaskedEdit& control) { control.Undo(); }       },
+    {"Blur",      nullptr,        [](MaskedEdit& control) { control.LoseFocus(); }  },
+    {"ReadOnly",  nullptr,        [](MaskedEdit& control) { control.SetReadOnly(); }},
+};
+
+const ActRow* ActNamed(const std::string& name)
+{
+    const auto* const found =
+        std::find_if(std::begin(kActs), std::end(kActs), [&](const ActRow& row) { return name == row.name; });
+    return found == std::end(kActs) ? nullptr : found;
+}
+
+// Characters, and acts named in braces; handed on one by one.
+template <typename Type, typename Act>
+void Walk(const std::string& keys, Type type, Act act)
+{
+    for (size_t i = 0; i < keys.size(); ++i) {
+        if (keys[i] != '{') {
+            type(keys[i]);
+            continue;
+        }
+        const size_t end = keys.find('}', i);
+        act(keys.substr(i + 1, end - i - 1));
+        i = end;
+    }
+}
+
+// Played in memory alone: rows of clocks, wheels, double clicks and other designators than those of the settings in force.
+bool CanBePlayed(const TypingRow& row)
+{
+    bool all = std::strcmp(row.setup.am, "AM") == 0;
+    const bool fromToday = (row.setup.options & ZTEO_SPIN) != 0 && !row.before;
+    Walk(
+        row.keys, [](char) {}, [&](const std::string& name) { all = all && ActNamed(name); });
+    return all && !fromToday;
+}
+
+std::vector<TypingRow> Playable(const std::vector<TypingRow>& rows)
+{
+    std::vector<TypingRow> playable;
+    for (const TypingRow& row : rows)
+        if (CanBePlayed(row))
+            playable.push_back(row);
+    return playable;
+}
+
+class ModernRows : public EditTest, public OfRow<TypingRow> {
+protected:
+    void MakeIt()
+    {
+        const typing::TypingSetup& setup = GetParam().setup;
+        Config config;
+        config.mask = setup.mask;
+        config.type = setup.type;
+        config.options = ZTEO_MODERN | setup.options | (setup.codes ? ZTEO_SPIN | ZTEO_CODE_DISPLAY : 0u);
+        config.codes = setup.codes;
+        config.range = setup.range;
+        config.increment = 1;
+        Make(config);
+        if (GetParam().before)
+            Show(GetParam().before);
+        control_->Forget();
+    }
+
+    void Do(const std::string& name)
+    {
+        const ActRow& row = *ActNamed(name);
+        if (row.act)
+            row.act(*control_);
+        else
+            Play(row.key);
+    }
+};
+
+int CountReasons(const std::string& reasons)
+{
+    return reasons.empty() ? 0 : 1 + static_cast<int>(std::count(reasons.begin(), reasons.end(), ','));
+}
+
+ROW_TEST(ModernRows, AreWhatIsShown)
+{
+    const Regional regional(kUnitedStates);
+    MakeIt();
+    Walk(
+        GetParam().keys, [&](char typed) { Type(std::string(1, typed)); }, [&](const std::string& name) { Do(name); });
+    EXPECT_EQ(Shown(), GetParam().after);
+    EXPECT_EQ(Beeps(), CountReasons(GetParam().reasons));
+}
+
+const std::vector<TypingRow> kDates = Playable(typing::ModernDates());
+const std::vector<TypingRow> kTimes = Playable(typing::ModernTimes());
+const std::vector<TypingRow> kDeletions = Playable(typing::ModernDeletions());
+const std::vector<TypingRow> kUndo = Playable(typing::ModernUndo());
+const std::vector<TypingRow> kCarets = Playable(typing::ModernCarets());
+const std::vector<TypingRow> kSpins = Playable(typing::ModernSpins());
+const std::vector<TypingRow> kStrings = Playable(typing::ModernStrings());
+const std::vector<TypingRow> kChoices = Playable(typing::ModernChoices());
+TEST_ROWS(Dates, ModernRows, kDates);
+TEST_ROWS(Times, ModernRows, kTimes);
+TEST_ROWS(Deletions, ModernRows, kDeletions);
+TEST_ROWS(Undo, ModernRows, kUndo);
+TEST_ROWS(Carets, ModernRows, kCarets);
+TEST_ROWS(Spins, ModernRows, kSpins);
+TEST_ROWS(Strings, ModernRows, kStrings);
+TEST_ROWS(Choices, ModernRows, kChoices);
+
+}  // namespace
+}  // namespace zttest
