@@ -32,7 +32,7 @@ target_link_libraries(test_field PRIVATE gtest_main)
 
 # Functions of the engine by themselves.
 file(GLOB zt_unit_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/units/*.cpp)
-set(zt_unit_support marked_text.cpp modern_rows.cpp profile.cpp values.cpp native/main.cpp native/profile_store.cpp)
+set(zt_unit_support marked_text.cpp modern_number_rows.cpp modern_rows.cpp profile.cpp values.cpp native/main.cpp native/profile_store.cpp)
 list(TRANSFORM zt_unit_support PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
 # The companions' functions over values, with the tests that their libraries meet under Wine.
 set(zt_value_functions ztdecimal/exports.cpp ztshared/date_time.cpp ztshared/number_format.cpp ztshared/text.cpp)

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "tests/support/engine_test.h"
+#include "tests/support/modern_number_rows.h"
 #include "tests/support/rows.h"
 
 namespace zttest {
@@ -148,6 +149,88 @@ TEST_ROWS(Carets, ModernRows, kCarets);
 TEST_ROWS(Spins, ModernRows, kSpins);
 TEST_ROWS(Strings, ModernRows, kStrings);
 TEST_ROWS(Choices, ModernRows, kChoices);
+
+// ---- numbers
+
+using modern_numbers::KeyRow;
+
+// The keypad's key and other settings than those in force are played over the functions alone.
+std::vector<KeyRow> Playable(const std::vector<KeyRow>& rows)
+{
+    std::vector<KeyRow> playable;
+    for (const KeyRow& row : rows)
+        if (std::strcmp(row.region, "US") == 0 && !std::strchr(row.keys, 'k'))
+            playable.push_back(row);
+    return playable;
+}
+
+struct NumberKey {
+    char letter;
+    const char* key;
+};
+
+constexpr NumberKey kNumberKeys[] = {
+    {'b', "{Back}"      },
+    {'d', "{Del}"       },
+    {'B', "{Ctrl+Back}" },
+    {'D', "{Ctrl+Del}"  },
+    {'h', "{Home}"      },
+    {'e', "{End}"       },
+    {'<', "{Left}"      },
+    {'>', "{Right}"     },
+    {'[', "{Ctrl+Left}" },
+    {']', "{Ctrl+Right}"},
+    {'a', "{Ctrl+A}"    },
+};
+
+class ModernNumberRows : public EditTest, public OfRow<KeyRow> {
+protected:
+    void MakeIt()
+    {
+        Config config;
+        config.mask = GetParam().mask;
+        config.type = DT_NUMBER;
+        config.options = ZTEO_MODERN;
+        Make(config);
+        const std::string start = GetParam().start;
+        if (start[0] == '=')
+            control_->SetDataString(start.substr(1));
+        else if (!start.empty())
+            Show(start);
+    }
+
+    void Press(char letter)
+    {
+        const auto* const found = std::find_if(std::begin(kNumberKeys), std::end(kNumberKeys),
+                                               [=](const NumberKey& row) { return row.letter == letter; });
+        if (letter == 'l')
+            control_->LoseFocus();
+        else if (found != std::end(kNumberKeys))
+            Play(found->key);
+        else
+            Type(std::string(1, letter));
+    }
+};
+
+ROW_TEST(ModernNumberRows, AreWhatIsShown)
+{
+    const Regional regional(kUnitedStates);
+    MakeIt();
+    for (const char* key = GetParam().keys; *key; ++key)
+        Press(*key);
+    EXPECT_EQ(Shown(), GetParam().after);
+}
+
+const std::vector<KeyRow> kNumberDigits = Playable(modern_numbers::NumberDigits());
+const std::vector<KeyRow> kNumberSigns = Playable(modern_numbers::NumberSigns());
+const std::vector<KeyRow> kNumberSeparators = Playable(modern_numbers::NumberSeparators());
+const std::vector<KeyRow> kNumberDeletion = Playable(modern_numbers::NumberDeletion());
+const std::vector<KeyRow> kNumberCaret = Playable(modern_numbers::NumberCaret());
+TEST_ROWS(Digits, ModernNumberRows, kNumberDigits);
+TEST_ROWS(Signs, ModernNumberRows, kNumberSigns);
+TEST_ROWS(Separators, ModernNumberRows, kNumberSeparators);
+TEST_ROWS(Deletion, ModernNumberRows, kNumberDeletion);
+TEST_ROWS(Caret, ModernNumberRows, kNumberCaret);
 
 }  // namespace
 }  // namespace zttest
