@@ -12,7 +12,7 @@ namespace {
 bool StandsAt(const Text& text, int32_t position, const MaskLiterals& literals)
 {
     const auto length = static_cast<size_t>(literals.length);
-    return text.compare(static_cast<size_t>(position), length, literals.text, length) == 0;
+    return length == 0 || text.compare(static_cast<size_t>(position), length, literals.text, length) == 0;
 }
 
 bool IsLiteral(const Token& token)
