@@ -153,6 +153,7 @@ struct LawCase {
     std::string keys;   // what is typed
     std::string shown;
     std::string canonical;  // of what is shown
+    bool leaves = false;    // the focus goes on then
 };
 
 class Tally {
@@ -167,6 +168,8 @@ public:
         start.begin(field);
         field.Control().Edit().ForgetCounts();
         field.Type(row.keys);
+        if (row.leaves)
+            field.Control().LoseFocus();
         if (field.Shown() == row.shown && field.Canonical() == row.canonical && field.Refusals() == 0)
             return;
         if (++failed_ <= kTold)
@@ -293,6 +296,14 @@ std::string Show(const std::string& mask, const Moment& moment, const Designator
     return shown;
 }
 
+std::string Canonical(int32_t type, const Moment& moment)
+{
+    const std::string time = TwoDigits(moment.hour) + ':' + TwoDigits(moment.minute) + ':' + TwoDigits(moment.second);
+    if (type == DT_TIME)
+        return time;
+    return CanonicalOf(moment.date) + (type == DT_DATE ? "" : ' ' + time);
+}
+
 // ---- ways to type what is shown
 
 std::string AsShown(const std::string& shown)
@@ -377,15 +388,6 @@ public:
     uint64_t Played() const { return tally_.Played(); }
 
 private:
-    static std::string Canonical(int32_t type, const Moment& moment)
-    {
-        const std::string time =
-            TwoDigits(moment.hour) + ':' + TwoDigits(moment.minute) + ':' + TwoDigits(moment.second);
-        if (type == DT_TIME)
-            return time;
-        return CanonicalOf(moment.date) + (type == DT_DATE ? "" : ' ' + time);
-    }
-
     Tally tally_;
     uint64_t every_;
     uint64_t next_ = 0;
@@ -440,6 +442,48 @@ TEST(ModernLaw, EveryTimeTypedIsRead)
     game.Play("HH:MM AM/PM", DT_TIME, values, others, spelled, {"a.m.", "p.m."});
     game.Play("AM/PM HH:MM:SS", DT_TIME, values, others, spelled, {"v", "nm"});
     EXPECT_GT(game.Played(), 1000u);
+}
+
+// Hours of the day in a field of half days: those that no half day has choose the half, others do so in a field that has none yet.
+TEST(ModernLaw, HoursOfTheDayChooseTheHalf)
+{
+    Tally tally("times of the day in half days");
+    const std::vector<Moment> values = Minutes(1);
+    const std::vector<Moment> others = Minutes(29);
+    const uint64_t every = Every(149);
+    for (const std::string mask : {"HH:MM AM/PM", "HHuMM (AM/PM)"}) {
+        Field field(mask, DT_TIME, SettingsWith("AM", "PM"));
+        for (uint64_t row = 0; row < values.size() * others.size(); row += every) {
+            const Moment& value = values[row % values.size()];
+            const std::string keys = TwoDigits(value.hour) + (row % 2 == 0 ? ":" : "") + TwoDigits(value.minute);
+            const bool isOfHalf = value.hour >= 1 && value.hour <= 12;
+            const Start& start = kStarts[isOfHalf ? 1 + row % (std::size(kStarts) - 1) : row % std::size(kStarts)];
+            tally.Play(field, mask, start,
+                       {Canonical(DT_TIME, others[row / values.size()]), keys, Show(mask, value, {"AM", "PM"}),
+                        Canonical(DT_TIME, value)});
+        }
+    }
+    EXPECT_GT(tally.Played(), 500u);
+}
+
+// Two digits of a year, and single digits, are completed when they are left.
+TEST(ModernLaw, ShortDatesAreCompleted)
+{
+    Tally tally("short dates");
+    const std::vector<Moment> values = Dates(AllDays());
+    const std::vector<Moment> others = Dates(FiftyDays());
+    const uint64_t every = Every(7001);
+    for (const std::string mask : {"MM/DD/YYYY", "DD.MM.YYYY", "MMM DD YYYY"}) {
+        Field field(mask, DT_DATE, StandardSettings());
+        for (uint64_t row = 0; row < values.size() * others.size(); row += every) {
+            const Moment& value = values[row % values.size()];
+            const std::string shown = Show(mask, value, {});
+            const std::string keys = WithoutZeros(shown.substr(0, shown.size() - 4)) + TwoDigits(value.date.year % 100);
+            tally.Play(field, mask, kStarts[row % std::size(kStarts)],
+                       {Canonical(DT_DATE, others[row / values.size()]), keys, shown, Canonical(DT_DATE, value), true});
+        }
+    }
+    EXPECT_GT(tally.Played(), 500u);
 }
 
 TEST(ModernLaw, DatesWithTimesTypedAreRead)
@@ -529,7 +573,7 @@ StringValue RandomString(const std::string& mask, uint32_t seed)
 TEST(ModernLaw, EveryStringTypedIsRead)
 {
     Tally tally("strings");
-    const uint64_t every = Every(97);
+    const uint64_t every = Every(149);
     const Settings settings = StandardSettings();
     uint64_t next = 0;
     uint64_t rows = 0;
