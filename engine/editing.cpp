@@ -47,13 +47,34 @@ void StepClassic(EditInstance& edit, bool up, bool)
 void Ignore(EditInstance&) {}
 
 constexpr Editing kClassic = {
-    OnKeyDown,    OnKeyUp,      OnChar,         nullptr,
-    PasteClassic, LeaveToField, LeaveToField,   LeaveToField,
-    LeaveToField, nullptr,      StepClassic,    IsClickCorrected,
-    CorrectClick, nullptr,      OnFocusLost,    OnTextSetFromOutside,
-    Ignore,       Ignore,       LeaveReplacing, LeaveToField,
-    LeaveToField, SetMask,      SetData,        SetDataString,
-    GetData,      FormatValue,  SetSpin,
+    OnKeyDown,
+    nullptr,
+    OnKeyUp,
+    OnChar,
+    nullptr,
+    PasteClassic,
+    LeaveToField,
+    LeaveToField,
+    LeaveToField,
+    LeaveToField,
+    nullptr,
+    StepClassic,
+    IsClickCorrected,
+    CorrectClick,
+    nullptr,
+    OnFocusLost,
+    OnTextSetFromOutside,
+    Ignore,
+    Ignore,
+    LeaveReplacing,
+    LeaveToField,
+    LeaveToField,
+    SetMask,
+    SetData,
+    SetDataString,
+    GetData,
+    FormatValue,
+    SetSpin,
 };
 
 // ---- modern
@@ -75,6 +96,7 @@ void NoteTextSet(EditInstance& edit)
 
 constexpr Editing kModern = {
     modern::OnKeyDown,
+    NoteCaret,
     modern::OnKeyUp,
     modern::OnChar,
     modern::OnForeignChar,

@@ -11,6 +11,7 @@ namespace zte {
 struct Editing {
     // ---- keys and characters, as the messages carry them
     Reply (*keyDown)(EditInstance&, uint32_t key, KeyData);
+    void (*afterKey)(EditInstance&);  // the field has taken a key that was not kept; null: whatever came of it
     Reply (*keyUp)(EditInstance&, uint32_t key);
     Reply (*character)(EditInstance&, uint32_t typed, KeyData);
     Reply (*foreignCharacter)(

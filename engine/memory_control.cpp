@@ -47,8 +47,11 @@ void MemoryControl::KeyDown(int32_t key)
     const auto pressed = static_cast<uint32_t>(key);
     const bool plain = IsPlainEdit(record_);
     const Reply reply = plain ? OnPlainKeyDown(record_, pressed) : Reading().keyDown(record_, pressed, kFromKeyboard);
-    if (!reply.kept)
-        field_.Press(static_cast<Key>(key));
+    if (reply.kept)
+        return;
+    field_.Press(static_cast<Key>(key));
+    if (!plain && Reading().afterKey)
+        Reading().afterKey(record_);
 }
 
 void MemoryControl::Type(uint32_t character)

@@ -138,6 +138,13 @@ Reply LeaveToPlainEdit(EditInstance& edit, const MSG& message)
     return reply.kept ? reply : PassOnAndNote(edit, message, EditingOf(edit).afterTextSet);
 }
 
+// A key that is left to the edit control may take its caret out of what is being typed.
+Reply LeaveKey(EditInstance& edit, const MSG& message, Reply reply)
+{
+    const auto note = message.message == WM_KEYDOWN && !reply.kept ? EditingOf(edit).afterKey : nullptr;
+    return note ? PassOnAndNote(edit, message, note) : reply;
+}
+
 bool ConcernsKeyDownHere(uint32_t key)
 {
     return ConcernsKeyDown(key) || key == VK_DECIMAL || DeletionIsOpen();
@@ -219,7 +226,7 @@ bool IsKept(const MSG& message, LRESULT& result)
             if (IsLeftToPlainEdit(message.message) && IsPlainEdit(*edit))
                 reply = LeaveToPlainEdit(*edit, message);
             else
-                reply = AfterKey(*edit, message, work(*edit));
+                reply = LeaveKey(*edit, message, AfterKey(*edit, message, work(*edit)));
         });
         const Reply done = reply ? *reply : IfGone(message);
         result = done.result;

@@ -14,7 +14,6 @@ namespace zte {
 namespace {
 
 constexpr int32_t kFourDigitYears = 4;
-constexpr uint32_t kMicroseconds = 1000000;
 
 // One reading of one text.
 class FieldReader {
@@ -160,7 +159,7 @@ bool IsPossibleDate(const DateTimeValue& value)
 bool IsPossibleTime(const DateTimeValue& value)
 {
     return value.hour >= 0 && value.hour < 24 && value.minute >= 0 && value.minute < 60 && value.second >= 0 &&
-           value.second < 60 && value.microsecond < kMicroseconds;
+           value.second < 60 && value.microsecond < uint32_t{kMicroseconds};
 }
 
 void DropDate(DateTimeValue& value)

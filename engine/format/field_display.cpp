@@ -12,11 +12,6 @@ namespace {
 
 constexpr Char kBlank = ' ';
 
-Text TwoDigits(int32_t number)
-{
-    return NumberText(static_cast<uint32_t>(number), 2);
-}
-
 // The text of one date or time field; run tells how many letters the mask gives it.
 Text YearText(const DateTimeValue& value, int32_t run)
 {

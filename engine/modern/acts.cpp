@@ -104,13 +104,20 @@ Reply Move(EditInstance& edit, Key key)
         editor.MoveCaret(content.selection);
         return kPassOn;
     }
-    const bool control = edit.field->IsHeld(KEY_CONTROL);
-    const int32_t position = KindOf(edit).move(edit, content, key, control);
-    const bool atEnd = key == KEY_RIGHT && content.selection.IsEmpty() && content.Caret() == position;
+    const int32_t position = KindOf(edit).move(edit, content, key, edit.field->IsHeld(KEY_CONTROL));
     editor.MoveCaret({position, position});
-    if (atEnd && Has(edit, AUTOSKIP) && KindOf(edit).state(edit, editor.Left()) != ZTS_INVALID)
-        edit.field->NotifyFull();
     return Keep();
+}
+
+// Right at the end of a field that is no wrong one is a wish to go on.
+Reply MoveRight(EditInstance& edit)
+{
+    const Selection before = edit.field->ReadSelection();
+    const Reply reply = Move(edit, KEY_RIGHT);
+    const bool atEnd = reply.kept && before.IsEmpty() && edit.editor->Left().Caret() == before.start;
+    if (atEnd && Has(edit, AUTOSKIP) && edit.editor->State() != ZTS_INVALID)
+        edit.field->NotifyFull();
+    return reply;
 }
 
 Reply StepByKey(EditInstance& edit, int32_t steps, KeyData keyData)
@@ -119,6 +126,12 @@ Reply StepByKey(EditInstance& edit, int32_t steps, KeyData keyData)
         return kPassOn;
     Step(edit, steps, IsRepeated(keyData));
     return Keep();
+}
+
+// Without anything to step the keys move the caret, as those of the field itself do.
+Reply StepOrMove(EditInstance& edit, int32_t steps, KeyData keyData)
+{
+    return MayStep(edit) ? StepByKey(edit, steps, keyData) : Move(edit, steps > 0 ? KEY_LEFT : KEY_RIGHT);
 }
 
 Reply Delete(EditInstance& edit)
@@ -179,12 +192,12 @@ Reply OnKeyDown(EditInstance& edit, uint32_t key, KeyData keyData)
         return Keep(0);
     switch (key) {
     case KEY_DELETE: return Delete(edit);
-    case KEY_LEFT:
-    case KEY_RIGHT: return Move(edit, static_cast<Key>(key));
+    case KEY_LEFT: return Move(edit, KEY_LEFT);
+    case KEY_RIGHT: return MoveRight(edit);
     case KEY_HOME:
     case KEY_END: return MoveOrChoose(edit, static_cast<Key>(key));
-    case KEY_UP: return StepByKey(edit, 1, keyData);
-    case KEY_DOWN: return StepByKey(edit, -1, keyData);
+    case KEY_UP: return StepOrMove(edit, 1, keyData);
+    case KEY_DOWN: return StepOrMove(edit, -1, keyData);
     case KEY_PAGE_UP: return StepByKey(edit, kPage, keyData);
     case KEY_PAGE_DOWN: return StepByKey(edit, -kPage, keyData);
     case KEY_INSERT: return InsertKey(edit);

@@ -111,17 +111,10 @@ Text Canonical(const EditInstance& edit, const Content& content)
 
 // ---- choosing by letters
 
-Text Folded(const EditInstance& edit, Text text)
-{
-    for (Char& c : text)
-        c = edit.settings->letters->upper(c);
-    return text;
-}
-
 bool Begins(const EditInstance& edit, const Entry& entry, const Text& letters)
 {
-    const Text display = Folded(edit, entry.display);
-    return display.compare(0, letters.size(), Folded(edit, letters)) == 0 && display.size() >= letters.size();
+    const Text display = Folded(*edit.settings, entry.display);
+    return display.compare(0, letters.size(), Folded(*edit.settings, letters)) == 0 && display.size() >= letters.size();
 }
 
 size_t IndexShown(const std::vector<const Entry*>& entries, const Text& text)
@@ -160,7 +153,7 @@ Outcome Type(const EditInstance& edit, const Content& content, Char typed)
     if (const Entry* entry = FindFrom(edit, content.text, longer, prefix.empty()))
         return Choose(*entry, longer);
     const Text again(1, typed);
-    const bool isSame = Folded(edit, prefix) == Folded(edit, again);
+    const bool isSame = Folded(*edit.settings, prefix) == Folded(*edit.settings, again);
     const Entry* next = isSame ? FindFrom(edit, content.text, again, true) : nullptr;
     return next ? Choose(*next, prefix) : Refused(ZTR_NO_SUCH_ENTRY);
 }
@@ -178,7 +171,9 @@ Outcome Paste(const EditInstance& edit, const Content&, const Text& text)
     if (!entry)
         entry = EntryOf(edit, text);
     if (!entry)
-        entry = Find(edit, [&](const Entry& other) { return Folded(edit, other.display) == Folded(edit, text); });
+        entry = Find(edit, [&](const Entry& other) {
+            return Folded(*edit.settings, other.display) == Folded(*edit.settings, text);
+        });
     return entry ? Accepted(Showing(entry->display)) : Refused(ZTR_NO_SUCH_ENTRY, 0);
 }
 

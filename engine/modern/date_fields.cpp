@@ -72,13 +72,6 @@ int32_t LeadingDigits(const Text& text)
     return static_cast<int32_t>(std::find_if_not(text.begin(), text.end(), IsDigit) - text.begin());
 }
 
-Text Folded(const EditInstance& edit, Text text)
-{
-    for (Char& c : text)
-        c = edit.settings->letters->upper(c);
-    return text;
-}
-
 }  // namespace
 
 Text MonthShown(const EditInstance& edit, const Place& place, int32_t month)
@@ -88,10 +81,10 @@ Text MonthShown(const EditInstance& edit, const Place& place, int32_t month)
 
 MonthsFound FindMonths(const EditInstance& edit, const Place& place, const Text& letters)
 {
-    const Text folded = Folded(edit, letters);
+    const Text folded = Folded(*edit.settings, letters);
     MonthsFound found{};
     for (int32_t month = 1; month <= kMonths; ++month) {
-        const Text name = Folded(edit, MonthShown(edit, place, month));
+        const Text name = Folded(*edit.settings, MonthShown(edit, place, month));
         if (name.empty() || name.compare(0, folded.size(), folded) != 0)
             continue;
         if (found.count++ == 0)
@@ -115,11 +108,6 @@ FieldText ReadDigits(const Text& part, const Bounds& bounds)
     return {number >= bounds.least && number <= bounds.most ? Fill::Full : Fill::Bad, number, filled};
 }
 
-Text WithoutBlanksBehind(const Text& text)
-{
-    return text.substr(0, text.find_last_not_of(Char{' '}) + 1);
-}
-
 FieldText ReadMonthName(const EditInstance& edit, const Place& place, const Text& part)
 {
     const Text letters = WithoutBlanksBehind(part);
@@ -130,7 +118,7 @@ FieldText ReadMonthName(const EditInstance& edit, const Place& place, const Text
     const MonthsFound found = FindMonths(edit, place, letters);
     if (found.count == 0)
         return {Fill::Bad, 0, 0};
-    const bool whole = Folded(edit, MonthShown(edit, place, found.first)) == Folded(edit, letters);
+    const bool whole = Folded(*edit.settings, MonthShown(edit, place, found.first)) == Folded(*edit.settings, letters);
     return {whole ? Fill::Full : Fill::Partial, found.first, Length(letters)};
 }
 
@@ -283,9 +271,7 @@ void TakeTime(Collected& all, FieldKind kind, int32_t number, int32_t digits)
     case FieldKind::Hour: all.hour = number; break;
     case FieldKind::Minute: all.value.minute = static_cast<int8_t>(number); break;
     case FieldKind::Second: all.value.second = static_cast<int8_t>(number); break;
-    case FieldKind::Fraction:
-        all.value.microsecond = static_cast<uint32_t>(number * PowerOfTen(kMicroDigits - digits));
-        break;
+    case FieldKind::Fraction: all.value.microsecond = static_cast<uint32_t>(number * FractionUnit(digits)); break;
     default: break;
     }
 }

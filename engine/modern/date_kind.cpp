@@ -47,11 +47,6 @@ int32_t State(const EditInstance& edit, const Content& content)
     }
 }
 
-Text TwoDigits(int32_t number)
-{
-    return NumberText(static_cast<uint32_t>(number), 2);
-}
-
 Text DateText(const DateTimeValue& value)
 {
     return NumberText(static_cast<uint32_t>(value.year + kFirstYear), 4) + Char{'-'} + TwoDigits(value.month + 1) +

@@ -10,7 +10,6 @@ namespace zte::modern::dates {
 
 namespace {
 
-constexpr int32_t kMicroseconds = 1000000;
 constexpr int32_t kFirstOfTwoDigits = 1950;
 constexpr int32_t kLastOfTwoDigits = 2049;
 
@@ -24,14 +23,6 @@ struct Stepped {
     Place place;
     int32_t by;  // units of the field, upwards or downwards
 };
-
-int32_t FractionUnit(int32_t digits)
-{
-    int32_t unit = kMicroseconds;
-    for (; digits > 0; --digits)
-        unit /= 10;
-    return std::max(unit, 1);
-}
 
 int32_t Around(int32_t number, int32_t by, int32_t least, int32_t most)
 {

@@ -108,6 +108,8 @@ void Editor::Show(const Content& before, const Content& after)
     left_ = after;
     if (before.text != after.text)
         ReplaceDifference(before.text, after.text);
+    if (left_.text != after.text)
+        return;  // the parent has put in another text meanwhile, which is its own
     if (before.text != after.text || !IsSame(before.selection, after.selection))
         edit_.field->Select(after.selection.start, after.selection.end);
     if (!IsSameValue(before, after))

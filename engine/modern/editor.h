@@ -46,6 +46,7 @@ public:
     void NoteTextSet();
     // The ZTS_ value that was told last; TellState tells another one.
     void TellState();
+    int32_t State() const { return state_; }
     // Creation is over: from here on the parent is told of states.
     void StartTelling() { tells_ = true; }
     // Begins with a content, and shows it where the field shows another text. Nobody is told of its state.

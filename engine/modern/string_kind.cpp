@@ -72,11 +72,6 @@ Content Show(const EditInstance& edit, const void* data)
     return Laid(edit, data ? Text(static_cast<const Char*>(data)) : Text());
 }
 
-Text WithoutBlanksBehind(const Text& text)
-{
-    return text.substr(0, text.find_last_not_of(kBlank) + 1);
-}
-
 Text Canonical(const EditInstance& edit, const Content& content)
 {
     if (!HasMask(edit))

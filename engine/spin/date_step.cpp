@@ -15,7 +15,6 @@ constexpr int32_t kYear0 = 0 - kFirstYear;
 constexpr int32_t kYear1800 = 1800 - kFirstYear;
 constexpr int32_t kYear2999 = 2999 - kFirstYear;
 constexpr int32_t kYear3000 = 3000 - kFirstYear;
-constexpr int32_t kMicroseconds = 1000000;
 
 bool IsUp(const DateStep& step)
 {
@@ -113,14 +112,6 @@ struct FieldRange {
     int32_t last;
     int32_t unit;
 };
-
-int32_t FractionUnit(int32_t digits)
-{
-    int32_t unit = kMicroseconds;
-    for (int32_t i = 0; i < digits && unit > 1; ++i)
-        unit /= 10;
-    return unit;
-}
 
 FieldRange RangeOf(const DateStep& step, const DateTimeValue& value)
 {

@@ -12,12 +12,6 @@ namespace zte {
 
 namespace {
 
-// Fills a mask up; to a reader it is not there.
-Text WithoutBlanksBehind(const Text& text)
-{
-    return Text(text, 0, text.find_last_not_of(Char{' '}) + 1);
-}
-
 // Puts the cursor on the entry whose display text or data value is shown; false when none is. An empty field shows no value. The
 // values of strings stand in the table without a mask's literals, those of numbers in the form shown.
 bool FindEntryShown(const EditInstance& edit, const Text& text)

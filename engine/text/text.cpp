@@ -77,6 +77,11 @@ int32_t IntegerAt(const Text& text, int32_t position, int32_t count)
     return number >= 0 ? number : IntegerOf(Slice(text, position, count));
 }
 
+Text WithoutBlanksBehind(const Text& text)
+{
+    return text.substr(0, text.find_last_not_of(Char{' '}) + 1);
+}
+
 Text NumberText(uint32_t number, int32_t digits)
 {
     Text text;

@@ -71,7 +71,14 @@ int32_t IntegerAt(const Text& text, int32_t position, int32_t count);
 // Of a place where nothing but digits stands, nine at most; -1 for all others.
 int32_t DigitsAt(const Text& text, int32_t position, int32_t count);
 
+// Without the blanks at its end.
+Text WithoutBlanksBehind(const Text& text);
+
 // The number in decimal, with at least the count of digits (zeros in front).
 Text NumberText(uint32_t number, int32_t digits);
+inline Text TwoDigits(int32_t number)
+{
+    return NumberText(static_cast<uint32_t>(number), 2);
+}
 
 }  // namespace zte

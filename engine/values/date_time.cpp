@@ -178,4 +178,12 @@ int32_t YearValue(int32_t number, int32_t digits)
     return number < 50 ? number + 100 : number;
 }
 
+int32_t FractionUnit(int32_t digits)
+{
+    int32_t unit = kMicroseconds;
+    for (int32_t i = 0; i < digits && unit > 1; ++i)
+        unit /= 10;
+    return unit;
+}
+
 }  // namespace zte

@@ -11,6 +11,11 @@ constexpr DateTimeValue kEmptyDateTime = {0, DATETIME_NO_DATE, 0, 0, DATETIME_NO
 constexpr int32_t kFirstYear = 1900;  // years are counted from it
 constexpr int32_t kMicroDigits = 6;
 
+constexpr int32_t kMicroseconds = 1000000;  // of a second
+
+// The microseconds that one unit of the last of so many fraction digits stands for.
+int32_t FractionUnit(int32_t digits);
+
 inline bool HasDate(const DateTimeValue& value)
 {
     return value.year != DATETIME_NO_DATE;

@@ -8,13 +8,6 @@ namespace zte {
 
 namespace {
 
-Text Folded(const Settings& settings, Text text)
-{
-    for (Char& c : text)
-        c = settings.letters->upper(c);
-    return text;
-}
-
 // The first month, from one on in calendar order, that is the one looked for; -1 when none is.
 template <typename Wanted>
 int32_t FindMonth(const Settings& settings, int32_t first, Wanted isWanted)

@@ -41,4 +41,11 @@ Settings StandardSettings()
     return settings;
 }
 
+Text Folded(const Settings& settings, Text text)
+{
+    for (Char& c : text)
+        c = settings.letters->upper(c);
+    return text;
+}
+
 }  // namespace zte

@@ -42,6 +42,9 @@ static_assert(std::is_trivially_copyable_v<Settings>);
 // Point and comma, "$" before the digits, AM and PM, "m/d/yy", JAN to DEC.
 Settings StandardSettings();
 
+// A text as it is compared without regard to case.
+Text Folded(const Settings& settings, Text text);
+
 // Copies a text into one of the settings' arrays, cut to its room.
 template <size_t size>
 void Assign(Char (&destination)[size], const Text& text)

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <random>
 #include <set>
+#include <utility>
 #include <vector>
 
 #include "engine/memory_control.h"
@@ -260,6 +261,35 @@ TEST(ModernNotifications, MayAskForTheStateWithoutDisturbingTheTyping)
     for (const char typed : std::string("grey"))
         codes.Control().Type(static_cast<uint32_t>(typed));
     EXPECT_EQ(codes.Edit().Shown(), "Grey");
+}
+
+// A parent that answers a change with a value of its own.
+class Overrider final : public FieldListener {
+public:
+    explicit Overrider(const LawMask& row) : control_(SetupOf(row), settings_, Today, this) { ready_ = true; }
+
+    void OnFieldEvent(FieldEvent event) override
+    {
+        if (event == FieldEvent::Change && std::exchange(ready_, false))
+            TrySetDataString(control_.Record(), "1999-12-31");
+    }
+    MemoryControl& Control() { return control_; }
+
+private:
+    Settings settings_ = StandardSettings();
+    bool ready_ = false;
+    MemoryControl control_;
+};
+
+TEST(ModernNotifications, MayPutInAnotherValueWhichIsNotTheUsers)
+{
+    Overrider overrider({"MM/DD/YYYY", DT_DATE});
+    overrider.Control().Type('4');
+    EXPECT_EQ(overrider.Control().Edit().Shown(), "12/31/1999");
+    EXPECT_EQ(overrider.Control().Edit().ReadSelection().start, 0);
+    EXPECT_FALSE(overrider.Control().Edit().IsModified());
+    EXPECT_EQ(StateOf(overrider.Control().Record()), ZTS_COMPLETE);
+    EXPECT_EQ(overrider.Control().Record().editor->UndoSteps(), 0u);
 }
 
 // ---- the laws

@@ -45,6 +45,8 @@ const TypingRow kDateRows[] = {
     // what is left is completed
     {kUs, nullptr, "1{Blur}",                "0|1/  /    "},
     {kUs, nullptr, "1{Right}",               "01/|  /    "},
+    {kUs, nullptr, "1{Down}",                "01/|  /    "},
+    {kUs, nullptr, "12/3{Up}{Up}",           "1|2/03/    "},
     {kUs, nullptr, "123{Home}",              "|12/03/    "},
     {kUs, nullptr, "123{Click0}",            "|12/03/    "},
     {kUs, nullptr, "1/2/9{Blur}",            "01/02/2|009"},
