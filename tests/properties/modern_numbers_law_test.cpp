@@ -240,9 +240,10 @@ void PlayValue(Subject& subject, const WayRow& way, const std::string& other, co
         PlayKeys(subject, way, other, shown, shown, number);
 }
 
+// Of so many rows one is played; ZT_MODERN_LAW_EVERY=1 plays all.
 uint32_t Every(uint32_t otherwise)
 {
-    const char* text = std::getenv("ZT_LAW_EVERY");
+    const char* text = std::getenv("ZT_MODERN_LAW_EVERY");
     const uint32_t every = text ? static_cast<uint32_t>(std::strtoul(text, nullptr, 10)) : otherwise;
     return every > 0 ? every : 1;
 }

@@ -15,6 +15,7 @@ from sites import NUMBER, Alternative, Reader, Site, apply_edits
 
 HERE = Path(__file__).parent
 NUMBERS_OF_A_FILE = 2048
+MOST_MUTANTS = 1 << 19  # as many as switches.h has room for
 FLAGS = ['-std=c++17', '-fno-exceptions', '-fno-rtti', '-D_GLIBCXX_ASSERTIONS', '-w']
 
 
@@ -107,6 +108,8 @@ class Engine:
                     number += 1
             if number > (index + 1) * NUMBERS_OF_A_FILE:
                 raise SystemExit(f'{file} has more than {NUMBERS_OF_A_FILE} mutants')
+        if len(self.files) * NUMBERS_OF_A_FILE > MOST_MUTANTS:
+            raise SystemExit(f'{len(self.files)} files are more than the switches have room for')
         counts = {}
         for mutant in self.mutants.values():
             key = self.key(mutant)
