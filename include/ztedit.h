@@ -184,7 +184,7 @@ FormatResult* WINAPI ZTE_FmtFormatData(HWND hwnd, const void* data);
 
 /* Reads a text of the caller's as if the control showed it. Results as ZTE_FmtGetData, except that dates and times are read
  * as canonical text only (an unreadable one gives the empty DateTimeValue), and a percentage is not divided. Null for an
- * empty or null text. */
+ * empty or null text. Modern controls read in the same way. */
 void* WINAPI ZTE_FmtUnformatData(HWND hwnd, const char* text);
 
 /* ---- Modern editing ------------------------------------------------------------------------------------------------ */

@@ -66,15 +66,16 @@ LRESULT CreateControl(HWND hwnd, WPARAM wParam, LPARAM lParam)
         return CallBaseEdit(hwnd, WM_CREATE, wParam, lParam);
 
     EditInstance& edit = *record;
-    return WhileAlive<LRESULT>(edit, -1, [&] {
+    LRESULT result = -1;
+    WhileAlive(edit, [&] {
         SetUpSpin(edit, *params);
         edit.controlId = static_cast<uint32_t>(reinterpret_cast<uintptr_t>(creation.hMenu));
         edit.hwndParent = creation.hwndParent;
-        const LRESULT result = FieldOf(edit).ToBase(WM_CREATE, wParam, lParam);
+        result = FieldOf(edit).ToBase(WM_CREATE, wParam, lParam);
         if (result != -1)
             SetUpContents(edit, *params);
-        return result;
     });
+    return IsWindow(hwnd) ? result : -1;  // the parent hears of the first text, and may do anything
 }
 
 // The end of a spin may bring messages to the control, so that it is one until then; they may even destroy it.
