@@ -273,6 +273,8 @@ void MemoryField::Press(Key key)
         MoveCaret(destination, shiftHeld_);
         return;
     }
+    if (key != KEY_DELETE && key != KEY_INSERT)
+        return;  // it makes a character, or nothing
     for (const EditKey& row : kEditKeys)
         if (row.key == key && row.shift == shiftHeld_ && row.control == controlHeld_)
             (this->*row.act)();
