@@ -61,7 +61,7 @@ int32_t FirstLineLength(const Text& text)
 
 Selection MemoryField::ReadSelection() const
 {
-    return {std::min(anchor_, caret_), std::max(anchor_, caret_)};
+    return anchor_ < caret_ ? Selection{anchor_, caret_} : Selection{caret_, anchor_};
 }
 
 // ---- selection
@@ -141,7 +141,7 @@ void MemoryField::Put(const Char* text, int32_t count, bool canUndo)
     else
         text_.replace(start, static_cast<size_t>(selection.end) - start, text, static_cast<size_t>(count));
     FoldCase(start, static_cast<size_t>(count));
-    MoveCaret(selection.start + count, false);
+    anchor_ = caret_ = selection.start + count;
     modified_ = true;
     Tell(FieldEvent::Update);
     Tell(FieldEvent::Change);
