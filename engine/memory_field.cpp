@@ -95,7 +95,7 @@ void MemoryField::SetText(const Char* text)
         ForgetUndo();
     text_ = text;
     FoldCase(0, text_.size());
-    MoveCaret(0, false);
+    anchor_ = caret_ = 0;
     modified_ = false;
     Tell(FieldEvent::Update);
     Tell(FieldEvent::Change);

@@ -83,8 +83,10 @@ bool SkipLiterals(EditInstance& edit, const Text& text, int32_t position)
     int32_t next = position;
     while (next < end && !mayTypeAt(next))
         ++next;
-    if (next >= end || next == position)
-        return next < end;
+    if (next >= end)
+        return false;
+    if (next == position)
+        return true;
     edit.carriedFrom = position;
     edit.carriedTo = next;
     PlaceCaret(edit, next);

@@ -192,9 +192,10 @@ bool ReadFields(const EditInstance& edit, const Text& text, DateTimeValue& value
             position += mask.escaped ? escapeWidth : 1;
             continue;
         }
-        if (!reader.Read(position, mask.kind, mask.runAfter + 1))
+        const int32_t run = mask.runAfter + 1;
+        if (!reader.Read(position, mask.kind, run))
             return false;
-        position += mask.runAfter + 1;
+        position += run;
     }
     return true;
 }
