@@ -40,6 +40,7 @@ case ${1:-} in
     packages+=(libbenchmark-dev:/usr/include/benchmark/benchmark.h libicu-dev:/usr/include/unicode/utypes.h nodejs:node npm:npm)
     ;;
 --coverage) packages+=(gcovr:gcovr) ;;
+--package) packages+=(llvm:/usr/lib/llvm-14/bin/llvm-dlltool lld:lld-link clang:clang zip:zip unzip:unzip pkg-config:pkg-config) ;;
 --mutate) packages+=(clang:clang++ lld:ld.lld python3-clang:/usr/lib/python3/dist-packages/clang/cindex.py) ;;
 esac
 
