@@ -52,7 +52,7 @@ compile_cpp()
     local gcc_folder
     gcc_folder=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++.a)")/include/c++
     clang++ --target=x86_64-w64-windows-gnu "${warnings[@]}" -nostdlibinc -isystem "$gcc_folder" -isystem "$gcc_folder/x86_64-w64-mingw32" \
-        -isystem /usr/x86_64-w64-mingw32/include "${headers[@]}" -fsyntax-only bindings/cpp/sample.cpp
+        -isystem /usr/x86_64-w64-mingw32/include "${headers[@]}" -fsyntax-only bindings/cpp/sample.cpp $work/readme/readme.cpp
 }
 
 compile_csharp()
@@ -61,6 +61,7 @@ compile_csharp()
     local forms=(-r:System.Windows.Forms -r:System.Drawing) strict=(-warn:4 -warnaserror+)
     mcs "${strict[@]}" -target:library "${forms[@]}" -out:$work/csharp/ZtEdit.dll bindings/csharp/ZtEdit.cs &&
         mcs "${strict[@]}" -target:winexe "${forms[@]}" -r:$work/csharp/ZtEdit.dll -out:$work/csharp/Sample.exe bindings/csharp/Sample.cs &&
+        mcs "${strict[@]}" -target:library "${forms[@]}" -r:$work/csharp/ZtEdit.dll -out:$work/readme/Readme.dll $work/readme/Readme.cs &&
         mcs "${strict[@]}" "${forms[@]}" -r:$work/csharp/ZtEdit.dll -out:$work/csharp/ManagedFacts.exe tests/bindings/ManagedFacts.cs
 }
 
@@ -73,7 +74,7 @@ compile_pascal()
 {
     mkdir -p $work/pascal
     python3 -B tests/bindings/check_declarations.py --pascal-program $work/pascal/pascal_facts.pas &&
-        tools/pascal_units.sh $work/pascal bindings/pascal/sample.pas $work/pascal/pascal_facts.pas && cp build/x64/bin/zt*.dll $work/pascal/
+        tools/pascal_units.sh $work/pascal bindings/pascal/sample.pas $work/pascal/pascal_facts.pas $work/readme/readme.pas && cp build/x64/bin/zt*.dll $work/pascal/
 }
 
 check_pascal()
@@ -88,6 +89,9 @@ step "the Python binding" python3 -B tests/bindings/python_binding_test.py
 for preset in x86 x64; do
     step "building for $preset" tools/build.sh $preset test_bindings ztedit050_dll ztshared_dll ztdecimal_dll
 done
+mkdir -p $work/readme
+step "the examples of bindings/README.md" python3 -B tests/bindings/write_readme_programs.py $work/readme
+step "the example in Python" python3 -c 'import sys; compile(open(sys.argv[1]).read(), "readme.py", "exec")' $work/readme/readme.py
 step "compiling C++" compile_cpp
 step "compiling C#" compile_csharp
 step "the compiled C# binding" check_csharp

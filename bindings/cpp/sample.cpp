@@ -20,14 +20,16 @@ public:
         form.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
         form.lpszClassName = kFormClass;
         RegisterClassA(&form);
-        hwnd_ = CreateWindowA(kFormClass, "Invoice", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100, 300, 200, nullptr, nullptr,
-                              form.hInstance, nullptr);
-        due_ = zt::Edit::Create(heap_, zt::Setup::Date("MM/DD/YYYY").Modern().Autoskip(), hwnd_, kDue, {20, 20, 120, 24});
-        amount_ =
-            zt::Edit::Create(heap_, zt::Setup::Decimal("#,##0.00").Modern().Spin(1, "0~99999"), hwnd_, kAmount, {20, 54, 120, 24});
+        hwnd_ = CreateWindowA(kFormClass, "Invoice", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100, 300, 200, nullptr,
+                              nullptr, form.hInstance, nullptr);
+        due_ =
+            zt::Edit::Create(heap_, zt::Setup::Date("MM/DD/YYYY").Modern().Autoskip(), hwnd_, kDue, {20, 20, 120, 24});
+        amount_ = zt::Edit::Create(heap_, zt::Setup::Decimal("#,##0.00").Modern().Spin(1, "0~99999"), hwnd_, kAmount,
+                                   {20, 54, 120, 24});
         CreateWindowA("button", "OK", WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_DEFPUSHBUTTON, 20, 88, 60, 26, hwnd_,
                       reinterpret_cast<HMENU>(INT_PTR{IDOK}), form.hInstance, nullptr);
-        hint_ = CreateWindowA("static", "", WS_CHILD | WS_VISIBLE, 20, 124, 240, 20, hwnd_, nullptr, form.hInstance, nullptr);
+        hint_ = CreateWindowA("static", "", WS_CHILD | WS_VISIBLE, 20, 124, 240, 20, hwnd_, nullptr, form.hInstance,
+                              nullptr);
         SetWindowLongPtrA(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
         SetFocus(due_.Window());
     }
@@ -70,7 +72,8 @@ private:
         const auto refused = zt::Rejected::From(lParam);
         if (!refused)
             return 0;
-        SetWindowTextA(hint_, refused->reason == zt::Reason::WrongKind ? "This does not belong here." : "This cannot be entered.");
+        SetWindowTextA(
+            hint_, refused->reason == zt::Reason::WrongKind ? "This does not belong here." : "This cannot be entered.");
         return 1;
     }
 

@@ -61,6 +61,36 @@ enum class Reason : int32_t {
     NotInCodePage = ZTR_NOT_IN_CODE_PAGE
 };
 
+#ifdef ZTM_FITS
+// Why a window is no control, or not the one that was asked for.
+enum class Problem : int32_t {
+    None = ZTP_NONE,
+    NoParameters = ZTP_NO_PARAMETERS,
+    NoHeap = ZTP_NO_HEAP,
+    ForeignHeap = ZTP_FOREIGN_HEAP,
+    NotSubclassed = ZTP_NOT_SUBCLASSED,
+    WideTexts = ZTP_WIDE_TEXTS,
+    DataType = ZTP_DATA_TYPE,
+    Mask = ZTP_MASK
+};
+
+// What is wrong with a mask.
+enum class MaskFault : int32_t {
+    Fits = ZTM_FITS,
+    DataType = ZTM_DATA_TYPE,
+    Empty = ZTM_EMPTY,
+    TooLong = ZTM_TOO_LONG,
+    Escape = ZTM_ESCAPE,
+    Keyword = ZTM_KEYWORD,
+    OutOfPlace = ZTM_OUT_OF_PLACE,
+    Twice = ZTM_TWICE,
+    FieldLength = ZTM_FIELD_LENGTH,
+    Excluded = ZTM_EXCLUDED,
+    FieldMissing = ZTM_FIELD_MISSING,
+    NoDigit = ZTM_NO_DIGIT
+};
+#endif
+
 enum class Option : uint32_t {
     None = 0,
     Autoskip = ZTEO_AUTOSKIP,
@@ -329,6 +359,21 @@ private:
     Option options_ = Option::None;
 };
 
+#ifdef ZTM_FITS
+// Whether a mask fits a type, without a control; and where in it what does not fit stands, -1 where all does.
+struct MaskVerdict {
+    MaskFault fault;
+    int position;
+};
+
+inline MaskVerdict CheckMask(const std::string& mask, Type type)
+{
+    int32_t position = -1;
+    const int32_t fault = ZTE_CheckMask(mask.c_str(), static_cast<int32_t>(type), &position);
+    return {static_cast<MaskFault>(fault), position};
+}
+#endif
+
 struct Place {
     int x;
     int y;
@@ -555,6 +600,14 @@ public:
         return text;
     }
 
+#ifdef ZTM_FITS
+    // Of the last configuration.
+    Problem LastProblem() const
+    {
+        return static_cast<Problem>(ZTE_GetLastProblem(hwnd_));
+    }
+#endif
+
     // False when the mask does not fit the type, and the type's default stands in.
     bool SetMask(const std::string& mask, Type type) const
     {
@@ -562,8 +615,14 @@ public:
     }
 
     // Both return, or take, whether it is on.
-    bool SetModern(bool on) const { return ZTE_SetModern(hwnd_, on) != 0; }
-    void SetAutoskip(bool on) const { ZTE_SetAutoskip(hwnd_, on); }
+    bool SetModern(bool on) const
+    {
+        return ZTE_SetModern(hwnd_, on) != 0;
+    }
+    void SetAutoskip(bool on) const
+    {
+        ZTE_SetAutoskip(hwnd_, on);
+    }
 
     // What the spin steps: "minimum~maximum", either side may be empty; or the entries of a table.
     void SetSpin(uint32_t increment, const std::string& range, SpinStyle style = SpinStyle::Plain) const
@@ -574,10 +633,22 @@ public:
     {
         ZTE_SetSpin(hwnd_, 1, nullptr, table.Text().c_str(), static_cast<uint32_t>(style));
     }
-    void CreateSpin() const { ZTE_CreateSpin(hwnd_); }
-    void DestroySpin() const { ZTE_DestroySpin(hwnd_); }
-    void SetSpinColour(COLORREF colour) const { ZTE_SetSpinBkColor(hwnd_, colour); }
-    int SpinWidth() const { return ZTE_GetSpinWidth(hwnd_, nullptr); }
+    void CreateSpin() const
+    {
+        ZTE_CreateSpin(hwnd_);
+    }
+    void DestroySpin() const
+    {
+        ZTE_DestroySpin(hwnd_);
+    }
+    void SetSpinColour(COLORREF colour) const
+    {
+        ZTE_SetSpinBkColor(hwnd_, colour);
+    }
+    int SpinWidth() const
+    {
+        return ZTE_GetSpinWidth(hwnd_, nullptr);
+    }
 
 private:
     Edit(const Heap& heap, HWND hwnd) : heap_(heap.Handle()), hwnd_(hwnd) {}

@@ -167,6 +167,20 @@ namespace ZtEdit
         public const int ZTP_DATA_TYPE = 6;
         public const int ZTP_MASK = 7;
 
+        // ZTE_CheckMask
+        public const int ZTM_FITS = 0;
+        public const int ZTM_DATA_TYPE = 1;
+        public const int ZTM_EMPTY = 2;
+        public const int ZTM_TOO_LONG = 3;
+        public const int ZTM_ESCAPE = 4;
+        public const int ZTM_KEYWORD = 5;
+        public const int ZTM_OUT_OF_PLACE = 6;
+        public const int ZTM_TWICE = 7;
+        public const int ZTM_FIELD_LENGTH = 8;
+        public const int ZTM_EXCLUDED = 9;
+        public const int ZTM_FIELD_MISSING = 10;
+        public const int ZTM_NO_DIGIT = 11;
+
         // WM_COMMAND
         public const int ZTN_AUTOSKIP = 0x0903;
         // WM_NOTIFY
@@ -363,6 +377,23 @@ namespace ZtEdit
         Mask = Native.ZTP_MASK
     }
 
+    // What is wrong with a mask.
+    public enum MaskFault
+    {
+        Fits = Native.ZTM_FITS,
+        DataType = Native.ZTM_DATA_TYPE,
+        Empty = Native.ZTM_EMPTY,
+        TooLong = Native.ZTM_TOO_LONG,
+        Escape = Native.ZTM_ESCAPE,
+        Keyword = Native.ZTM_KEYWORD,
+        OutOfPlace = Native.ZTM_OUT_OF_PLACE,
+        Twice = Native.ZTM_TWICE,
+        FieldLength = Native.ZTM_FIELD_LENGTH,
+        Excluded = Native.ZTM_EXCLUDED,
+        FieldMissing = Native.ZTM_FIELD_MISSING,
+        NoDigit = Native.ZTM_NO_DIGIT
+    }
+
     public class RejectedEventArgs : EventArgs
     {
         public RejectedEventArgs(Reason reason, int position, char character)
@@ -531,6 +562,12 @@ namespace ZtEdit
         {
             get { return mask; }
             set { SetMask(value, dataType); }
+        }
+
+        // Without a control: whether a mask fits a type, and where in it what does not fit stands (-1 where all does).
+        public static MaskFault CheckMask(string mask, DataType type, out int position)
+        {
+            return (MaskFault)Native.ZTE_CheckMask(mask, (int)type, out position);
         }
 
         // Whether the mask fits the type; otherwise the type's default stands in.

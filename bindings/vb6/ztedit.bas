@@ -82,6 +82,20 @@ Public Const ZTP_WIDE_TEXTS As Long = 5
 Public Const ZTP_DATA_TYPE As Long = 6
 Public Const ZTP_MASK As Long = 7
 
+' ZTE_CheckMask
+Public Const ZTM_FITS As Long = 0
+Public Const ZTM_DATA_TYPE As Long = 1
+Public Const ZTM_EMPTY As Long = 2
+Public Const ZTM_TOO_LONG As Long = 3
+Public Const ZTM_ESCAPE As Long = 4
+Public Const ZTM_KEYWORD As Long = 5
+Public Const ZTM_OUT_OF_PLACE As Long = 6
+Public Const ZTM_TWICE As Long = 7
+Public Const ZTM_FIELD_LENGTH As Long = 8
+Public Const ZTM_EXCLUDED As Long = 9
+Public Const ZTM_FIELD_MISSING As Long = 10
+Public Const ZTM_NO_DIGIT As Long = 11
+
 ' WM_COMMAND
 Public Const ZTN_AUTOSKIP As Long = &H903&
 ' WM_NOTIFY
@@ -352,6 +366,7 @@ Public Function ZtCreate(ByVal heap As LongPtr, ByVal parent As LongPtr, ByVal i
     Const WS_EX_CLIENTEDGE As Long = &H200&
     Dim setup As EditInitParams
     Dim maskBytes() As Byte, rangeBytes() As Byte
+    ZTE_Initialize ' loads the library, which brings the class
     maskBytes = StrConv(mask & vbNullChar, vbFromUnicode)
     rangeBytes = StrConv(spinRange & vbNullChar, vbFromUnicode)
     setup.heap = heap

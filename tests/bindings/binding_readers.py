@@ -41,7 +41,7 @@ def read_pascal(path):
         fields = re.findall(r"(\w+): (\w+);", body)
         if name != "ZtSetup":  # the unit's own
             declared.records[name] = [(field, _kind(PASCAL_KINDS, kind, name)) for field, kind in fields]
-    pattern = r"^(function|procedure) (\w+)(?:\((.*?)\))?(?:: (\w+))?;\s+stdcall; external (\w+);"
+    pattern = r"^(function|procedure) (\w+)(?:\(([^()]*)\))?(?:: (\w+))?;\s+stdcall; external (\w+);"
     for word, name, parameters, result, library in re.findall(pattern, text, re.M | re.S):
         kinds = [_kind(PASCAL_KINDS, part.split(":")[1].strip(), name) for part in parameters.split(";") if part.strip()]
         result_kind = "void" if word == "procedure" else _kind(PASCAL_KINDS, result, name)
@@ -69,7 +69,7 @@ def read_csharp(path):
     for name, body in re.findall(r"^    public struct (\w+)\s*\{(.*?)^    \}", text, re.M | re.S):
         declared.records[name] = [(field, _kind(CSHARP_KINDS, kind, name))
                                   for kind, field in re.findall(r"public (\w+) @?(\w+);", body)]
-    pattern = r"\[DllImport\((\w+),[^\]]*\)\]\s*public static extern (\w+) (\w+)\((.*?)\);"
+    pattern = r"\[DllImport\((\w+),[^\]]*\)\]\s*public static extern (\w+) (\w+)\(([^()]*)\);"
     for library, result, name, parameters in re.findall(pattern, text, re.S):
         kinds = [_csharp_parameter(part, name) for part in parameters.split(",") if part.strip()]
         declared.functions[name] = Function(libraries[library], _kind(CSHARP_KINDS, result, name), kinds)

@@ -19,7 +19,7 @@ BINDINGS = ROOT / "bindings"
 # Constants that bindings with enumerations of their own must take up there as well.
 ENUMERATED = ("DT_", "ZTS_", "ZTR_", "ZTP_", "ZTM_", "ZTEO_")
 # Declared in the bindings ahead of the headers.
-AHEAD = re.compile(r"ZTE_(Initialize|CheckMask|GetLastProblem)|ZTEDIT_VERSION(_MAJOR|_MINOR|_PATCH)?|ZTP_\w+")
+AHEAD = re.compile(r"ZTE_(Initialize|CheckMask|GetLastProblem)|ZTEDIT_VERSION(_MAJOR|_MINOR|_PATCH)?|ZT[PM]_\w+")
 
 
 class Headers:
@@ -173,4 +173,7 @@ def main(arguments):
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1:]))
+    try:
+        sys.exit(main(sys.argv[1:]))
+    except binding_readers.Unreadable as unreadable:
+        sys.exit(f"FAILED: {unreadable}")

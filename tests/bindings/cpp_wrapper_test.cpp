@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <iterator>
 #include <limits>
 #include <memory>
 #include <type_traits>
@@ -52,7 +53,8 @@ protected:
         form.hInstance = GetModuleHandleA(nullptr);
         form.lpszClassName = kFormClass;
         RegisterClassA(&form);
-        form_ = CreateWindowExA(0, kFormClass, "", WS_POPUP, 20, 20, 400, 300, nullptr, nullptr, form.hInstance, nullptr);
+        form_ =
+            CreateWindowExA(0, kFormClass, "", WS_POPUP, 20, 20, 400, 300, nullptr, nullptr, form.hInstance, nullptr);
         heard = &heard_;
     }
     ~CppWrapper() override
@@ -145,7 +147,9 @@ TEST_F(CppWrapper, SubclassesAStandardEdit)
     const HWND item = MakeWindow("edit");
     const LONG_PTR before = GetWindowLongPtrA(item, GWLP_WNDPROC);
     zt::Heap gone;
-    { const zt::Heap taken(std::move(gone)); }
+    {
+        const zt::Heap taken(std::move(gone));
+    }
     EXPECT_FALSE(zt::Edit::Subclass(gone, zt::Setup::Date("MM/DD/YY"), item)) << "without a heap";
     EXPECT_EQ(GetWindowLongPtrA(item, GWLP_WNDPROC), before) << "a refused edit is as it was";
     const zt::Edit edit = zt::Edit::Subclass(heap_, zt::Setup::Date("MM/DD/YY").Initial("1995-07-04"), item);
@@ -165,7 +169,10 @@ TEST_F(CppWrapper, GivesEveryTypeAndLeavesNothingBehind)
 
     EXPECT_EQ(date.Get<zt::Date>(), (zt::Date{2026, 11, 21}));
     EXPECT_EQ(time.Get<zt::Time>(), (zt::Time{14, 7, 9, 250}));
-    EXPECT_EQ(both.Get<zt::DateTime>(), (zt::DateTime{{1995, 7, 4}, {14, 7, 0, 0}}));
+    EXPECT_EQ(both.Get<zt::DateTime>(), (zt::DateTime{
+                                            {1995, 7, 4},
+                                            { 14,   7, 0, 0}
+    }));
     EXPECT_EQ(both.Get<zt::Date>(), (zt::Date{1995, 7, 4}));
     EXPECT_EQ(both.Get<zt::Time>(), (zt::Time{14, 7, 0, 0}));
     EXPECT_EQ(number.Get<double>(), -1234.5);
@@ -203,10 +210,24 @@ TEST_F(CppWrapper, GivesNothingWhereNothingIsShown)
     EXPECT_FALSE(date.Get<zt::Date>() || date.Get<std::string>());
 }
 
+TEST_F(CppWrapper, GivesNoNumberOfAnEmptyField)
+{
+    const zt::Edit decimal = Make(zt::Setup::Decimal("####").Modern());
+    Type(decimal, "{Ctrl+A}{Del}");
+    EXPECT_EQ(decimal.GetState(), zt::State::Empty);
+    EXPECT_FALSE(decimal.Get<zt::Decimal>() || decimal.Get<double>());
+    EXPECT_EQ(decimal.TrySet(zt::Decimal()), zt::Reason::None);
+    Type(decimal, "{Ctrl+A}7");
+    EXPECT_EQ(decimal.Get<zt::Decimal>(), zt::Decimal(7u));
+}
+
 TEST_F(CppWrapper, SetsWhatItGives)
 {
     const zt::Edit both = Make(zt::Setup::DateTime("YYYY-MM-DD HH:MM:SS:FFFFFF").Modern());
-    const zt::DateTime moment = {{2026, 2, 3}, {4, 5, 6, 700}};
+    const zt::DateTime moment = {
+        {2026, 2, 3  },
+        { 4,   5, 6, 700}
+    };
     EXPECT_EQ(both.TrySet(moment), zt::Reason::None);
     EXPECT_EQ(both.Shown(), "2026-02-03 04:05:06:000700");
     EXPECT_EQ(both.Get<zt::DateTime>(), moment);
@@ -298,7 +319,8 @@ TEST_F(CppWrapper, SpinsInItsRange)
 
 TEST_F(CppWrapper, ChoosesFromATable)
 {
-    const zt::CodeTable table = zt::CodeTable().Add("Red/pink", "R").Add("Green", "G").Add("none", zt::CodeTable::kNull);
+    const zt::CodeTable table =
+        zt::CodeTable().Add("Red/pink", "R").Add("Green", "G").Add("none", zt::CodeTable::kNull);
     EXPECT_EQ(table.Text(), "Red//pink\tR/Green\tG/none\tnull!");
     const zt::Edit edit = Make(zt::Setup::String().Modern().Choices(table));
     Type(edit, "r");
@@ -321,8 +343,9 @@ TEST_F(CppWrapper, DoesNothingOnceItsHeapIsGone)
 
 TEST(CppWrapperDecimal, IsWrittenToTheLastDigit)
 {
-    for (const char* text : {"0", "7", "-7", "0.05", "-0.5", "1234.50", "79228162514264337593543950335",
-                             "7.9228162514264337593543950335", "-0.0000000000000000000000000001", "18446744073709551616"})
+    for (const char* text :
+         {"0", "7", "-7", "0.05", "-0.5", "1234.50", "79228162514264337593543950335", "7.9228162514264337593543950335",
+          "-0.0000000000000000000000000001", "18446744073709551616"})
         EXPECT_EQ(zt::Decimal(text).Text(), text);
     EXPECT_EQ(zt::Decimal(4000000000u).Text(), "4000000000");
 }
@@ -334,6 +357,22 @@ TEST(CppWrapperDecimal, Calculates)
     EXPECT_EQ(zt::Decimal("1") / zt::Decimal("8"), zt::Decimal("0.125"));
     EXPECT_TRUE(zt::Decimal("1.0") < zt::Decimal("1.01"));
     EXPECT_TRUE(zt::Decimal("1.0") != zt::Decimal("1.01"));
+}
+
+TEST(CppWrapperDates, AreInTheOrderOfTheCalendar)
+{
+    const zt::DateTime moments[] = {
+        {{1999, 12, 31}, {23, 59, 59, 999999}},
+        {{2000, 1, 1},   {}                  },
+        {{2000, 1, 1},   {0, 0, 0, 1}        },
+        {{2000, 1, 1},   {0, 0, 1, 0}        },
+        {{2000, 1, 2},   {}                  },
+        {{2000, 2, 1},   {}                  }
+    };
+    for (size_t i = 0; i + 1 < std::size(moments); ++i) {
+        EXPECT_TRUE(moments[i] < moments[i + 1] && moments[i] != moments[i + 1]) << i;
+        EXPECT_FALSE(moments[i + 1] < moments[i] || moments[i] < moments[i]) << i;
+    }
 }
 
 }  // namespace

@@ -76,7 +76,7 @@ def read_headers(root):
     declared = Declarations()
     libraries = {"ztvalues.h": None, "ztdecimal.h": "ztdecimal", "ztshared.h": "ztshared", "ztedit.h": "ztedit050"}
     for header in HEADERS:
-        text = without_comments((root / "include" / header).read_text())
+        text = without_comments((root / "include" / header).read_text()).replace("\\\n", " ")
         for name, value in re.findall(r"^#define (\w+)[ \t]+(.+?)[ \t]*$", text, re.M):
             declared.constants[name] = value
         text = re.sub(r"^#.*$", "", text, flags=re.M)
