@@ -626,6 +626,8 @@ namespace ZtEdit
             get { return IsHandleCreated ? (ValueState)Native.ZTE_GetState(Handle) : ValueState.NoControl; }
         }
 
+        // Why the control is not the one that was asked for: a mask that does not fit its type, whose default stands in; or why its
+        // window is a plain edit, whose State is NoControl.
         [Browsable(false)]
         public Problem LastProblem
         {
@@ -741,8 +743,7 @@ namespace ZtEdit
                 codeTableText = codeTable,
                 options = options
             };
-            if (Native.ZTE_Init(Handle, ref setup) == 0)
-                throw new InvalidOperationException("The control could not be configured: " + LastProblem);
+            Native.ZTE_Init(Handle, ref setup);
             base.OnHandleCreated(e);
         }
 

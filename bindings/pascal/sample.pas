@@ -1,5 +1,5 @@
-{ sample.pas - a form of two masked edits, with nothing but Windows and the unit ztedit: a due date and an amount. OK, or the Enter key, puts
-  what was entered into the title. The three libraries stand beside the program. }
+{ sample.pas - a form of two masked edits, with nothing but Windows and the unit ztedit: a due date and an amount. OK, or the Enter key,
+  puts what was entered into the title. The three libraries stand beside the program. }
 program sample;
 
 {$IFDEF FPC}{$MODE DELPHI}{$ENDIF}

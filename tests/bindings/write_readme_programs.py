@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes a program of each example in bindings/README.md, to be compiled: the examples as they are printed, within what they take for granted.
+"""Makes a program of each example in bindings/README.md, to be compiled: the example as it is printed, within what it takes for granted.
 
 Usage: write_readme_programs.py FOLDER
 """
