@@ -8,7 +8,6 @@ cd "$(dirname "$0")/.."
 work=build/bindings
 headers=(-Iinclude -Ibindings/cpp)
 warnings=(-std=c++17 -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
-system_libraries=(-luser32 -lgdi32)
 
 fail()
 {
@@ -31,24 +30,19 @@ need()
     done
 }
 
-# The wrapper and its sample, by each compiler: by itself, as a program's only header, and with wide texts as the default.
+# The wrapper's sample by each compiler; the wrapper by itself, with wide texts as the program's default.
 compile_cpp()
 {
-    local preset compiler define
+    local preset compiler
     for preset in x86 x64; do
         compiler=i686-w64-mingw32-g++-posix
         [ $preset = x86 ] || compiler=x86_64-w64-mingw32-g++-posix
         mkdir -p "$work/$preset"
-        for define in NARROW UNICODE; do
-            $compiler "${warnings[@]}" -D$define "${headers[@]}" -x c++ -fsyntax-only bindings/cpp/ztedit.hpp 2>"$work/warnings" ||
-                return
-            grep -v "pragma once in main file" "$work/warnings" || true
-        done
-        $compiler "${warnings[@]}" -O1 -mwindows -static "${headers[@]}" bindings/cpp/sample.cpp "build/$preset/lib/libztedit050.dll.a" \
-            "build/$preset/lib/libztshared.dll.a" "build/$preset/lib/libztdecimal.dll.a" "${system_libraries[@]}" \
-            -o "$work/$preset/cpp_sample.exe" || return
+        $compiler "${warnings[@]}" -mwindows -static "${headers[@]}" bindings/cpp/sample.cpp "build/$preset/lib/libztedit050.dll.a" \
+            "build/$preset/lib/libztshared.dll.a" "build/$preset/lib/libztdecimal.dll.a" -o "$work/$preset/cpp_sample.exe" || return
         cp "build/$preset/bin/"zt*.dll "$work/$preset/" || return
     done
+    $compiler "${warnings[@]}" -DUNICODE "${headers[@]}" -x c++ -fsyntax-only bindings/cpp/ztedit.hpp || return
     local gcc_folder
     gcc_folder=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++.a)")/include/c++
     clang++ --target=x86_64-w64-windows-gnu "${warnings[@]}" -nostdlibinc -isystem "$gcc_folder" -isystem "$gcc_folder/x86_64-w64-mingw32" \
