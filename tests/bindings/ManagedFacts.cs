@@ -39,6 +39,7 @@ internal static class ManagedFacts
         Expect("0.30000000000000004", Canonical.Of(0.1 + 0.2), "a number of all its digits");
         Expect("0.00000015", Canonical.Of(1.5e-7), "a small number");
         Expect("1500000000000000000000", Canonical.Of(1.5e21), "a large number");
+        Expect("1" + new string('0', 300), Canonical.Of(1e300), "a number beyond decimals");
         Expect(-1234.5, Canonical.ToDouble("-1234.50"), "a number read");
         Expect("1234567.8901", Canonical.Of(1234567.8901m), "a decimal");
         Expect(1234567.8901m, Canonical.ToDecimal("1234567.8901"), "a decimal read");

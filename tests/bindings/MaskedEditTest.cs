@@ -123,6 +123,20 @@ internal class MaskedEditTest
         }
     }
 
+    private static void HasNoValueOfAnotherType()
+    {
+        using (Probe text = new Probe { Value = "1995-07-04" })
+        {
+            Expect(null, text.DateValue, "the date of a string");
+            Expect("1995-07-04", text.Value, "the string");
+            text.Value = "14:07";
+            Expect(null, text.TimeValue, "the time of a string");
+            text.Value = "5";
+            Expect(null, text.NumberValue, "the number of a string");
+            Expect(null, text.DecimalValue, "the decimal of a string");
+        }
+    }
+
     private static void ChangesWhileItIsThere()
     {
         using (Probe date = MakeDate())
@@ -198,6 +212,7 @@ internal class MaskedEditTest
     {
         ConfiguresItsWindow();
         TakesValues();
+        HasNoValueOfAnotherType();
         ChangesWhileItIsThere();
         RaisesItsEvents();
         SaysWhenItCannotBeConfigured();
