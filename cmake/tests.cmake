@@ -69,6 +69,10 @@ add_executable(abi_customer ${CMAKE_SOURCE_DIR}/tests/abi/abi_customer.c)
 target_link_libraries(abi_customer PRIVATE ztedit050 ztshared ztdecimal zt_build_flags)
 target_link_options(abi_customer PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wl,--fatal-warnings>)
 add_dependencies(test_abi abi_customer)
+# The program that asks a spin of another one, as a screen reader does.
+add_executable(assistive_client ${CMAKE_SOURCE_DIR}/tests/support/programs/assistive_client.cpp)
+target_link_libraries(assistive_client PRIVATE zt_build_flags user32)
+add_dependencies(test_win32 assistive_client)
 
 # A person at the demo form: real key and mouse presses, compared with what it must show and give back.
 add_test(NAME demo COMMAND ${CMAKE_SOURCE_DIR}/tools/run_under_wine.sh

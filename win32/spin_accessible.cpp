@@ -22,6 +22,7 @@ struct AssistanceCalls {
     LRESULT(WINAPI* makeAnswer)(REFIID, WPARAM, LPUNKNOWN);
     HRESULT(WINAPI* objectOfWindow)(HWND, DWORD, REFIID, void**);
     BSTR(WINAPI* makeText)(const OLECHAR*);
+    HRESULT(WINAPI* beginObjects)(void*);
 };
 
 const AssistanceCalls& Assistance()
@@ -31,7 +32,8 @@ const AssistanceCalls& Assistance()
     static const AssistanceCalls calls = {
         FindFunction<decltype(AssistanceCalls::makeAnswer)>(access, "LresultFromObject"),
         FindFunction<decltype(AssistanceCalls::objectOfWindow)>(access, "AccessibleObjectFromWindow"),
-        FindFunction<decltype(AssistanceCalls::makeText)>(automation, "SysAllocString")};
+        FindFunction<decltype(AssistanceCalls::makeText)>(automation, "SysAllocString"),
+        FindFunction<decltype(AssistanceCalls::beginObjects)>(SystemLibrary("ole32.dll"), "CoInitialize")};
     return calls;
 }
 
@@ -293,6 +295,17 @@ void KeepLibraryLoaded()
                        reinterpret_cast<LPCSTR>(&KeepLibraryLoaded), &self);
 }
 
+// For a client in another program the thread has to take part in COM, which a form that has no other use for it never began. It is not
+// ended: nobody tells when the last client is gone.
+LRESULT AnswerFor(AccessibleSpin& object, WPARAM wParam)
+{
+    const LRESULT answer = Assistance().makeAnswer(IID_IAccessible, wParam, &object);
+    if (answer != static_cast<LRESULT>(CO_E_NOTINITIALIZED) || !Assistance().beginObjects)
+        return answer;
+    Assistance().beginObjects(nullptr);
+    return Assistance().makeAnswer(IID_IAccessible, wParam, &object);
+}
+
 }  // namespace
 
 LRESULT AnswerAssistance(HWND spin, WPARAM wParam)
@@ -301,7 +314,7 @@ LRESULT AnswerAssistance(HWND spin, WPARAM wParam)
         return 0;
     KeepLibraryLoaded();
     auto* object = new AccessibleSpin(spin);
-    const LRESULT answer = Assistance().makeAnswer(IID_IAccessible, wParam, object);
+    const LRESULT answer = AnswerFor(*object, wParam);
     object->Release();
     return answer;
 }

@@ -2,6 +2,7 @@
 // and redone, literals stand, and the state told is the state there is.
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <random>
 #include <set>
@@ -315,6 +316,7 @@ TEST(ModernLaws, WhatIsRefusedChangesNothingAndIsToldOnce)
             ASSERT_EQ(played.Edit().Count(FieldEvent::Update) + played.Edit().Count(FieldEvent::Change), 0) << act;
         }
     });
+    std::printf("%d acts were refused\n", refused);
     EXPECT_GT(refused, 3000);
     for (const int32_t reason : reasons)
         EXPECT_TRUE(reason >= ZTR_WRONG_KIND && reason <= ZTR_NOT_IN_CODE_PAGE) << reason;

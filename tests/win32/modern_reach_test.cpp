@@ -1,77 +1,13 @@
 // Who cannot see the spin, and who writes in other characters: the accessible spin, value-change events, input methods.
-#include <oleacc.h>
+#include <algorithm>
 
+#include "tests/support/live/accessible_client.h"
 #include "tests/support/live/import_patch.h"
 #include "tests/support/rows.h"
 #include "tests/win32/modern_window.h"
 
 namespace zttest {
 namespace {
-
-const IID kAccessible = {
-    0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}
-};
-
-template <class Function>
-Function OfSystem(const char* library, const char* name)
-{
-    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(LoadLibraryA(library), name)));
-}
-
-VARIANT Id(LONG number)
-{
-    VARIANT id{};
-    id.vt = VT_I4;
-    id.lVal = number;
-    return id;
-}
-
-// What a client such as a screen reader gets from the window.
-class Client {
-public:
-    explicit Client(HWND hwnd)
-    {
-        OfSystem<HRESULT(WINAPI*)(void*)>("ole32.dll", "CoInitialize")(nullptr);
-        const auto ask =
-            OfSystem<HRESULT(WINAPI*)(HWND, DWORD, REFIID, void**)>("oleacc.dll", "AccessibleObjectFromWindow");
-        ask(hwnd, static_cast<DWORD>(OBJID_CLIENT), kAccessible, reinterpret_cast<void**>(&object_));
-    }
-    Client(const Client&) = delete;
-    Client& operator=(const Client&) = delete;
-    ~Client()
-    {
-        if (object_)
-            object_->Release();
-    }
-    IAccessible* operator->() const { return object_; }
-    explicit operator bool() const { return object_ != nullptr; }
-
-    LONG Role(LONG id) const
-    {
-        VARIANT role{};
-        return object_->get_accRole(Id(id), &role) == S_OK ? role.lVal : -1;
-    }
-    LONG State(LONG id) const
-    {
-        VARIANT state{};
-        return object_->get_accState(Id(id), &state) == S_OK ? state.lVal : -1;
-    }
-    using Asked = HRESULT (STDMETHODCALLTYPE IAccessible::*)(VARIANT, BSTR*);
-    std::string Text(Asked asked, LONG id) const
-    {
-        BSTR text = nullptr;
-        if ((object_->*asked)(Id(id), &text) != S_OK)
-            return "none";
-        std::string copy;
-        for (const wchar_t* at = text; *at; ++at)
-            copy += static_cast<char>(*at);
-        OfSystem<void(WINAPI*)(BSTR)>("oleaut32.dll", "SysFreeString")(text);
-        return copy;
-    }
-
-private:
-    IAccessible* object_ = nullptr;
-};
 
 class ModernReach : public ModernWindow {
 protected:
@@ -92,7 +28,7 @@ protected:
 TEST_F(ModernReach, TellsOfASpinButtonWithTwoActions)
 {
     MakeSpin("2024-02-26");
-    const Client client(Spin());
+    const AccessibleClient client(Spin());
     ASSERT_TRUE(client);
     LONG count = 0;
     EXPECT_EQ(client->get_accChildCount(&count), S_OK);
@@ -117,10 +53,61 @@ TEST_F(ModernReach, TellsOfASpinButtonWithTwoActions)
     EXPECT_EQ(client->get_accRole(Id(1), nullptr), E_INVALIDARG);
 }
 
+// What a program prints that is started with a window's number; this thread answers messages meanwhile, as a form does.
+std::string WhatAProgramSees(const char* program, HWND hwnd)
+{
+    char folder[MAX_PATH] = "";
+    GetModuleFileNameA(nullptr, folder, MAX_PATH);
+    const std::string path = folder;
+    std::string command = "\"" + path.substr(0, path.find_last_of('\\') + 1) + program + "\" " +
+                          std::to_string(reinterpret_cast<uintptr_t>(hwnd));
+    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+    HANDLE reading = nullptr;
+    HANDLE writing = nullptr;
+    EXPECT_TRUE(CreatePipe(&reading, &writing, &inherited, 0));
+    STARTUPINFOA startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdOutput = writing;
+    PROCESS_INFORMATION process{};
+    EXPECT_TRUE(
+        CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process));
+    CloseHandle(writing);
+    const DWORD begin = GetTickCount();
+    while (MsgWaitForMultipleObjects(1, &process.hProcess, FALSE, 1000, QS_ALLINPUT) != WAIT_OBJECT_0 &&
+           GetTickCount() - begin < 60000)
+        DrainMessages();
+    TerminateProcess(process.hProcess, 99);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    std::string seen(4096, '\0');
+    DWORD length = 0;
+    ReadFile(reading, seen.data(), static_cast<DWORD>(seen.size()), &length, nullptr);
+    CloseHandle(reading);
+    seen.resize(length);
+    seen.erase(std::remove(seen.begin(), seen.end(), '\r'), seen.end());
+    return seen;
+}
+
+TEST_F(ModernReach, IsSeenAndPressedByAnotherProgram)
+{
+    MakeSpin("2024-02-26");
+    EXPECT_EQ(WhatAProgramSees("assistive_client.exe", Spin()),
+              "role 52, 2 children of the roles 43 and 43\n"
+              "value 02/26/2024\n"
+              "Press Up: done\n"
+              "new values: field spin; value 02/27/2024\n"
+              "Press Down: done\n"
+              "new values: field spin; value 02/26/2024\n"
+              "Press Down: done\n"
+              "new values: field spin; value 02/25/2024\n");
+    EXPECT_EQ(control_->Text(), "02/25/2024");
+}
+
 TEST_F(ModernReach, TellsWhereTheArrowsAre)
 {
     MakeSpin("2024-02-26");
-    const Client client(Spin());
+    const AccessibleClient client(Spin());
     ASSERT_TRUE(client);
     for (const LONG id : {1, 2}) {
         LONG left = 0;
@@ -145,7 +132,7 @@ TEST_F(ModernReach, TellsWhereTheArrowsAre)
 TEST_F(ModernReach, TellsStatesAndOutlivesTheControl)
 {
     MakeSpin("2024-02-26");
-    const Client client(Spin());
+    const AccessibleClient client(Spin());
     ASSERT_TRUE(client);
     EXPECT_EQ(client.State(0) & STATE_SYSTEM_UNAVAILABLE, 0);
     Send(EM_SETREADONLY, TRUE);
@@ -167,7 +154,7 @@ TEST_F(ModernReach, TellsStatesAndOutlivesTheControl)
 TEST_F(ModernReach, LeavesAClassicSpinToTheSystem)
 {
     MakeSpin("2024-02-26", 0);
-    const Client client(Spin());
+    const AccessibleClient client(Spin());
     ASSERT_TRUE(client);
     EXPECT_NE(client.Role(0), ROLE_SYSTEM_SPINBUTTON);
 }

@@ -157,6 +157,108 @@ TEST_F(ModernPace, ToldOfEachStepOnce)
     EXPECT_EQ(Beeps(), 1);
 }
 
+TEST_F(ModernPace, ToldOnceThatTheEndIsReachedWhileItIsHeld)
+{
+    MakeSpin("2024-02-29", "2024-02-28~2024-02-29");
+    const Told end = {"rejected end of the range at 3"};
+    PressUp();
+    EXPECT_EQ(TakeTold(), end);
+    Tick();
+    Tick();
+    EXPECT_EQ(TakeTold(), Told());
+    Release();
+    PressUp();
+    EXPECT_EQ(TakeTold(), end);
+    Release();
+    Send(WM_KEYDOWN, VK_UP, 1);
+    EXPECT_EQ(TakeTold(), end);
+    Send(WM_KEYDOWN, VK_UP, 0x40000001);
+    Send(WM_KEYDOWN, VK_UP, 0x40000001);
+    EXPECT_EQ(TakeTold(), Told());
+    Send(WM_KEYDOWN, VK_DOWN, 0x40000001);
+    EXPECT_EQ(TakeTold(), (Told{"update", "change"}));
+    Send(WM_KEYDOWN, VK_UP, 0x40000001);
+    TakeTold();
+    Send(WM_KEYDOWN, VK_UP, 0x40000001);
+    EXPECT_EQ(TakeTold(), end);
+    EXPECT_EQ(Beeps(), 4);
+}
+
+// ---- size
+
+// The width of the system's scroll bars while it lives: what a spin is never wider than.
+class ScrollBars {
+public:
+    explicit ScrollBars(int width)
+    {
+        metrics_.cbSize = sizeof metrics_;
+        SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics_, &metrics_, 0);
+        NONCLIENTMETRICSA wide = metrics_;
+        wide.iScrollWidth = width;
+        SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof wide, &wide, 0);
+    }
+    ScrollBars(const ScrollBars&) = delete;
+    ScrollBars& operator=(const ScrollBars&) = delete;
+    ~ScrollBars() { SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof metrics_, &metrics_, 0); }
+
+private:
+    NONCLIENTMETRICSA metrics_{};
+};
+
+class ModernSize : public ModernSpinWindow {
+protected:
+    LONG Width() const
+    {
+        RECT client{};
+        GetClientRect(Spin(), &client);
+        return client.right;
+    }
+    LONG RightEdge() const
+    {
+        RECT spin{};
+        GetWindowRect(Spin(), &spin);
+        MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&spin), 2);
+        return spin.right;
+    }
+    LONG FieldsRightEdge() const
+    {
+        RECT client{};
+        GetClientRect(Window(), &client);
+        return client.right;
+    }
+    LONG TextsRightEdge() const
+    {
+        RECT rect{};
+        Send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&rect));
+        return rect.right;
+    }
+};
+
+// What a form on a screen of other dots per inch tells its controls, behind the metrics of that screen.
+TEST_F(ModernSize, FollowsAChangedScreen)
+{
+    MakeSpin("2024-02-26");
+    SetWindowPos(Window(), nullptr, 0, 0, 300, 80, SWP_NOMOVE | SWP_NOZORDER);
+    const LONG before = Width();
+    const ScrollBars bars(static_cast<int>(before) + 20);
+    EXPECT_EQ(Width(), before);
+    Send(WM_DPICHANGED_AFTERPARENT);
+    EXPECT_EQ(Width(), (before + 20 + 2 + 1) / 2 * 2);
+    EXPECT_EQ(RightEdge(), FieldsRightEdge());
+    EXPECT_LE(TextsRightEdge(), FieldsRightEdge() - Width());
+}
+
+TEST_F(ModernSize, OfAClassicSpinIsLeftAlone)
+{
+    MakeSpin("2024-02-26");
+    ZTE_SetModern(Window(), 0);
+    SetWindowPos(Window(), nullptr, 0, 0, 300, 80, SWP_NOMOVE | SWP_NOZORDER);
+    const LONG before = Width();
+    const ScrollBars bars(static_cast<int>(before) + 20);
+    Send(WM_DPICHANGED_AFTERPARENT);
+    EXPECT_EQ(Width(), before);
+}
+
 // ---- looks
 
 class Picture {
@@ -272,15 +374,64 @@ ROW_TEST(ModernLooks, DifferInEachState)
     EXPECT_EQ(pictures.size(), 3u);
 }
 
-// At the heights that a field of 20 pixels has at 96, 120, 144 and 192 dots per inch.
-ROW_TEST(ModernLooks, FillTheSpinAtEverySize)
+// At the heights that a field of 20 pixels has at 96, 120, 144 and 192 dots per inch, and a very low one.
+ROW_TEST(ModernLooks, FillTheSpinAtEverySizeInEveryState)
 {
     MakeStyled();
-    for (const int height : {20, 25, 30, 40, 9}) {
-        const std::vector<uint32_t> pixels = Paint("normal", height);
-        EXPECT_EQ(std::count(pixels.begin(), pixels.end(), Picture::kPaper), 0) << height;
-        EXPECT_GE(std::set<uint32_t>(pixels.begin(), pixels.end()).size(), 3u) << height;
+    const auto look = [&](const char* state) {
+        for (const int height : {20, 25, 30, 40, 9}) {
+            const std::vector<uint32_t> pixels = Paint(state, height);
+            EXPECT_EQ(std::count(pixels.begin(), pixels.end(), Picture::kPaper), 0) << state << height;
+            EXPECT_GE(std::set<uint32_t>(pixels.begin(), pixels.end()).size(), 3u) << state << height;
+        }
+    };
+    look("normal");
+    PressUp();
+    look("pressed");
+    Release();
+    Mouse(WM_MOUSEMOVE, MiddleOf(false));
+    look("hot");
+    SendMessageA(Spin(), WM_MOUSELEAVE, 0, 0);
+    Send(EM_SETREADONLY, TRUE);
+    look("disabled");
+}
+
+BOOL WINAPI TellOfHighContrast(UINT action, UINT parameter, void* result, UINT)
+{
+    if (action != SPI_GETHIGHCONTRAST)
+        return SystemParametersInfoW(action, parameter, result, 0);
+    static_cast<HIGHCONTRASTA*>(result)->dwFlags = HCF_HIGHCONTRASTON;
+    return TRUE;
+}
+
+// A colour of the system while it lives.
+class SystemColour {
+public:
+    SystemColour(int index, COLORREF colour) : index_(index), former_(GetSysColor(index))
+    {
+        SetSysColors(1, &index, &colour);
     }
+    SystemColour(const SystemColour&) = delete;
+    SystemColour& operator=(const SystemColour&) = delete;
+    ~SystemColour() { SetSysColors(1, &index_, &former_); }
+
+private:
+    int index_;
+    COLORREF former_;
+};
+
+ROW_TEST(ModernLooks, AreTheSystemsColoursInHighContrast)
+{
+    MakeStyled();
+    const std::vector<uint32_t> usual = Paint("normal");
+    const ImportPatch contrast("user32.dll", "SystemParametersInfoA", reinterpret_cast<void*>(TellOfHighContrast));
+    const std::vector<uint32_t> plain = Paint("contrast");
+    EXPECT_EQ(plain == usual, !GetParam().themed);
+    const SystemColour face(COLOR_BTNFACE, RGB(0x00, 0x00, 0x01));
+    const SystemColour arrow(COLOR_BTNTEXT, RGB(0xFF, 0xFF, 0x02));
+    const std::vector<uint32_t> dark = Paint("contrast-dark");
+    EXPECT_GT(std::count(dark.begin(), dark.end(), 0x000001u), 20);
+    EXPECT_GT(std::count(dark.begin(), dark.end(), 0xFFFF02u), 4);
 }
 
 ROW_TEST(ModernLooks, AreAskedForAgainWhereTheyChange)
