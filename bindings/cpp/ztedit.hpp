@@ -61,7 +61,6 @@ enum class Reason : int32_t {
     NotInCodePage = ZTR_NOT_IN_CODE_PAGE
 };
 
-#ifdef ZTM_FITS
 // Why a window is no control, or not the one that was asked for.
 enum class Problem : int32_t {
     None = ZTP_NONE,
@@ -89,7 +88,6 @@ enum class MaskFault : int32_t {
     FieldMissing = ZTM_FIELD_MISSING,
     NoDigit = ZTM_NO_DIGIT
 };
-#endif
 
 enum class Option : uint32_t {
     None = 0,
@@ -359,7 +357,6 @@ private:
     Option options_ = Option::None;
 };
 
-#ifdef ZTM_FITS
 // Whether a mask fits a type, without a control; and where in it what does not fit stands, -1 where all does.
 struct MaskVerdict {
     MaskFault fault;
@@ -372,7 +369,6 @@ inline MaskVerdict CheckMask(const std::string& mask, Type type)
     const int32_t fault = ZTE_CheckMask(mask.c_str(), static_cast<int32_t>(type), &position);
     return {static_cast<MaskFault>(fault), position};
 }
-#endif
 
 struct Place {
     int x;
@@ -531,6 +527,7 @@ public:
     static Edit Create(const Heap& heap, const Setup& setup, HWND parent, int id, const Place& place,
                        DWORD style = kStyle, DWORD extendedStyle = kExtendedStyle)
     {
+        ZTE_Initialize();  // the class is there from then on
         EditInitParams params = setup.Params(heap);
         const HWND hwnd =
             CreateWindowExA(extendedStyle, ZTEDIT_CLASS, "", style, place.x, place.y, place.width, place.height, parent,
@@ -538,7 +535,8 @@ public:
         return Edit(heap, hwnd);
     }
 
-    // An item of the class "ZTEDIT050" from a dialog template; no control when there is none or it could not be configured.
+    // An item of the class "ZTEDIT050" from a dialog template, before whose dialog ZTE_Initialize was called; no control when there is
+    // none or it could not be configured.
     static Edit Attach(const Heap& heap, const Setup& setup, HWND dialog, int id)
     {
         const EditInitParams params = setup.Params(heap);
@@ -600,13 +598,8 @@ public:
         return text;
     }
 
-#ifdef ZTM_FITS
-    // Of the last configuration.
-    Problem LastProblem() const
-    {
-        return static_cast<Problem>(ZTE_GetLastProblem(hwnd_));
-    }
-#endif
+    // Why it is no control, or not the one that was asked for.
+    Problem LastProblem() const { return static_cast<Problem>(ZTE_GetLastProblem(hwnd_)); }
 
     // False when the mask does not fit the type, and the type's default stands in.
     bool SetMask(const std::string& mask, Type type) const
@@ -615,14 +608,8 @@ public:
     }
 
     // Both return, or take, whether it is on.
-    bool SetModern(bool on) const
-    {
-        return ZTE_SetModern(hwnd_, on) != 0;
-    }
-    void SetAutoskip(bool on) const
-    {
-        ZTE_SetAutoskip(hwnd_, on);
-    }
+    bool SetModern(bool on) const { return ZTE_SetModern(hwnd_, on) != 0; }
+    void SetAutoskip(bool on) const { ZTE_SetAutoskip(hwnd_, on); }
 
     // What the spin steps: "minimum~maximum", either side may be empty; or the entries of a table.
     void SetSpin(uint32_t increment, const std::string& range, SpinStyle style = SpinStyle::Plain) const
@@ -633,22 +620,10 @@ public:
     {
         ZTE_SetSpin(hwnd_, 1, nullptr, table.Text().c_str(), static_cast<uint32_t>(style));
     }
-    void CreateSpin() const
-    {
-        ZTE_CreateSpin(hwnd_);
-    }
-    void DestroySpin() const
-    {
-        ZTE_DestroySpin(hwnd_);
-    }
-    void SetSpinColour(COLORREF colour) const
-    {
-        ZTE_SetSpinBkColor(hwnd_, colour);
-    }
-    int SpinWidth() const
-    {
-        return ZTE_GetSpinWidth(hwnd_, nullptr);
-    }
+    void CreateSpin() const { ZTE_CreateSpin(hwnd_); }
+    void DestroySpin() const { ZTE_DestroySpin(hwnd_); }
+    void SetSpinColour(COLORREF colour) const { ZTE_SetSpinBkColor(hwnd_, colour); }
+    int SpinWidth() const { return ZTE_GetSpinWidth(hwnd_, nullptr); }
 
 private:
     Edit(const Heap& heap, HWND hwnd) : heap_(heap.Handle()), hwnd_(hwnd) {}

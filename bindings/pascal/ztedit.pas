@@ -346,6 +346,7 @@ function ZtCreate(Heap: TSharedHeap; const Setup: TZtSetup; Parent: HWND; Id, X,
 var
   Params: TEditInitParams;
 begin
+  ZTE_Initialize; { so that the library is loaded, which brings the class }
   Params := ParamsOf(Heap, Setup);
   Result := CreateWindowExA(WS_EX_CLIENTEDGE, ZTEDIT_CLASS, '', ControlStyle, X, Y, Width, Height, Parent, HMENU(Id), HInstance,
     @Params);

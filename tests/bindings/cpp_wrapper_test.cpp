@@ -266,6 +266,30 @@ TEST_F(CppWrapper, TellsWhetherAMaskFits)
     EXPECT_EQ(edit.GetType(), zt::Type::Time);
 }
 
+TEST_F(CppWrapper, TellsWhatIsWrongWithAMask)
+{
+    const zt::MaskVerdict incomplete = zt::CheckMask("MM/DD", zt::Type::Date);
+    EXPECT_EQ(incomplete.fault, zt::MaskFault::FieldMissing);
+    EXPECT_EQ(incomplete.position, 5);
+    const zt::MaskVerdict good = zt::CheckMask("MM/DD/YYYY", zt::Type::Date);
+    EXPECT_EQ(good.fault, zt::MaskFault::Fits);
+    EXPECT_EQ(good.position, -1);
+}
+
+TEST_F(CppWrapper, TellsWhyItIsNotWhatWasAskedFor)
+{
+    EXPECT_EQ(Make(zt::Setup::Date("MM/DD/YYYY")).LastProblem(), zt::Problem::None);
+    EXPECT_EQ(Make(zt::Setup::Date("MM/DD")).LastProblem(), zt::Problem::Mask);
+    zt::Heap gone;
+    {
+        const zt::Heap taken(std::move(gone));
+    }
+    const zt::Edit plain = zt::Edit::Create(gone, zt::Setup::Date("MM/DD/YYYY"), form_, kId, {});
+    EXPECT_FALSE(plain);
+    EXPECT_NE(plain.Window(), nullptr);
+    EXPECT_EQ(plain.LastProblem(), zt::Problem::NoHeap);
+}
+
 TEST_F(CppWrapper, HearsRefusalsAndStates)
 {
     const zt::Edit date = Make(zt::Setup::Date("MM/DD/YYYY").Modern().Autoskip());
