@@ -334,7 +334,7 @@ class Edit:
         """A new child window; setup as in configure()."""
         params = cls._params(heap, data_type, mask, options, **setup)
         dll.ZTE_Initialize()  # the class is there from then on
-        make = ctypes.windll.user32.CreateWindowExA
+        make = ctypes.WinDLL("user32").CreateWindowExA  # of our own: what it takes is set below
         make.restype = _HWND
         make.argtypes = [c_uint32, c_char_p, c_char_p, c_uint32] + [c_int32] * 4 + [_HWND, _POINTER, _POINTER, POINTER(EditInitParams)]
         child_visible_tabstop_autohscroll, client_edge = 0x50010080, 0x200
@@ -348,7 +348,7 @@ class Edit:
         """Makes a control of a window of the class ZTEDIT050, or configures one anew. setup: initial, spin_range, spin_increment, codes."""
         params = self._params(self.heap, data_type, mask, options, **setup)
         if not dll.ZTE_Init(self.hwnd, ctypes.byref(params)):
-            raise ValueError("the window cannot be configured, problem %d" % dll.ZTE_GetLastProblem(self.hwnd))
+            raise ValueError("the window cannot be configured, problem %d" % self.problem)
 
     @staticmethod
     def _params(heap, data_type, mask, options, initial=None, spin_range=None, spin_increment=1, codes=None):
@@ -365,6 +365,11 @@ class Edit:
     @property
     def state(self):
         return dll.ZTE_GetState(self.hwnd)
+
+    @property
+    def problem(self):
+        """Why it is no control, or not the one that was asked for (a mask that does not fit): a ZTP_ value."""
+        return dll.ZTE_GetLastProblem(self.hwnd)
 
     @property
     def text(self):
@@ -402,6 +407,13 @@ class Edit:
     def set_mask(self, mask, data_type):
         """False when the mask does not fit the type, and the type's default stands in."""
         return bool(dll.ZTE_FmtSetMask(self.hwnd, mask.encode(_ENCODING), data_type))
+
+
+def check_mask(mask, data_type):
+    """Without a control: (ZTM_FITS, -1), or what is wrong with a mask and where in it."""
+    position = c_int32(-1)
+    fault = dll.ZTE_CheckMask(mask.encode(_ENCODING), data_type, ctypes.byref(position))
+    return fault, position.value
 
 
 def rejected(l_param):

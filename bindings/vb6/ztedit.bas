@@ -235,9 +235,9 @@ End Type
     Public Declare PtrSafe Sub SharedDateTimeNow Lib "ztshared.dll" (ByRef value As DateTimeValue)
     Public Declare PtrSafe Function SharedCompileFormat Lib "ztshared.dll" (ByVal compiled As LongPtr, ByVal format As String, _
         ByVal size As Long) As Long
-    Public Declare PtrSafe Function SharedFormatDouble Lib "ztshared.dll" (ByVal output As LongPtr, ByVal size As Long, _
+    Public Declare PtrSafe Function SharedFormatDouble Lib "ztshared.dll" (ByVal buffer As LongPtr, ByVal size As Long, _
         ByVal compiled As LongPtr, ByVal value As Double, ByVal flags As Long) As Long
-    Public Declare PtrSafe Function SharedFormatDecimal Lib "ztshared.dll" (ByVal output As LongPtr, ByVal size As Long, _
+    Public Declare PtrSafe Function SharedFormatDecimal Lib "ztshared.dll" (ByVal buffer As LongPtr, ByVal size As Long, _
         ByVal compiled As LongPtr, ByRef value As DecimalValue, ByVal flags As Long) As Long
     Public Declare PtrSafe Sub SharedReadRegionalSettings Lib "ztshared.dll" ()
     Public Declare PtrSafe Function DecFromString Lib "ztdecimal.dll" (ByRef destination As DecimalValue, _
@@ -330,9 +330,9 @@ End Type
     Public Declare Sub SharedDateTimeNow Lib "ztshared.dll" (ByRef value As DateTimeValue)
     Public Declare Function SharedCompileFormat Lib "ztshared.dll" (ByVal compiled As LongPtr, ByVal format As String, _
         ByVal size As Long) As Long
-    Public Declare Function SharedFormatDouble Lib "ztshared.dll" (ByVal output As LongPtr, ByVal size As Long, _
+    Public Declare Function SharedFormatDouble Lib "ztshared.dll" (ByVal buffer As LongPtr, ByVal size As Long, _
         ByVal compiled As LongPtr, ByVal value As Double, ByVal flags As Long) As Long
-    Public Declare Function SharedFormatDecimal Lib "ztshared.dll" (ByVal output As LongPtr, ByVal size As Long, _
+    Public Declare Function SharedFormatDecimal Lib "ztshared.dll" (ByVal buffer As LongPtr, ByVal size As Long, _
         ByVal compiled As LongPtr, ByRef value As DecimalValue, ByVal flags As Long) As Long
     Public Declare Sub SharedReadRegionalSettings Lib "ztshared.dll" ()
     Public Declare Function DecFromString Lib "ztdecimal.dll" (ByRef destination As DecimalValue, _

@@ -57,7 +57,11 @@ class RememberingLibrary:
         return hwnd == HWND
 
     def ZTE_GetLastProblem(self, hwnd):
-        return ztedit.ZTP_NOT_SUBCLASSED
+        return ztedit.ZTP_NONE if hwnd == HWND else ztedit.ZTP_NOT_SUBCLASSED
+
+    def ZTE_CheckMask(self, mask, data_type, position):
+        position._obj.value = mask.find(b"x")
+        return ztedit.ZTM_OUT_OF_PLACE if b"x" in mask and data_type == self.data_type else ztedit.ZTM_FITS
 
 
 class Values(unittest.TestCase):
@@ -132,9 +136,16 @@ class Values(unittest.TestCase):
 
     def test_a_window_that_cannot_be_configured(self):
         edit = self.edit(ztedit.DT_NUMBER)
+        self.assertEqual(edit.problem, ztedit.ZTP_NONE)
         edit.hwnd = HWND + 1
+        self.assertEqual(edit.problem, ztedit.ZTP_NOT_SUBCLASSED)
         with self.assertRaisesRegex(ValueError, str(ztedit.ZTP_NOT_SUBCLASSED)):
             edit.configure(ztedit.DT_NUMBER)
+
+    def test_masks_without_a_control(self):
+        self.edit(ztedit.DT_DATE)
+        self.assertEqual(ztedit.check_mask("MM/x", ztedit.DT_DATE), (ztedit.ZTM_OUT_OF_PLACE, 3))
+        self.assertEqual(ztedit.check_mask("MM/DD/YY", ztedit.DT_DATE), (ztedit.ZTM_FITS, -1))
 
     def test_notifications_of_masked_edits_only(self):
         self.edit(ztedit.DT_DATE)
