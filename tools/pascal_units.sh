@@ -10,7 +10,7 @@ shift
 command -v fpc >/dev/null || { echo "FAILED: no fpc here; tools/install_deps.sh --bindings installs it" >&2; exit 1; }
 sources=/usr/share/fpcsrc/$(fpc -iV)/rtl
 [ -d "$sources/win64" ] || { echo "FAILED: no $sources/win64; tools/install_deps.sh --bindings installs it" >&2; exit 1; }
-units=$root/build/pascal-units/$(fpc -iV)
+units=$root/build/pascal-units/$(fpc -iV)-$(cksum <"$0" | cut -d " " -f 1)  # made anew when this script changes
 # -n: nothing from the machine's own configuration, whose units are of Linux
 compile=(fpc -n -Twin64 -Px86_64 -v0 -ve "-Fu$units")
 
