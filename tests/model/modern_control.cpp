@@ -30,6 +30,8 @@ void ModernControl::MakeKind()
 {
     if (config_.type == kDate || config_.type == kTime || config_.type == kDateTime)
         kind_ = MakeModernDates(regional_, config_);
+    else if (config_.type == kString)
+        kind_ = MakeModernStrings(regional_, config_);
 }
 
 void ModernControl::Make(const Regional& regional, const Config& config)

@@ -61,5 +61,10 @@ TEST_F(ModernDifferential, DatesAndTimes)
     PlayRandomly([](const ModernRow& row) { return row.type == kDate || row.type == kTime || row.type == kDateTime; });
 }
 
+TEST_F(ModernDifferential, Strings)
+{
+    PlayRandomly([](const ModernRow& row) { return row.type == kString && row.codes == nullptr; });
+}
+
 }  // namespace
 }  // namespace model::modern

@@ -6,6 +6,7 @@
 #include "engine/memory_control.h"
 #include "tests/support/keyboard.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <map>
 
@@ -82,8 +83,12 @@ private:
              }                                                                                  },
             {"click",
              [](ModernNative& to,             const std::string& rest) { return to.control_->Click(std::atoi(rest.c_str())), 0; }},
-            {"double",   [](ModernNative& to,
-             const std::string& rest) { return to.control_->DoubleClick(std::atoi(rest.c_str())), 0; }                           },
+            {"double",
+             [](ModernNative& to,             const std::string& rest) {
+                 return to.control_->DoubleClick(
+                            std::min(std::atoi(rest.c_str()), static_cast<int>(to.Edit().Shown().size()))),
+                        0;
+             }                                                                                  },
             {"paste",
              [](ModernNative& to,             const std::string& rest) {
                  to.Edit().SetClipboard(rest);

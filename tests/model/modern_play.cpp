@@ -69,6 +69,15 @@ std::string WrittenMoment(Random& random)
     return text + halves[random.Chance(50) ? 5 : random.Below(5)];
 }
 
+// Digits for the most part, with the signs of the masks.
+std::string SomeString(Random& random)
+{
+    std::string text;
+    for (int n = 1 + random.Below(12); n > 0; --n)
+        text += random.Chance(70) ? random.Of("0123456789") : random.Of("abcXYZ -/()., 012");
+    return text;
+}
+
 class ModernPlayer {
 public:
     ModernPlayer(const Setting& setting, const Config& config, unsigned seed)
@@ -134,6 +143,7 @@ private:
         case kDate: return "00011122233345678901234567890/.-/-JFMASONDjanuneepctx ";
         case kTime: return "00011223345678901234567890:.:: AMPMapvNDx";
         case kDateTime: return "00011122233345678901234567890/:.- AMPMJFSONDaneuvpx";
+        case kString: return "0123456789012345678901234567890abcxyzABCXYZ()-/, .+";
         default: return "0123456789";
         }
     }
@@ -146,7 +156,7 @@ private:
             return WrittenMoment(random_);
         if (config_.type == kDateTime)
             return WrittenDay(random_) + (random_.Chance(20) ? "" : " " + WrittenMoment(random_));
-        return "1";
+        return SomeString(random_);
     }
 
     std::string Canonical()
@@ -157,7 +167,7 @@ private:
             return Moment(random_);
         if (config_.type == kDateTime)
             return Day(random_) + (random_.Chance(20) ? "" : " " + Moment(random_));
-        return "1";
+        return SomeString(random_);
     }
 
     std::string Value()
@@ -322,6 +332,18 @@ std::string Row(const ModernScenario& scenario)
 const std::vector<ModernRow>& ModernRows()
 {
     static const std::vector<ModernRow> rows = {
+        {"AAAA",                    kString  },
+        {"####",                    kString  },
+        {"XXX",                     kString  },
+        {"(###) ###-####",          kString  },
+        {"##-##",                   kString  },
+        {"AA/##/XX",                kString  },
+        {"!!!-^^^",                 kString  },
+        {"~A##~-##",                kString  },
+        {">>AA",                    kString  },
+        {"A-A, A",                  kString  },
+        {"##+XX",                   kString  },
+        {"[AA##]",                  kString  },
         {"MM/DD/YY",                kDate    },
         {"MM/DD/YYYY",              kDate    },
         {"DD.MM.YYYY",              kDate    },
