@@ -30,6 +30,8 @@ void ModernControl::MakeKind()
 {
     if (config_.type == kDate || config_.type == kTime || config_.type == kDateTime)
         kind_ = MakeModernDates(regional_, config_);
+    else if (config_.type == kNumber || config_.type == kDecimal)
+        kind_ = MakeModernNumbers(regional_, config_);
     else if (config_.type == kString)
         kind_ = MakeModernStrings(regional_, config_);
 }
@@ -96,11 +98,9 @@ void ModernControl::Perform(Run run, const Made& made, char c)
         return Refuse(made.reason, made.position, c);
     const Content before = content_;
     content_ = made.content;
-    const bool changed = before.text != content_.text || before.empty != content_.empty;
-    if (before.text != content_.text) {
-        ++told_.changes;
-        told_.modified = true;
-    }
+    const bool changed = before.text != content_.text || before.empty != content_.empty || before.lone != content_.lone;
+    told_.changes += before.text != content_.text ? 1 : 0;
+    told_.modified = told_.modified || changed;
     const bool one = goesOn_ && run != Run::Other && done_ > 0 && history_[done_ - 1].run == run;
     if (changed) {
         if (one)
@@ -155,6 +155,7 @@ void ModernControl::Forget(Content& content)
     content.passed.clear();
     content.letters.clear();
     content.half.clear();
+    content.cut = false;
 }
 
 bool ModernControl::Undo()
@@ -219,16 +220,16 @@ void ModernControl::Move(const std::string& key, bool shift, bool control)
         return MoveTo(shift ? 0 : kind_->First(content_), shift);
     if (key == "End") {
         const int filled = kind_->BehindFilled(content_);
-        return MoveTo(shift ? length : content_.End() == filled ? kind_->Last() : filled, shift);
+        return MoveTo(shift ? length : content_.End() == filled ? kind_->Last(content_) : filled, shift);
     }
     // With Shift, one position at a time.
     if (shift)
         return MoveTo(control ? kind_->Move(content_, caret, forward, true) : caret + (forward ? 1 : -1), true);
     if (content_.Selected()) {
         const int edge = forward ? content_.End() : content_.Start();
-        return MoveTo(control ? kind_->Move(content_, edge, forward, true) : kind_->Correct(content_, edge), false);
+        return MoveTo(control ? kind_->Move(content_, edge, forward, true) : kind_->Edge(content_, edge), false);
     }
-    if (forward && caret == kind_->Last() && config_.autoskip && kind_->State(content_) != kInvalid)
+    if (forward && caret == kind_->Last(content_) && config_.autoskip && kind_->State(content_) != kInvalid)
         ++told_.autoskips;
     MoveTo(kind_->Move(content_, caret, forward, control), false);
 }

@@ -32,10 +32,11 @@ struct Content {
     int caret = 0;
     bool empty = false;   // of a number: remembered, not seen
     std::string passed;   // the literals over which typing has just carried the caret
-    bool fresh = false;   // of a number: nothing has been typed since it was set
+    bool fresh = false;   // of a number: untouched since it was set
     std::string letters;  // of a choice: typed so far; of a name that is complete: the rest
     std::string half;     // letters typed of a half of the day
-    bool kept = false;    // of a minus over a selection of digits
+    bool lone = false;    // of a number: a sign that has been typed before any digit
+    bool cut = false;     // of a number: deletion has left the caret where it is
 
     int Start() const { return std::min(anchor, caret); }
     int End() const { return std::max(anchor, caret); }
@@ -92,11 +93,15 @@ public:
     virtual bool SameField(int, int) const { return true; }
 
     virtual int First(const Content& content) const = 0;
-    virtual int Last() const = 0;  // behind the last position
+    virtual int Last(const Content& content) const = 0;  // behind the last position
     virtual int BehindFilled(const Content& content) const = 0;
     virtual int Move(const Content& content, int from, bool forward, bool whole) const = 0;
     virtual int Correct(const Content& content, int position) const = 0;  // a click there
-    virtual void SelectField(Content& content, int position) const = 0;   // a double click there
+    virtual int Edge(const Content& content, int position) const
+    {
+        return Correct(content, position);
+    }                                                                    // where a selection ends
+    virtual void SelectField(Content& content, int position) const = 0;  // a double click there
 
     virtual int State(const Content& content) const = 0;
     virtual std::optional<std::string> Canonical(const Content& content) const = 0;

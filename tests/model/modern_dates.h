@@ -28,7 +28,8 @@ public:
     Content Leave(Content content, int from) const override;
     bool SameField(int from, int to) const override;
     int First(const Content&) const override { return parts_.empty() ? 0 : parts_[0].start; }
-    int Last() const override { return parts_.empty() ? 0 : parts_.back().End(); }
+    int Last(const Content&) const override { return Last(); }
+    int Last() const { return parts_.empty() ? 0 : parts_.back().End(); }
     int BehindFilled(const Content& content) const override;
     int Move(const Content& content, int from, bool forward, bool whole) const override;
     int Correct(const Content& content, int position) const override;

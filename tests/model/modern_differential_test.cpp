@@ -30,7 +30,7 @@ protected:
     template <typename Belongs>
     void PlayRandomly(Belongs belongs)
     {
-        const unsigned rounds = NumberOfEnvironment("ZT_MODEL_ROUNDS", 4);
+        const unsigned rounds = NumberOfEnvironment("ZT_MODEL_ROUNDS", 3);
         unsigned number = NumberOfEnvironment("ZT_MODEL_SEED", 1) * 1000003;
         for (const Setting& setting : Settings())
             for (const ModernRow& row : ModernRows()) {
@@ -64,6 +64,11 @@ TEST_F(ModernDifferential, DatesAndTimes)
 TEST_F(ModernDifferential, Strings)
 {
     PlayRandomly([](const ModernRow& row) { return row.type == kString && row.codes == nullptr; });
+}
+
+TEST_F(ModernDifferential, Numbers)
+{
+    PlayRandomly([](const ModernRow& row) { return row.type == kNumber || row.type == kDecimal; });
 }
 
 }  // namespace

@@ -78,6 +78,13 @@ std::string SomeString(Random& random)
     return text;
 }
 
+std::string SomeAmount(Random& random)
+{
+    std::string text = random.Chance(25) ? "-" : "";
+    text += std::to_string(random.Below(random.Chance(70) ? 1000 : 1000000));
+    return random.Chance(60) ? text + "." + SomeNumber(random, 100, 2) : text;
+}
+
 class ModernPlayer {
 public:
     ModernPlayer(const Setting& setting, const Config& config, unsigned seed)
@@ -144,7 +151,7 @@ private:
         case kTime: return "00011223345678901234567890:.:: AMPMapvNDx";
         case kDateTime: return "00011122233345678901234567890/:.- AMPMJFSONDaneuvpx";
         case kString: return "0123456789012345678901234567890abcxyzABCXYZ()-/, .+";
-        default: return "0123456789";
+        default: return "012345678901234567890123456789012345678901234567890123456789---.,.,+x ";
         }
     }
 
@@ -156,7 +163,7 @@ private:
             return WrittenMoment(random_);
         if (config_.type == kDateTime)
             return WrittenDay(random_) + (random_.Chance(20) ? "" : " " + WrittenMoment(random_));
-        return SomeString(random_);
+        return IsNumber() ? SomeAmount(random_) : SomeString(random_);
     }
 
     std::string Canonical()
@@ -167,7 +174,7 @@ private:
             return Moment(random_);
         if (config_.type == kDateTime)
             return Day(random_) + (random_.Chance(20) ? "" : " " + Moment(random_));
-        return SomeString(random_);
+        return IsNumber() ? SomeAmount(random_) : SomeString(random_);
     }
 
     std::string Value()
@@ -367,6 +374,12 @@ const std::vector<ModernRow>& ModernRows()
         {"DD-MMM-YYYY HH:MM",       kDateTime},
         {"MM/DD/YYYY HH:MM AM/PM",  kDateTime},
         {"[date] [time]",           kDateTime},
+        {"#,##0.00",                kNumber  },
+        {"##0.00",                  kNumber  },
+        {"##0",                     kNumber  },
+        {"000",                     kNumber  },
+        {"0.00",                    kNumber  },
+        {"#,##0.00",                kDecimal },
     };
     return rows;
 }

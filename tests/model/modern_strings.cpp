@@ -150,7 +150,8 @@ public:
     bool Steps() const override { return false; }
 
     int First(const Content&) const override { return Next(0) < Length() ? Next(0) : 0; }
-    int Last() const override
+    int Last(const Content&) const override { return Last(); }
+    int Last() const
     {
         for (int i = Length(); i > 0; --i)
             if (!IsLiteral(i - 1))
@@ -201,6 +202,10 @@ public:
                                                       static_cast<size_t>(PlaceEnd(at) - PlaceStart(at)));
         const size_t first = place.find_first_not_of(' ');
         const size_t last = place.find_last_not_of(' ');
+        // Directly behind a word it is still that one.
+        if (at > PlaceStart(at) && content.text[static_cast<size_t>(at)] == ' ' &&
+            content.text[static_cast<size_t>(at) - 1] != ' ')
+            --at;
         const bool inWords = !away && first != std::string::npos && static_cast<size_t>(at - PlaceStart(at)) <= last;
         const bool several =
             inWords && first != std::string::npos && place.substr(first, last - first).find(' ') != std::string::npos;
