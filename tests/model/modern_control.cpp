@@ -222,7 +222,9 @@ void ModernControl::Move(const std::string& key, bool shift, bool control)
         const int filled = kind_->BehindFilled(content_);
         return MoveTo(shift ? length : content_.End() == filled ? kind_->Last(content_) : filled, shift);
     }
-    // With Shift, one position at a time.
+    // With Shift, one position at a time. What the caret stands behind has ended before.
+    if (shift && !kind_->SameField(content_.Start(), content_.Start()))
+        Settle(content_, By::Key);
     if (shift)
         return MoveTo(control ? kind_->Move(content_, caret, forward, true) : caret + (forward ? 1 : -1), true);
     if (content_.Selected()) {
@@ -313,6 +315,8 @@ int ModernControl::Do(const std::string& act)
     } else if (name == "double") {
         Content next = content_;
         kind_->SelectField(next, std::clamp(std::atoi(rest.c_str()), 0, static_cast<int>(content_.text.size())));
+        if (next.Looks(content_))
+            next = content_;
         Settle(next, By::Program);
     } else if (name == "paste") {
         clipboard_ = rest;

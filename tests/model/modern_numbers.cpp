@@ -411,9 +411,9 @@ private:
     Made TypePoint(Content content) const
     {
         const ShownNumber shown = Read(content);
-        if (InFraction(shown, content.caret) && content.caret != shown.point + 1 && !content.empty)
+        if (InFraction(shown, content.caret) && content.caret != shown.point + 1 && !content.empty && !content.lone)
             return Made::Refused(kWrongKind);
-        if (AtStart(content) && !content.cut && !Of(shown).IsZero())
+        if (AtStart(content) && !content.cut && (!Of(shown).IsZero() || (content.lone && content.caret <= shown.sign)))
             content = Zeroed(shown.sign >= 0 && content.caret > shown.sign);
         content.Place(Read(content).point + 1);
         content.passed = ".";

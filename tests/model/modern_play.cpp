@@ -109,9 +109,14 @@ public:
                          "{Shift+Home}", "{Shift+End}", "{Ctrl+Left}", "{Ctrl+Right}", "{Ctrl+A}"});
         if (dice < 800)
             return Selection();
-        if (dice < 870)
+        if (dice < 850 && IsNumber())
+            return Pick({"{Ctrl+Z}", "{Ctrl+Z}", "{Ctrl+Shift+Z}", "{undo}", "{redo}"});
+        if (dice < 870 && !IsNumber())
             return random_.Chance(70) ? Pick({"{Ctrl+Z}", "{Ctrl+Z}", "{Ctrl+Shift+Z}", "{undo}", "{redo}"})
                                       : Pick({"{Ctrl+X}", "{Ctrl+C}", "{Ctrl+V}", "{cut}", "{clear}", "{Shift+Del}"});
+        if (dice < 870 && IsNumber())
+            return Pick({"{Ctrl+X}", "{Ctrl+C}", "{cut}", "{clear}",
+                         "{Shift+Del}"});  // a part of a number may mean another one
         if (dice < 900 && config_.increment != 0)
             return Pick({"{Up}", "{Down}", "{Up}", "{Down}", "{PgUp}", "{PgDn}", "{step up}", "{step down}"});
         if (dice < 970)

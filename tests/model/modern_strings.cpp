@@ -203,7 +203,7 @@ public:
         const size_t first = place.find_first_not_of(' ');
         const size_t last = place.find_last_not_of(' ');
         // Directly behind a word it is still that one.
-        if (at > PlaceStart(at) && content.text[static_cast<size_t>(at)] == ' ' &&
+        if (at == position && at > PlaceStart(at) && content.text[static_cast<size_t>(at)] == ' ' &&
             content.text[static_cast<size_t>(at) - 1] != ' ')
             --at;
         const bool inWords = !away && first != std::string::npos && static_cast<size_t>(at - PlaceStart(at)) <= last;
