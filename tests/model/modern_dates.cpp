@@ -745,11 +745,11 @@ std::string ModernDates::Lay(const Stamp& stamp) const
         int hour = stamp.hour;
         if (Twelve())
             hour = hour % 12 == 0 ? 12 : hour % 12;
-        // Of the year that will be shown: the month and the day are kept.
-        const int year = stamp.year + 1900;
+        // Under two digits a year before 1950 counts as one of this century, as data have always been shown.
+        const int year = stamp.year + (yearWidth_ == 2 && stamp.year < 50 ? 2000 : 1900);
         int julian = stamp.day;
         for (int m = 0; m < stamp.month; ++m)
-            julian += DaysOfMonth(yearWidth_ == 2 ? year % 100 + (year % 100 < 50 ? 2000 : 1900) : year, m);
+            julian += DaysOfMonth(year, m);
         const auto date = [&](const std::string& value) { Put(text, i, stamp.HasDate() ? value : ""); };
         const auto time = [&](const std::string& value) { Put(text, i, stamp.HasTime() ? value : ""); };
         switch (parts_[static_cast<size_t>(i)].of) {

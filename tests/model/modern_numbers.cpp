@@ -411,7 +411,8 @@ private:
     Made TypePoint(Content content) const
     {
         const ShownNumber shown = Read(content);
-        if (InFraction(shown, content.caret) && content.caret != shown.point + 1 && !content.empty && !content.lone)
+        if (InFraction(shown, content.caret) && content.caret != shown.point + 1 &&
+            !((content.empty || content.lone) && content.caret >= LastOf(content)))
             return Made::Refused(kWrongKind);
         if (AtStart(content) && !content.cut && (!Of(shown).IsZero() || (content.lone && content.caret <= shown.sign)))
             content = Zeroed(shown.sign >= 0 && content.caret > shown.sign);
@@ -450,7 +451,8 @@ private:
         made.Straighten();
         made.lone = empty && held.negative;
         made.cut = content.cut;
-        if (made.empty && (content.caret >= LastOf(content) || !InFraction(shown, content.caret)))
+        if (made.empty && !content.Selected() &&
+            (content.caret >= LastOf(content) || !InFraction(shown, content.caret)))
             made.Place(FirstDigit(made));
         // As before a separator, not behind it.
         for (int* end : {&made.anchor, &made.caret})
