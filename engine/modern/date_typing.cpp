@@ -130,6 +130,10 @@ private:
         }
         if (!next && IsDigit(typed_))
             return Refused(ZTR_FULL);
+        if (!next && Choose(Text(1, typed_)))
+            return Result();
+        if (!next && !IsSeparator())
+            return Refused(ZTR_WRONG_KIND);
         return Separate();
     }
 
@@ -298,14 +302,13 @@ private:
             place = nullptr;  // on the literal behind it: it has been left
         if (IsLeadingLiteral(place))
             return Accepted(content_);
-        const bool begun = place && Caret() > place->start;
         const Text before = content_.text;
-        if (begun)
+        if (place)
             Complete(edit_, content_, *place);
         const Layout after(edit_, content_.text);
         const Place* next = after.Next(place ? std::max(place->End(), Caret()) : Caret());
         if (!next)
-            return SeparateAtEnd(after, begun && before != content_.text);
+            return SeparateAtEnd(after, before != content_.text);
         PassTo(place ? place->End() : Caret(), next->start);
         return Result();
     }
