@@ -38,6 +38,15 @@ function(zt_add_library name)
     target_link_libraries(${name}_objects PUBLIC zt_build_flags)
     zt_read_windows_once(${name}_objects)
 
+    if(NOT MINGW)  # a linker that pairs plain names with decorated functions by itself, in the import library too
+        add_library(${name}_dll SHARED ${def} ${rc})
+        target_link_libraries(${name}_dll PRIVATE ${name}_objects ${arg_STATIC} ${arg_LINK})
+        set_target_properties(${name}_dll PROPERTIES OUTPUT_NAME ${name} PREFIX "")
+        add_library(${name} INTERFACE)
+        target_link_libraries(${name} INTERFACE ${name}_dll)
+        target_include_directories(${name} INTERFACE ${CMAKE_SOURCE_DIR}/include)
+        return()
+    endif()
     set(import_library ${CMAKE_ARCHIVE_OUTPUT_DIRECTORY}/lib${name}.dll.a)
     add_custom_command(
         OUTPUT ${import_library}
