@@ -248,17 +248,17 @@ void WriteClassic(std::ostream& page, const classic::Rows& rows)
 
 constexpr char kIntroduction[] = R"(# Behaviour reference
 
-The keystroke tables of the tests, as the tests run them: a program writes this page from the same rows, and a test fails when the page is not what
-they give. What the keys are for stands in [Keys](keys.md); this page is for looking up one case.
+The keystroke tables of the tests, as the tests run them: a program writes this page from the same rows, and a test fails when the page
+is not what they give. What the keys are for stands in [Keys](keys.md); this page is for looking up one case.
 
 How to read a row: under the mask, from the text shown with the caret in it, the keys lead to what stands under *becomes*.
 
 - `¦` is the caret; `[` and `]` stand around what is selected.
-- Characters are typed as they stand. Keys and acts stand in braces: `{Back}` is Backspace, `{Del}` Delete, `{Ins}` Insert, `{Num.}` the point of the
-  keypad.
-- `{Blur}`: the focus leaves the field. `{Pause}`: a second goes by. `{Click4}`, `{Double4}`: a click, a double click, in front of the character at
-  position 4. `{WheelUp}`, `{WheelDown}`: a notch of the wheel. `{ReadOnly}`: the program makes the field read-only. `{Paste}`, `{Clear}`, `{Undo}`,
-  `{Redo}`: the entries of the context menu.
+- Characters are typed as they stand. Keys and acts stand in braces: `{Back}` is Backspace, `{Del}` Delete, `{Ins}` Insert, `{Num.}` the
+  point of the keypad.
+- `{Blur}`: the focus leaves the field. `{Pause}`: a second goes by. `{Click4}`, `{Double4}`: a click, a double click, in front of the
+  character at position 4. `{WheelUp}`, `{WheelDown}`: a notch of the wheel. `{ReadOnly}`: the program makes the field read-only.
+  `{Paste}`, `{Clear}`, `{Undo}`, `{Redo}`: the entries of the context menu.
 - *From* "empty": nothing is filled in. "value": the program has set this value, and the caret stands in front.
 - *Told*: in modern editing the reasons of `ZTN_REJECTED` (of numbers, the last one); in classic editing the beeps.
 
