@@ -1,6 +1,7 @@
 """Makes the page of the interface out of the headers: an anchor for each name."""
 import html
 import re
+import textwrap
 
 
 def names_of(headers):
@@ -26,8 +27,10 @@ class Writer:
         for paragraph in re.split(r"\n\s*\n", comment):
             lines = paragraph.splitlines()
             aligned = any(line.startswith(" ") or re.search(r"\S {2,}\S", line) for line in lines)
-            tag = "pre" if aligned else "p"
-            out.append(f"<{tag}>{self.linked(paragraph)}</{tag}>")
+            if aligned:
+                out.append(f"<pre>{html.escape(textwrap.dedent(paragraph), quote=False)}</pre>")
+            else:
+                out.append(f"<p>{self.linked(paragraph)}</p>")
         return "\n".join(out) if comment else ""
 
     def anchor(self, name):
