@@ -92,6 +92,15 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     target_link_options(test_soak PRIVATE -Wl,--wrap=malloc,--wrap=realloc,--wrap=free)
 endif()
 
+# The page of the manual that the keystroke tables of the tests give.
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    set(zt_page_sources classic_rows.cpp modern_number_rows.cpp modern_rows.cpp programs/write_keystrokes.cpp)
+    list(TRANSFORM zt_page_sources PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
+    add_executable(write_keystrokes ${zt_page_sources})
+    target_link_libraries(write_keystrokes PRIVATE zt_native_test_flags)
+    add_test(NAME keystrokes_page COMMAND write_keystrokes --check ${CMAKE_SOURCE_DIR}/docs/manual/keystrokes.md)
+endif()
+
 # The engine against an independent reading of its rules, over a million random keys, pastes, values and steps. The model itself
 # takes the time, so once is enough.
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)

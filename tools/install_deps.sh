@@ -1,10 +1,11 @@
 #!/bin/bash
 # Installs what building, testing and the demo need on Debian 12; does nothing when all is there.
-# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --peers | --coverage | --bindings | --package]
+# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --peers | --coverage | --bindings | --package | --manual]
 #     --clang      the second compiler and the code checkers as well
 #     --fuzz       the fuzzers of clang; --mutate  what tools/mutate needs
 #     --bench      what measuring the engine needs, --coverage what counting covered lines needs
 #     --bindings   what compiling and checking the bindings of other languages needs
+#     --manual     what building the manual as HTML needs
 #     --peers      what measuring the engine beside others of its kind needs
 set -euo pipefail
 
@@ -42,6 +43,7 @@ case ${1:-} in
     packages+=(libbenchmark-dev:/usr/include/benchmark/benchmark.h libicu-dev:/usr/include/unicode/utypes.h nodejs:node npm:npm)
     ;;
 --coverage) packages+=(gcovr:gcovr) ;;
+--manual) packages+=(pandoc:pandoc) ;;
 --package) packages+=(llvm:/usr/lib/llvm-14/bin/llvm-dlltool lld:lld-link clang:clang zip:zip unzip:unzip pkg-config:pkg-config) ;;
 --bindings)
     packages+=(clang:clang++ fp-compiler:fpc fpc-source:/usr/share/fpcsrc)

@@ -1,40 +1,10 @@
 // Arrow keys, Home and End, and clicks: where the caret may stand.
+#include "tests/support/classic_rows.h"
 #include "tests/support/engine_test.h"
 #include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
-
-// clang-format off
-const KeyCase kMoves[] = {
-    {"LeftPassesALiteral",                    "MM/DD/YY",    DT_DATE,   "07/|04/95",  "{Left}",                     "0|7/04/95",  0},
-    {"RightPassesALiteral",                   "MM/DD/YY",    DT_DATE,   "0|7/04/95",  "{Right}",                    "07/|04/95",  0},
-    {"LeftGoesOneDigit",                      "MM/DD/YY",    DT_DATE,   "07/0|4/95",  "{Left}",                     "07/|04/95",  0},
-    {"RightGoesOneDigit",                     "MM/DD/YY",    DT_DATE,   "|07/04/95",  "{Right}",                    "0|7/04/95",  0},
-    {"LeftAtTheStartStays",                   "MM/DD/YY",    DT_DATE,   "|07/04/95",  "{Left}",                     "|07/04/95",  0},
-    {"RightOnTheLastGoesToTheEnd",            "MM/DD/YY",    DT_DATE,   "07/04/9|5",  "{Right}",                    "07/04/95|",  0},
-    {"RightAtTheEndStays",                    "MM/DD/YY",    DT_DATE,   "07/04/95|",  "{Right}",                    "07/04/95|",  0},
-    {"LeftFromTheEnd",                        "MM/DD/YY",    DT_DATE,   "07/04/95|",  "{Left}",                     "07/04/9|5",  0},
-    {"RightPassesSeveralLiterals",            "(###) ###",   DT_STRING, "(55|5) 123", "{Right}",                    "(555) |123", 0},
-    {"LeftPassesSeveralLiterals",             "(###) ###",   DT_STRING, "(555) |123", "{Left}",                     "(55|5) 123", 0},
-    {"RightFromALiteral",                     "(###) ###",   DT_STRING, "(555|) 123", "{Right}",                    "(555) |123", 0},
-    {"LeftBeforeTheFirstFieldGoesToTheStart", "(###) ###",   DT_STRING, "(|555) 123", "{Left}",                     "|(555) 123", 0},
-    {"RightPassesAnEscapedLiteral",           "##~X##",      DT_STRING, "1|2X34",     "{Right}",                    "12X|34",     0},
-    {"RightStopsAtTheAmPmField",              "HH:MM AM/PM", DT_TIME,   "02:3|0 PM",  "{Right}",                    "02:30 |PM",  0},
-    {"LeftStopsAtTheAmPmField",               "HH:MM AM/PM", DT_TIME,   "02:30 P|M",  "{Left}",                     "02:30 |PM",  0},
-    {"ShiftAndRightExtendTheSelection",       "MM/DD/YY",    DT_DATE,   "0|7/04/95",  "{Shift+Right}{Shift+Right}", "0[7/]04/95", 0},
-    {"ShiftAndLeftExtendTheSelection",        "MM/DD/YY",    DT_DATE,   "07/|04/95",  "{Shift+Left}",               "07[/]04/95", 0},
-    {"HomeGoesToTheStart",                    "MM/DD/YY",    DT_DATE,   "07/|04/95",  "{Home}",                     "|07/04/95",  0},
-    {"HomeMayStandOnALiteral",                "(###) ###",   DT_STRING, "(555) |123", "{Home}",                     "|(555) 123", 0},
-    {"EndGoesToTheEnd",                       "MM/DD/YY",    DT_DATE,   "07/|04/95",  "{End}",                      "07/04/95|",  0},
-    {"ShiftAndEndSelectTheRest",              "MM/DD/YY",    DT_DATE,   "07/|04/95",  "{Shift+End}",                "07/[04/95]", 0},
-    {"InsertDoesNothing",                     "MM/DD/YY",    DT_DATE,   "07/|04/95",  "{Ins}",                      "07/|04/95",  0},
-    {"NumbersAreWalkedFreelyRight",           "#,##0.00",    DT_NUMBER, "1|,234.50",  "{Right}",                    "1,|234.50",  0},
-    {"NumbersAreWalkedFreelyLeft",            "#,##0.00",    DT_NUMBER, "1,234.|50",  "{Left}",                     "1,234|.50",  0},
-    {"NumbersOfZeroesAreWalkedByPosition",    "000.00",      DT_NUMBER, "12|3.45",    "{Right}",                    "123.|45",    0},
-    {"RightOnTheLastOfANumber",               "#,##0.00",    DT_NUMBER, "123.4|5",    "{Right}",                    "123.45|",    0},
-};
-// clang-format on
 
 class CaretKeys : public KeyTable {};
 
@@ -43,7 +13,7 @@ ROW_TEST(CaretKeys, LeadTo)
     Check(GetParam());
 }
 
-TEST_ROWS(Rows, CaretKeys, kMoves);
+TEST_ROWS(Rows, CaretKeys, classic::kMoves);
 
 struct ClickCase {
     const char* name;

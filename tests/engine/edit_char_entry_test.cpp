@@ -2,87 +2,12 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/classic_rows.h"
 #include "tests/support/engine_test.h"
 #include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
-
-// clang-format off
-const KeyCase kSteps[] = {
-    {"ADigitOverwritesItsPosition",                  "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "1",       "1|0/00/00",    0},
-    {"TheCaretPassesALiteral",                       "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "07",      "07/|00/00",    0},
-    {"APaddedDigitFillsItsField",                    "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "7",       "07/|00/00",    0},
-    {"TheLastPositionLeavesTheCaretAtTheEnd",        "MM/DD/YY",    DT_DATE,   "07/04/9|0",         "5",       "07/04/95|",    0},
-    {"AWholeDateFillsTheField",                      "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "070495",  "07/04/95|",    0},
-    {"BehindTheEndACharacterIsDroppedSilently",      "MM/DD/YY",    DT_DATE,   "07/04/95|",         "1",       "07/04/95|",    0},
-    {"ARefusedLetterBeeps",                          "MM/DD/YY",    DT_DATE,   "|07/04/95",         "x",       "|07/04/95",    1},
-    {"OnALiteralADigitBeeps",                        "MM/DD/YY",    DT_DATE,   "07|/04/95",         "1",       "07|/04/95",    1},
-    {"OnALiteralTheLiteralBeeps",                    "MM/DD/YY",    DT_DATE,   "07|/04/95",         "/",       "07|/04/95",    1},
-
-    {"ASeparatorPadsASingleDigit",                   "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "1/",      "01/|00/00",    0},
-    {"ASeparatorPadsASingleDayDigit",                "MM/DD/YY",    DT_DATE,   "text:01/|00/00",    "2/",      "01/02/|00",    0},
-    {"ASeparatorPadsInAYearFirstMask",               "YYYY-MM-DD",  DT_DATE,   "text:1995-|00-00",  "1-",      "1995-01-|00",  0},
-    {"ASeparatorPadsUnderAnotherSeparator",          "DD.MM.YY",    DT_DATE,   "text:|00.00.00",    "2.",      "02.|00.00",    0},
-    {"ASeparatorPadsUnderAKeyword",                  "[date]",      DT_DATE,   "text:|00/00/0000",  "2/",      "02/|00/0000",  0},
-    {"ASeparatorPadsBehindALiteral",                 "on MM/DD/YY", DT_DATE,   "text:on |00/00/00", "1/",      "on 01/|00/00", 0},
-    {"ASeparatorPadsAnHour",                         "HH:MM",       DT_TIME,   "|00:00",            "1:",      "01:|00",       0},
-    {"ASeparatorPadsAMinute",                        "HH:MM:SS",    DT_TIME,   "00:|00:00",         "5:",      "00:05:|00",    0},
-    {"ASeparatorAtTheStartOfAFieldGoesToTheNextOne", "MM/DD/YY",    DT_DATE,   "|07/04/95",         "/",       "07/|04/95",    0},
-    {"ASeparatorAfterItWasPassedIsTakenAsTyped",     "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "7/4/95",  "07/04/95|",    0},
-    {"ASeparatorTypedTwiceGoesOnToTheNextOne",       "MM/DD/YY",    DT_DATE,   "07/|04/95",         "/",       "07/04/|95",    0},
-    {"ASeparatorAfterAPaddedFieldTypedTwiceGoesOn",  "MM/DD/YY",    DT_DATE,   "text:|00/00/00",    "7//",     "07/00/|00",    0},
-    {"ADigitThatRecursInALaterFieldIsNoSeparator",   "MM/DD/YY",    DT_DATE,   "1|0/03/95",         "3",       "1|0/03/95",    1},
-    {"ASeparatorOfAnotherKindBeeps",                 "MM/DD/YY",    DT_DATE,   "|07/04/95",         "-",       "|07/04/95",    1},
-    {"AnEscapedLiteralIsNotSkippedTo",               "##~-##",      DT_STRING, "text:|  -  ",       "1-",      "1| -  ",       1},
-    {"AnUnescapedLiteralIsSkippedTo",                "##-##",       DT_STRING, "text:|  -  ",       "1-",      "1 -|  ",       0},
-    {"ALiteralOfSeveralIsSkippedWithTheRest",        "(###) ###",   DT_STRING, "text:(|   )    ",   "5)",      "(5  ) |   ",   0},
-
-    {"AMonthBehindALetterHIsAMonth",                 "OHIO MM/DD/YY", DT_DATE, "text:OHIO |00/00/00", "45",     "OHIO 04/05/|00", 0},
-    {"MonthThirteenBehindALetterHIsRefused",         "OHIO MM/DD/YY", DT_DATE, "text:OHIO |00/00/00", "13",     "OHIO 1|0/00/00", 1},
-    {"MonthFortyFiveBehindALetterHIsRefused",        "OHIO MM/DD/YY", DT_DATE, "text:OHIO 1|0/00/00", "5",      "OHIO 1|0/00/00", 1},
-
-    {"BeforeTheFirstFieldTheCharacterGoesThere",     "(###) ###",   DT_STRING, "|(555) 123",        "7",       "(7|55) 123",   0},
-    {"BeforeTheFirstFieldARefusedCharacterBeeps",    "(###) ###",   DT_STRING, "|(555) 123",        "x",       "(|555) 123",   1},
-
-    {"ASelectionIsClearedFirst",                     "MM/DD/YY",    DT_DATE,   "[07]/04/95",        "1",       "1|0/04/95",    0},
-    {"AWholeSelectionIsClearedToTheBlank",           "MM/DD/YY",    DT_DATE,   "[07/04/95]",        "1",       "1|0/00/00",    0},
-    {"ASelectedLiteralStands",                       "MM/DD/YY",    DT_DATE,   "07[/0]4/95",        "1",       "07|/04/95",    1},
-    {"ASelectionInAStringIsBlanked",                 "##-##",       DT_STRING, "[12-3]4",           "5",       "5| - 4",       0},
-
-    {"PmLetterFromTheHour",                          "HH:MM AM/PM", DT_TIME,   "|02:30 AM",         "P",       "02:30 PM|",    0},
-    {"AmLetterFromTheHour",                          "HH:MM AM/PM", DT_TIME,   "|02:30 PM",         "A",       "02:30 AM|",    0},
-    {"PmLetterFromTheMinute",                        "HH:MM AM/PM", DT_TIME,   "02:3|0 AM",         "P",       "02:30 PM|",    0},
-    {"PmLetterInADateTime", "MM/DD/YY HH:MM AM/PM", DT_DATETIME, "|07/04/95 02:30 AM", "P", "07/04/95 02:30 PM|", 0},
-    {"PmLetterInLowerCase",                          "HH:MM AM/PM", DT_TIME,   "|02:30 AM",         "p",       "02:30 PM|",    0},
-    {"AmLetterInLowerCase",                          "HH:MM AM/PM", DT_TIME,   "|02:30 PM",         "a",       "02:30 AM|",    0},
-    {"PmLetterOverASelection",                       "HH:MM AM/PM", DT_TIME,   "02:[30] AM",        "p",       "02:00 PM|",    0},
-    {"PmLetterBehindTheEnd",                         "HH:MM AM/PM", DT_TIME,   "02:30 AM|",         "p",       "02:30 PM|",    0},
-    {"PmLetterInAFieldBeforeTheHour",                "AM/PM HH:MM", DT_TIME,   "AM 02:3|0",         "p",       "PM |02:30",    0},
-    {"ATimeInTheEvening",                            "HH:MM AM/PM", DT_TIME,   "|00:00 AM",         "9:30p",   "09:30 PM|",    0},
-    {"AMonthNameTakesItsLetters",     "DD-MMM-YY HH:MM AM/PM", DT_DATETIME, "04-|JUL-95 02:30 PM", "a", "04-A|PR-95 02:30 PM", 0},
-    {"AMonthNameTakesALetterInside",  "DD-MMM-YY HH:MM AM/PM", DT_DATETIME, "04-J|UL-95 02:30 PM", "a", "04-JA|N-95 02:30 PM", 0},
-    {"AMonthNameLeavesOtherLetters",  "DD-MMM-YY HH:MM AM/PM", DT_DATETIME, "04-|JUL-95 02:30 AM", "p", "04-JUL-95 02:30 PM|", 0},
-    {"BeforeTheFirstFieldTheMonthNameTakesALetter", "(MMM/YY HH:MM AM/PM", DT_DATETIME, "|(JUL/95 02:30 PM", "a", "(A|PR/95 02:30 PM", 0},
-    {"AnyCharacterTakesALetter",                     "XHH:MM AM/PM", DT_TIME,  "| 02:30 AM",        "p",       "p|02:30 AM",   0},
-    {"ACapitalPositionTakesALetter",                 "!HH:MM AM/PM", DT_TIME,  "| 02:30 AM",        "p",       "P|02:30 AM",   0},
-    {"ASmallPositionTakesALetter",                   "^HH:MM AM/PM", DT_TIME,  "| 02:30 AM",        "P",       "p|02:30 AM",   0},
-    {"ADigitOnTheAmPmFieldBeeps",                    "HH:MM AM/PM", DT_TIME,   "02:30 |AM",         "1",       "02:30 |AM",    1},
-    {"ADigitInsideTheAmPmFieldBeeps",                "HH:MM AM/PM", DT_TIME,   "02:30 A|M",         "1",       "02:30 A|M",    1},
-    {"TheCaretStopsAtTheAmPmField",                  "HH:MM AM/PM", DT_TIME,   "01:3|1 AM",         "0",       "01:30 |AM",    0},
-    {"ATwelveHourTime",                              "HH:MM AM/PM", DT_TIME,   "|02:00 AM",         "1230P",   "12:30 PM|",    0},
-
-    {"AStringWithoutLiteralsFillsUp",                "####",        DT_STRING, "|",                 "12",      "12|",          0},
-    {"AStringWithoutLiteralsOverwrites",             "####",        DT_STRING, "1|234",             "9",       "19|34",        0},
-    {"AStringWithoutAMaskInserts",                   "",            DT_STRING, "ab|c",              "xy",      "abxy|c",       0},
-
-    {"ANewlineIsRefusedAnywhere",                    "XX",          DT_STRING, "|ab",               "{Enter}", "|ab",          1},
-    {"AControlCharacterIsRefusedAnywhere",           "XX",          DT_STRING, "|ab",               "\x05",    "|ab",          1},
-    {"TabIsSwallowed",                               "XX",          DT_STRING, "|ab",               "{Tab}",   "|ab",          0},
-    {"EscapeIsSwallowed",                            "XX",          DT_STRING, "|ab",               "{Esc}",   "|ab",          0},
-    {"ABlankIsACharacter",                           "XX",          DT_STRING, "|ab",               " ",       " |b",          0},
-};
-// clang-format on
 
 class CharEntry : public KeyTable {};
 
@@ -91,27 +16,7 @@ ROW_TEST(CharEntry, LeadsTo)
     Check(GetParam());
 }
 
-TEST_ROWS(Rows, CharEntry, kSteps);
-
-// Fields behind the AM/PM field stand further left than the mask writes them.
-// clang-format off
-const KeyCase kBehindAmPm[] = {
-    {"TheHourIsTypedWhereItStands",      "AM/PM HH:MM",        DT_TIME,     "PM |02:30",           "1123",   "PM 11:23|",           0},
-    {"AnHourIsPadded",                   "AM/PM HH:MM",        DT_TIME,     "PM |02:30",           "9",      "PM 09:|30",           0},
-    {"ASeparatorPads",                   "AM/PM HH:MM",        DT_TIME,     "PM |02:30",           "1:",     "PM 01:|30",           0},
-    {"AMinuteIsRefused",                 "AM/PM HH:MM",        DT_TIME,     "PM 1|2:30",           "3",      "PM 1|2:30",           1},
-    {"TheMinuteBehindIsTyped",           "HH AM/PM:MM",        DT_TIME,     "0|2 PM:30",           "345",    "03 |PM:30",           2},
-    {"TheLetterGoesOnToTheFieldBehind",  "HH AM/PM:MM",        DT_TIME,     "|02 AM:30",           "p45",    "02 PM:45|",           0},
-    {"BackspaceBlanksADigitBehind",      "HH AM/PM:MM",        DT_TIME,     "02 PM:3|0",           "{Back}", "02 PM:|00",           0},
-    {"DeleteBlanksADigitBehind",         "HH AM/PM:MM",        DT_TIME,     "02 PM:|30",           "{Del}",  "02 PM:|00",           0},
-    {"ASelectionKeepsTheDesignator",     "HH AM/PM:MM",        DT_TIME,     "[02 PM:30]",          "{Del}",  "|00 PM:00",           0},
-    {"RightGoesOnBehindIt",              "HH AM/PM:MM",        DT_TIME,     "02 |PM:30",           "{Right}", "02 PM:|30",          0},
-    {"LeftComesBackToIt",                "HH AM/PM:MM",        DT_TIME,     "02 PM:|30",           "{Left}", "02 |PM:30",           0},
-    {"BehindTheEndNothingIsTaken",       "HH AM/PM:MM",        DT_TIME,     "02 PM:30|",           "1",      "02 PM:30|",           0},
-    {"TheMonthBehindLimitsTheDay",       "AM/PM MM/DD/YY HH:MM", DT_DATETIME, "PM 02/|04/95 02:30", "3",     "PM 02/03/|95 02:30",  0},
-    {"TheYearBehindIsTyped",             "AM/PM MM/DD/YY HH:MM", DT_DATETIME, "PM 02/04/|95 02:30", "96",    "PM 02/04/96 |02:30",  0},
-};
-// clang-format on
+TEST_ROWS(Rows, CharEntry, classic::kCharacters);
 
 class BehindAmPm : public KeyTable {};
 
@@ -120,7 +25,7 @@ ROW_TEST(BehindAmPm, LeadsTo)
     Check(GetParam());
 }
 
-TEST_ROWS(Rows, BehindAmPm, kBehindAmPm);
+TEST_ROWS(Rows, BehindAmPm, classic::kBehindAmPm);
 
 // Other designators than AM and PM: given and shown are times under them.
 struct DesignatorCase {

@@ -1,107 +1,11 @@
 // Whoever types a number gets that number: as a clerk types it, over what stands there, with Home, Backspace, a minus, a point
 // and a wrong key on the way.
+#include "tests/support/classic_rows.h"
 #include "tests/support/engine_test.h"
 #include "tests/support/rows.h"
 
 namespace zttest {
 namespace {
-
-// clang-format off
-const KeyCase kLawRows[] = {
-    // Masks of '0' alone are filled from their first position.
-    {"FourDigitsOverFour",                     "0000",         DT_NUMBER,  "[1234]",         "5678",            "5678|",          0},
-    {"AnAmountOverForcedZeros",                "00.00",        DT_NUMBER,  "[12.34]",        "56.78",           "56.78|",         0},
-    {"FewerDigitsAndThePoint",                 "00.00",        DT_NUMBER,  "[12.34]",        "6.78",            "06.78|",         0},
-    {"ThePointFirst",                          "00.00",        DT_NUMBER,  "[12.34]",        ".5",              "00.5|0",         0},
-    {"AForcedPercentage",                      "000.0%",       DT_NUMBER,  "[099.9%]",       "12.5",            "012.5|%",        0},
-    {"AForcedPercentageOfWholes",              "000%",         DT_NUMBER,  "[099]%",         "125",             "125|%",          0},
-    {"ASignTakesNoDigitsPlace",                "000",          DT_NUMBER,  "|123",           "-",               "-|123",          0},
-    {"ASignAndAllDigits",                      "000",          DT_NUMBER,  "[123]",          "-456",            "-456|",          0},
-    {"EmptiedByDelete",                        "0000",         DT_NUMBER,  "[1234]",         "{Del}5678",       "5678|",          0},
-    {"EmptiedByBackspaces",                    "0000",         DT_NUMBER,  "1234|",          "{Back}{Back}{Back}{Back}5678", "5678|", 0},
-    {"EmptiedByDeletes",                       "00.00",        DT_NUMBER,  "|12.00",         "{Del}{Del}56.78", "56.78|",         0},
-    {"OneDigitOfAForcedNumber",                "0000",         DT_NUMBER,  "1[2]34",         "7",               "17|34",          0},
-    {"TheLastDigitOfForcedZeros",              "000",          DT_NUMBER,  "00[0]",          "9",               "009|",           0},
-
-    // The point.
-    {"AHalfOverANumber",                       "#,##0.00",     DT_NUMBER,  "[1,234.56]",     ".5",              "0.5|0",          0},
-    {"AHalfWithItsZero",                       "#,##0.00",     DT_NUMBER,  "[1,234.56]",     "0.5",             "0.5|0",          0},
-    {"WhatStoodLeftOfADeletedPointStaysThere", "#,##0.00",     DT_NUMBER,  "13[.00]",        "{Del}",           "13|.00",         0},
-    {"APointInFrontOfTheFraction",             ".00",          DT_NUMBER,  "|.00",           "0.5",             ".5|0",           0},
-    {"TypedZerosOfAnOpenFractionStay",         "#.##",         DT_NUMBER,  "|.",             ".05",             ".05|",           0},
-    {"ARefusedKeyDropsNoTypedZero",            "#.##",         DT_NUMBER,  "|.",             ".0x5",            ".05|",           1},
-    {"APointBeforeTheSignTakesItAway",         "#,##0.00",     DT_NUMBER,  "|-3.80",         ".",               "0.|80",          0},
-    {"APointBehindTheSignLeavesIt",            "#,##0.00",     DT_NUMBER,  "-|3.80",         ".",               "-0.|80",         0},
-    {"ASecondPointBeeps",                      "#,##0.00",     DT_NUMBER,  "[5.00]",         "1.2.3",           "1.23|",          1},
-
-    // The minus.
-    {"MinusAHalf",                             "#,##0.00",     DT_NUMBER,  "[5.00]",         "-0.5",            "-0.5|0",         0},
-    {"MinusAHalfWithoutItsZero",               "#,##0.00",     DT_NUMBER,  "[5.00]",         "-.5",             "-0.5|0",         0},
-    {"MinusFiveHundredths",                    "#,##0.00",     DT_NUMBER,  "|0.00",          "-0.05",           "-0.05|",         0},
-    {"MinusAHalfWhereZerosAreNotShown",        "#,#.00",       DT_NUMBER,  "|.00",           "-0.5",            "-.5|0",          0},
-    {"MinusOverAnAmountOfMoney",               "[currency(9)]", DT_NUMBER, "[$12.00]",       "-5",              "$-5|.00",        0},
-    {"MinusOverAnAmountWithASymbol",           "$#,##0.00",    DT_NUMBER,  "[$12.00]",       "-56",             "$-56|.00",       0},
-    {"MinusOverWholeMoney",                    "$###",         DT_NUMBER,  "[$12]",          "-56",             "$-56|",          0},
-    {"MinusFromTheFirstDigit",                 "$#,##0.00",    DT_NUMBER,  "$[12.00]",       "-56",             "$-56|.00",       0},
-    {"ASignTakesNoRoom",                       "#,##0.00",     DT_NUMBER,  "[5.00]",         "-1234.56",        "-1,234.56|",     0},
-    {"ASignAsItIsRead",                        "#,##0.00",     DT_NUMBER,  "[5.00]",         "-1,234.56",       "-1,234.56|",     1},
-    {"ASignBeforeAFullNumber",                 "#,###.00",     DT_NUMBER,  "|1,234.56",      "-",               "-|1,234.56",     0},
-    {"ASignIsStillThereAfterAWrongKey",        "#,##0.00",     DT_NUMBER,  "[5.00]",         "-x5",             "-5|.00",         1},
-    {"APlusIsNotShown",                        "#,##0.00",     DT_NUMBER,  "[5.00]",         "+12",             "12|.00",         0},
-    {"APlusInTheMiddleBeeps",                  "#,##0.00",     DT_NUMBER,  "1|2.00",         "+",               "1|2.00",         1},
-    {"APlusTakesAMinusAway",                   "#,##0.00",     DT_NUMBER,  "|-12.00",        "+",               "|12.00",         0},
-    {"BackspaceTakesTheSignOnlyAtIt",          "##0",          DT_NUMBER,  "-6|",            "{Back}5",         "-5|",            0},
-    {"BackspaceAtTheSign",                     "##0",          DT_NUMBER,  "-|6",            "{Back}",          "|6",             0},
-
-    // Zeros.
-    {"AZeroFirst",                             "#,#.00",       DT_NUMBER,  "|.00",           "05",              "5|.00",          0},
-    {"AZeroBeforeThreeDigits",                 "#,###,###.00", DT_NUMBER,  "|.00",           "0123",            "123|.00",        0},
-    {"BeforeAZeroThatNobodyTyped",             "#,##0.00",     DT_NUMBER,  "|0.00",          "5",               "5|.00",          0},
-    {"BehindAZeroThatNobodyTyped",             "#,##0.00",     DT_NUMBER,  "0|.00",          "5",               "5|.00",          0},
-    {"AmongZerosThatNobodyTyped",              "#,#00.00",     DT_NUMBER,  "0|0.00",         "57",              "57|.00",         0},
-    {"AfterSixBackspaces",                     "#,##0.00",     DT_NUMBER,  "45.00|",
-     "{Back}{Back}{Back}{Back}{Back}{Back}12", "12|.00", 0},
-    {"AfterTwoBackspaces",                     "##0",          DT_NUMBER,  "10|",            "{Back}{Back}25",  "25|",            0},
-    {"AfterDelete",                            "#,##0.00",     DT_NUMBER,  "[123.45]",       "{Del}53",         "53|.00",         0},
-    {"FromTheFirstDigitToTheEnd",              "$#,##0.00",    DT_NUMBER,  "$[12.00]",       "12",              "$12|.00",        0},
-
-    // What stands around the number.
-    {"AnAmountAsItIsShown",                    "$#,##0.00",    DT_NUMBER,  "[$12.00]",       "$1234.50",        "$1,234.50|",     0},
-    {"TheSymbolOverAnEmptiedAmount",           "$#,##0.00",    DT_NUMBER,  "[$12.00]",       "{Del}$5",         "$5|.00",         0},
-    {"TheSymbolFromHome",                      "$#,##0.00",    DT_NUMBER,  "|$0.00",         "$5",              "$5|.00",         0},
-    {"ASecondSymbolBeeps",                     "$#,##0.00",    DT_NUMBER,  "[$12.00]",       "$$5",             "$5|.00",         1},
-    {"ASeparatorBeepsAndChangesNothing",       "$#,##0.00",    DT_NUMBER,  "[$12.00]",       "$1,234.50",       "$1,234.50|",     1},
-    {"AnOptionalPercentage",                   "##0%",         DT_NUMBER,  "[12]%",          "125",             "125|%",          0},
-    {"AnOptionalPercentageDeleted",            "##0%",         DT_NUMBER,  "[12]%",          "{Del}125",        "125|%",          0},
-    {"APercentageThatShowsNoZero",             "###%",         DT_NUMBER,  "[12%]",          "125",             "125|%",          0},
-    {"AZeroBeforeAPercentage",                 "###%",         DT_NUMBER,  "[12%]",          "056",             "56|%",           0},
-    {"AZeroBeforeAShortPercentage",            "#%",           DT_NUMBER,  "[5%]",           "07",              "7|%",            0},
-    {"ThePercentSignIsPassed",                 "##0%",         DT_NUMBER,  "[12%]",          "25%",             "25%|",           0},
-    {"OverOneDigitOfAFraction",                "#,##0.00%",    DT_NUMBER,  "65.0[0]%",       "5",               "65.05|%",        0},
-    {"OverTheFirstDigitOfAFraction",           "#,##0.00",     DT_NUMBER,  "12.[3]4",        "7",               "12.7|4",         0},
-
-    // Wrong keys.
-    {"AWrongKeyOverANumber",                   "#,##0.00",     DT_NUMBER,  "[1,234.50]",     "x12",             "12|.00",         1},
-    {"AWrongKeyBetween",                       "#,##0.00",     DT_NUMBER,  "[1,234.50]",     "1x2",             "12|.00",         1},
-    {"AWrongKeyAtASeparator",                  "#,##0.00",     DT_NUMBER,  "1|,234.00",      "x",               "1|,234.00",      1},
-
-    // Backspace and separators.
-    {"BackspaceBeforeThePoint",                "#,##0.00",     DT_NUMBER,  "1,234|.00",      "{Back}",          "123|.00",        0},
-    {"BackspaceInTheFractionLeavesAZero",      "#,##0.00",     DT_NUMBER,  "12.5|6",         "{Back}",          "12.|06",         0},
-    {"BackspaceInAnOpenFraction",              "#,##0.##",     DT_NUMBER,  "12.5|6",         "{Back}",          "12.|6",          0},
-    {"BackspaceBehindThePercentSign",          "##0%",         DT_NUMBER,  "12%|",           "{Back}",          "1|%",            0},
-
-    // Full.
-    {"TheSeparatorIsNotOverwritten",           "#,###,###.00", DT_NUMBER,  "1|,234,567.89",  "9",               "1,9|34,567.89",  0},
-    {"AFullNumberIsTypedOver",                 "#,#.00",       DT_NUMBER,  "|123.00",        "456",             "456.|00",        0},
-    {"AFullNumberIsTypedOverWithAZero",        "#,#.00",       DT_NUMBER,  "|123.00",        "056",             "056.|00",        0},
-    {"TwentyDigits",                           "####################", DT_NUMBER, "|",
-     "12345678901234567890", "12345678901234567890|", 0},
-    {"TwentyDigitsOfADecimal",                 "####################", DT_DECIMAL, "|",
-     "12345678901234567890", "12345678901234567890|", 0},
-    {"AFullPercentageBeeps",                   "##0%",         DT_NUMBER,  "125|%",          "6",               "125|%",          1},
-};
-// clang-format on
 
 class NumberLaw : public KeyTable {};
 
@@ -110,36 +14,7 @@ ROW_TEST(NumberLaw, LeadsTo)
     Check(GetParam());
 }
 
-TEST_ROWS(UnitedStates, NumberLaw, kLawRows);
-
-// clang-format off
-const KeyCase kCzechRows[] = {
-    {"TypedAfterABackspace",         "[currency(7)]", DT_NUMBER,  "[567]Kc",      "56{Back}7",  "57|Kc",       0},
-    {"TypedOverTheWhole",            "[currency(5)]", DT_NUMBER,  "[123]Kc",      "456",        "456|Kc",      0},
-    {"NothingIsShownAsZero",         "[currency(5)]", DT_NUMBER,  "[123]Kc",      "{Del}",      "|0Kc",        0},
-    {"TheSymbolBehindIsPassed",      "[currency(5)]", DT_NUMBER,  "[123Kc]",      "456Kc",      "456Kc|",      0},
-    {"AZeroFirst",                   "[currency(8)]", DT_NUMBER,  "[123Kc]",      "056",        "56|Kc",       0},
-    {"FullBeforeTheSymbolBeeps",     "[currency(3)]", DT_NUMBER,  "123|Kc",       "4",          "123|Kc",      1},
-};
-
-const KeyCase kDanishRows[] = {
-    {"ASymbolWithAPoint",            "[currency(9)]", DT_NUMBER,  "|kr.,00",      "1234,5",     "kr.1.234,5|0", 0},
-    {"TypedAsItIsShown",             "[currency(9)]", DT_NUMBER,  "[kr.12,00]",   "kr.5,25",    "kr.5,25|",    0},
-    {"TheMaskOfAForm",               "kr.#,##0",      DT_NUMBER,  "[kr.12]",      "kr.57",      "kr.57|",      0},
-};
-
-const KeyCase kSwissFrancRows[] = {
-    {"ASymbolWithThePoint",          "[currency(9)]", DT_NUMBER,  "|Fr..00",      "1234.5",     "Fr.1'234.5|0", 0},
-    {"TypedAsItIsShown",             "[currency(9)]", DT_NUMBER,  "[Fr.12.00]",   "Fr.5.25",    "Fr.5.25|",    0},
-    {"APointFirstBeginsTheFraction", "[currency(9)]", DT_NUMBER,  "[Fr.12.00]",   ".25",        "Fr..25|",     0},
-};
-
-const KeyCase kMexicanRows[] = {
-    {"LettersThatMasksRead",         "[currency(9)]", DT_NUMBER,  "[MXN12.00]",   "1234.5",     "MXN1,234.5|0", 0},
-    {"TypedAsItIsShown",             "[currency(9)]", DT_DECIMAL, "[MXN12.00]",   "MXN5.25",    "MXN5.25|",    0},
-    {"ASignBehindTheSymbol",         "[currency(9)]", DT_NUMBER,  "[MXN12.00]",   "-5",         "MXN-5|.00",   0},
-};
-// clang-format on
+TEST_ROWS(UnitedStates, NumberLaw, classic::kNumberLaw);
 
 RegionalSet Currency(const RegionalSet& set, const char* symbol, const char* position, const char* digits)
 {
@@ -180,10 +55,10 @@ ROW_TEST(MexicanNumberLaw, LeadsTo)
     Check(GetParam());
 }
 
-TEST_ROWS(Rows, CzechNumberLaw, kCzechRows);
-TEST_ROWS(Rows, DanishNumberLaw, kDanishRows);
-TEST_ROWS(Rows, SwissFrancNumberLaw, kSwissFrancRows);
-TEST_ROWS(Rows, MexicanNumberLaw, kMexicanRows);
+TEST_ROWS(Rows, CzechNumberLaw, classic::kCzechNumbers);
+TEST_ROWS(Rows, DanishNumberLaw, classic::kDanishNumbers);
+TEST_ROWS(Rows, SwissFrancNumberLaw, classic::kSwissFrancNumbers);
+TEST_ROWS(Rows, MexicanNumberLaw, classic::kMexicanNumbers);
 
 // What is read back while and after a number is typed.
 struct ReadCase {

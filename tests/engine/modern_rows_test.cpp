@@ -13,40 +13,17 @@ namespace {
 
 using typing::TypingRow;
 
-// An act of the rows: a key under its name at the keyboard, or what else is done to the control.
+// What is done to the control by no key.
 struct ActRow {
     const char* name;
-    const char* key;
     void (*act)(MaskedEdit&);
 };
 
 constexpr ActRow kActs[] = {
-    {"Bs",        "{Back}",       nullptr                                           },
-    {"CtrlBs",    "{Ctrl+Back}",  nullptr                                           },
-    {"Del",       "{Del}",        nullptr                                           },
-    {"CtrlDel",   "{Ctrl+Del}",   nullptr                                           },
-    {"ShiftDel",  "{Shift+Del}",  nullptr                                           },
-    {"ShiftIns",  "{Shift+Ins}",  nullptr                                           },
-    {"Left",      "{Left}",       nullptr                                           },
-    {"Right",     "{Right}",      nullptr                                           },
-    {"CtrlLeft",  "{Ctrl+Left}",  nullptr                                           },
-    {"CtrlRight", "{Ctrl+Right}", nullptr                                           },
-    {"Home",      "{Home}",       nullptr                                           },
-    {"End",       "{End}",        nullptr                                           },
-    {"Up",        "{Up}",         nullptr                                           },
-    {"Down",      "{Down}",       nullptr                                           },
-    {"PageUp",    "{PgUp}",       nullptr                                           },
-    {"PageDown",  "{PgDn}",       nullptr                                           },
-    {"All",       "{Ctrl+A}",     nullptr                                           },
-    {"CtrlV",     "{Ctrl+V}",     nullptr                                           },
-    {"CtrlX",     "{Ctrl+X}",     nullptr                                           },
-    {"CtrlZ",     "{Ctrl+Z}",     nullptr                                           },
-    {"Escape",    "{Esc}",        nullptr                                           },
-    {"Cut",       "{Ctrl+X}",     nullptr                                           },
-    {"Paste",     nullptr,        [](MaskedEdit& control) { control.Paste(); }      },
-    {"Undo",      nullptr,        [](MaskedEdit& control) { control.Undo(); }       },
-    {"Blur",      nullptr,        [](MaskedEdit& control) { control.LoseFocus(); }  },
-    {"ReadOnly",  nullptr,        [](MaskedEdit& control) { control.SetReadOnly(); }},
+    {"Paste",    [](MaskedEdit& control) { control.Paste(); }      },
+    {"Undo",     [](MaskedEdit& control) { control.Undo(); }       },
+    {"Blur",     [](MaskedEdit& control) { control.LoseFocus(); }  },
+    {"ReadOnly", [](MaskedEdit& control) { control.SetReadOnly(); }},
 };
 
 const ActRow* ActNamed(const std::string& name)
@@ -77,7 +54,7 @@ bool CanBePlayed(const TypingRow& row)
     bool all = std::strcmp(row.setup.am, "AM") == 0;
     const bool fromToday = (row.setup.options & ZTEO_SPIN) != 0 && !row.before;
     Walk(
-        row.keys, [](char) {}, [&](const std::string& name) { all = all && ActNamed(name); });
+        row.keys, [](char) {}, [&](const std::string& name) { all = all && (typing::KeyOf(name) || ActNamed(name)); });
     return all && !fromToday;
 }
 
@@ -110,11 +87,10 @@ protected:
 
     void Do(const std::string& name)
     {
-        const ActRow& row = *ActNamed(name);
-        if (row.act)
-            row.act(*control_);
+        if (const char* key = typing::KeyOf(name))
+            Play(key);
         else
-            Play(row.key);
+            ActNamed(name)->act(*control_);
     }
 };
 
@@ -154,34 +130,15 @@ TEST_ROWS(Choices, ModernRows, kChoices);
 
 using modern_numbers::KeyRow;
 
-// The keypad's key and other settings than those in force are played over the functions alone.
+// Rows of other settings than those in force are played over the functions alone.
 std::vector<KeyRow> Playable(const std::vector<KeyRow>& rows)
 {
     std::vector<KeyRow> playable;
     for (const KeyRow& row : rows)
-        if (std::strcmp(row.region, "US") == 0 && !std::strchr(row.keys, 'k'))
+        if (std::strcmp(row.region, "US") == 0)
             playable.push_back(row);
     return playable;
 }
-
-struct NumberKey {
-    char letter;
-    const char* key;
-};
-
-constexpr NumberKey kNumberKeys[] = {
-    {'b', "{Back}"      },
-    {'d', "{Del}"       },
-    {'B', "{Ctrl+Back}" },
-    {'D', "{Ctrl+Del}"  },
-    {'h', "{Home}"      },
-    {'e', "{End}"       },
-    {'<', "{Left}"      },
-    {'>', "{Right}"     },
-    {'[', "{Ctrl+Left}" },
-    {']', "{Ctrl+Right}"},
-    {'a', "{Ctrl+A}"    },
-};
 
 class ModernNumberRows : public EditTest, public OfRow<KeyRow> {
 protected:
@@ -201,12 +158,10 @@ protected:
 
     void Press(char letter)
     {
-        const auto* const found = std::find_if(std::begin(kNumberKeys), std::end(kNumberKeys),
-                                               [=](const NumberKey& row) { return row.letter == letter; });
         if (letter == 'l')
             control_->LoseFocus();
-        else if (found != std::end(kNumberKeys))
-            Play(found->key);
+        else if (const char* key = modern_numbers::KeyOf(letter))
+            Play(key);
         else
             Type(std::string(1, letter));
     }

@@ -8,13 +8,6 @@
 namespace zttest {
 namespace {
 
-std::string WithTabs(std::string text)
-{
-    for (size_t at = text.find("<tab>"); at != std::string::npos; at = text.find("<tab>"))
-        text.replace(at, 5, "\t");
-    return text;
-}
-
 class DocumentedSteps : public SpinTest, public OfRow<DocumentRow> {
 protected:
     void StepAll(const std::string& keys)

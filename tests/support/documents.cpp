@@ -124,4 +124,27 @@ int32_t TypeNamed(const std::string& name)
     return DT_STRING;
 }
 
+const RegionalSet& SettingsNamed(const std::string& name)
+{
+    static const std::map<std::string, const RegionalSet*> sets = {
+        {"US",     &kUnitedStates},
+        {"German", &kGerman      },
+        {"French", &kFrench      },
+        {"Swiss",  &kSwiss       },
+        {"ISO",    &kIso         }
+    };
+    const auto found = sets.find(name);
+    if (found != sets.end())
+        return *found->second;
+    ADD_FAILURE() << "unknown settings " << name;
+    return kUnitedStates;
+}
+
+std::string WithTabs(std::string text)
+{
+    for (size_t at = text.find("<tab>"); at != std::string::npos; at = text.find("<tab>"))
+        text.replace(at, 5, "\t");
+    return text;
+}
+
 }  // namespace zttest

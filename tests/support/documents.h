@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/profile.h"
+
 namespace zttest {
 
 // One row of a table. A cell is asked for by the heading of its column.
@@ -28,5 +30,11 @@ std::string LineName(const DocumentRow& row);
 
 // The data type that the documentation calls by a name.
 int32_t TypeNamed(const std::string& name);
+
+// The settings that the documentation calls by a name.
+const RegionalSet& SettingsNamed(const std::string& name);
+
+// "<tab>" as it is meant.
+std::string WithTabs(std::string text);
 
 }  // namespace zttest

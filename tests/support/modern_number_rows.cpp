@@ -1,6 +1,7 @@
 // What keys leave of numbers in modern editing.
 #include "tests/support/modern_number_rows.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace zttest::modern_numbers {
@@ -11,6 +12,26 @@ void PrintTo(const KeyRow& row, std::ostream* out)
 }
 
 namespace {
+
+struct NumberKey {
+    char letter;
+    const char* key;
+};
+
+constexpr NumberKey kLetterKeys[] = {
+    {'b', "{Back}"      },
+    {'d', "{Del}"       },
+    {'B', "{Ctrl+Back}" },
+    {'D', "{Ctrl+Del}"  },
+    {'h', "{Home}"      },
+    {'e', "{End}"       },
+    {'<', "{Left}"      },
+    {'>', "{Right}"     },
+    {'[', "{Ctrl+Left}" },
+    {']', "{Ctrl+Right}"},
+    {'a', "{Ctrl+A}"    },
+    {'k', "{Num.}"      },
+};
 
 // clang-format off
 const KeyRow kDigits[] = {
@@ -301,6 +322,13 @@ const KeyRow kCaret[] = {
 // clang-format on
 
 }  // namespace
+
+const char* KeyOf(char letter)
+{
+    const auto* const found = std::find_if(std::begin(kLetterKeys), std::end(kLetterKeys),
+                                           [=](const NumberKey& row) { return row.letter == letter; });
+    return found == std::end(kLetterKeys) ? nullptr : found->key;
+}
 
 const std::vector<KeyRow>& NumberDigits()
 {

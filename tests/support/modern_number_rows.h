@@ -21,6 +21,32 @@ struct KeyRow {
 };
 void PrintTo(const KeyRow& row, std::ostream* out);
 
+// The key that a letter of the rows stands for, as keyboards name it; null for others.
+const char* KeyOf(char letter);
+
+// The settings of the rows.
+struct Region {
+    const char* name;
+    char decimal;
+    char thousand;
+    const char* symbol;
+    int32_t position;
+};
+
+inline constexpr Region kRegions[] = {
+    {"US", '.',    ',',    "$",   0},
+    {"DE", ',',    '.',    "EUR", 3},
+    {"FR", ',',    ' ',    "F",   3},
+    {"NB", ',',    '\xA0', "F",   3},
+    {"CH", '.',    '\'',   "Fr.", 2},
+    {"DK", ',',    '.',    "kr.", 2},
+    {"IR", '/',    ',',    "R",   0},
+    {"EQ", '.',    '.',    "$",   0},
+    {"RP", '\xB7', '_',    "L",   0},
+    {"FB", '.',    ',',    "F.-", 1},
+    {"PB", '.',    ',',    ".-",  1},
+};
+
 const std::vector<KeyRow>& NumberDigits();
 const std::vector<KeyRow>& NumberSigns();
 const std::vector<KeyRow>& NumberSeparators();

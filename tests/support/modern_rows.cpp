@@ -1,6 +1,7 @@
 // What keys, acts and the mouse leave of dates, times, strings and code tables in modern editing.
 #include "tests/support/modern_rows.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace zttest::typing {
@@ -11,6 +12,37 @@ void PrintTo(const TypingRow& row, std::ostream* out)
 }
 
 namespace {
+
+struct ActKey {
+    const char* act;
+    const char* key;
+};
+
+constexpr ActKey kActKeys[] = {
+    {"Bs",        "{Back}"      },
+    {"CtrlBs",    "{Ctrl+Back}" },
+    {"Del",       "{Del}"       },
+    {"CtrlDel",   "{Ctrl+Del}"  },
+    {"ShiftDel",  "{Shift+Del}" },
+    {"ShiftIns",  "{Shift+Ins}" },
+    {"Left",      "{Left}"      },
+    {"Right",     "{Right}"     },
+    {"CtrlLeft",  "{Ctrl+Left}" },
+    {"CtrlRight", "{Ctrl+Right}"},
+    {"Home",      "{Home}"      },
+    {"End",       "{End}"       },
+    {"Up",        "{Up}"        },
+    {"Down",      "{Down}"      },
+    {"PageUp",    "{PgUp}"      },
+    {"PageDown",  "{PgDn}"      },
+    {"All",       "{Ctrl+A}"    },
+    {"CtrlV",     "{Ctrl+V}"    },
+    {"CtrlX",     "{Ctrl+X}"    },
+    {"CtrlY",     "{Ctrl+Y}"    },
+    {"CtrlZ",     "{Ctrl+Z}"    },
+    {"Escape",    "{Esc}"       },
+    {"Cut",       "{Ctrl+X}"    },
+};
 
 // clang-format off
 const TypingRow kDateRows[] = {
@@ -367,6 +399,13 @@ const TypingRow kChoiceRows[] = {
 };
 
 }  // namespace
+
+const char* KeyOf(const std::string& act)
+{
+    const auto* const found =
+        std::find_if(std::begin(kActKeys), std::end(kActKeys), [&](const ActKey& row) { return act == row.act; });
+    return found == std::end(kActKeys) ? nullptr : found->key;
+}
 
 const std::vector<TypingRow>& ModernDates()
 {

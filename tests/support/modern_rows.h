@@ -3,6 +3,7 @@
 #pragma once
 
 #include <ostream>
+#include <string>
 #include <vector>
 
 #include "tests/support/values.h"
@@ -27,6 +28,9 @@ struct TypingRow {
     const char* reasons = "";  // of all that was refused
 };
 void PrintTo(const TypingRow& row, std::ostream* out);
+
+// The key of an act as keyboards name it ("{Ctrl+Back}" of "CtrlBs"); null for an act that is no key.
+const char* KeyOf(const std::string& act);
 
 const std::vector<TypingRow>& ModernDates();
 const std::vector<TypingRow>& ModernTimes();

@@ -13,28 +13,6 @@ using zte::modern::Eraser;
 
 // ---- regional settings of the rows
 
-struct Region {
-    const char* name;
-    char decimal;
-    char thousand;
-    const char* symbol;
-    int32_t position;
-};
-
-constexpr Region kRegions[] = {
-    {"US", '.',    ',',    "$",   0},
-    {"DE", ',',    '.',    "EUR", 3},
-    {"FR", ',',    ' ',    "F",   3},
-    {"NB", ',',    '\xA0', "F",   3},
-    {"CH", '.',    '\'',   "Fr.", 2},
-    {"DK", ',',    '.',    "kr.", 2},
-    {"IR", '/',    ',',    "R",   0},
-    {"EQ", '.',    '.',    "$",   0},
-    {"RP", '\xB7', '_',    "L",   0},
-    {"FB", '.',    ',',    "F.-", 1},
-    {"PB", '.',    ',',    ".-",  1},
-};
-
 zte::Settings SettingsOf(const std::string& name)
 {
     zte::Settings settings = zte::StandardSettings();

@@ -7,6 +7,7 @@
 #include <ctime>
 #include <utility>
 
+#include "engine/editing.h"
 #include "engine/format/data.h"
 #include "engine/format/display.h"
 #include "engine/format/mask_setting.h"
@@ -165,6 +166,9 @@ struct MaskedEdit::Implementation final : Keyboard, zte::FieldListener {
     std::vector<Notice> notices;
     std::function<void()> listener;
     zte::MemoryControl control;
+    // The calls that the library's exports make.
+    const zte::Editing& Reading() const { return zte::EditingOf(record); }
+
     zte::EditInstance& record = control.Record();
     zte::MemoryField& field = control.Edit();
     uint32_t ownBlocks = 0;
@@ -175,22 +179,22 @@ MaskedEdit::~MaskedEdit() = default;
 
 int32_t MaskedEdit::SetMask(const char* mask, int32_t type)
 {
-    return zte::SetMask(it_->record, EngineText(mask).get(), type);
+    return it_->Reading().setMask(it_->record, EngineText(mask).get(), type);
 }
 
 void MaskedEdit::SetData(const void* data)
 {
-    zte::SetData(it_->record, data);
+    it_->Reading().setData(it_->record, data);
 }
 
 void MaskedEdit::SetDataString(const std::string& text)
 {
-    zte::SetDataString(it_->record, EngineText(text.c_str()).get());
+    it_->Reading().setDataString(it_->record, EngineText(text.c_str()).get());
 }
 
 FormattedValue MaskedEdit::Format(const void* data) const
 {
-    const zte::Display display = zte::FormatValue(it_->record, data);
+    const zte::Display display = it_->Reading().format(it_->record, data);
     return {Plain(display.text), display.formatFlags, display.firstFieldPos};
 }
 
@@ -206,7 +210,7 @@ void MaskedEdit::SetAutoskip(uint32_t on)
 
 void MaskedEdit::SetSpin(uint32_t increment, const char* range, const char* codes, uint32_t style)
 {
-    zte::SetSpin(it_->record, increment, EngineText(range).get(), EngineText(codes).get(), style);
+    it_->Reading().setSpin(it_->record, increment, EngineText(range).get(), EngineText(codes).get(), style);
 }
 
 void MaskedEdit::CreateSpin()
@@ -231,7 +235,7 @@ bool MaskedEdit::IsOutOfOrder(const void* first, const void* second) const
 
 std::string MaskedEdit::Read() const
 {
-    return it_->Take(zte::GetData(it_->record));
+    return it_->Take(it_->Reading().getData(it_->record));
 }
 
 std::string MaskedEdit::Unformat(const char* text) const
@@ -241,7 +245,7 @@ std::string MaskedEdit::Unformat(const char* text) const
 
 std::optional<DateTimeValue> MaskedEdit::ReadDateTime() const
 {
-    void* block = zte::GetData(it_->record);
+    void* block = it_->Reading().getData(it_->record);
     if (!block)
         return std::nullopt;
     DateTimeValue value;
