@@ -57,8 +57,7 @@ system_libraries() # FOLDER MACHINE
     for library in kernel32:ExitProcess@4:lstrcmpA@8 user32:CreateWindowExA@48:GetWindowTextA@12; do
         { echo "LIBRARY ${library%%:*}.dll" && echo EXPORTS && tr ':' '\n' <<<"${library#*:}"; } >"$1/${library%%:*}.def"
         [ "$2" = i386 ] || sed -i 's/@[0-9]*$//' "$1/${library%%:*}.def"
-        "$(command -v llvm-dlltool || ls /usr/bin/llvm-dlltool-* | tail -1)" -m "$2" -k -d "$1/${library%%:*}.def" -l "$1/${library%%:*}.lib" ||
-            return
+        "$dlltool" -m "$2" -k -d "$1/${library%%:*}.def" -l "$1/${library%%:*}.lib" || return
     done
 }
 
@@ -88,6 +87,7 @@ holds_what_it_should() # FOLDER
 if [ "${1:-}" != --packed ]; then
     ./package.sh || exit
 fi
+dlltool=$(command -v llvm-dlltool || ls /usr/bin/llvm-dlltool-* 2>/dev/null | tail -1)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 . tools/wine_session.sh

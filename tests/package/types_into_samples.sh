@@ -1,6 +1,7 @@
 #!/bin/bash
 # Types into each sample with real keys, and fails when one of its forms shows anything else than expected.
-# Usage: types_into_samples.sh FOLDER READER.EXE    the samples' programs with their DLLs; form_reader (a display and a Wine session are there)
+# Usage: types_into_samples.sh FOLDER READER.EXE
+#     FOLDER  the samples' programs with their DLLs; READER.EXE is form_reader. A display and a Wine session are there.
 set -uo pipefail
 folder=$1
 reader=$2
@@ -8,11 +9,15 @@ failed=0
 
 # program | title | what is done, in words of act below | what the children show, "ID TEXT" joined by ";"
 # shellcheck disable=SC2016
+ends='1 OK;2 Cancel'
+order='type 5551234567 type 11212026 type 0930 type 112420261400 type 12 key Tab type 99.95 key Return'
+stored='5551234567|2026-11-21|09:30:00|2026-11-24 14:00:00|12|99.95'
+blank='103   :  ;104   /  /       :  ;105 0;106 0.00'
 steps='first|First control|type 7/4/2026|1 07/04/2026
-dialog|Dialog|type 12242026 key Tab type 3 key Return|101 12/24/2026;102 3;103 From 2026-12-24, 3 nights;1 OK;2 Cancel
-dialog|Dialog|type 02302026 key Return|101 02/30/2026;102 0;103 From some day, some nights;1 OK;2 Cancel
-order|Order|type 5551234567 type 11212026 type 0930 type 112420261400 type 12 key Tab type 99.95 key Return|101 (555) 123-4567;102 11/21/2026;103 09:30;104 11/24/2026 14:00;105 12;106 99.95;110 5551234567|2026-11-21|09:30:00|2026-11-24 14:00:00|12|99.95;1 OK;2 Cancel
-order|Order|type 5551234567 type 02302026 key Return|101 (555) 123-4567;102 02/30/2026;103   :  ;104   /  /       :  ;105 0;106 0.00;110 The day of the order does not exist.;1 OK;2 Cancel
+dialog|Dialog|type 12242026 key Tab type 3 key Return|101 12/24/2026;102 3;103 From 2026-12-24, 3 nights;$ends
+dialog|Dialog|type 02302026 key Return|101 02/30/2026;102 0;103 From some day, some nights;$ends
+order|Order|$order|101 (555) 123-4567;102 11/21/2026;103 09:30;104 11/24/2026 14:00;105 12;106 99.95;110 $stored;$ends
+order|Order|type 5551234567 type 02302026 key Return|101 (555) 123-4567;102 02/30/2026;$blank;110 The day of the order does not exist.;$ends
 subclassed|Subclassed|type 12x34 key Return|1 A12-34;2 A12-34
 changed|Settings|settings sShortDate=dd.MM.yyyy sDecimal=, sThousand=. sCurrency=EUR iCurrency=3|1 21.11.2026;2 1.234,50EUR
 changed|Settings|settings sShortDate=M/d/yyyy sDecimal=. sThousand=, sCurrency=$ iCurrency=0|1 11/21/2026;2 $1,234.50
@@ -73,6 +78,9 @@ play() # PROGRAM TITLE ACTS EXPECTED
 }
 
 while IFS='|' read -r program title acts expected; do
+    for part in ends order stored blank; do
+        acts=${acts//\$$part/${!part}} expected=${expected//\$$part/${!part}}
+    done
     play "$program" "$title" "$acts" "$expected" </dev/null || failed=$((failed + 1))
 done <<<"$steps"
 [ $failed -eq 0 ] || echo "FAILED: $failed steps" >&2
