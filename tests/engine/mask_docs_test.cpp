@@ -8,22 +8,6 @@
 namespace zttest {
 namespace {
 
-const RegionalSet& SettingsNamed(const std::string& name)
-{
-    static const std::map<std::string, const RegionalSet*> sets = {
-        {"US",     &kUnitedStates},
-        {"German", &kGerman      },
-        {"French", &kFrench      },
-        {"Swiss",  &kSwiss       },
-        {"ISO",    &kIso         }
-    };
-    const auto found = sets.find(name);
-    if (found != sets.end())
-        return *found->second;
-    ADD_FAILURE() << "unknown settings " << name;
-    return kUnitedStates;
-}
-
 const RegionalSet& SettingsOf(const DocumentRow& row)
 {
     const bool named = row.Has("settings") && !row["settings"].empty();

@@ -7,7 +7,7 @@
 #include <ctime>
 #include <utility>
 
-#include "engine/format/data.h"
+#include "engine/editing.h"
 #include "engine/format/display.h"
 #include "engine/format/mask_setting.h"
 #include "engine/format/read_back.h"
@@ -175,22 +175,22 @@ MaskedEdit::~MaskedEdit() = default;
 
 int32_t MaskedEdit::SetMask(const char* mask, int32_t type)
 {
-    return zte::SetMask(it_->record, EngineText(mask).get(), type);
+    return zte::EditingOf(it_->record).setMask(it_->record, EngineText(mask).get(), type);
 }
 
 void MaskedEdit::SetData(const void* data)
 {
-    zte::SetData(it_->record, data);
+    zte::EditingOf(it_->record).setData(it_->record, data);
 }
 
 void MaskedEdit::SetDataString(const std::string& text)
 {
-    zte::SetDataString(it_->record, EngineText(text.c_str()).get());
+    zte::EditingOf(it_->record).setDataString(it_->record, EngineText(text.c_str()).get());
 }
 
 FormattedValue MaskedEdit::Format(const void* data) const
 {
-    const zte::Display display = zte::FormatValue(it_->record, data);
+    const zte::Display display = zte::EditingOf(it_->record).format(it_->record, data);
     return {Plain(display.text), display.formatFlags, display.firstFieldPos};
 }
 
@@ -206,7 +206,8 @@ void MaskedEdit::SetAutoskip(uint32_t on)
 
 void MaskedEdit::SetSpin(uint32_t increment, const char* range, const char* codes, uint32_t style)
 {
-    zte::SetSpin(it_->record, increment, EngineText(range).get(), EngineText(codes).get(), style);
+    zte::EditingOf(it_->record)
+        .setSpin(it_->record, increment, EngineText(range).get(), EngineText(codes).get(), style);
 }
 
 void MaskedEdit::CreateSpin()
@@ -231,7 +232,7 @@ bool MaskedEdit::IsOutOfOrder(const void* first, const void* second) const
 
 std::string MaskedEdit::Read() const
 {
-    return it_->Take(zte::GetData(it_->record));
+    return it_->Take(zte::EditingOf(it_->record).getData(it_->record));
 }
 
 std::string MaskedEdit::Unformat(const char* text) const
@@ -239,9 +240,25 @@ std::string MaskedEdit::Unformat(const char* text) const
     return it_->Take(zte::UnformatData(it_->record, EngineText(text).get()));
 }
 
+int32_t MaskedEdit::State() const
+{
+    return zte::StateOf(it_->record);
+}
+
+std::string MaskedEdit::DataString() const
+{
+    zte::Text text;
+    return zte::CanonicalText(it_->record, text) ? Plain(text) : kNullResult;
+}
+
+int32_t MaskedEdit::TrySetDataString(const std::string& text)
+{
+    return zte::TrySetDataString(it_->record, EngineText(text.c_str()).get());
+}
+
 std::optional<DateTimeValue> MaskedEdit::ReadDateTime() const
 {
-    void* block = zte::GetData(it_->record);
+    void* block = zte::EditingOf(it_->record).getData(it_->record);
     if (!block)
         return std::nullopt;
     DateTimeValue value;
@@ -403,6 +420,12 @@ std::vector<std::string> FieldRecorder::Told() const
 void FieldRecorder::Forget()
 {
     it_->told.clear();
+}
+
+MaskFault FaultOf(const std::string& mask, int32_t type)
+{
+    const zte::MaskVerdict verdict = zte::JudgeMask(EngineText(mask.c_str()).get(), type, SettingsInForce());
+    return {verdict.reason, verdict.offset};
 }
 
 DateTimeValue Now()
