@@ -69,6 +69,10 @@ add_executable(abi_customer ${CMAKE_SOURCE_DIR}/tests/abi/abi_customer.c)
 target_link_libraries(abi_customer PRIVATE ztedit050 ztshared ztdecimal zt_build_flags)
 target_link_options(abi_customer PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wl,--fatal-warnings>)
 add_dependencies(test_abi abi_customer)
+# What the manual prints in C is compiled as it is printed.
+add_library(zt_manual_form OBJECT ${CMAKE_SOURCE_DIR}/tests/win32/manual_form.c)
+target_link_libraries(zt_manual_form PRIVATE zt_build_flags)
+target_link_libraries(test_win32 PRIVATE zt_manual_form)
 # The program that asks a spin of another one, as a screen reader does.
 add_executable(assistive_client ${CMAKE_SOURCE_DIR}/tests/support/programs/assistive_client.cpp)
 target_link_libraries(assistive_client PRIVATE zt_build_flags user32)

@@ -21,8 +21,9 @@
  * The parent gets two notifications as WM_COMMAND (control identifier in the low word, lParam the control):
  *   ZTN_AUTOSKIP  the last position was filled, or Right pressed at the end, while autoskip is on: move the focus on. Not sent
  *                 by a modern control that shows an invalid value.
- *   EN_CHANGE     after each step of the spin, beside those that the standard edit control sends; a modern control sends one
- *                 EN_UPDATE and one EN_CHANGE for each change of its text, however it is made, and none for what changes nothing.
+ *   EN_CHANGE     after each step of the spin, refused or not, beside those that the standard edit control sends; a modern control
+ *                 sends one EN_UPDATE and one EN_CHANGE for each change of its text, however it is made, and none for what changes
+ *                 nothing (but for the spin of a string without mask and code table, which is a plain edit).
  * and of a modern control two more as WM_NOTIFY, see below. It may destroy the control in any of them.
  *
  * A control's record and strings live in the heap given at creation, which the caller discards as a whole (usually one heap
@@ -185,7 +186,8 @@ int32_t WINAPI ZTE_FmtSetMask(HWND hwnd, const char* mask, int32_t dataType);
  * position        filled, where it is not null, with the offset in the mask of what does not fit: the length of the mask where
  *                 something is missing behind it, -1 for a mask that fits.
  *
- * Returns ZTM_FITS, or the ZTM_ value of what is wrong first. No mask at all fits strings alone.
+ * Returns ZTM_FITS, or the ZTM_ value of what is wrong first. No mask at all fits strings alone. A number's mask is judged as a
+ * classic control takes it, in the regional separators: a modern control takes "#,##0.00" under a decimal comma as well.
  *
  *     int32_t position;
  *     if (ZTE_CheckMask("MM/DD", DT_DATE, &position) == ZTM_FIELD_MISSING)
@@ -209,10 +211,15 @@ int32_t WINAPI ZTE_FmtSetDataString(HWND hwnd, const char* text);
  * Returns a block of the control's heap that the caller frees: for strings the text without literals; for numbers and
  * decimals the number as text, with the regional decimal character, a percentage as the fraction it stands for, to the last
  * digit; a number of zeros alone has no sign, also while one is shown; for dates and times a DateTimeValue. Null for a
- * window that is no control and for the empty date; midnight reads as null in a DT_TIME control, on purpose.
+ * window that is no control.
  *
- * A modern control gives a value or none: null for an empty, incomplete or invalid date or time and for a number that is only a
- * sign, and a DateTimeValue for midnight.
+ * A classic control gives null for the date that it shows as zeros (00/00/0000, and any date without a year), for midnight in a
+ * DT_TIME control, on purpose, and never in a DT_DATETIME control. Where its window text is empty (cut away, or set to "") a date
+ * or time is a DateTimeValue with DATETIME_NO_DATE and DATETIME_NO_TIME instead, and a number "0". A day or month of 00 reads as the
+ * first, and the 30th of February as it is shown: see ZTE_GetState.
+ *
+ * A modern control gives a value or none: null for an empty, incomplete or invalid date or time, also where the window text is
+ * empty, and for a number that is only a sign or a text that is no number; and a DateTimeValue for midnight.
  */
 void* WINAPI ZTE_FmtGetData(HWND hwnd);
 

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "tests/support/profile.h"
 #include "tests/support/values.h"
 
 namespace zttest {
@@ -47,10 +48,20 @@ std::vector<std::string> CellsOf(const std::string& line)
 
 DocumentRow RowOf(int line, const std::vector<std::string>& headings, const std::vector<std::string>& cells)
 {
-    DocumentRow row = {line, {}};
+    DocumentRow row = {line, {}, ""};
     for (size_t i = 0; i < headings.size() && i < cells.size(); ++i)
         row.cells[headings[i]] = cells[i];
     return row;
+}
+
+// "types" of "docs/manual/types.md"; with letters alone, as the name of a test has them.
+std::string PageName(const std::string& file)
+{
+    const size_t start = file.rfind('/') + 1;
+    std::string name = file.substr(start, file.rfind('.') - start);
+    for (char& c : name)
+        c = c == '-' ? '_' : c;
+    return name;
 }
 
 bool ReadLine(std::istream& in, std::string& line)
@@ -82,6 +93,15 @@ std::vector<DocumentRow> AllRows(const std::string& name)
 
 }  // namespace
 
+std::string SourceText(const std::string& name)
+{
+    std::ifstream file(SourceFile(name));
+    std::string text;
+    for (std::string line; ReadLine(file, line);)
+        text += line + '\n';
+    return text;
+}
+
 void PrintTo(const DocumentRow& row, std::ostream* out)
 {
     *out << "line " << row.line << ':';
@@ -92,7 +112,8 @@ void PrintTo(const DocumentRow& row, std::ostream* out)
 std::vector<DocumentRow> DocumentRows(const std::string& file, const std::vector<const char*>& columns)
 {
     std::vector<DocumentRow> found;
-    for (const DocumentRow& row : AllRows(file)) {
+    for (DocumentRow row : AllRows(file)) {
+        row.page = PageName(file);
         bool complete = true;
         for (const char* column : columns)
             complete = complete && row.Has(column);

@@ -16,11 +16,15 @@ namespace zttest {
 struct DocumentRow {
     int line;
     std::map<std::string, std::string> cells;
+    std::string page;  // the file, without its folders and its ending
 
     bool Has(const std::string& heading) const { return cells.count(heading) == 1; }
     const std::string& operator[](const std::string& heading) const { return cells.at(heading); }
 };
 void PrintTo(const DocumentRow& row, std::ostream* out);
+
+// A file of the sources ("docs/masks.md"), its lines ended by a newline each; empty where there is none.
+std::string SourceText(const std::string& name);
 
 // The rows of a file of the sources ("docs/masks.md") whose table has all the columns named.
 std::vector<DocumentRow> DocumentRows(const std::string& file, const std::vector<const char*>& columns);

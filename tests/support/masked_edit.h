@@ -105,6 +105,11 @@ public:
     std::string Read() const;
     std::string Unformat(const char* text) const;
 
+    // ZTS_ value, and the value as canonical text (kNullResult for none), also of classic controls.
+    int32_t State() const;
+    std::string DataString() const;
+    int32_t TrySetDataString(const std::string& text);
+
     // The record read back from a date or time, none for a null pointer.
     std::optional<DateTimeValue> ReadDateTime() const;
 
@@ -168,6 +173,13 @@ private:
     struct Implementation;
     std::unique_ptr<Implementation> it_;
 };
+
+// What ZTE_CheckMask tells under the settings of the moment.
+struct MaskFault {
+    int32_t reason;  // ZTM_ value
+    int32_t position;
+};
+MaskFault FaultOf(const std::string& mask, int32_t type);
 
 // The current local date and time, as the library sees them.
 DateTimeValue Now();

@@ -156,6 +156,24 @@ std::string MaskedEdit::Unformat(const char* text) const
     return Take(it_->control, ZTE_FmtUnformatData(it_->control.hwnd(), text));
 }
 
+int32_t MaskedEdit::State() const
+{
+    return ZTE_GetState(it_->control.hwnd());
+}
+
+std::string MaskedEdit::DataString() const
+{
+    char* text = ZTE_GetDataString(it_->control.hwnd());
+    const std::string value = text ? text : kNullResult;
+    SharedHeapFree(it_->control.heap(), text);
+    return value;
+}
+
+int32_t MaskedEdit::TrySetDataString(const std::string& text)
+{
+    return ZTE_TrySetDataString(it_->control.hwnd(), text.c_str());
+}
+
 std::optional<DateTimeValue> MaskedEdit::ReadDateTime() const
 {
     void* block = ZTE_FmtGetData(it_->control.hwnd());
@@ -319,6 +337,13 @@ std::vector<std::string> FieldRecorder::Told() const
 void FieldRecorder::Forget()
 {
     it_->base.Forget();
+}
+
+MaskFault FaultOf(const std::string& mask, int32_t type)
+{
+    MaskFault fault = {};
+    fault.reason = ZTE_CheckMask(mask.c_str(), type, &fault.position);
+    return fault;
 }
 
 DateTimeValue Now()

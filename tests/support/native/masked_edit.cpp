@@ -243,6 +243,22 @@ std::string MaskedEdit::Unformat(const char* text) const
     return it_->Take(zte::UnformatData(it_->record, EngineText(text).get()));
 }
 
+int32_t MaskedEdit::State() const
+{
+    return zte::StateOf(it_->record);
+}
+
+std::string MaskedEdit::DataString() const
+{
+    zte::Text text;
+    return zte::CanonicalText(it_->record, text) ? Plain(text) : kNullResult;
+}
+
+int32_t MaskedEdit::TrySetDataString(const std::string& text)
+{
+    return zte::TrySetDataString(it_->record, EngineText(text.c_str()).get());
+}
+
 std::optional<DateTimeValue> MaskedEdit::ReadDateTime() const
 {
     void* block = it_->Reading().getData(it_->record);
@@ -407,6 +423,12 @@ std::vector<std::string> FieldRecorder::Told() const
 void FieldRecorder::Forget()
 {
     it_->told.clear();
+}
+
+MaskFault FaultOf(const std::string& mask, int32_t type)
+{
+    const zte::MaskVerdict verdict = zte::JudgeMask(EngineText(mask.c_str()).get(), type, SettingsInForce());
+    return {verdict.reason, verdict.offset};
 }
 
 DateTimeValue Now()
