@@ -21,10 +21,8 @@ bool IsClassicBlank(const EditInstance& edit, const Text& text)
 // Neither a month nor a day nor a year of four digits is ever zero.
 bool IsNoNumber(const Text& text, const Place& place)
 {
-    const bool mayBeZero = dates::BoundsOf(place).least == 0;
     const Text part = TextAt(text, place);
-    return dates::IsPart(place) && !mayBeZero && !part.empty() &&
-           std::all_of(part.begin(), part.end(), [](Char c) { return c == '0'; });
+    return dates::BoundsOf(place).least > 0 && std::all_of(part.begin(), part.end(), [](Char c) { return c == '0'; });
 }
 
 Text WithBlanks(const EditInstance& edit, Text text)
