@@ -206,7 +206,7 @@ void Editor::ShowData(const Content& content)
     history_.Clear();
     left_ = content;
     ShowText(edit_, Text(content.text).c_str());
-    if (content.selection.start != 0 || content.selection.end != 0)
+    if (content.selection.end != 0)
         edit_.field->Select(content.selection.start, content.selection.end);
     TellState();
 }

@@ -17,7 +17,7 @@ constexpr const char* kReasonNames[] = {
 
 // By their numbers; null: told in other words.
 constexpr const char* kEventNames[] = {"update", "change",  "limit",  "beep",         "full",  "stepped", "off",
-                                       "on",     nullptr,   "repaint", "repaint spin", nullptr, nullptr,   "value"};
+                                       "on",     "layout",  "repaint", "repaint spin", nullptr, nullptr,   "value"};
 
 DateTimeValue Noon4thOfJune1995()
 {

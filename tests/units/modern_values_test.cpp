@@ -18,8 +18,7 @@ constexpr TypingSetup kAmount = {"#,##0.00", DT_NUMBER};
 constexpr TypingSetup kDigits = {"000", DT_NUMBER};
 constexpr TypingSetup kLong = {"#,##0.0000", DT_DECIMAL};
 constexpr TypingSetup kBounded = {"##0", DT_NUMBER, ZTEO_SPIN, nullptr, "10~20"};
-constexpr TypingSetup kFree = {"", DT_STRING};
-constexpr TypingSetup kDayOnly = {"JJJ", DT_DATE};
+constexpr TypingSetup kUnmasked = {"", DT_STRING};
 constexpr TypingSetup kNoted = {"MM/DD/YYYY XX", DT_DATE};
 constexpr TypingSetup kNoHalves = {"HH:MM AM/PM", DT_TIME, 0, nullptr, nullptr, "", ""};
 constexpr TypingSetup kNumberCodes = {"##0", DT_NUMBER, 0, "One\t1/Two\t2/Dozen\t12/None\tnull!"};
@@ -116,8 +115,8 @@ const SetRow kSets[] = {
     {kPhone, "555 123 4567", 0,           "(555) 123-4567|", "4 5551234567 = 5551234567"},
     {kPhone, "x", ZTR_WRONG_KIND,         "(|   )    -    ", "0  =           "},
     {kPhone, kNullResult, 0,              "(|   )    -    ", "0  =           "},
-    {kFree, "some text", 0,               "|some text", "4 some text = some text"},
-    {kFree, " ", 0,                       "| ", "0  =  "},
+    {kUnmasked, "some text", 0,               "|some text", "4 some text = some text"},
+    {kUnmasked, " ", 0,                       "| ", "0  =  "},
     {kColours, "g", 0,                    "[Green]", "4 g = g"},
     {kColours, "Green", 0,                "[Green]", "4 g = g"},
     {kColours, "green", 0,                "[Green]", "4 g = g"},
@@ -183,8 +182,8 @@ TEST(ModernValues, AreShownAsTheyAreFormatted)
     EXPECT_EQ(ShownAs(kLong, &decimal), "|1,234.5678");
     EXPECT_EQ(ShownAs(kPhone, "5551234567"), "(|555) 123-4567");
     EXPECT_EQ(ShownAs(kPhone, nullptr), "(|   )    -    ");
-    EXPECT_EQ(ShownAs(kFree, "text"), "|text");
-    EXPECT_EQ(ShownAs(kFree, nullptr), "|");
+    EXPECT_EQ(ShownAs(kUnmasked, "text"), "|text");
+    EXPECT_EQ(ShownAs(kUnmasked, nullptr), "|");
 }
 
 TEST(ModernValues, AreShownAsTheirEntries)
@@ -450,7 +449,7 @@ const ClassicRow kClassic[] = {
     {kPhone, "(555) 123-456",             "1 555123456"},
     {kPhone, "(555)",                     "1 555"},
     {kWord, "ab",                         "4 ab"},
-    {kFree, "text",                       "4 text"},
+    {kUnmasked, "text",                       "4 text"},
     {kColours, "Red",                     "4 r"},
     {kColours, "None",                    "0 "},
     {kColours, "Blue",                    "2 (null)"},
@@ -511,6 +510,7 @@ ROW_TEST(ModernTurnedOn, LaysAnewWhatThePositionsHold)
     EXPECT_EQ(played.Edit().Count(FieldEvent::State), 0);
     EXPECT_EQ(std::to_string(StateOf(played.Record())) + " " + CanonicalOf(played.Record()), GetParam().told);
     EXPECT_EQ(played.Record().editor->State(), StateOf(played.Record()));
+    EXPECT_EQ(played.Record().editor->UndoSteps(), 0u);
     EXPECT_TRUE(SetModern(played.Record(), true));
 }
 
@@ -529,7 +529,7 @@ const SwitchRow kTurnedOn[] = {
     {kPhone, "(555) 123-4567", "(555) 123-4567", "4 5551234567"},
     {kWord, "ab",             "ab   ",          "4 ab"},
     {kWord, "abcdef",         "abcdef",         "2 abcde"},
-    {kFree, "ab",             "ab",             "4 ab"},
+    {kUnmasked, "ab",             "ab",             "4 ab"},
     {kColours, "Red",         "Red",            "4 r"},
 };
 TEST_ROWS(Texts, ModernTurnedOn, kTurnedOn);
@@ -542,9 +542,11 @@ TEST(ModernTurnedOn, TellsItsStates)
     played.Control().SetText("07/04/2024");
     SetModern(played.Record(), true);
     played.Show(nullptr);
-    played.Play("{CaretBehind10}{Bs}");
-    EXPECT_EQ(played.Shown(), "07/04/202| ");
-    EXPECT_EQ(played.Heard().All(), "changed 4>1");
+    played.Play("{CaretBehind9}5");
+    EXPECT_EQ(played.Shown(), "07/04/2025|");
+    EXPECT_EQ(played.Heard().All(), "changed");
+    played.Play("{Bs}");
+    EXPECT_EQ(played.Heard().All(), "changed changed 4>1");
     EXPECT_TRUE(SetModern(played.Record(), true));
     EXPECT_EQ(played.Record().editor->UndoSteps(), 0u);
     EXPECT_EQ(played.Shown(), "07/04/202| ");
