@@ -16,8 +16,8 @@ Prefix Judge(const Place& place, int32_t digits, int32_t number)
     const Bounds bounds = BoundsOf(place);
     if (number > bounds.most)
         return Prefix::Refused;
-    if (digits == place.length || place.kind == FieldKind::Fraction)
-        return digits < place.length ? Prefix::Open : number < bounds.least ? Prefix::Refused : Prefix::Full;
+    if (digits == place.length)
+        return number < bounds.least ? Prefix::Refused : Prefix::Full;
     return number * 10 <= bounds.most ? Prefix::Open : Prefix::Full;
 }
 
@@ -69,7 +69,7 @@ private:
     bool TakeRest()
     {
         Text& rest = content_.typing.rest;
-        if (rest.empty() || Upper(rest[0]) != Upper(typed_))
+        if (Upper(At(rest, 0)) != Upper(typed_))
             return TakeDesignator();
         rest.erase(0, 1);
         return true;
@@ -128,8 +128,10 @@ private:
             MoveTo(next->start);
             return TypeInto(*next);
         }
-        if (!next && IsDigit(typed_))
+        if (IsDigit(typed_))
             return Refused(ZTR_FULL);
+        if (!next && Choose(Text(1, typed_)))
+            return Result();
         return Separate();
     }
 
@@ -179,7 +181,7 @@ private:
         const int32_t before = DigitsBefore(content_.text, place, Caret());
         Text digits = Slice(content_.text, place.start, before) + typed_;
         Text all = digits;
-        if (before > 0 && !IsMonthName(field))
+        if (before > 0)
             all += KeptBehind(place, before + 1);
         if (Judge(place, Length(all), IntegerOf(all)) == Prefix::Refused)
             all = digits;
@@ -249,14 +251,13 @@ private:
     bool Choose(const Text& letters)
     {
         const Place* marker = layout_.Of(FieldKind::AmPm);
-        if (!marker || letters.empty())
+        if (!marker)
             return false;
         const std::optional<HalfOfDay> half = HalfOf(letters);
         if (!half)
             return false;
         const Place place = *marker;
-        const bool inside =
-            place.Holds(Caret()) || (Length(letters) == 1 && Caret() == place.End() && !layout_.At(Caret()));
+        const bool inside = place.Holds(Caret()) || (Length(letters) == 1 && Caret() == place.End());
         PutHalf(edit_, content_, *half);
         if (inside)
             GoOn(place, place.start + static_cast<int32_t>(TextLength(DesignatorOf(*edit_.settings, *half))));
@@ -298,14 +299,13 @@ private:
             place = nullptr;  // on the literal behind it: it has been left
         if (IsLeadingLiteral(place))
             return Accepted(content_);
-        const bool begun = place && Caret() > place->start;
         const Text before = content_.text;
-        if (begun)
+        if (place)
             Complete(edit_, content_, *place);
         const Layout after(edit_, content_.text);
         const Place* next = after.Next(place ? std::max(place->End(), Caret()) : Caret());
         if (!next)
-            return SeparateAtEnd(after, begun && before != content_.text);
+            return SeparateAtEnd(after, before != content_.text);
         PassTo(place ? place->End() : Caret(), next->start);
         return Result();
     }
@@ -323,7 +323,7 @@ private:
         if (after.Places().empty())  // a mask of literals alone
             return Refused(ZTR_WRONG_KIND);
         const int32_t end = after.End();
-        const bool isLiteral = end < Length(content_.text) && At(content_.text, end) == typed_;
+        const bool isLiteral = At(content_.text, end) == typed_;
         if (!completed && !(isLiteral && Caret() > after.Places().back().start))
             return Refused(ZTR_WRONG_KIND);
         full_ = completed;

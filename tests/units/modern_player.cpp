@@ -109,7 +109,8 @@ const ActRow kActs[] = {
     {"Redo", [](MemoryControl& control, int32_t, const Text&) { control.Redo(); }},
     {"NoUndo", [](MemoryControl& control, int32_t, const Text&) { EditingOf(control.Record()).emptyUndo(control.Record()); }},
     {"Blur", [](MemoryControl& control, int32_t, const Text&) { control.LoseFocus(); }},
-    {"Pause", [](MemoryControl& control, int32_t number, const Text&) { control.Edit().LetTimePass(number != 0 ? static_cast<uint32_t>(number) : 1000); }},
+    {"Pause", [](MemoryControl& control, int32_t number, const Text&) {
+        control.Edit().LetTimePass(number != 0 ? static_cast<uint32_t>(number) : 1000); }},
     {"ReadOnly", [](MemoryControl& control, int32_t, const Text&) { control.Edit().SetReadOnly(true); }},
     {"Writable", [](MemoryControl& control, int32_t, const Text&) { control.Edit().SetReadOnly(false); }},
     {"Quiet", [](MemoryControl& control, int32_t, const Text&) { control.Edit().BeQuiet(true); }},
@@ -243,6 +244,22 @@ void Played::Act(const std::string& name)
             return;
         }
     FAIL() << "no act is called " << name;
+}
+
+// ---- rows
+
+void PrintTo(const ToldRow& row, std::ostream* out)
+{
+    *out << row.setup.mask << " \"" << (row.before ? row.before : "") << "\": " << row.keys;
+}
+
+void ExpectTold(const ToldRow& row)
+{
+    Played played(row.setup);
+    played.Show(row.before);
+    played.Play(row.keys);
+    EXPECT_EQ(played.Shown(), row.after);
+    EXPECT_EQ(played.Heard().All(), row.told);
 }
 
 }  // namespace zttest::typing

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <ostream>
 #include <string>
 
 #include "engine/editing.h"
@@ -59,5 +60,16 @@ private:
     Listener listener_;
     std::unique_ptr<zte::MemoryControl> control_;
 };
+
+// What keys and acts leave, and all that is told of them.
+struct ToldRow {
+    const TypingSetup& setup;
+    const char* before;  // with its marks; null: empty
+    const char* keys;
+    const char* after;
+    const char* told;
+};
+void PrintTo(const ToldRow& row, std::ostream* out);
+void ExpectTold(const ToldRow& row);
 
 }  // namespace zttest::typing
