@@ -5,6 +5,7 @@
 #include <ostream>
 #include <vector>
 
+#include "engine/values/settings.h"
 #include "tests/support/values.h"
 
 namespace zttest::typing {
@@ -17,6 +18,7 @@ struct TypingSetup {
     const char* range = nullptr;
     const char* am = "AM";
     const char* pm = "PM";
+    void (*regional)(zte::Settings&) = nullptr;  // settings of another country
 };
 
 struct TypingRow {

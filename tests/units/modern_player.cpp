@@ -191,6 +191,8 @@ Played::Played(const TypingSetup& setup, uint32_t notOptions)
 {
     Assign(settings_.amString, FromAscii(setup.am));
     Assign(settings_.pmString, FromAscii(setup.pm));
+    if (setup.regional)
+        setup.regional(settings_);
     ControlSetup made;
     made.mask = mask_.c_str();
     made.dataType = setup.type;

@@ -27,6 +27,17 @@ constexpr TypingSetup kDecimalCodes = {"0.00", DT_DECIMAL, 0, "Half\t0.50/Shown\
 constexpr TypingSetup kNoTable = {"AAAAA", DT_STRING, ZTEO_SPIN | ZTEO_CODE_DISPLAY};
 constexpr TypingSetup kNoTableNoMask = {"", DT_STRING, ZTEO_SPIN | ZTEO_CODE_DISPLAY};
 
+constexpr TypingSetup kMonthOfYears = {"MM/YYYY", DT_DATE};
+constexpr TypingSetup kYearAlones = {"YYYY", DT_DATE};
+constexpr TypingSetup kNothingBetween = {"YYYYMMDD", DT_DATE};
+constexpr TypingSetup kTenths = {"HH:MM:SS.F", DT_TIME};
+constexpr TypingSetup kMicroseconds6 = {"HH:MM:SS.FFFFFF", DT_TIME};
+constexpr TypingSetup kHourAlones = {"HH", DT_TIME};
+constexpr TypingSetup kDateOfBoth = {"MM/DD/YYYY", DT_DATETIME};
+constexpr TypingSetup kHalfOfDate = {"MM/DD/YYYY AM/PM", DT_DATETIME};
+constexpr TypingSetup kBothHalvess = {"MM/DD/YY HH:MM AM/PM", DT_DATETIME};
+constexpr TypingSetup kFreeDates = {"MM/DD/YYYY XX", DT_DATE};
+
 // ---- what comes out
 
 // The value that the control's getter gives.
@@ -91,6 +102,8 @@ ROW_TEST(ModernData, IsSetOrRefused)
 // clang-format off
 const SetRow kSets[] = {
     {kUs, "2024-07-04", 0,                "|07/04/2024", "4 2024-07-04 = 2024-07-04"},
+    {kUs, "0999-07-04", 0,                "|07/04/0999", "4 0999-07-04 = 0999-07-04"},
+    {kPhone, "55512345678", ZTR_DOES_NOT_FIT, "(|   )    -    ", "0  =           "},
     {kUs, kNullResult, 0,                 "|  /  /    ", "0  = (null)"},
     {kUs, "", 0,                          "|  /  /    ", "0  = (null)"},
     {kUs, "00/00/0000", 0,                "|  /  /    ", "0  = (null)"},
@@ -245,6 +258,125 @@ TEST(ModernValues, OfANumberAreEmptyUntilSomethingElseStandsThere)
     number.Play("{Behind 1.00}{Home}{Behind 0.00}{Home}");
     EXPECT_EQ(StateOf(number.Record()), ZTS_COMPLETE);
 }
+
+// What a text that a program has set is read as: its state and its canonical text.
+struct ReadingRow {
+    const TypingSetup& setup;
+    const char* shown;
+    const char* told;
+};
+void PrintTo(const ReadingRow& row, std::ostream* out)
+{
+    *out << row.setup.mask << " \"" << row.shown << '"';
+}
+
+class ModernReading : public RowTest<ReadingRow> {};
+
+ROW_TEST(ModernReading, OfATextThatAProgramSets)
+{
+    Played played(GetParam().setup);
+    played.Control().SetText(FromAscii(GetParam().shown).c_str());
+    EXPECT_EQ(std::to_string(StateOf(played.Record())) + " " + CanonicalOf(played.Record()), GetParam().told);
+}
+
+// clang-format off
+const ReadingRow kReadings[] = {
+    {kUs, "12/31/9999", "4 9999-12-31"},
+    {kUs, "01/01/0001", "4 0001-01-01"},
+    {kUs, "01/01/0000", "2 (null)"},
+    {kUs, "00/01/2024", "2 (null)"},
+    {kUs, "13/01/2024", "2 (null)"},
+    {kUs, "01/32/2024", "2 (null)"},
+    {kUs, "01/00/2024", "2 (null)"},
+    {kUs, "02/29/2023", "2 (null)"},
+    {kUs, "02/29/2024", "4 2024-02-29"},
+    {kUs, "02/29/1900", "2 (null)"},
+    {kUs, "02/29/2000", "4 2000-02-29"},
+    {kUs, "1 /01/2024", "1 (null)"},
+    {kUs, " 1/01/2024", "2 (null)"},
+    {kUs, "12/31/1 99", "2 (null)"},
+    {kUs, "12/31/199 ", "1 (null)"},
+    {kUs, "12/3 /2024", "1 (null)"},
+    {kUs, "01-01-2024", "2 (null)"},
+    {kUs, "01/01/20240", "2 (null)"},
+    {kUs, "  /  /2024", "1 (null)"},
+    {kUs, "1x/01/2024", "2 (null)"},
+    {kUs, "x /  /    ", "2 (null)"},
+    {kUs, "", "0 "},
+    {kShort, "12/31/00", "4 2000-12-31"},
+    {kShort, "12/31/49", "4 2049-12-31"},
+    {kShort, "12/31/50", "4 1950-12-31"},
+    {kShort, "12/31/99", "4 1999-12-31"},
+    {kShort, "02/29/00", "4 2000-02-29"},
+    {kShort, "02/29/01", "2 (null)"},
+    {kDayOfYear, "366/2023", "2 (null)"},
+    {kDayOfYear, "366/2024", "4 2024-12-31"},
+    {kDayOfYear, "365/2023", "4 2023-12-31"},
+    {kDayOfYear, "000/2024", "2 (null)"},
+    {kDayOfYear, "367/2024", "2 (null)"},
+    {kDayOfYear, "001/2024", "4 2024-01-01"},
+    {kDayOfYear, "   /2024", "1 (null)"},
+    {kDayOfYear, "60 /2024", "1 (null)"},
+    {kDayOfYear, "060/2024", "4 2024-02-29"},
+    {kMonthOfYears, "02/2024", "4 2024-02-01"},
+    {kMonthOfYears, "13/2024", "2 (null)"},
+    {kYearAlones, "2024", "4 2024-01-01"},
+    {kYearAlones, "0000", "2 (null)"},
+    {kNamed, "04-JUL-2024", "4 2024-07-04"},
+    {kNamed, "04-jul-2024", "4 2024-07-04"},
+    {kNamed, "04-JU -2024", "1 (null)"},
+    {kNamed, "04-XXX-2024", "2 (null)"},
+    {kNamed, "04-1  -2024", "1 (null)"},
+    {kNamed, "04-12 -2024", "1 (null)"},
+    {kNamed, "04-J  -2024", "1 (null)"},
+    {kNamed, "04-   -2024", "1 (null)"},
+    {kNamed, "31-APR-2024", "2 (null)"},
+    {kTime, "23:59", "4 23:59:00"},
+    {kTime, "24:00", "2 (null)"},
+    {kTime, "00:00", "4 00:00:00"},
+    {kTime, "12:60", "2 (null)"},
+    {kTime, "12:6 ", "1 (null)"},
+    {kTime, "9 :30", "1 (null)"},
+    {kTime, "  :30", "1 (null)"},
+    {kTime, "x2:30", "2 (null)"},
+    {kTime, "22:58", "4 22:58:00"},
+    {kMicroseconds6, "12:00:00.123456", "4 12:00:00:123456"},
+    {kMicroseconds6, "23:59:59.999999", "4 23:59:59:999999"},
+    {kMicroseconds6, "12:00:00.12345 ", "1 (null)"},
+    {kMicroseconds6, "12:00:60.000000", "2 (null)"},
+    {kTenths, "12:00:00.5", "4 12:00:00:500000"},
+    {kTenths, "12:00:00. ", "1 (null)"},
+    {kFraction, "12:00:00.999", "4 12:00:00:999000"},
+    {kFraction, "12:00:00.05 ", "1 (null)"},
+    {kFraction, "12:00:59.000", "4 12:00:59"},
+    {kHalves, "12:00 AM", "4 00:00:00"},
+    {kHalves, "12:00 PM", "4 12:00:00"},
+    {kHalves, "00:30 AM", "2 (null)"},
+    {kHalves, "13:00 PM", "2 (null)"},
+    {kHalves, "01:30 XM", "2 (null)"},
+    {kHalves, "01:30   ", "1 (null)"},
+    {kHalves, "  :   PM", "1 (null)"},
+    {kHalves, "11:59 pm", "2 (null)"},
+    {kHalves, "01:30 A ", "2 (null)"},
+    {kHourAlones, "13", "4 13:00:00"},
+    {kHourAlones, "24", "2 (null)"},
+    {kDateOfBoth, "07/04/2024", "4 2024-07-04 00:00:00"},
+    {kDateOfBoth, "02/30/2024", "2 (null)"},
+    {kHalfOfDate, "07/04/2024 PM", "4 2024-07-04 00:00:00"},
+    {kHalfOfDate, "07/04/2024 AM", "4 2024-07-04 00:00:00"},
+    {kHalfOfDate, "07/04/2024   ", "1 (null)"},
+    {kBothHalvess, "07/04/24 12:30 AM", "4 2024-07-04 00:30:00"},
+    {kBothHalvess, "07/04/24 12:30   ", "1 (null)"},
+    {kBothHalvess, "  /  /   12:30 PM", "1 (null)"},
+    {kFreeDates, "07/04/2024   ", "4 2024-07-04"},
+    {kFreeDates, "  /  /     A ", "1 (null)"},
+    {kFreeDates, "  /  /       ", "0 "},
+    {kNothingBetween, "20240704", "4 2024-07-04"},
+    {kNothingBetween, "2024 704", "2 (null)"},
+    {kNothingBetween, "202407 4", "2 (null)"},
+};
+TEST_ROWS(Texts, ModernReading, kReadings);
+// clang-format on
 
 // ---- before there is a mask
 
