@@ -27,8 +27,6 @@ bool IsNoNumber(const Text& text, const Place& place)
 
 Text WithBlanks(const EditInstance& edit, Text text)
 {
-    if (IsClassicBlank(edit, text))
-        return BlankText(edit);
     const Layout layout(edit, text);
     for (const Place& place : layout.Places())
         if (layout.Fits() && IsNoNumber(text, place))
@@ -64,7 +62,7 @@ Content FromClassic(const EditInstance& edit, const Text& text)
     const Kind& kind = KindOf(edit);
     if (&kind == &kDates && IsClassicBlank(edit, text))
         content.text = BlankText(edit);
-    else if (&kind == &kStrings && HasMask(edit))
+    else if (&kind == &kStrings)
         content.text = Padded(edit, text);
     else if (&kind == &kNumbers)
         content.isEmpty = ShowsZero(edit, content);
@@ -75,15 +73,10 @@ Text ToClassic(const EditInstance& edit, const Content& content)
 {
     if (&KindOf(edit) != &kDates || KindOf(edit).state(edit, content) == ZTS_INVALID)
         return content.text;
-    if (KindOf(edit).state(edit, content) == ZTS_EMPTY) {
-        Display blank;
-        FormatFields(edit, nullptr, blank);
-        return blank.text;
-    }
     Content after = content;
     const Layout layout(edit, after.text);
     for (const Place& place : layout.Places())
-        if (dates::IsPart(place) && place.kind != FieldKind::AmPm && !dates::IsMonthName(place))
+        if (dates::IsPart(place) && !dates::IsMonthName(place))
             std::replace(after.text.begin() + place.start, after.text.begin() + place.End(), Char{' '}, Char{'0'});
     if (layout.Of(FieldKind::AmPm) && !ShownHalf(edit, after.text))
         dates::PutHalf(edit, after, HalfOfDay::Am);

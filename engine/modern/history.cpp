@@ -47,7 +47,6 @@ const Content& History::Undo()
 
 const Content& History::Redo()
 {
-    EndRun();
     return steps_[done_++].after;
 }
 

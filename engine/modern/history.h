@@ -26,7 +26,7 @@ public:
     bool CanUndo() const { return done_ > 0; }
     bool CanRedo() const { return done_ < steps_.size(); }
     size_t Steps() const { return done_; }
-    // The content to show; asked where there is one.
+    // The content to show; asked where there is one. What is done again has been undone, which ends a run.
     const Content& Undo();
     const Content& Redo();
 

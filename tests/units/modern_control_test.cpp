@@ -442,6 +442,15 @@ TEST(ModernField, IsSetByAProgramWithTheCaretWhereEditingStarts)
     EXPECT_EQ(free.Spy().Calls(), (std::vector<std::string>{"KeepLayout", "SetText", "KeepLayout"}));
 }
 
+TEST(ModernField, OfLiteralsAloneHasNoPlaceToGoTo)
+{
+    Spied spied({"(-)", DT_STRING, nullptr, ZTEO_MODERN});
+    spied.Spy().Forget();
+    for (const int32_t key : {KEY_HOME, KEY_END, KEY_LEFT, KEY_RIGHT})
+        spied.Control().KeyDown(key);
+    EXPECT_EQ(spied.Spy().Calls(), (std::vector<std::string>{}));
+}
+
 TEST(ModernField, CopiesWhatIsCutAndNothingWithoutASelection)
 {
     Spied spied({"MM/DD/YYYY", DT_DATE, nullptr, ZTEO_MODERN});

@@ -49,6 +49,8 @@ const ToldRow kStrings[] = {
     {kPlus, "12|+ab", "+",                   "12+|ab", ""},
     {kPlus, nullptr, "12-",                  "12+-| ", "changed 0>1 changed 1>4 changed"},
     {kPlus, nullptr, "12++",                 "12++| ", "changed 0>1 changed 1>4 changed"},
+    {kPlus, nullptr, "1++",                  "1 ++| ", "changed 0>1 changed"},
+    {kHalfFirst, "junk|", "0130",            "AM 01:30|", "changed 2>1 changed changed changed 1>4"},
     {kSkippingBracketed, nullptr, "5)",      "(5  )|", "changed 0>1"},
     {kSkippingBracketed, nullptr, "555",     "(555)|", "changed 0>1 changed changed 1>4 full"},
     // a separator of one's own stands for those just passed, once

@@ -22,7 +22,7 @@ constexpr TypingSetup kUnmasked = {"", DT_STRING};
 constexpr TypingSetup kNoted = {"MM/DD/YYYY XX", DT_DATE};
 constexpr TypingSetup kNoHalves = {"HH:MM AM/PM", DT_TIME, 0, nullptr, nullptr, "", ""};
 constexpr TypingSetup kNumberCodes = {"##0", DT_NUMBER, 0, "One\t1/Two\t2/Dozen\t12/None\tnull!"};
-constexpr TypingSetup kDateCodes = {"MM/DD/YYYY", DT_DATE, 0, "Epoch\t1970-01-01/Mine\t07/04/1995"};
+constexpr TypingSetup kDateCodes = {"MM-DD-YYYY", DT_DATE, 0, "Epoch\t1970-01-01/Mine\t07-04-1995"};
 constexpr TypingSetup kDecimalCodes = {"0.00", DT_DECIMAL, 0, "Half\t0.50/Shown\t1.00"};
 constexpr TypingSetup kNoTable = {"AAAAA", DT_STRING, ZTEO_SPIN | ZTEO_CODE_DISPLAY};
 constexpr TypingSetup kNoTableNoMask = {"", DT_STRING, ZTEO_SPIN | ZTEO_CODE_DISPLAY};
@@ -167,6 +167,26 @@ const SetRow kSetterSets[] = {  // 1: set
 TEST_ROWS(Texts, ModernSetter, kSetterSets);
 // clang-format on
 
+// ... and nothing else stays there.
+TEST(ModernSetter, LeavesNothingOfWhatStoodThere)
+{
+    for (const TypingSetup* setup : {&kUs, &kTime, &kBoth}) {
+        Played played(*setup);
+        const std::string empty = played.Shown();
+        EditingOf(played.Record()).setDataString(played.Record(), "2024-07-04 13:30");
+        EditingOf(played.Record()).setDataString(played.Record(), "x");
+        EXPECT_EQ(played.Shown(), empty);
+    }
+}
+
+// A value comes before a display that is called the same.
+TEST(ModernData, IsAValueBeforeItIsADisplay)
+{
+    Played played({"", DT_STRING, 0, "A\tB/B\tA"});
+    EXPECT_EQ(TrySetDataString(played.Record(), "A"), 0);
+    EXPECT_EQ(played.Shown(), "[B]");
+}
+
 // ---- values of their types, which a code table may know by another name
 
 DateTimeValue DateOf(const char* canonical)
@@ -218,8 +238,8 @@ TEST(ModernValues, AreShownAsTheirEntries)
     EXPECT_EQ(ShownAs(kNumberCodes, &seven), "[7]");
     EXPECT_EQ(ShownAs(kNumberCodes, nullptr), "[None]");
     EXPECT_EQ(ShownAs(kDateCodes, &epoch), "[Epoch]");
-    EXPECT_EQ(ShownAs(kDateCodes, &mine), "[07/04/1995]");
-    EXPECT_EQ(ShownAs(kDateCodes, &other), "[07/05/1995]");
+    EXPECT_EQ(ShownAs(kDateCodes, &mine), "[Mine]");
+    EXPECT_EQ(ShownAs(kDateCodes, &other), "[07-05-1995]");
     EXPECT_EQ(ShownAs(kDecimalCodes, &half), "[Half]");
     EXPECT_EQ(ShownAs(kDecimalCodes, &one), "[Shown]");
 }
@@ -390,6 +410,7 @@ TEST(ModernValues, AreNoneWithoutAMask)
     EXPECT_EQ(EditingOf(edit).setData(edit, &date), 0);
     EXPECT_EQ(EditingOf(edit).setDataString(edit, "1970-01-01"), 0);
     EXPECT_EQ(EditingOf(edit).setDataString(edit, "x"), 0);
+    EXPECT_EQ(EditingOf(edit).setDataString(edit, nullptr), 0);
     EXPECT_EQ(EditingOf(edit).getData(edit), nullptr);
     EXPECT_EQ(EditingOf(edit).format(edit, &date).text, "");
     EXPECT_EQ(TrySetDataString(edit, "1970-01-01"), ZTR_DOES_NOT_FIT);
@@ -526,6 +547,16 @@ TEST(ModernSpinSettings, ForgetWhatWasChosenFromAnotherTable)
     EXPECT_EQ(lookedUp.Record().editor->UndoSteps(), 0u);
 }
 
+// Where values are shown by a table that is still missing, there is nothing to undo either once that ends.
+TEST(ModernSpinSettings, ForgetWhatWasTypedWithoutATable)
+{
+    Played played(kNoTable);
+    played.Play("ab");
+    ASSERT_EQ(played.Record().editor->UndoSteps(), 1u);
+    EditingOf(played.Record()).setSpin(played.Record(), 1, nullptr, nullptr, 0);
+    EXPECT_EQ(played.Record().editor->UndoSteps(), 0u);
+}
+
 // ---- classic controls are asked the same
 
 struct ClassicRow {
@@ -615,6 +646,19 @@ const SetRow kClassicSets[] = {
 TEST_ROWS(Texts, ClassicData, kClassicSets);
 // clang-format on
 
+TEST(ClassicData, MayBeTheEmptyValue)
+{
+    for (const TypingSetup* setup : {&kUs, &kTime, &kPhone, &kAmount}) {
+        Played played(*setup, ZTEO_MODERN);
+        const std::string empty = played.Edit().Shown();
+        for (const char* value : {"2024-07-04", "13:30", "5551234567", "12"})
+            TrySetDataString(played.Record(), value);
+        EXPECT_NE(played.Edit().Shown(), empty);
+        EXPECT_EQ(TrySetDataString(played.Record(), ""), 0);
+        EXPECT_EQ(played.Edit().Shown(), empty);
+    }
+}
+
 // ---- modern editing turned on and off
 
 struct SwitchRow {
@@ -684,6 +728,20 @@ TEST(ModernTurnedOn, TellsItsStates)
     EXPECT_EQ(played.Shown(), "07/04/202| ");
 }
 
+// What shows no data is as empty as it would be in modern editing.
+TEST(ModernTurnedOn, FindsNothingToTakeOutOfWhatIsEmpty)
+{
+    for (const TypingSetup* setup : {&kColours, &kUs, &kPhone}) {
+        Played played(*setup, ZTEO_MODERN);
+        TrySetDataString(played.Record(), "");
+        SetModern(played.Record(), true);
+        played.Show(nullptr);
+        played.Play("{All}{Del}");
+        EXPECT_EQ(played.Heard().All(), "");
+        EXPECT_EQ(played.Record().editor->UndoSteps(), 0u);
+    }
+}
+
 class ModernTurnedOff : public RowTest<SwitchRow> {};
 
 ROW_TEST(ModernTurnedOff, LaysAnewWhatThePositionsHold)
@@ -706,6 +764,14 @@ const SwitchRow kTurnedOff[] = {  // what is typed before, what is shown after, 
     {kUs, "07042024",         "07/04/2024",     "2024-07-04"},
     {kUs, "1",                "10/00/0000",     "(null)"},
     {kUs, "{Set junk}",       "junk",           "(null)"},
+    {kUs, "{Set 1 /32/2024}", "1 /32/2024",     "2024-01-32"},
+    {kDayOfYear, "",          "000/0000",       "(null)"},
+    {kFraction, "",           "00:00:00.000",   "(null)"},
+    {kHalfFirst, "",          "AM 00:00",       "(null)"},
+    {kDotted, "",             "00:00 a.m.",     "(null)"},
+    {kBoth, "",               "00/00/0000 00:00", "(null)"},
+    {kNoted, "",              "00/00/0000   ",  "(null)"},
+    {kNoHalves, "",           "00:00 ",         "(null)"},
     {kUs, "02302024",         "02/30/2024",     "2024-02-30"},
     {kNamed, "",              "00-   -0000",    "(null)"},
     {kNamed, "4",             "04-   -0000",    "(null)"},
