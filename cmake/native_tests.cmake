@@ -103,6 +103,13 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     zt_compile_together(test_model)
 endif()
 
+# What the bindings of other languages declare, against the headers and what compilers for Windows make of them.
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    find_program(ZT_PYTHON python3 REQUIRED)
+    add_test(NAME bindings_declarations COMMAND ${ZT_PYTHON} -B ${CMAKE_SOURCE_DIR}/tests/bindings/check_declarations.py)
+    add_test(NAME bindings_python COMMAND ${ZT_PYTHON} -B ${CMAKE_SOURCE_DIR}/tests/bindings/python_binding_test.py)
+endif()
+
 add_test(NAME includes COMMAND ${CMAKE_COMMAND} -DSOURCE_DIR=${CMAKE_SOURCE_DIR}
     -P ${CMAKE_SOURCE_DIR}/cmake/check_includes.cmake)
 add_test(NAME lines COMMAND ${CMAKE_SOURCE_DIR}/tools/check_lines.sh WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})

@@ -74,6 +74,10 @@ add_executable(assistive_client ${CMAKE_SOURCE_DIR}/tests/support/programs/assis
 target_link_libraries(assistive_client PRIVATE zt_build_flags user32)
 add_dependencies(test_win32 assistive_client)
 
+# The program that tells what a sample's form shows, for tests/package.
+add_executable(form_reader ${CMAKE_SOURCE_DIR}/tests/support/programs/form_reader.cpp)
+target_link_libraries(form_reader PRIVATE zt_build_flags user32)
+
 # A person at the demo form: real key and mouse presses, compared with what it must show and give back.
 add_test(NAME demo COMMAND ${CMAKE_SOURCE_DIR}/tools/run_under_wine.sh
     ${CMAKE_SOURCE_DIR}/tests/demo/types_into_the_form.sh ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/demo.exe)

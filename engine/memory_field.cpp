@@ -61,7 +61,7 @@ int32_t FirstLineLength(const Text& text)
 
 Selection MemoryField::ReadSelection() const
 {
-    return {std::min(anchor_, caret_), std::max(anchor_, caret_)};
+    return anchor_ < caret_ ? Selection{anchor_, caret_} : Selection{caret_, anchor_};
 }
 
 // ---- selection
@@ -95,7 +95,7 @@ void MemoryField::SetText(const Char* text)
         ForgetUndo();
     text_ = text;
     FoldCase(0, text_.size());
-    MoveCaret(0, false);
+    anchor_ = caret_ = 0;
     modified_ = false;
     Tell(FieldEvent::Update);
     Tell(FieldEvent::Change);
@@ -141,7 +141,7 @@ void MemoryField::Put(const Char* text, int32_t count, bool canUndo)
     else
         text_.replace(start, static_cast<size_t>(selection.end) - start, text, static_cast<size_t>(count));
     FoldCase(start, static_cast<size_t>(count));
-    MoveCaret(selection.start + count, false);
+    anchor_ = caret_ = selection.start + count;
     modified_ = true;
     Tell(FieldEvent::Update);
     Tell(FieldEvent::Change);
@@ -273,6 +273,8 @@ void MemoryField::Press(Key key)
         MoveCaret(destination, shiftHeld_);
         return;
     }
+    if (key != KEY_DELETE && key != KEY_INSERT)
+        return;  // it makes a character, or nothing
     for (const EditKey& row : kEditKeys)
         if (row.key == key && row.shift == shiftHeld_ && row.control == controlHeld_)
             (this->*row.act)();

@@ -55,6 +55,12 @@
 extern "C" {
 #endif
 
+/* The version of these declarations; the library that runs tells its own, see ZTE_Initialize. */
+#define ZTEDIT_VERSION_MAJOR 0
+#define ZTEDIT_VERSION_MINOR 5
+#define ZTEDIT_VERSION_PATCH 0
+#define ZTEDIT_VERSION (ZTEDIT_VERSION_MAJOR * 65536 + ZTEDIT_VERSION_MINOR * 256 + ZTEDIT_VERSION_PATCH)
+
 #define ZTEDIT_CLASS "ZTEDIT050"
 #define ZTN_AUTOSKIP 0x0903
 
@@ -113,19 +119,39 @@ typedef struct FormatResult {
 
 /* ---- The control --------------------------------------------------------------------------------------------------- */
 
+/* To be called before the first control is created, best when the program starts. A program that makes its controls by the name of
+ * their class alone would otherwise need no function of the library, so that its linker would leave the library out, and the class
+ * would not exist. May be called any number of times; takes no memory, and nothing ends it.
+ *
+ * Returns the version of the library that runs, made like ZTEDIT_VERSION: 0x000500 is 0.5.0.
+ *
+ *     if (ZTE_Initialize() < ZTEDIT_VERSION)
+ *         return Fail("ztedit050.dll is older than this program.");
+ */
+uint32_t WINAPI ZTE_Initialize(void);
+
 /* The window procedure of "ZTEDIT050". May also subclass a standard edit control; call ZTE_Init afterwards. A window that
  * has not been configured behaves as a plain edit. */
 LRESULT CALLBACK ZTE_SuperEditWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
 /* Configures an existing window whose messages reach ZTE_SuperEditWndProc, for example one from a dialog template. A second
- * call configures the control anew. Returns 1; 0, and nothing is changed, for a heap that is none, for a window whose messages
- * do not reach that procedure, and for one that gets wide texts (see above).
+ * call configures the control anew. Returns 1; 0, and nothing is changed, without parameters, for a heap that is none, for a window
+ * whose messages do not reach that procedure, and for one that gets wide texts (see above). ZTE_GetLastProblem tells which it was, and
+ * after a 1 whether the mask and the type are those that were given.
  *
  *     EditInitParams p = {0};
  *     p.heap = heap;  p.maskText = "MM/DD/YY";  p.dataType = DT_DATE;  p.options = ZTEO_AUTOSKIP;
  *     ZTE_Init(GetDlgItem(dialog, IDC_DUE), &p);
  */
 int32_t WINAPI ZTE_Init(HWND hwnd, const EditInitParams* params);
+
+/* Why a window is no control, or not the one that was asked for: of the last ZTE_Init, of the creation with CreateWindowEx, or of the
+ * last ZTE_FmtSetMask, whichever came last. Returns a ZTP_ value; ZTP_NONE when all is as it was asked for, and for what is no window.
+ *
+ *     HWND due = CreateWindowExA(..., ZTEDIT_CLASS, ..., &params);
+ *     assert(ZTE_GetLastProblem(due) == ZTP_NONE);
+ */
+int32_t WINAPI ZTE_GetLastProblem(HWND hwnd);
 
 /* Turns autoskip on or off. Only bit 0 of on counts, on purpose: 2 turns it off, 3 on. */
 void WINAPI ZTE_SetAutoskip(HWND hwnd, uint32_t on);
@@ -152,6 +178,20 @@ void WINAPI ZTE_UtilSetFormatRect(HWND hwnd);
  * no control.
  */
 int32_t WINAPI ZTE_FmtSetMask(HWND hwnd, const char* mask, int32_t dataType);
+
+/* Tells whether a mask fits a data type under the regional settings of the moment, without a control.
+ *
+ * mask, dataType  as for ZTE_FmtSetMask.
+ * position        filled, where it is not null, with the offset in the mask of what does not fit: the length of the mask where
+ *                 something is missing behind it, -1 for a mask that fits.
+ *
+ * Returns ZTM_FITS, or the ZTM_ value of what is wrong first. No mask at all fits strings alone.
+ *
+ *     int32_t position;
+ *     if (ZTE_CheckMask("MM/DD", DT_DATE, &position) == ZTM_FIELD_MISSING)
+ *         ...  there is no year; position is 5
+ */
+int32_t WINAPI ZTE_CheckMask(const char* mask, int32_t dataType, int32_t* position);
 
 /* Shows a value. data points to a value of the control's type (see DT_STRING ...); null shows the empty value, 0 for
  * numbers. The result carries no status; 0 for a window that is no control. */
@@ -184,7 +224,7 @@ FormatResult* WINAPI ZTE_FmtFormatData(HWND hwnd, const void* data);
 
 /* Reads a text of the caller's as if the control showed it. Results as ZTE_FmtGetData, except that dates and times are read
  * as canonical text only (an unreadable one gives the empty DateTimeValue), and a percentage is not divided. Null for an
- * empty or null text. */
+ * empty or null text. Modern controls read in the same way. */
 void* WINAPI ZTE_FmtUnformatData(HWND hwnd, const char* text);
 
 /* ---- Modern editing ------------------------------------------------------------------------------------------------ */

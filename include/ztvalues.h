@@ -80,6 +80,30 @@ typedef struct SharedListData* SharedList;
 #define ZTS_OUT_OF_RANGE 3 /* a value outside the spin's range */
 #define ZTS_COMPLETE 4
 
+/* Why a window is no control, or not the one that was asked for; see ZTE_GetLastProblem */
+#define ZTP_NONE 0
+#define ZTP_NO_PARAMETERS 1  /* no EditInitParams */
+#define ZTP_NO_HEAP 2        /* EditInitParams.heap is null */
+#define ZTP_FOREIGN_HEAP 3   /* it is no heap of ztshared.dll's, or one that was destroyed */
+#define ZTP_NOT_SUBCLASSED 4 /* the window's messages do not reach ZTE_SuperEditWndProc, or it is another process's */
+#define ZTP_WIDE_TEXTS 5     /* a standard edit control that was subclassed with SetWindowLongPtrW */
+#define ZTP_DATA_TYPE 6      /* there is no such data type: texts are shown as they are */
+#define ZTP_MASK 7           /* the mask does not fit the type, whose default stands in; ZTE_CheckMask tells why */
+
+/* Whether a mask fits its data type, and why not; see ZTE_CheckMask */
+#define ZTM_FITS 0
+#define ZTM_DATA_TYPE 1    /* there is no such data type */
+#define ZTM_EMPTY 2        /* no mask at all, in a type other than DT_STRING */
+#define ZTM_TOO_LONG 3     /* more than 255 characters */
+#define ZTM_ESCAPE 4       /* a '~' with nothing behind it that it could make a literal */
+#define ZTM_KEYWORD 5      /* a keyword that nothing can be made of under the settings: "[currency(17)]" */
+#define ZTM_OUT_OF_PLACE 6 /* a literal behind a number's first digit, a digit behind '%', quotation marks in numbers */
+#define ZTM_TWICE 7        /* a field, the point, '%' or the currency symbol a second time */
+#define ZTM_FIELD_LENGTH 8 /* a field has no such length: "M", "YYY" */
+#define ZTM_EXCLUDED 9     /* a day of the year beside a day or a month */
+#define ZTM_FIELD_MISSING 10 /* a field needs another one: minutes hours, a day its month, a date its year */
+#define ZTM_NO_DIGIT 11      /* a number without any place for a digit */
+
 /* Why something was refused */
 #define ZTR_WRONG_KIND 1        /* a character that does not belong there */
 #define ZTR_OUT_OF_BOUNDS 2     /* the field has no such number: a month 13 */

@@ -1,9 +1,10 @@
 #!/bin/bash
 # Installs what building, testing and the demo need on Debian 12; does nothing when all is there.
-# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --peers | --coverage]
+# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --peers | --coverage | --bindings | --package]
 #     --clang      the second compiler and the code checkers as well
 #     --fuzz       the fuzzers of clang; --mutate  what tools/mutate needs
 #     --bench      what measuring the engine needs, --coverage what counting covered lines needs
+#     --bindings   what compiling and checking the bindings of other languages needs
 #     --peers      what measuring the engine beside others of its kind needs
 set -euo pipefail
 
@@ -13,6 +14,7 @@ packages=(
     g++-multilib:/usr/lib/gcc/x86_64-linux-gnu/12/32/libstdc++.a
     g++-mingw-w64-i686-posix:/usr/bin/i686-w64-mingw32-g++-posix
     g++-mingw-w64-x86-64-posix:/usr/bin/x86_64-w64-mingw32-g++-posix
+    python3:python3
     cmake:cmake
     ninja-build:ninja
     googletest:/usr/src/googletest/CMakeLists.txt
@@ -40,6 +42,11 @@ case ${1:-} in
     packages+=(libbenchmark-dev:/usr/include/benchmark/benchmark.h libicu-dev:/usr/include/unicode/utypes.h nodejs:node npm:npm)
     ;;
 --coverage) packages+=(gcovr:gcovr) ;;
+--package) packages+=(llvm:/usr/lib/llvm-14/bin/llvm-dlltool lld:lld-link clang:clang zip:zip unzip:unzip pkg-config:pkg-config) ;;
+--bindings)
+    packages+=(clang:clang++ fp-compiler:fpc fpc-source:/usr/share/fpcsrc)
+    packages+=(mono-mcs:mcs mono-runtime:mono libmono-system-windows-forms4.0-cil:/usr/lib/mono/4.5/System.Windows.Forms.dll)
+    ;;
 --mutate) packages+=(clang:clang++ lld:ld.lld python3-clang:/usr/lib/python3/dist-packages/clang/cindex.py) ;;
 esac
 

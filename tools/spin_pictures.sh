@@ -27,8 +27,10 @@ for style in Themed Unthemed; do
         done
         [ ${#cells[@]} -gt 0 ] || fail "no picture of $style, $state"
         row=$folder/row-${#rows[@]}.png
-        montage -label '' "${cells[@]}" -filter point -resize 400% -background white -gravity south -geometry '+12+6' -tile 4x1 "$folder/cells.png"
-        convert -size 300x160 -font Liberation-Sans -background white -fill black -gravity west -pointsize 22 "label:$style, $state" "$folder/label.png"
+        montage -label '' "${cells[@]}" -filter point -resize 400% -background white -gravity south -geometry '+12+6' -tile 4x1 \
+            "$folder/cells.png"
+        convert -size 300x160 -font Liberation-Sans -background white -fill black -gravity west -pointsize 22 \
+            "label:$style, $state" "$folder/label.png"
         convert "$folder/label.png" "$folder/cells.png" -background white -gravity west +append "$row"
         rows+=("$row")
     done

@@ -5,8 +5,8 @@
 
 #include "engine/editing.h"
 #include "engine/spin/spin_settings.h"
-#include "win32/heap_watch.h"
 #include "win32/life_guard.h"
+#include "win32/problems.h"
 #include "win32/record_store.h"
 #include "win32/regional_settings.h"
 #include "win32/spin_layout.h"
@@ -29,7 +29,8 @@ void SetUpContents(EditInstance& edit, const EditInitParams& params)
     if ((params.options & ZTEO_MODERN) != 0)
         BeginModern(edit);
     ReadPicturesFor(params.maskText);
-    EditingOf(edit).setMask(edit, params.maskText, edit.dataType);
+    const int32_t asGiven = EditingOf(edit).setMask(edit, params.maskText, edit.dataType);
+    FieldOf(edit).problem = ProblemOfMask(edit, params.maskText, asGiven != 0);
     if (params.initialData)
         EditingOf(edit).setDataString(edit, params.initialData);
     if (Has(edit, HAS_SPIN))
@@ -61,20 +62,24 @@ LRESULT CreateControl(HWND hwnd, WPARAM wParam, LPARAM lParam)
 {
     const auto& creation = *reinterpret_cast<const CREATESTRUCTA*>(lParam);
     const auto* params = static_cast<const EditInitParams*>(creation.lpCreateParams);
-    EditInstance* record = params && IsUsableHeap(params->heap) ? NewRecord(hwnd, *params) : nullptr;
+    const int32_t obstacle = params ? ObstacleOfHeap(params->heap) : ZTP_NONE;
+    if (obstacle != ZTP_NONE)
+        NoteProblem(hwnd, obstacle);
+    EditInstance* record = params && obstacle == ZTP_NONE ? NewRecord(hwnd, *params) : nullptr;
     if (!record)
         return CallBaseEdit(hwnd, WM_CREATE, wParam, lParam);
 
     EditInstance& edit = *record;
-    return WhileAlive<LRESULT>(edit, -1, [&] {
+    LRESULT result = -1;
+    WhileAlive(edit, [&] {
         SetUpSpin(edit, *params);
         edit.controlId = static_cast<uint32_t>(reinterpret_cast<uintptr_t>(creation.hMenu));
         edit.hwndParent = creation.hwndParent;
-        const LRESULT result = FieldOf(edit).ToBase(WM_CREATE, wParam, lParam);
+        result = FieldOf(edit).ToBase(WM_CREATE, wParam, lParam);
         if (result != -1)
             SetUpContents(edit, *params);
-        return result;
     });
+    return IsWindow(hwnd) ? result : -1;  // the parent hears of the first text, and may do anything
 }
 
 // The end of a spin may bring messages to the control, so that it is one until then; they may even destroy it.

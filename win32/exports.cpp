@@ -1,13 +1,14 @@
 // The exported functions of ztedit.h, each around a function of the engine: they find the record, and survive its going away.
 #include "engine/editing.h"
+#include "engine/format/mask_setting.h"
 #include "engine/format/read_back.h"
 #include "engine/heap_block.h"
 #include "engine/spin/range.h"
 #include "engine/values/caller_value.h"
 #include "win32/creation.h"
 #include "win32/heap_watch.h"
-#include "win32/library.h"
 #include "win32/life_guard.h"
+#include "win32/problems.h"
 #include "win32/record_store.h"
 #include "win32/regional_settings.h"
 #include "win32/spin_layout.h"
@@ -16,34 +17,32 @@
 
 using namespace zte;
 
-namespace {
-
-// A record on any other window would outlive it: nothing would tell when the window goes.
-bool ReachesLibrary(HWND hwnd)
-{
-    DWORD process = 0;
-    GetWindowThreadProcessId(hwnd, &process);
-    return process == GetCurrentProcessId() &&
-           SendMessageA(hwnd, reachMessage, 0, 0) == reinterpret_cast<LRESULT>(libraryInstance);
-}
-
-// Subclassed with the W function the procedure gets wide texts, which it would take for narrow ones.
-bool GetsWideTexts(HWND hwnd)
-{
-    const auto own = reinterpret_cast<LONG_PTR>(&ZTE_SuperEditWndProc);
-    return IsWindowUnicode(hwnd) && GetWindowLongPtrW(hwnd, GWLP_WNDPROC) == own;
-}
-
-bool CanBeControl(HWND hwnd, const EditInitParams& params)
-{
-    return ReachesLibrary(hwnd) && IsUsableHeap(params.heap) && !GetsWideTexts(hwnd);
-}
-
-}  // namespace
-
 int32_t WINAPI ZTE_Init(HWND hwnd, const EditInitParams* params)
 {
-    return params && CanBeControl(hwnd, *params) ? SetUpControl(hwnd, *params) : 0;
+    const int32_t obstacle = ObstacleOf(hwnd, params);
+    if (obstacle == ZTP_NONE)
+        return SetUpControl(hwnd, *params);
+    NoteProblem(hwnd, obstacle);
+    return 0;
+}
+
+uint32_t WINAPI ZTE_Initialize()
+{
+    return ZTEDIT_VERSION;
+}
+
+int32_t WINAPI ZTE_GetLastProblem(HWND hwnd)
+{
+    return LastProblem(hwnd);
+}
+
+int32_t WINAPI ZTE_CheckMask(const char* mask, int32_t dataType, int32_t* position)
+{
+    ReadPicturesFor(mask);
+    const MaskVerdict verdict = JudgeMask(mask, dataType, regionalSettings);
+    if (position)
+        *position = verdict.offset;
+    return verdict.reason;
 }
 
 void WINAPI ZTE_SetAutoskip(HWND hwnd, uint32_t on)
@@ -64,7 +63,11 @@ int32_t WINAPI ZTE_FmtSetMask(HWND hwnd, const char* mask, int32_t dataType)
     if (!edit)
         return 1;
     ReadPicturesFor(mask);
-    return WhileAlive(*edit, 1, [&] { return EditingOf(*edit).setMask(*edit, mask, dataType); });
+    return WhileAlive(*edit, 1, [&] {
+        const int32_t asGiven = EditingOf(*edit).setMask(*edit, mask, dataType);
+        FieldOf(*edit).problem = ProblemOfMask(*edit, mask, asGiven != 0);
+        return asGiven;
+    });
 }
 
 int32_t WINAPI ZTE_FmtSetData(HWND hwnd, const void* data)

@@ -11,6 +11,7 @@
 #include "win32/known_record.h"
 #include "win32/life_guard.h"
 #include "win32/open_deletion.h"
+#include "win32/problems.h"
 #include "win32/regional_settings.h"
 #include "win32/spin_layout.h"
 #include "win32/spin_window.h"
@@ -96,6 +97,7 @@ void WINAPI LetGoOfHeap(SharedHeapWatcher* watcher)
     LifeGuard::TellAll(FieldOf(edit));
     DropEditor(edit);
     DetachEditInstance(hwnd);
+    NoteProblem(hwnd, ZTP_FOREIGN_HEAP);
 }
 
 }  // namespace

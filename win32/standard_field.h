@@ -65,6 +65,7 @@ public:
     bool isPointToCome = false;  // the keypad's decimal key has gone down in a modern control, its character is to come
     int32_t bytesToCome = 0;     // of a character of several bytes that was refused
     uint32_t pressedAt = 0;      // when the mouse button went down on the spin, in milliseconds
+    int32_t problem = ZTP_NONE;  // of the configuration, and of the mask set last
     LifeGuard* guard = nullptr;  // innermost entry into the library that works on this control
 
 private:

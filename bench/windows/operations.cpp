@@ -55,6 +55,17 @@ Side Stepping(const std::string& name, HWND window, const std::function<void()>&
     return {name, prepare, play, window};
 }
 
+// The least that a step can be: a plain edit has the focus, as the control has, gets the key, and is given another text.
+Side SettingText(HWND edit, const char* one, const char* other)
+{
+    const auto play = [edit, one, other](int number) {
+        PressKey(edit, VK_UP);
+        SetWindowTextA(edit, number % 2 ? one : other);
+        Paint(edit);
+    };
+    return {"edit, text set", [edit] { SetFocus(edit); }, play};
+}
+
 Side Plain(const std::string& name, const std::function<void(int)>& play)
 {
     return {name, [] {}, play};
@@ -99,13 +110,7 @@ Operation DateStep(const Form& form)
                       ZTE_FmtSetDataString(control, "1995-07-04");
                       SendMessageA(control, EM_SETSEL, 3, 3);
                   }),
-          Plain("edit, text set",
-          [edit](int number) {
-                   PressKey(edit, VK_UP);
-                   SetWindowTextA(edit, number % 2 ? "07/04/1995" : "07/05/1995");
-                   Paint(edit);
-               }),
-          Stepping("date picker", picker, [] {})}
+          SettingText(edit, "07/04/1995", "07/05/1995"), Stepping("date picker", picker, [] {})}
     };
 }
 

@@ -76,13 +76,17 @@ void MoveOnWhenFull(EditInstance& edit)
 
 bool SkipLiterals(EditInstance& edit, const Text& text, int32_t position)
 {
-    const PositionsUnder positions(edit, text);
+    const auto mayTypeAt = [&](int32_t at) {
+        return PositionOf(edit, text, at).IsEditable() || IsAmPmPosition(edit, at);
+    };
     const int32_t end = ShownLength(edit, text);
     int32_t next = position;
-    while (next < end && !positions.MayTypeAt(next))
+    while (next < end && !mayTypeAt(next))
         ++next;
-    if (next >= end || next == position)
-        return next < end;
+    if (next >= end)
+        return false;
+    if (next == position)
+        return true;
     edit.carriedFrom = position;
     edit.carriedTo = next;
     PlaceCaret(edit, next);

@@ -18,8 +18,8 @@ void MoveCaret(EditInstance& edit, Key key, KeyData keyData, bool shift);
 // capitals are typed with it.
 void MoveOnWhenFull(EditInstance& edit);
 
-// Puts the caret, which stands at position, behind the literals there, and remembers them as passed by typing. False where no position
-// that may be typed at follows: it stays.
+// Puts the caret, which stands at position under a mask that is no number's, behind the literals there, and remembers them as passed by
+// typing. False where no position that may be typed at follows: it stays.
 bool SkipLiterals(EditInstance& edit, const Text& text, int32_t position);
 
 // The literals that typing has just carried the caret over (from equals to: none, the caret stands behind a digit just

@@ -13,7 +13,7 @@ namespace {
 // Where a character is typed: before the first field it is meant for that field.
 int32_t PlaceToType(const EditInstance& edit, const Text& text, int32_t caret)
 {
-    return caret < edit.firstFieldPos && !IsEditable(edit, text, caret) ? edit.firstFieldPos : caret;
+    return caret < edit.firstFieldPos && !PositionOf(edit, text, caret).IsEditable() ? edit.firstFieldPos : caret;
 }
 
 // The half of the day that the character chooses, wherever the caret is; a letter that its own position takes belongs there.
@@ -31,7 +31,7 @@ std::optional<HalfOfDay> HalfMeant(const EditInstance& edit, const Text& text, i
 int32_t FindLiteralAhead(const EditInstance& edit, const Text& text, int32_t position, Char typed)
 {
     for (int32_t at = position + 1; at < Length(text) && at < ShownLength(edit, text); ++at)
-        if (At(text, at) == typed && PositionAt(edit, text, at).IsPlainLiteral())
+        if (At(text, at) == typed && PositionOf(edit, text, at).IsPlainLiteral())
             return at;
     return -1;
 }
@@ -83,7 +83,7 @@ void Overwrite(EditInstance& edit, int32_t position, int32_t length)
 // Overwrites as many positions as typedChar has characters.
 int32_t Place(EditInstance& edit, int32_t position, Char typed)
 {
-    const auto length = static_cast<int32_t>(TextLength(edit.typedChar));
+    const auto length = static_cast<int32_t>(BoundedLength(edit.typedChar, Verdict::kRoom));
     if (length == 0)
         return Caret(edit);
     Overwrite(edit, position, length);
@@ -117,6 +117,15 @@ void PlaceHalf(EditInstance& edit, const Text& text, HalfOfDay half)
     GoOn(edit, edit.field->ReadText(), Caret(edit));
 }
 
+// True when the character chooses a half of the day.
+bool EnterHalf(EditInstance& edit, const Text& text, int32_t caret, Char typed)
+{
+    const std::optional<HalfOfDay> half = HalfMeant(edit, text, caret, typed);
+    if (half)
+        PlaceHalf(edit, text, *half);
+    return half.has_value();
+}
+
 // A refused character that is a literal further on skips to it.
 void SkipAhead(EditInstance& edit, const Text& text, int32_t position, Char typed)
 {
@@ -129,9 +138,9 @@ void SkipAhead(EditInstance& edit, const Text& text, int32_t position, Char type
 }
 
 // True when the character was accepted. The verdict is in the record.
-bool IsAccepted(EditInstance& edit, const Text& text, int32_t position, Char typed)
+bool IsAccepted(EditInstance& edit, const Entry& entry)
 {
-    const Verdict verdict = Validate({edit, text, position, typed});
+    const Verdict verdict = Validate(entry);
     KeepVerdict(edit, verdict);
     return verdict.accepted;
 }
@@ -143,9 +152,10 @@ void EnterOnLiteral(EditInstance& edit, const Text& text, int32_t position, Char
     if (position >= first)
         return edit.field->Beep();
     PlaceCaret(edit, first);
-    if (!IsEditable(edit, text, first))
+    const Entry entry(edit, text, first, typed);
+    if (!entry.mask.IsEditable())
         return GoOn(edit, text, first);
-    if (!IsAccepted(edit, text, first, typed))
+    if (!IsAccepted(edit, entry))
         return edit.field->Beep();
     PlaceAndGoOn(edit, text, first, typed);
 }
@@ -158,15 +168,16 @@ void EnterChar(EditInstance& edit, Char typed, int32_t caret)
     ForgetVerdict(edit);
     const CarriedOver carried = TakeCarriedOver(edit);
     const Text text = edit.field->ReadText();
-    if (const std::optional<HalfOfDay> half = HalfMeant(edit, text, caret, typed))
-        return PlaceHalf(edit, text, *half);
+    if (HasAmPmField(edit) && EnterHalf(edit, text, caret, typed))
+        return;
     if (edit.displayLength > 0 && caret >= ShownLength(edit, text))
         return;
     if (IsCarriedLiteral(edit, text, carried, caret, typed))
         return;
-    if (!IsEditable(edit, text, caret))
+    const Entry entry(edit, text, caret, typed);
+    if (!entry.mask.IsEditable())
         EnterOnLiteral(edit, text, caret, typed);
-    else if (IsAccepted(edit, text, caret, typed))
+    else if (IsAccepted(edit, entry))
         PlaceAndGoOn(edit, text, caret, typed);
     else
         SkipAhead(edit, text, caret, typed);

@@ -13,8 +13,11 @@ namespace {
 
 constexpr int32_t kFebruary = 1;
 
+// A text set from outside may show something else than digits.
 int32_t TwoDigitNumber(Char first, Char second)
 {
+    if (IsDigit(first) && IsDigit(second))
+        return DigitValue(first) * 10 + DigitValue(second);
     const Char digits[] = {first, second, Char{}};
     return IntegerOf(digits);
 }
@@ -104,12 +107,12 @@ Verdict ValidateMonthName(const Entry& entry)
     return Verdict::Padding(Slice(name, index, Length(name)));
 }
 
-// Days of the month and year in the text; any month has up to 31 while none is readable.
+// Days of the month in the text, in whose year February has 28 or 29; any month has up to 31 while none is readable.
 int32_t DayLimit(const Entry& entry)
 {
-    const int32_t month = MonthFromText(entry.edit, entry.text);
-    const int32_t year = YearFromText(entry.edit, entry.text);
-    return month < 1 ? 31 : MonthRowOf(entry.edit.yearDigits, year, month - 1).days;
+    const int32_t month = MonthFromText(entry.edit, entry.text) - 1;
+    const int32_t year = month == kFebruary ? YearFromText(entry.edit, entry.text) : 0;
+    return month < 0 ? 31 : MonthRowOf(entry.edit.yearDigits, year, month).days;
 }
 
 int32_t DayOfYearToBe(const Entry& entry)

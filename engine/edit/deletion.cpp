@@ -34,16 +34,13 @@ void DeletePositions(EditInstance& edit, Selection selection)
 
 }  // namespace
 
-bool DeleteSelection(EditInstance& edit, Selection selection)
+void ClearSelected(EditInstance& edit, Selection selection)
 {
-    if (selection.IsEmpty())
-        return false;
     ForgetPassed(edit);
     if (IsNumeric(edit.dataType))
         DeleteInNumber(edit, selection);
     else
         DeletePositions(edit, selection);
-    return true;
 }
 
 }  // namespace zte

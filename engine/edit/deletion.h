@@ -5,7 +5,16 @@
 
 namespace zte {
 
-// Clears the selection back to the blank display (a number is laid anew); false when nothing is selected.
-bool DeleteSelection(EditInstance& edit, Selection selection);
+// Clears a selection, which is not empty, back to the blank display; a number is laid anew.
+void ClearSelected(EditInstance& edit, Selection selection);
+
+// The same where anything is selected; false where nothing is.
+inline bool DeleteSelection(EditInstance& edit, Selection selection)
+{
+    if (selection.IsEmpty())
+        return false;
+    ClearSelected(edit, selection);
+    return true;
+}
 
 }  // namespace zte

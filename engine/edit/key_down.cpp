@@ -120,8 +120,9 @@ bool HandleSpinKey(EditInstance& edit, int32_t key)
 
 bool HandleKeyDown(EditInstance& edit, int32_t key, KeyData keyData)
 {
-    if (MovesOrDeletes(key))
-        ForgetPassed(edit);
+    if (!MovesOrDeletes(key))
+        return false;
+    ForgetPassed(edit);
     switch (key) {
     case KEY_BACKSPACE: return HandleDeletion(edit, KEY_BACKSPACE, keyData);
     case KEY_DELETE: return HandleDelete(edit, keyData);

@@ -2,6 +2,7 @@
 #include "engine/edit/number_deletion.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "engine/text/ascii.h"
 
@@ -16,11 +17,12 @@ void MoveToFront(NumberEdit& number)
 
 // Lays out what a deletion has left. Zeros in front that nobody typed hold no place; where nothing else is left the caret goes before
 // them. A mask of '0' alone fills up with zeros in front.
-void ShowLeft(NumberEdit& number, const TypedNumber& left, DigitPlace place)
+void ShowLeft(NumberEdit& number, TypedNumber&& left, DigitPlace place)
 {
-    const TypedNumber shown = number.WithoutZerosInFront(left);
-    number.LayOut(shown, place);
-    if (!place.inFraction && shown.integer.empty())
+    TypedNumber shown = number.WithoutZerosInFront(std::move(left));
+    const bool isEmpty = shown.integer.empty();
+    number.LayOut(std::move(shown), place);
+    if (!place.inFraction && isEmpty)
         MoveToFront(number);
 }
 
@@ -46,14 +48,14 @@ void DeleteInFraction(NumberEdit& number, int32_t index, bool zeroed)
         left.fraction[static_cast<size_t>(index)] = '0';
     else
         left.fraction.erase(static_cast<size_t>(index), 1);
-    number.LayOut(left, {true, index});
+    number.LayOut(std::move(left), {true, index});
 }
 
 void DeleteSign(NumberEdit& number)
 {
     TypedNumber left = number.Digits();
     left.negative = false;
-    number.LayOut(left, number.Shown().Front());
+    number.LayOut(std::move(left), number.Shown().Front());
 }
 
 // right: integer digits right of the one that goes.
@@ -61,7 +63,7 @@ void ZeroBeforePoint(NumberEdit& number, int32_t right)
 {
     TypedNumber left = number.Digits();
     left.integer[left.integer.size() - static_cast<size_t>(right) - 1] = '0';
-    number.LayOut(left, {false, right + 1});
+    number.LayOut(std::move(left), {false, right + 1});
     number.MoveTo(number.Shown().NextDigit(number.Caret()));
 }
 
@@ -69,7 +71,7 @@ void DeleteBeforePoint(NumberEdit& number, int32_t right)
 {
     TypedNumber left = number.Digits();
     left.integer.erase(left.integer.size() - static_cast<size_t>(right) - 1, 1);
-    ShowLeft(number, left, {false, right});
+    ShowLeft(number, std::move(left), {false, right});
 }
 
 // Over the point, where no digit stands before it: what is typed next begins the number.
@@ -139,7 +141,7 @@ bool DeleteDigitBefore(NumberEdit& number)
     const bool grows = number.Mask().Grows();
     if (place.inFraction && place.digits > 0)
         DeleteInFraction(number, place.digits - 1, place.digits <= number.Mask().shape.forcedFraction);
-    else if (place.digits < Length(number.Digits().integer))
+    else if (place.digits < number.Shown().IntegerDigits())
         grows ? DeleteBeforePoint(number, place.digits) : ZeroBeforePoint(number, place.digits);
     else if (shown.Sign() >= 0 && number.Caret() > shown.Sign())
         DeleteSign(number);

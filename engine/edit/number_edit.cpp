@@ -13,11 +13,6 @@ namespace {
 constexpr int32_t kGroupSize = 3;
 constexpr int32_t kMostDigits = 254;
 
-bool IsZeros(const Text& digits)
-{
-    return digits.find_first_not_of(Char{'0'}) == Text::npos;
-}
-
 // How many characters the digits take before the point, as the number shows them.
 int32_t ShownLength(const FormatShape& shape, const Settings& settings, int32_t digits)
 {
@@ -36,35 +31,34 @@ NumberEdit::NumberEdit(EditInstance& edit, int32_t caret) : edit_(edit), text_(e
 void NumberEdit::BringIntoForm()
 {
     const FormatShape& shape = Mask().shape;
-    const bool isShort = !Mask().Grows() && Length(digits_.integer) < shape.forcedInteger;
+    const bool isShort = !Mask().Grows() && shown_->IntegerDigits() < shape.forcedInteger;
     if (isShort)
-        LayOut(digits_, {false, shape.forcedInteger});
-    else if (Length(digits_.fraction) > shape.fractionPlaces)
-        LayOut(digits_, shown_->PlaceAt(caret_));
+        LayOut(Digits(), {false, shape.forcedInteger});
+    else if (shown_->FractionDigits() > shape.fractionPlaces)
+        LayOut(Digits(), shown_->PlaceAt(caret_));
 }
 
 bool NumberEdit::IsInForm() const
 {
-    return LayOutDigits(Mask().format, Mask().shape, digits_, *edit_.settings) == text_;
+    return LayOutDigits(Mask().format, Mask().shape, Digits(), *edit_.settings) == text_;
 }
 
 void NumberEdit::TakeApart()
 {
     shown_.emplace(Mask(), *edit_.settings, text_);
-    shown_->ReadDigits(digits_);
 }
 
 // More digits than the mask forces were typed, zeros in front too: typed over a full number.
 int32_t NumberEdit::ZerosWithoutPlace() const
 {
-    if (Length(digits_.integer) > Mask().shape.forcedInteger)
-        return 0;
-    return static_cast<int32_t>(std::min(digits_.integer.find_first_not_of(Char{'0'}), digits_.integer.size()));
+    return shown_->IntegerDigits() > Mask().shape.forcedInteger ? 0 : shown_->ZerosInFront();
 }
 
-Text NumberEdit::HeldInteger() const
+TypedNumber NumberEdit::HeldDigits() const
 {
-    return digits_.integer.substr(static_cast<size_t>(ZerosWithoutPlace()));
+    TypedNumber held = Digits();
+    held.integer.erase(0, static_cast<size_t>(ZerosWithoutPlace()));
+    return held;
 }
 
 TypedNumber NumberEdit::WithoutZerosInFront(TypedNumber digits) const
@@ -77,12 +71,7 @@ TypedNumber NumberEdit::WithoutZerosInFront(TypedNumber digits) const
 bool NumberEdit::FitsOneMore() const
 {
     const FormatShape& shape = Mask().shape;
-    return ShownLength(shape, *edit_.settings, Length(digits_.integer) - ZerosWithoutPlace() + 1) <= shape.room;
-}
-
-bool NumberEdit::IsZero() const
-{
-    return IsZeros(digits_.integer) && IsZeros(digits_.fraction);
+    return ShownLength(shape, *edit_.settings, shown_->IntegerDigits() - ZerosWithoutPlace() + 1) <= shape.room;
 }
 
 void NumberEdit::CarryTo(int32_t caret)
@@ -92,7 +81,7 @@ void NumberEdit::CarryTo(int32_t caret)
 }
 
 // A text from outside that is too long to be a number stays as it is, until enough of it is deleted.
-void NumberEdit::LayOut(TypedNumber digits, DigitPlace place)
+void NumberEdit::LayOut(TypedNumber&& digits, DigitPlace place)
 {
     RoundToPlaces(digits, Mask().shape.fractionPlaces);
     if (Length(digits.integer) + Length(digits.fraction) > kMostDigits)

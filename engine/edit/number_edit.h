@@ -17,17 +17,17 @@ public:
 
     const NumberMask& Mask() const { return edit_.table->number; }
     const ShownNumber& Shown() const { return *shown_; }
-    const TypedNumber& Digits() const { return digits_; }
+    TypedNumber Digits() const { return shown_->Digits(); }
     int32_t Caret() const { return caret_; }
     Char Under() const { return At(text_, caret_); }  // the character at the caret
     bool IsBehindText() const { return caret_ >= Length(text_); }
 
-    // The integer digits that hold a place: without the zeros in front that the mask forces.
-    Text HeldInteger() const;
+    // The digits that hold a place: without the zeros in front that the mask forces.
+    TypedNumber HeldDigits() const;
     // Whether the room before the point takes one more digit.
     bool FitsOneMore() const;
-    bool IsZero() const;  // no digit but zeros
-    bool IsBlank() const { return IsZero() && !digits_.negative; }
+    bool IsZero() const { return shown_->IsZero(); }
+    bool IsBlank() const { return IsZero() && shown_->Sign() < 0; }
 
     // The same digits without the zeros in front that hold no place: those of a number that grows.
     TypedNumber WithoutZerosInFront(TypedNumber digits) const;
@@ -36,7 +36,7 @@ public:
     // Moves the caret over literals, any of which may be typed next.
     void CarryTo(int32_t caret);
     // Lays other digits out, with the caret at a place among them.
-    void LayOut(TypedNumber digits, DigitPlace place);
+    void LayOut(TypedNumber&& digits, DigitPlace place);
 
     // Whether the text is one that the mask shows; one that was set from outside may be none.
     bool IsInForm() const;
@@ -54,7 +54,6 @@ private:
     std::optional<Text> shownBefore_;  // where text_ has been laid out anew
     Text text_;
     std::optional<ShownNumber> shown_;  // of text_
-    TypedNumber digits_;
     int32_t caret_;
     int32_t carriedFrom_ = 0;
     int32_t carriedTo_ = 0;

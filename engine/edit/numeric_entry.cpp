@@ -70,8 +70,8 @@ int32_t FindSpelled(const EditInstance& edit, const NumberEdit& number, const Nu
 {
     const MaskLiterals literals = LiteralsTypedFirst(number.Mask());
     const int32_t caret = number.Caret();
-    if (!number.IsBlank() || key.spelled >= literals.length ||
-        (caret != key.spelled && caret != number.Shown().Start()))
+    const bool mayBegin = caret == key.spelled || caret == number.Shown().Start();
+    if (key.spelled >= literals.length || !mayBegin || !number.IsBlank())
         return -1;
     if (literals.text[key.spelled] == key.typed && (key.spelled > 0 || !BeginsNumber(edit, key.typed)))
         return key.spelled;
@@ -105,7 +105,7 @@ void LeaveLiterals(NumberEdit& number)
     if (number.Caret() <= shown.Sign()) {
         TypedNumber positive = number.Digits();
         positive.negative = false;
-        return number.LayOut(positive, shown.Front());
+        return number.LayOut(std::move(positive), shown.Front());
     }
     number.MoveTo(std::clamp(number.Caret(), shown.Start(), std::max(shown.End(), shown.Start())));
 }
@@ -140,8 +140,7 @@ Outcome GoOn(const EditInstance& edit, NumberEdit& number, int32_t right)
 // right: integer digits behind the place. Zeros in front that nobody typed hold no place, and one that is typed there is dropped.
 Outcome InsertDigit(const EditInstance& edit, NumberEdit& number, Char digit, int32_t right)
 {
-    TypedNumber typed = number.Digits();
-    typed.integer = number.HeldInteger();
+    TypedNumber typed = number.HeldDigits();
     const int32_t behind = std::min(right, Length(typed.integer));
     if (digit != '0' || behind < Length(typed.integer))
         typed.integer.insert(typed.integer.size() - static_cast<size_t>(behind), 1, digit);
@@ -151,12 +150,12 @@ Outcome InsertDigit(const EditInstance& edit, NumberEdit& number, Char digit, in
 
 Outcome OverwriteDigit(const EditInstance& edit, NumberEdit& number, const NumericKey& key, int32_t right)
 {
-    TypedNumber typed = number.Digits();
     if (right == 0) {
         if (number.Mask().shape.room == 0 && key.typed == '0')
             return Outcome::Taken;  // 0.5 may be typed where only .5 is shown
         return edit.decimalPlaces != 0 ? TypeIntoFraction(number, key, 0) : Outcome::Refused;
     }
+    TypedNumber typed = number.Digits();
     typed.integer[typed.integer.size() - static_cast<size_t>(right)] = key.typed;
     number.LayOut(std::move(typed), {false, right - 1});
     return GoOn(edit, number, right - 1);
@@ -194,7 +193,7 @@ Outcome TypeSign(NumberEdit& number, Char typed)
         return Outcome::Taken;  // not shown
     digits.negative = typed == '-';
     const int32_t caret = number.Caret();
-    number.LayOut(digits, number.Shown().Front());
+    number.LayOut(std::move(digits), number.Shown().Front());
     number.MoveTo(typed == '+' ? caret : number.Shown().PositionOf(number.Shown().Front()));
     return Outcome::Taken;
 }
@@ -209,7 +208,7 @@ Outcome TypePoint(EditInstance& edit, NumberEdit& number)
     typed.negative = typed.negative && number.Caret() > shown.Sign();
     const int32_t dropped = std::min(shown.PlaceAt(number.Caret()).digits, Length(typed.integer));
     typed.integer.resize(typed.integer.size() - static_cast<size_t>(dropped));
-    number.LayOut(dropped > 0 ? number.WithoutZerosInFront(typed) : typed, {true, 0});
+    number.LayOut(dropped > 0 ? number.WithoutZerosInFront(std::move(typed)) : std::move(typed), {true, 0});
     ChooseEditMode(edit);
     return Outcome::Taken;
 }
@@ -339,7 +338,7 @@ void CompleteNumber(EditInstance& edit)
     if (!digits.negative || !number.IsZero() || !number.IsInForm() || edit.field->RefusesInput())
         return;
     digits.negative = false;
-    number.LayOut(digits, number.Shown().PlaceAt(number.Caret()));
+    number.LayOut(std::move(digits), number.Shown().PlaceAt(number.Caret()));
     number.Show();
 }
 

@@ -13,6 +13,11 @@ Verdict PlaceIf(bool accepted, Char c)
     return accepted ? Verdict::Placing(c) : Verdict::Refused();
 }
 
+Verdict Refuse(const Entry&)
+{
+    return Verdict::Refused();
+}
+
 Verdict ValidateDigit(const Entry& entry)
 {
     return PlaceIf(IsDigit(entry.typed), entry.typed);
@@ -43,7 +48,10 @@ struct ValidatorRow {
     Verdict (*validate)(const Entry&);
 };
 
+// In the order of the kinds, so that each is found by its number.
 constexpr ValidatorRow kValidators[] = {
+    {FieldKind::Literal,      Refuse                },
+    {FieldKind::NumberDigit,  Refuse                },
     {FieldKind::Digit,        ValidateDigit         },
     {FieldKind::Alphanumeric, ValidateAlphanumeric  },
     {FieldKind::Any,          ValidateAny           },
@@ -57,19 +65,25 @@ constexpr ValidatorRow kValidators[] = {
     {FieldKind::Minute,       ValidateMinuteOrSecond},
     {FieldKind::Second,       ValidateMinuteOrSecond},
     {FieldKind::Fraction,     ValidateDigit         },
+    {FieldKind::AmPm,         Refuse                },
 };
+
+constexpr bool InOrderOfKinds()
+{
+    size_t row = 0;
+    for (const ValidatorRow& validator : kValidators)
+        if (validator.kind != static_cast<FieldKind>(row++))
+            return false;
+    return row == static_cast<size_t>(FieldKind::AmPm) + 1;
+}
+static_assert(InOrderOfKinds(), "Validate takes the row of a kind by its number");
 
 }  // namespace
 
 Verdict Validate(const Entry& entry)
 {
-    if (IsControl(entry.typed))
-        return Verdict::Refused();
-    const FieldKind kind = PositionAt(entry.edit, entry.text, entry.position).kind;
-    for (const ValidatorRow& row : kValidators)
-        if (row.kind == kind)
-            return row.validate(entry);
-    return Verdict::Refused();
+    const FieldKind kind = IsControl(entry.typed) ? FieldKind::Literal : entry.mask.kind;
+    return kValidators[static_cast<size_t>(kind)].validate(entry);
 }
 
 }  // namespace zte

@@ -6,16 +6,21 @@
 
 namespace zte {
 
-// One character typed at a position of the mask, with the text then shown.
+// One character typed at a position of the mask, which is no number's, with the text then shown.
 struct Entry {
+    Entry(const EditInstance& control, const Text& shown, int32_t at, Char character)
+        : edit(control), text(shown), position(at), typed(character), mask(PositionOf(control, shown, at))
+    {
+    }
+
     const EditInstance& edit;
     const Text& text;
-    int32_t position;
-    Char typed;
+    const int32_t position;
+    const Char typed;
+    const MaskPosition& mask;  // what stands at the position
 
-    const MaskPosition& Mask() const { return PositionOf(edit, text, position); }
-    int32_t Index() const { return Mask().runBefore; }  // of the position within its field, from 0
-    int32_t FieldLength() const { return Mask().FieldLength(); }
+    int32_t Index() const { return mask.runBefore; }  // of the position within its field, from 0
+    int32_t FieldLength() const { return mask.FieldLength(); }
 
     // The characters of the text beside the position; NUL outside the text.
     Char Before() const { return At(text, position - 1); }
@@ -39,13 +44,7 @@ struct Verdict {
         Assign(verdict.placed, text);
         return verdict;
     }
-    static Verdict Placing(Char c)
-    {
-        Verdict verdict;
-        verdict.accepted = true;
-        verdict.placed[0] = c;
-        return verdict;
-    }
+    static Verdict Placing(Char c) { return {true, false, {c}}; }
     static Verdict Padding(const Text& text)
     {
         Verdict verdict = Placing(text);

@@ -1,8 +1,6 @@
 // Reads the fields of a date or time display text, position by position under the mask, into a value.
 #include "engine/format/date_text.h"
 
-#include <optional>
-
 #include "engine/mask/half_of_day.h"
 #include "engine/mask/mask_table.h"
 #include "engine/services.h"
@@ -42,23 +40,28 @@ public:
 private:
     static constexpr int32_t kNoDay = INT32_MIN;  // three characters stand for no such number
 
-    // A number of a fixed count of characters; none when they are no number.
-    std::optional<int32_t> NumberAt(int32_t position, int32_t length) const
+    // A number of a fixed count of characters; false when they are no number.
+    bool ReadNumber(int32_t position, int32_t length, int32_t& number) const
     {
-        if (const int32_t number = DigitsAt(text_, position, length); number >= 0)
-            return number;
+        number = DigitsAt(text_, position, length);
+        return number >= 0 || ReadOddNumber(position, length, number);
+    }
+
+    // One with a sign or blanks.
+    bool ReadOddNumber(int32_t position, int32_t length, int32_t& number) const
+    {
         const Text digits = Slice(text_, position, length);
-        if (!services::IsNumber(digits.c_str(), *edit_.settings))
-            return std::nullopt;
-        return IntegerOf(digits);
+        number = IntegerOf(digits);
+        return services::IsNumber(digits.c_str(), *edit_.settings);
     }
 
     bool Store(int32_t position, int8_t& field)
     {
-        const std::optional<int32_t> number = NumberAt(position, 2);
-        if (number)
-            field = static_cast<int8_t>(*number);
-        return number.has_value();
+        int32_t number = 0;
+        if (!ReadNumber(position, 2, number))
+            return false;
+        field = static_cast<int8_t>(number);
+        return true;
     }
 
     // The hour of the 12-hour clock becomes that of the day by the marker shown in the text being read.
@@ -79,10 +82,11 @@ private:
     // Month 00 is stored as month 0 as it is; the day tells an empty date.
     bool ReadMonthNumber(int32_t position)
     {
-        const std::optional<int32_t> number = NumberAt(position, 2);
-        if (number)
-            value_.month = static_cast<int8_t>(*number == 0 ? 0 : *number - 1);
-        return number.has_value();
+        int32_t number = 0;
+        if (!ReadNumber(position, 2, number))
+            return false;
+        value_.month = static_cast<int8_t>(number == 0 ? 0 : number - 1);
+        return true;
     }
 
     bool ReadMonthName(int32_t position)
@@ -96,22 +100,22 @@ private:
 
     bool ReadFraction(int32_t position, int32_t run)
     {
-        std::optional<int32_t> number = NumberAt(position, run);
-        if (!number)
+        int32_t number = 0;
+        if (!ReadNumber(position, run, number))
             return false;
         for (int32_t i = run; i < kMicroDigits; ++i)
-            *number *= 10;
-        value_.microsecond = static_cast<uint32_t>(*number);
+            number *= 10;
+        value_.microsecond = static_cast<uint32_t>(number);
         return true;
     }
 
     // A day of the year that was read before the year is turned into month and day now.
     bool ReadYear(int32_t position, int32_t run)
     {
-        const std::optional<int32_t> number = NumberAt(position, run == 2 ? 2 : 4);
-        if (!number)
+        int32_t number = 0;
+        if (!ReadNumber(position, run == 2 ? 2 : 4, number))
             return false;
-        value_.year = static_cast<int16_t>(YearValue(*number, run));
+        value_.year = static_cast<int16_t>(YearValue(number, run));
         if (dayOfYear_ != kNoDay)
             TakeDayOfYear();
         return true;
@@ -188,9 +192,10 @@ bool ReadFields(const EditInstance& edit, const Text& text, DateTimeValue& value
             position += mask.escaped ? escapeWidth : 1;
             continue;
         }
-        if (!reader.Read(position, mask.kind, mask.runAfter + 1))
+        const int32_t run = mask.runAfter + 1;
+        if (!reader.Read(position, mask.kind, run))
             return false;
-        position += mask.runAfter + 1;
+        position += run;
     }
     return true;
 }

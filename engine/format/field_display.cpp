@@ -1,6 +1,7 @@
 // Strings, dates and times into display text: a walk over the mask that writes its literals and lays a value into its fields.
 #include "engine/format/display.h"
 #include "engine/mask/mask_table.h"
+#include "engine/text/ascii.h"
 #include "engine/values/calendar.h"
 #include "engine/values/caller_value.h"
 #include "engine/values/date_time.h"
@@ -12,34 +13,45 @@ namespace {
 
 constexpr Char kBlank = ' ';
 
-// The text of one date or time field; run tells how many letters the mask gives it.
-Text YearText(const DateTimeValue& value, int32_t run)
+// Numbers that are none of a clock or a calendar may be longer; they are cut afterwards.
+void AppendTwoDigits(Text& text, int32_t number)
 {
-    if (!HasDate(value))
-        return Text(4, '0');
-    const Text year = NumberText(static_cast<uint32_t>(value.year + kFirstYear), 4);
-    return run == 2 ? year.substr(year.size() - 2) : year;
+    if (number < 0 || number > 99)
+        return AppendNumber(text, static_cast<uint32_t>(number), 2);
+    text += DigitChar(number / 10);
+    text += DigitChar(number % 10);
 }
 
-Text MonthText(const EditInstance& edit, const DateTimeValue& value, int32_t run)
+// One date or time field; run tells how many letters the mask gives it.
+void AppendYear(Text& text, const DateTimeValue& value, int32_t run)
 {
-    if (!HasDate(value))
-        return run == 2 ? TwoDigits(0) : Text();
-    return run == 2 ? TwoDigits(value.month + 1) : MonthName(*edit.settings, value.month);
+    const uint32_t year = HasDate(value) ? static_cast<uint32_t>(value.year + kFirstYear) : 0;
+    if (run == 2)
+        AppendTwoDigits(text, static_cast<int32_t>(year % 100));
+    else
+        AppendNumber(text, year, 4);
 }
 
-Text DayOfYearText(const EditInstance& edit, const DateTimeValue& value)
+void AppendMonth(Text& text, const EditInstance& edit, const DateTimeValue& value, int32_t run)
 {
-    return NumberText(HasDate(value) ? static_cast<uint32_t>(DayOfYear(edit.yearDigits, value)) : 1, 3);
+    if (run == 2)
+        AppendTwoDigits(text, HasDate(value) ? value.month + 1 : 0);
+    else if (HasDate(value))
+        text += MonthName(*edit.settings, value.month);
+}
+
+void AppendDayOfYear(Text& text, const EditInstance& edit, const DateTimeValue& value)
+{
+    AppendNumber(text, HasDate(value) ? static_cast<uint32_t>(DayOfYear(edit.yearDigits, value)) : 1, 3);
 }
 
 // On the 12-hour clock 0 shows as 12 and 13 as 1.
-Text HourText(const EditInstance& edit, int32_t hour)
+int32_t HourShown(const EditInstance& edit, int32_t hour)
 {
     if (!HasAmPmField(edit))
-        return TwoDigits(hour);
+        return hour;
     const int32_t shown = hour % 12;
-    return TwoDigits(shown == 0 ? 12 : shown);
+    return shown == 0 ? 12 : shown;
 }
 
 // The walk over one mask.
@@ -77,38 +89,40 @@ private:
             display_.firstFieldPos = Length(display_.text);
         fieldSeen_ = true;
         if (mask.kind == FieldKind::AmPm) {
-            const Text marker = value_.hour < 12 ? edit_.settings->amString : edit_.settings->pmString;
-            WriteField(marker, Length(marker));
+            display_.text += value_.hour < 12 ? edit_.settings->amString : edit_.settings->pmString;
             return kAmPmLength;
         }
         const int32_t run = mask.runAfter + 1;
         if (IsDateOrTime(edit_.dataType))
-            WriteField(FieldText(mask.kind, run), run);
+            WriteField(mask.kind, run);
         else
             PlaceText(run);
         return run;
     }
 
     // Cut, or filled with blanks, to what the field takes.
-    void WriteField(Text text, int32_t taken)
+    void WriteField(FieldKind kind, int32_t run)
     {
-        text.resize(static_cast<size_t>(taken), kBlank);
-        display_.text += text;
+        Text& text = display_.text;
+        const size_t start = text.size();
+        AppendField(text, kind, run);
+        text.resize(start + static_cast<size_t>(run), kBlank);
     }
 
-    Text FieldText(FieldKind kind, int32_t run) const
+    // Free text is blank until it is typed.
+    void AppendField(Text& text, FieldKind kind, int32_t run) const
     {
         const bool noTime = !HasTime(value_);
         switch (kind) {
-        case FieldKind::Year: return YearText(value_, run);
-        case FieldKind::Month: return MonthText(edit_, value_, run);
-        case FieldKind::Day: return TwoDigits(HasDate(value_) ? value_.day : 0);
-        case FieldKind::DayOfYear: return DayOfYearText(edit_, value_);
-        case FieldKind::Hour: return noTime ? TwoDigits(0) : HourText(edit_, value_.hour);
-        case FieldKind::Minute: return TwoDigits(noTime ? 0 : value_.minute);
-        case FieldKind::Second: return TwoDigits(noTime ? 0 : value_.second);
-        case FieldKind::Fraction: return NumberText(noTime ? 0 : value_.microsecond, kMicroDigits);
-        default: return Text(static_cast<size_t>(run), kBlank);  // free text: blank until it is typed
+        case FieldKind::Year: return AppendYear(text, value_, run);
+        case FieldKind::Month: return AppendMonth(text, edit_, value_, run);
+        case FieldKind::Day: return AppendTwoDigits(text, HasDate(value_) ? value_.day : 0);
+        case FieldKind::DayOfYear: return AppendDayOfYear(text, edit_, value_);
+        case FieldKind::Hour: return AppendTwoDigits(text, noTime ? 0 : HourShown(edit_, value_.hour));
+        case FieldKind::Minute: return AppendTwoDigits(text, noTime ? 0 : value_.minute);
+        case FieldKind::Second: return AppendTwoDigits(text, noTime ? 0 : value_.second);
+        case FieldKind::Fraction: return AppendNumber(text, noTime ? 0 : value_.microsecond, kMicroDigits);
+        default: return;
         }
     }
 
@@ -118,7 +132,7 @@ private:
     {
         const Text placed = PlacedText(static_cast<size_t>(run));
         cursor_ += placed.size();
-        WriteField(placed, Length(placed));
+        display_.text += placed;
     }
 
     Text PlacedText(size_t width)

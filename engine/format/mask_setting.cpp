@@ -66,6 +66,16 @@ bool ChangeMask(EditInstance& edit, const Char* mask, int32_t dataType, const Se
     return chosen.asGiven;
 }
 
+MaskVerdict JudgeMask(const Char* mask, int32_t dataType, const Settings& settings)
+{
+    if (dataType < DT_STRING || dataType > DT_DECIMAL)
+        return {ZTM_DATA_TYPE, 0};
+    FieldLayout layout{};
+    const MaskVerdict verdict = ChooseMask(GivenMask(mask), dataType, settings, layout).verdict;
+    const bool fits = verdict || (verdict.reason == ZTM_EMPTY && dataType == DT_STRING);
+    return fits ? MaskVerdict{ZTM_FITS, -1} : verdict;
+}
+
 int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
 {
     const bool asGiven = ChangeMask(edit, mask, dataType, *edit.settings);

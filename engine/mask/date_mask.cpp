@@ -3,7 +3,6 @@
 
 #include "engine/mask/mask_checks.h"
 #include "engine/mask/mask_positions.h"
-#include "ztvalues.h"
 
 namespace zte {
 
@@ -59,17 +58,20 @@ public:
     {
     }
 
-    bool Run()
+    MaskVerdict Run()
     {
-        while (offset_ < Length(mask_))
-            if (!TakeItem())
-                return false;
-        return true;
+        while (offset_ < Length(mask_)) {
+            const int32_t offset = offset_;
+            const int32_t reason = TakeItem();
+            if (reason != ZTM_FITS)
+                return {reason, offset};
+        }
+        return {};
     }
 
     bool Saw(FieldKind kind) const { return (seen_ & Bit(kind)) != 0; }
-    // If the first field is there, the second must be.
-    bool Requires(FieldKind kind, FieldKind required) const { return !Saw(kind) || Saw(required); }
+    // Where a field begins that was seen.
+    int32_t OffsetOf(FieldKind kind) const { return offsets_[static_cast<size_t>(kind)]; }
 
 private:
     // Masks of dates count neither the year field nor an escape as positions; kept: positions behind them are told by the mask
@@ -77,7 +79,7 @@ private:
     bool CountsAll() const { return dataType_ != DT_DATE; }
     const Char* Here() const { return mask_.c_str() + offset_; }
 
-    bool TakeItem()
+    int32_t TakeItem()
     {
         if (*Here() == '~')
             return TakeEscape();
@@ -88,39 +90,43 @@ private:
             return TakeField(*rule);
         ++offset_;
         ++position_;
-        return true;
+        return ZTM_FITS;
     }
 
-    bool TakeEscape()
+    int32_t TakeEscape()
     {
         if (IsBadEscape(Here()) && origin_ == MaskOrigin::Given)
-            return false;
+            return ZTM_ESCAPE;
         offset_ += 2;
         position_ += CountsAll() ? 1 : 0;
         ++escapes_;
-        return true;
+        return ZTM_FITS;
     }
 
     // Does not advance the position: kept for the positions that hosts find in the record.
-    bool TakeAmPm()
+    int32_t TakeAmPm()
     {
         if (Saw(FieldKind::AmPm))
-            return false;
-        seen_ |= Bit(FieldKind::AmPm);
+            return ZTM_TWICE;
+        Note(FieldKind::AmPm);
         layout_.ampmPos = static_cast<int16_t>(position_);
         offset_ += kAmPmLength;
-        return true;
+        return ZTM_FITS;
     }
 
     // The run of a given mask is measured at the display position equal to the letter's offset in the mask; behind "~" that
     // is another place, which is kept.
-    bool TakeField(const FieldRule& rule)
+    int32_t TakeField(const FieldRule& rule)
     {
         const int32_t measuredAt = origin_ == MaskOrigin::Given ? offset_ : offset_ - escapes_;
         const int32_t run = positions_.At(measuredAt).runAfter + 1;
-        if (run > kLongestRun || !(rule.runs & (1u << run)) || (seen_ & (Bit(rule.kind) | rule.excludes)))
-            return false;
-        seen_ |= Bit(rule.kind);
+        if (run > kLongestRun || !(rule.runs & (1u << run)))
+            return ZTM_FIELD_LENGTH;
+        if (Saw(rule.kind))
+            return ZTM_TWICE;
+        if (seen_ & rule.excludes)
+            return ZTM_EXCLUDED;
+        Note(rule.kind);
         if (rule.position)
             layout_.*rule.position = static_cast<int16_t>(position_);
         if (rule.kind == FieldKind::Fraction)
@@ -129,7 +135,13 @@ private:
             layout_.yearDigits = static_cast<int16_t>(run);
         offset_ += run;
         position_ += rule.kind == FieldKind::Year && !CountsAll() ? 0 : run;
-        return true;
+        return ZTM_FITS;
+    }
+
+    void Note(FieldKind kind)
+    {
+        seen_ |= Bit(kind);
+        offsets_[static_cast<size_t>(kind)] = offset_;
     }
 
     const Text& mask_;
@@ -141,34 +153,47 @@ private:
     int32_t offset_ = 0;    // in the mask text
     int32_t position_ = 0;  // in the display, as far as the walk counts it
     uint32_t seen_ = 0;
+    int32_t offsets_[static_cast<size_t>(FieldKind::AmPm) + 1] = {};  // in the mask text, of the fields seen
 };
 
-bool HasWholeTime(const FieldWalk& walk)
-{
-    return walk.Requires(FieldKind::Fraction, FieldKind::Second) &&
-           walk.Requires(FieldKind::Second, FieldKind::Minute) && walk.Requires(FieldKind::Minute, FieldKind::Hour);
-}
+// A field that means nothing without another one.
+struct NeedRow {
+    FieldKind field;
+    FieldKind needed;
+    bool inDates;  // in masks of DT_DATE too
+};
 
-bool HasWhatItNeeds(const FieldWalk& walk, int32_t dataType)
+constexpr NeedRow kNeeds[] = {
+    {FieldKind::Fraction, FieldKind::Second, false},
+    {FieldKind::Second,   FieldKind::Minute, false},
+    {FieldKind::Minute,   FieldKind::Hour,   false},
+    {FieldKind::Day,      FieldKind::Month,  true },
+    {FieldKind::Day,      FieldKind::Year,   false},
+};
+
+MaskVerdict CheckNeeds(const FieldWalk& walk, const Text& mask, int32_t dataType)
 {
-    if (dataType == DT_DATE)
-        return walk.Saw(FieldKind::Year) && walk.Requires(FieldKind::Day, FieldKind::Month);
-    const bool wholeDate =
-        walk.Requires(FieldKind::Day, FieldKind::Month) && walk.Requires(FieldKind::Day, FieldKind::Year);
-    return HasWholeTime(walk) && wholeDate;
+    if (dataType == DT_DATE && !walk.Saw(FieldKind::Year))
+        return {ZTM_FIELD_MISSING, Length(mask)};
+    for (const NeedRow& row : kNeeds)
+        if ((row.inDates || dataType != DT_DATE) && walk.Saw(row.field) && !walk.Saw(row.needed))
+            return {ZTM_FIELD_MISSING, walk.OffsetOf(row.field)};
+    return {};
 }
 
 }  // namespace
 
-bool CheckDateOrTimeMask(const Text& mask, int32_t dataType, FieldLayout& layout, MaskOrigin origin)
+MaskVerdict CheckDateOrTimeMask(const Text& mask, int32_t dataType, FieldLayout& layout, MaskOrigin origin)
 {
     layout.hasAmPm = false;
     if (Length(mask) > kMaxMaskLength)
-        return false;
+        return {ZTM_TOO_LONG, kMaxMaskLength};
     FieldWalk walk(mask, dataType, layout, origin);
-    const bool accepted = walk.Run() && HasWhatItNeeds(walk, dataType);
-    layout.hasAmPm = accepted && walk.Saw(FieldKind::AmPm);
-    return accepted;
+    MaskVerdict verdict = walk.Run();
+    if (verdict)
+        verdict = CheckNeeds(walk, mask, dataType);
+    layout.hasAmPm = verdict && walk.Saw(FieldKind::AmPm);
+    return verdict;
 }
 
 }  // namespace zte

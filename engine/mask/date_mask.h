@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/mask/mask_positions.h"
+#include "engine/mask/mask_verdict.h"
 #include "engine/text/text.h"
 
 namespace zte {
@@ -22,7 +23,7 @@ struct FieldLayout {
 
 // Whether a mask is acceptable for DT_DATE, DT_TIME or DT_DATETIME. What is seen of its fields is written into layout, also
 // when the mask is then rejected.
-bool CheckDateOrTimeMask(const Text& mask, int32_t dataType, FieldLayout& layout,
-                         MaskOrigin origin = MaskOrigin::Given);
+MaskVerdict CheckDateOrTimeMask(const Text& mask, int32_t dataType, FieldLayout& layout,
+                                MaskOrigin origin = MaskOrigin::Given);
 
 }  // namespace zte

@@ -2,7 +2,6 @@
 #include "engine/mask/mask_checks.h"
 
 #include "engine/mask/number_mask.h"
-#include "ztvalues.h"
 
 namespace zte {
 
@@ -24,17 +23,17 @@ constexpr DefaultRow kDefaultMasks[] = {
 
 }  // namespace
 
-bool CheckStringMask(const Text& mask)
+MaskVerdict CheckStringMask(const Text& mask)
 {
     if (Length(mask) > kMaxMaskLength)
-        return false;
+        return {ZTM_TOO_LONG, kMaxMaskLength};
     for (const Char* at = mask.c_str(); *at; ++at)
         if (*at == '~' && IsBadEscape(at++))
-            return false;
-    return true;
+            return {ZTM_ESCAPE, static_cast<int32_t>(at - mask.c_str()) - 1};
+    return {};
 }
 
-bool CheckMask(const Text& mask, int32_t dataType, const Settings& settings, FieldLayout& layout)
+MaskVerdict CheckMask(const Text& mask, int32_t dataType, const Settings& settings, FieldLayout& layout)
 {
     switch (dataType) {
     case DT_STRING: return CheckStringMask(mask);
@@ -43,7 +42,7 @@ bool CheckMask(const Text& mask, int32_t dataType, const Settings& settings, Fie
     case DT_DATE:
     case DT_TIME:
     case DT_DATETIME: return CheckDateOrTimeMask(mask, dataType, layout);
-    default: return true;
+    default: return {};
     }
 }
 

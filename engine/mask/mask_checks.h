@@ -13,11 +13,10 @@ inline bool IsBadEscape(const Char* at)
     return at[1] == Char{} || at[1] == '~';
 }
 
-bool CheckStringMask(const Text& mask);
+MaskVerdict CheckStringMask(const Text& mask);
 
-// True when the mask is acceptable; a type that has no default takes any mask. layout: see CheckDateOrTimeMask; left alone by
-// the other types.
-bool CheckMask(const Text& mask, int32_t dataType, const Settings& settings, FieldLayout& layout);
+// A type that has no default takes any mask. layout: see CheckDateOrTimeMask; left alone by the other types.
+MaskVerdict CheckMask(const Text& mask, int32_t dataType, const Settings& settings, FieldLayout& layout);
 
 // The mask that stands in for one that is refused; null for types without one. The default of strings is no mask.
 const char* DefaultMask(int32_t dataType);

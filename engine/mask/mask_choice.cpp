@@ -91,10 +91,19 @@ Expansion ExpandKeyword(const Text& mask, const Settings& settings)
     return BeginsWith(mask.c_str(), kCurrencyKeyword) ? ExpandCurrency(mask, settings) : std::nullopt;
 }
 
-// A type that has no default takes any mask; of the others an empty one is not acceptable.
-bool IsAcceptable(const Text& mask, int32_t dataType, const Settings& settings, FieldLayout& layout)
+// A keyword that nothing could be made of is read as a mask; where it is none, the keyword was meant.
+MaskVerdict BlameKeyword(const MaskVerdict& verdict, const Text& mask)
 {
-    return !DefaultMask(dataType) || (!mask.empty() && CheckMask(mask, dataType, settings, layout));
+    const bool isKeyword = FindKeyword(mask.c_str()) || BeginsWith(mask.c_str(), kCurrencyKeyword);
+    return verdict || !isKeyword ? verdict : MaskVerdict{ZTM_KEYWORD, 0};
+}
+
+// A type that has no default takes any mask; of the others an empty one is not acceptable.
+MaskVerdict CheckGiven(const Text& mask, int32_t dataType, const Settings& settings, FieldLayout& layout)
+{
+    if (!DefaultMask(dataType))
+        return {};
+    return mask.empty() ? MaskVerdict{ZTM_EMPTY, 0} : BlameKeyword(CheckMask(mask, dataType, settings, layout), mask);
 }
 
 }  // namespace
@@ -107,15 +116,16 @@ ChosenMask ChooseMask(const Text& mask, int32_t dataType, const Settings& settin
         if (dataType == DT_DATE || dataType == DT_TIME || dataType == DT_DATETIME)
             CheckDateOrTimeMask(*expansion, dataType, layout, MaskOrigin::Keyword);
         const bool isCurrency = !FindKeyword(mask.c_str());
-        return {*expansion, true, MaskOrigin::Keyword, isCurrency && settings.currencyDigits == 0};
+        return {*expansion, true, {}, MaskOrigin::Keyword, isCurrency && settings.currencyDigits == 0};
     }
     const FieldLayout none = layout;
-    if (IsAcceptable(mask, dataType, settings, layout))
+    const MaskVerdict verdict = CheckGiven(mask, dataType, settings, layout);
+    if (verdict)
         return {mask, true};
     layout = none;
     const Text standIn = FromAscii(DefaultMask(dataType));
     CheckMask(standIn, dataType, settings, layout);
-    return {standIn, false};
+    return {standIn, false, verdict};
 }
 
 bool IsPictureKeyword(const Char* mask)

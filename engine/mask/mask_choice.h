@@ -10,6 +10,7 @@ namespace zte {
 struct ChosenMask {
     Text text;
     bool asGiven;  // false: the mask was refused for its type, and the type's default stands in
+    MaskVerdict verdict = {};
     MaskOrigin origin = MaskOrigin::Given;
     bool unitsForced = false;  // an amount of a currency without fractions: nothing is shown as 0
 };

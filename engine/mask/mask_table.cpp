@@ -205,15 +205,15 @@ int32_t MissingAmPmLetters(const EditInstance& edit, const Text& text)
     return kAmPmLength - AmPmWidth(edit, text);
 }
 
+const MaskPosition& PositionAroundAmPm(const EditInstance& edit, const Text& text, int32_t position)
+{
+    const bool isBefore = position < edit.table->ampmPosition;
+    return edit.table->At(isBefore ? position : position + MissingAmPmLetters(edit, text));
+}
+
 MaskPosition NumberPositionAt(const EditInstance& edit, const Text& text, int32_t position)
 {
     return PositionsUnder(edit, text).At(position);
-}
-
-int32_t ShownLength(const EditInstance& edit, const Text& text)
-{
-    const bool shorter = edit.table && edit.table->fieldsBehindAmPm;
-    return edit.displayLength - (shorter ? MissingAmPmLetters(edit, text) : 0);
 }
 
 int32_t FieldStart(const EditInstance& edit, const Text& text, const MaskSpan& field)

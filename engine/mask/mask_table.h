@@ -32,20 +32,26 @@ struct MaskTable {
     NumberMask number;  // of numbers, which have no positions: what stands at one follows the digits shown
     const services::NumberFormat* compiled;  // null for other types
     bool hasLiterals;                        // the currency symbol alone, separators and '%' do not count
+
+    // What stands at a position of the mask.
+    const MaskPosition& At(int32_t position) const
+    {
+        if (position < 0)
+            return kNoPosition;
+        return position < count ? positions[position] : beyond;
+    }
 };
 
 // How many letters of the AM/PM field the designator shown does not have.
 int32_t MissingAmPmLetters(const EditInstance& edit, const Text& text);
 
-// The same for masks whose positions do not follow digits; nothing for the others. Asked several times a key.
+// What stands at a position of a text, under a mask with fields behind an AM/PM field.
+const MaskPosition& PositionAroundAmPm(const EditInstance& edit, const Text& text, int32_t position);
+
+// The same under any mask whose positions do not follow digits; nothing under the others. Asked several times a key.
 inline const MaskPosition& PositionOf(const EditInstance& edit, const Text& text, int32_t position)
 {
-    const MaskTable& table = *edit.table;
-    if (position < 0)
-        return kNoPosition;
-    if (table.fieldsBehindAmPm && position >= table.ampmPosition)
-        position += MissingAmPmLetters(edit, text);
-    return position < table.count ? table.positions[position] : table.beyond;
+    return edit.table->fieldsBehindAmPm ? PositionAroundAmPm(edit, text, position) : edit.table->At(position);
 }
 
 // What stands at a position, under the text shown. Past the end see MaskPositions::Beyond.
@@ -56,7 +62,11 @@ inline MaskPosition PositionAt(const EditInstance& edit, const Text& text, int32
 }
 
 // How many positions the display has under the text shown: displayLength, less what the AM/PM field takes in the mask only.
-int32_t ShownLength(const EditInstance& edit, const Text& text);
+inline int32_t ShownLength(const EditInstance& edit, const Text& text)
+{
+    const bool shorter = edit.table && edit.table->fieldsBehindAmPm;
+    return shorter ? edit.displayLength - MissingAmPmLetters(edit, text) : edit.displayLength;
+}
 
 // Where the text shown holds a field.
 int32_t FieldStart(const EditInstance& edit, const Text& text, const MaskSpan& field);

@@ -1,6 +1,8 @@
 // Masks of numbers: their check, and the format text by which the number renderer shows them.
 #include "engine/mask/number_mask.h"
 
+#include <utility>
+
 #include "engine/mask/mask_checks.h"
 #include "engine/mask/mask_items.h"
 #include "engine/services.h"
@@ -14,47 +16,47 @@ class NumberMaskWalk {
 public:
     explicit NumberMaskWalk(const Settings& settings) : settings_(settings) {}
 
-    // Takes the character at mask and returns what follows it; null refuses the mask.
-    const Char* Take(const Char* mask)
+    // Goes on to what follows the characters at the mask, which are one item. The ZTM_ value of it.
+    int32_t Take(const Char*& mask)
     {
-        const Char c = *mask;
-        if (c == '#' || c == '0') {
-            body_ = true;
-            return percent_ ? nullptr : mask + 1;
-        }
-        if (c == '~')
-            return body_ || IsBadEscape(mask) ? nullptr : mask + 2;
-        if (BeginsWith(mask, settings_.currencySymbol))
-            return TakeCurrency() ? mask + TextLength(settings_.currencySymbol) : nullptr;
-        return TakeOther(c) ? mask + 1 : nullptr;
+        const Char* item = mask;
+        const bool isSymbol = *item != '~' && !IsDigitPlace(*item) && BeginsWith(item, settings_.currencySymbol);
+        mask += isSymbol ? TextLength(settings_.currencySymbol) : *item == '~' ? 2 : 1;
+        if (IsDigitPlace(*item))
+            return TakeDigitPlace();
+        if (*item == '~')
+            return IsBadEscape(item) ? ZTM_ESCAPE : body_ ? ZTM_OUT_OF_PLACE : ZTM_FITS;
+        return isSymbol ? TakeCurrency() : TakeOther(*item);
     }
 
 private:
-    // An empty symbol fits anywhere, and so refuses every mask with more than placeholders; kept.
-    bool TakeCurrency()
+    static bool IsDigitPlace(Char c) { return c == '#' || c == '0'; }
+
+    int32_t TakeDigitPlace()
     {
-        const bool taken = !body_;
-        currency_ = body_ = true;
-        return taken;
+        body_ = true;
+        return percent_ ? ZTM_OUT_OF_PLACE : ZTM_FITS;
     }
 
-    bool TakeOther(Char c)
+    // An empty symbol fits anywhere, and so refuses every mask with more than placeholders; kept.
+    int32_t TakeCurrency()
+    {
+        const int32_t verdict = currency_ ? ZTM_TWICE : body_ ? ZTM_OUT_OF_PLACE : ZTM_FITS;
+        currency_ = body_ = true;
+        return verdict;
+    }
+
+    int32_t TakeOther(Char c)
     {
         if (c == '\'' || c == '"')
-            return false;
-        if (c == settings_.decimalChar) {
-            const bool taken = !decimal_;
-            decimal_ = true;
-            return taken;
-        }
+            return ZTM_OUT_OF_PLACE;
+        if (c == settings_.decimalChar)
+            return std::exchange(decimal_, true) ? ZTM_TWICE : ZTM_FITS;
         if (c == settings_.thousandChar)
-            return !decimal_;
-        if (c == '%') {
-            const bool taken = !percent_ && !currency_;
-            percent_ = true;
-            return taken;
-        }
-        return !body_;
+            return decimal_ ? ZTM_OUT_OF_PLACE : ZTM_FITS;
+        if (c == '%')
+            return std::exchange(percent_, true) ? ZTM_TWICE : currency_ ? ZTM_OUT_OF_PLACE : ZTM_FITS;
+        return body_ ? ZTM_OUT_OF_PLACE : ZTM_FITS;
     }
 
     const Settings& settings_;
@@ -68,6 +70,28 @@ bool CanBeRendered(const Text& mask, const Settings& settings)
 {
     services::NumberFormat format;
     return services::CompileFormat(format, DisplayFormatText(mask, settings));
+}
+
+// The item up to which the mask cannot be rendered: the one behind the longest part of it that can.
+MaskVerdict FaultOfFormat(const Text& mask, const Settings& settings)
+{
+    for (size_t length = mask.size(); length-- > 0;)
+        if (CanBeRendered(mask.substr(0, length), settings))
+            return {ZTM_OUT_OF_PLACE, static_cast<int32_t>(length)};
+    return {ZTM_NO_DIGIT, Length(mask)};
+}
+
+// Item by item, without a look at what the renderer takes.
+MaskVerdict WalkOver(const Text& mask, const Settings& settings)
+{
+    NumberMaskWalk walk(settings);
+    for (const Char* at = mask.c_str(); *at;) {
+        const auto offset = static_cast<int32_t>(at - mask.c_str());
+        const int32_t reason = walk.Take(at);
+        if (reason != ZTM_FITS)
+            return {reason, offset};
+    }
+    return {};
 }
 
 bool IsSeparator(Char c)
@@ -135,17 +159,16 @@ const Char* BehindEscape(const Char* mask)
 
 }  // namespace
 
-bool CheckNumberMask(const Text& mask, const Settings& settings)
+MaskVerdict CheckNumberMask(const Text& mask, const Settings& settings)
 {
     if (Length(mask) > kMaxMaskLength)
-        return false;
-    NumberMaskWalk walk(settings);
-    for (const Char* at = mask.c_str(); *at;) {
-        at = walk.Take(at);
-        if (!at)
-            return false;
-    }
-    return CanBeRendered(mask, settings);
+        return {ZTM_TOO_LONG, kMaxMaskLength};
+    const MaskVerdict verdict = WalkOver(mask, settings);
+    const Text before = verdict ? mask : mask.substr(0, static_cast<size_t>(verdict.offset));
+    if (CanBeRendered(before, settings))
+        return verdict;
+    const MaskVerdict fault = FaultOfFormat(before, settings);
+    return !verdict && fault.reason == ZTM_NO_DIGIT ? verdict : fault;
 }
 
 Text DisplayFormatText(const Text& mask, const Settings& settings)

@@ -1,12 +1,13 @@
 // Masks of numbers: their check, and the format text by which the number renderer shows them.
 #pragma once
 
+#include "engine/mask/mask_verdict.h"
 #include "engine/text/text.h"
 #include "engine/values/settings.h"
 
 namespace zte {
 
-bool CheckNumberMask(const Text& mask, const Settings& settings);
+MaskVerdict CheckNumberMask(const Text& mask, const Settings& settings);
 
 // The format text: "~x" becomes "\x", the characters of the currency symbol are escaped where they would mean something else, and the
 // rest stands as it is.

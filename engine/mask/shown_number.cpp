@@ -3,8 +3,6 @@
 
 #include <algorithm>
 
-#include "engine/text/ascii.h"
-
 namespace zte {
 
 namespace {
@@ -51,37 +49,41 @@ ShownNumber::ShownNumber(const NumberMask& mask, const Settings& settings, const
         start_ = mask.before.length;
     if (end_ - mask.behind.length >= start_ && StandsAt(text, end_ - mask.behind.length, mask.behind))
         end_ -= mask.behind.length;
-    bool digitSeen = false;
     const Char* const characters = text.c_str();
+    int32_t digits = 0;
     for (int32_t i = start_; i < end_; ++i) {
         const Char c = characters[i];
-        digitSeen = digitSeen || IsDigit(c);
-        if (c == '-' && !digitSeen && sign_ < 0)
+        if (c == '-' && digits == 0 && sign_ < 0)
             sign_ = i;
         if (c == settings.decimalChar && mask.shape.point) {
             point_ = i;
             break;
         }
+        digits += IsDigit(c) ? 1 : 0;
     }
+    integerDigits_ = digits;
 }
 
 TypedNumber ShownNumber::Digits() const
 {
-    TypedNumber number;
-    ReadDigits(number);
-    return number;
+    return {sign_ >= 0, CollectDigits(start_, PointOrEnd()), CollectDigits(PointOrEnd(), end_)};
 }
 
-void ShownNumber::ReadDigits(TypedNumber& number) const
+int32_t ShownNumber::ZerosInFront() const
 {
-    number.negative = sign_ >= 0;
-    CollectDigits(start_, PointOrEnd(), number.integer);
-    CollectDigits(PointOrEnd(), end_, number.fraction);
+    int32_t zeros = 0;
+    for (int32_t i = start_; i < PointOrEnd(); ++i) {
+        const Char c = At(text_, i);
+        if (IsDigit(c) && c != '0')
+            break;
+        zeros += c == '0' ? 1 : 0;
+    }
+    return zeros;
 }
 
-bool ShownNumber::IsDigitAt(int32_t position) const
+bool ShownNumber::IsZero() const
 {
-    return position >= start_ && position < end_ && IsDigit(At(text_, position));
+    return std::none_of(text_.begin() + start_, text_.begin() + end_, [](Char c) { return IsDigit(c) && c != '0'; });
 }
 
 bool ShownNumber::IsAtFront(int32_t position) const
@@ -94,11 +96,6 @@ DigitPlace ShownNumber::PlaceAt(int32_t position) const
     if (IsInFraction(position))
         return {true, CountDigits(point_ + 1, position)};
     return {false, CountDigits(position, PointOrEnd())};
-}
-
-DigitPlace ShownNumber::Front() const
-{
-    return {false, CountDigits(start_, PointOrEnd())};
 }
 
 int32_t ShownNumber::PositionOf(DigitPlace place) const
@@ -134,16 +131,20 @@ int32_t ShownNumber::NextDigit(int32_t position) const
 int32_t ShownNumber::CountDigits(int32_t from, int32_t to) const
 {
     int32_t count = 0;
-    for (int32_t i = from; i < to; ++i)
-        count += IsDigitAt(i) ? 1 : 0;
+    const int32_t end = std::min(to, end_);
+    for (int32_t i = std::max(from, start_); i < end; ++i)
+        count += IsDigit(text_[static_cast<size_t>(i)]) ? 1 : 0;
     return count;
 }
 
 // Between two places of the number.
-void ShownNumber::CollectDigits(int32_t from, int32_t to, Text& digits) const
+Text ShownNumber::CollectDigits(int32_t from, int32_t to) const
 {
-    digits.assign(text_, static_cast<size_t>(from), static_cast<size_t>(to - from));
-    digits.erase(std::remove_if(digits.begin(), digits.end(), [](Char c) { return !IsDigit(c); }), digits.end());
+    Text digits;
+    for (int32_t i = from; i < to; ++i)
+        if (const Char c = text_[static_cast<size_t>(i)]; IsDigit(c))
+            digits += c;
+    return digits;
 }
 
 }  // namespace zte

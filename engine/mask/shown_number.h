@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/record.h"
+#include "engine/text/ascii.h"
 #include "engine/values/typed_number.h"
 
 namespace zte {
@@ -46,15 +47,22 @@ public:
     int32_t Sign() const { return sign_; }    // of the '-'; -1: none
     int32_t Point() const { return point_; }  // -1: none
     TypedNumber Digits() const;
-    void ReadDigits(TypedNumber& number) const;  // into one that is there
+    int32_t IntegerDigits() const { return integerDigits_; }  // how many stand before the point
+    int32_t ZerosInFront() const;                             // how many of these before any other digit
+    int32_t FractionDigits() const { return CountDigits(PointOrEnd(), end_); }
+    bool IsZero() const;  // no digit but zeros
 
     bool IsInFraction(int32_t position) const { return point_ >= 0 && position > point_; }
-    bool IsDigitAt(int32_t position) const;  // of the number, not of a literal
+    // Of the number, not of a literal.
+    bool IsDigitAt(int32_t position) const
+    {
+        return position >= start_ && position < end_ && IsDigit(text_[static_cast<size_t>(position)]);
+    }
     // No digit and no sign left of the position.
     bool IsAtFront(int32_t position) const;
 
     DigitPlace PlaceAt(int32_t position) const;
-    DigitPlace Front() const;  // before the first digit
+    DigitPlace Front() const { return {false, integerDigits_}; }  // before the first digit
     // Directly behind the digit left of the place where there is one, else before the first digit or the point.
     int32_t PositionOf(DigitPlace place) const;
     // The first digit at or behind a position before the point; the point, or the end of the number where there is none.
@@ -63,7 +71,7 @@ public:
 private:
     int32_t PointOrEnd() const { return point_ >= 0 ? point_ : end_; }
     int32_t CountDigits(int32_t from, int32_t to) const;
-    void CollectDigits(int32_t from, int32_t to, Text& digits) const;
+    Text CollectDigits(int32_t from, int32_t to) const;
 
     const NumberMask& mask_;
     const Text& text_;
@@ -71,6 +79,7 @@ private:
     int32_t end_;
     int32_t sign_ = -1;
     int32_t point_ = -1;
+    int32_t integerDigits_ = 0;
 };
 
 }  // namespace zte

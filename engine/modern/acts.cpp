@@ -281,6 +281,7 @@ Reply ReplaceSelection(EditInstance& edit, const Char* text, bool canUndo)
     return Keep();
 }
 
+// Held at the end of the range is one act, and refused once.
 void Step(EditInstance& edit, int32_t steps, bool repeated)
 {
     if (!MayChange(edit))
@@ -288,7 +289,10 @@ void Step(EditInstance& edit, int32_t steps, bool repeated)
     Editor& editor = *edit.editor;
     if (!repeated)
         editor.EndRun();
-    editor.Finish(KindOf(edit).step(edit, editor.Look(), steps), Run::Stepping);
+    const Outcome outcome = KindOf(edit).step(edit, editor.Look(), steps);
+    if (editor.NoteStep(outcome.reason != 0) && repeated)
+        return;
+    editor.Finish(outcome, Run::Stepping);
 }
 
 void StepOnce(EditInstance& edit, bool up, bool repeated)

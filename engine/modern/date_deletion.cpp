@@ -54,32 +54,56 @@ Content Without(const Content& content, const Place& place, int32_t from, int32_
     return after;
 }
 
-// The last filled position before the caret; over the literals at a field's start.
+// The last filled position before the caret; over the literals at a field's start, where the field that is left ends.
 Outcome EraseBack(const EditInstance& edit, const Content& content, bool word)
+{
+    const Layout before(edit, content.text);
+    const int32_t caret = content.Caret();
+    const Place* const left = before.At(caret);
+    const Place* const taken = !left || caret == left->start ? before.Before(caret) : left;
+    if (!taken)
+        return Accepted(content);
+    const int32_t filled = std::min(caret - taken->start, Filled(content.text, *taken));
+    Content after = content;
+    if (left && left != taken)
+        Complete(edit, after, *left);
+    const Layout layout(edit, after.text);
+    const Place& place = layout.Places()[static_cast<size_t>(taken - before.Places().data())];
+    if (filled == 0)
+        return Accepted(Without(after, place, place.start, place.start));
+    const int32_t end = place.start + filled;
+    return Accepted(Without(after, place, word ? place.start : end - 1, word ? place.End() : end));
+}
+
+// Nothing to take behind the caret in its field: the field ends, and the caret stands where the next one begins.
+bool GoToNextField(const EditInstance& edit, Content& content)
 {
     const Layout layout(edit, content.text);
     const int32_t caret = content.Caret();
     const Place* place = layout.At(caret);
-    if (!place || caret == place->start)
-        place = layout.Before(caret);
-    if (!place)
-        return Accepted(content);
-    const int32_t end = std::min(caret, place->start + Filled(content.text, *place));
-    return Accepted(
-        Without(content, *place, word ? place->start : std::max(end - 1, place->start), word ? place->End() : end));
+    if (place && !IsBlank(Slice(content.text, caret, place->End() - caret)))
+        return true;
+    const Place* next = layout.Next(caret + 1);
+    if (!next)
+        return false;
+    const auto index = next - layout.Places().data();
+    if (place)
+        Complete(edit, content, *place);
+    const Layout after(edit, content.text);
+    const int32_t start = after.Places()[static_cast<size_t>(index)].start;
+    content.selection = {start, start};
+    return true;
 }
 
 Outcome EraseForward(const EditInstance& edit, const Content& content, bool word)
 {
-    const Layout layout(edit, content.text);
-    const int32_t caret = content.Caret();
-    const Place* place = layout.At(caret);
-    if (!place || IsBlank(Slice(content.text, caret, place->End() - caret)))
-        place = layout.Next(caret + 1);
-    if (!place)
+    Content after = content;
+    if (!GoToNextField(edit, after))
         return Accepted(content);
-    const int32_t from = std::max(caret, place->start);
-    return Accepted(Without(content, *place, word ? place->start : from, word ? place->End() : from + 1));
+    const Layout layout(edit, after.text);
+    const int32_t from = after.Caret();
+    const Place& place = *layout.At(from);
+    return Accepted(Without(after, place, word ? place.start : from, word ? place.End() : from + 1));
 }
 
 }  // namespace

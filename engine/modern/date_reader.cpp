@@ -220,10 +220,13 @@ private:
                }) != dateFields_.end();
     }
 
-    // From the date to the time, or from the time to the date.
+    // From the date to the time, or from the time to the date: a blank, a T, what the mask has between fields. Another sign would
+    // make a time of what is left of a date.
     bool SkipBetween()
     {
         const bool separated = IsNext(TokenKind::Separator) && !Peek().HasColon() && Peek(1).kind != TokenKind::End;
+        if (separated && !HasBlank(Peek().text) && !IsBetweenParts())
+            return Fail(ZTR_DOES_NOT_FIT, Peek(1).start);
         if (separated)
             Advance();
         if (IsNext(TokenKind::TimeMark) && !HasTime())
@@ -231,6 +234,20 @@ private:
         else if (!separated)
             return FailHere();
         return true;
+    }
+
+    bool HasBlank(const Text& separator) const { return Marks(separator).size() < separator.size(); }
+
+    // What the mask of a date and a time writes between the two.
+    bool IsBetweenParts() const
+    {
+        for (size_t i = 1; i < allFields_.size(); ++i) {
+            const Place& one = allFields_[i - 1];
+            if (IsTimeField(one) != IsTimeField(allFields_[i]) &&
+                Slice(BlankText(edit_), one.End(), allFields_[i].start - one.End()) == Peek().text)
+                return true;
+        }
+        return false;
     }
 
     bool HasTime() const { return reading_.Of(FieldKind::Hour).number >= 0; }
@@ -291,7 +308,8 @@ private:
             return TakeRun(dateFields_);
         if (HasMonthName())
             return TakeNamed();
-        const bool yearFirst = Peek().IsNumber(kYearDigits) && !StartsWithYear();
+        const bool yearFirst =
+            Peek().IsNumber(kYearDigits) && (!StartsWithYear() || Includes(KindsOf(dateFields_), FieldKind::DayOfYear));
         return TakeInOrder(reading_.isCanonical || yearFirst ? YearFirst() : KindsOf(dateFields_));
     }
 
@@ -310,13 +328,20 @@ private:
         if (reading_.isCanonical)
             return {FieldKind::Year, FieldKind::Month, FieldKind::Day};
         if (Includes(kinds, FieldKind::DayOfYear))
-            return Peek(2).IsNumber(3) ? Kinds{FieldKind::Year, FieldKind::DayOfYear}
-                                       : Kinds{FieldKind::Year, FieldKind::Month, FieldKind::Day};
+            return HasThreeNumbers() ? Kinds{FieldKind::Year, FieldKind::Month, FieldKind::Day}
+                                     : Kinds{FieldKind::Year, FieldKind::DayOfYear};
         Kinds first = {FieldKind::Year};
         for (const FieldKind kind : {FieldKind::Month, FieldKind::Day})
             if (Includes(kinds, kind))
                 first.push_back(kind);
         return first;
+    }
+
+    // Of a date: behind another sign than its own a time begins.
+    bool HasThreeNumbers() const
+    {
+        return Peek(2).kind == TokenKind::Number && !Peek(2).IsNumber(3) && Peek(4).kind == TokenKind::Number &&
+               Peek(1).text == Peek(3).text;
     }
 
     bool TakeInOrder(const Kinds& kinds)
@@ -416,7 +441,7 @@ private:
         if (!IsNext(TokenKind::Separator) || Peek(1).kind != TokenKind::Number)
             return false;
         const Text& separator = Peek().text;
-        if (Marks(separator).size() < separator.size() && (dateFollows || kind == FieldKind::Fraction))
+        if (HasBlank(separator) && (dateFollows || kind == FieldKind::Fraction))
             return false;
         return kind == FieldKind::Fraction || Marks(separator) == mark;
     }
@@ -449,11 +474,13 @@ private:
         Advance();
     }
 
-    // "1 PM" is a time, 13 alone is one only where the mask has nothing but hours.
+    // "1 PM" is a time, 13 alone is one only where the mask has hours and nothing else. A mask without hours takes no bare number.
     bool HasEnoughOfTime()
     {
         const bool minutesShown = Includes(KindsOf(timeFields_), FieldKind::Minute);
         const bool enough = reading_.Of(FieldKind::Minute).number >= 0 || reading_.Of(FieldKind::AmPm).number >= 0;
+        if (!enough && timeFields_.empty())
+            return Fail(ZTR_DOES_NOT_FIT, reading_.Of(FieldKind::Hour).start);
         return enough || !minutesShown || FailHere();
     }
 

@@ -132,6 +132,8 @@ private:
             return Refused(ZTR_FULL);
         if (!next && Choose(Text(1, typed_)))
             return Result();
+        if (!next && !IsSeparator())
+            return Refused(ZTR_WRONG_KIND);
         return Separate();
     }
 

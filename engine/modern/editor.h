@@ -2,6 +2,8 @@
 // noted in the history and told; or it is refused, and all stands as before.
 #pragma once
 
+#include <utility>
+
 #include "engine/modern/history.h"
 #include "engine/modern/kind.h"
 
@@ -37,6 +39,8 @@ public:
     bool Undo();
     bool Redo();
     void EndRun() { history_.EndRun(); }
+    // Whether the step before was refused as well.
+    bool NoteStep(bool refused) { return std::exchange(stepRefused_, refused) && refused; }
     void ForgetHistory() { history_.Clear(); }
     bool CanRedo() const { return history_.CanRedo(); }
     size_t UndoSteps() const { return history_.Steps(); }
@@ -69,6 +73,7 @@ private:
     uint32_t lastTyped_ = 0;
     bool tells_ = false;
     bool keypadPoint_ = false;
+    bool stepRefused_ = false;
 };
 
 }  // namespace zte::modern

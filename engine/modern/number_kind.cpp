@@ -94,12 +94,21 @@ int32_t Beside(const EditInstance& edit, const Content& content, const Bounds& b
     return position;
 }
 
+// A selection ends at the side that the key goes to.
+int32_t EdgeOf(const EditInstance& edit, const Content& content, const Bounds& bounds, bool left)
+{
+    int32_t position = left ? content.selection.start : content.selection.end;
+    while (!IsStop(edit, content, bounds, position))
+        --position;
+    return position;
+}
+
 int32_t WordBeside(const Content& content, const Bounds& bounds, bool left)
 {
     const int32_t fraction = bounds.point + 1;
     if (left)
-        return bounds.point >= 0 && content.Caret() > fraction ? fraction : bounds.start;
-    return bounds.point >= 0 && content.Caret() < fraction ? fraction : bounds.end;
+        return bounds.point >= 0 && content.selection.start > fraction ? fraction : bounds.start;
+    return bounds.point >= 0 && content.selection.end < fraction ? fraction : bounds.end;
 }
 
 int32_t Move(const EditInstance& edit, const Content& content, Key key, bool control)
@@ -110,6 +119,8 @@ int32_t Move(const EditInstance& edit, const Content& content, Key key, bool con
     if (key == KEY_END)
         return bounds.end;
     const bool left = key == KEY_LEFT;
+    if (!content.selection.IsEmpty() && !control)
+        return std::clamp(EdgeOf(edit, content, bounds, left), bounds.start, bounds.end);
     const int32_t position = control ? WordBeside(content, bounds, left) : Beside(edit, content, bounds, left ? -1 : 1);
     return std::clamp(position, bounds.start, bounds.end);
 }

@@ -8,14 +8,6 @@
 
 namespace zte {
 
-size_t BoundedLength(const Char* text, size_t limit)
-{
-    size_t length = 0;
-    while (length < limit && text[length])
-        ++length;
-    return length;
-}
-
 Text Slice(const Text& text, int32_t position, int32_t count)
 {
     return position < Length(text) ? text.substr(static_cast<size_t>(position), static_cast<size_t>(count)) : Text();
@@ -82,12 +74,20 @@ Text WithoutBlanksBehind(const Text& text)
     return text.substr(0, text.find_last_not_of(Char{' '}) + 1);
 }
 
+void AppendNumber(Text& text, uint32_t number, int32_t digits)
+{
+    int32_t length = 0;
+    for (uint32_t rest = number; rest != 0; rest /= 10)
+        ++length;
+    text.append(static_cast<size_t>(std::max(length, digits)), Char{'0'});
+    for (auto digit = text.rbegin(); number != 0; number /= 10, ++digit)
+        *digit = DigitChar(static_cast<int32_t>(number % 10));
+}
+
 Text NumberText(uint32_t number, int32_t digits)
 {
     Text text;
-    for (; number != 0 || digits > 0; number /= 10, --digits)
-        text += DigitChar(static_cast<int32_t>(number % 10));
-    std::reverse(text.begin(), text.end());
+    AppendNumber(text, number, digits);
     return text;
 }
 

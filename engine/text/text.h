@@ -24,7 +24,13 @@ inline size_t TextLength(const Char* text)
 }
 
 // The same, not looking further than limit.
-size_t BoundedLength(const Char* text, size_t limit);
+inline size_t BoundedLength(const Char* text, size_t limit)
+{
+    size_t length = 0;
+    while (length < limit && text[length])
+        ++length;
+    return length;
+}
 
 inline int32_t Length(const Text& text)
 {
@@ -75,6 +81,7 @@ int32_t DigitsAt(const Text& text, int32_t position, int32_t count);
 Text WithoutBlanksBehind(const Text& text);
 
 // The number in decimal, with at least the count of digits (zeros in front).
+void AppendNumber(Text& text, uint32_t number, int32_t digits);
 Text NumberText(uint32_t number, int32_t digits);
 inline Text TwoDigits(int32_t number)
 {

@@ -106,8 +106,11 @@ private:
 FormatShape ReadShape(const Char* format)
 {
     ShapeReader reader;
-    for (Token token = NextToken(format); token.kind != TokenKind::End; token = NextToken(format))
+    Token token;
+    do {
+        token = NextToken(format);
         reader.Take(token.kind);
+    } while (token.kind != TokenKind::End);
     return reader.Finish();
 }
 

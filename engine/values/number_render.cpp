@@ -54,11 +54,26 @@ private:
     const TypedNumber& number_;
 };
 
-// One number on its way through one format.
-template <typename Digits>
+// Takes the text of a number on its way; what is too long is cut off.
+class LaidText {
+public:
+    void Put(Char c)
+    {
+        if (length_ < kLongestLaidNumber)
+            text_[length_++] = c;
+    }
+    Text Taken() const { return Text(text_, static_cast<size_t>(length_)); }
+
+private:
+    Char text_[kLongestLaidNumber];
+    int32_t length_ = 0;
+};
+
+// One number on its way through one format, into a Writer or a LaidText.
+template <typename Output, typename Digits>
 class Rendering {
 public:
-    Rendering(Writer& output, const Char* format, const FormatShape& shape, const Digits& digits,
+    Rendering(Output& output, const Char* format, const FormatShape& shape, const Digits& digits,
               const Settings& settings)
         : output_(output), format_(format), shape_(shape), digits_(digits), settings_(settings)
     {
@@ -66,8 +81,11 @@ public:
 
     void Run()
     {
-        for (Token token = NextToken(format_); token.kind != TokenKind::End; token = NextToken(format_))
+        Token token;
+        do {
+            token = NextToken(format_);
             Show(token);
+        } while (token.kind != TokenKind::End);
     }
 
 private:
@@ -129,7 +147,7 @@ private:
         signShown_ = true;
     }
 
-    Writer& output_;
+    Output& output_;
     const Char* format_;
     const FormatShape& shape_;
     const Digits& digits_;
@@ -191,10 +209,9 @@ void RenderNumber(Writer& output, const Char* compiled, const DecimalDigits& num
 
 Text LayOutDigits(const Char* compiled, const FormatShape& shape, const TypedNumber& number, const Settings& settings)
 {
-    Char laid[kLongestLaidNumber + 1];
-    Writer output(laid, kLongestLaidNumber + 1);
-    Rendering(output, compiled, shape, TypedDigits(number), settings).Run();
-    return Text(laid, static_cast<size_t>(output.Length()));
+    LaidText laid;
+    Rendering(laid, compiled, shape, TypedDigits(number), settings).Run();
+    return laid.Taken();
 }
 
 }  // namespace zte

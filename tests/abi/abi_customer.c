@@ -10,6 +10,7 @@ typedef void (*Function)(void);
 
 static const Function kFunctions[] = {
     (Function)WEP,
+    (Function)ZTE_CheckMask,
     (Function)ZTE_CreateSpin,
     (Function)ZTE_DestroySpin,
     (Function)ZTE_FmtFormatData,
@@ -20,9 +21,11 @@ static const Function kFunctions[] = {
     (Function)ZTE_FmtSetMask,
     (Function)ZTE_FmtUnformatData,
     (Function)ZTE_GetDataString,
+    (Function)ZTE_GetLastProblem,
     (Function)ZTE_GetSpinWidth,
     (Function)ZTE_GetState,
     (Function)ZTE_Init,
+    (Function)ZTE_Initialize,
     (Function)ZTE_PaintSpin,
     (Function)ZTE_PaintSpinOnce,
     (Function)ZTE_SetAutoskip,

@@ -15,6 +15,7 @@ constexpr char kControlLibrary[] = "ztedit050.dll";
 
 const std::vector<std::string> kExports = {
     "WEP",
+    "ZTE_CheckMask",
     "ZTE_CreateSpin",
     "ZTE_DestroySpin",
     "ZTE_FmtFormatData",
@@ -25,9 +26,11 @@ const std::vector<std::string> kExports = {
     "ZTE_FmtSetMask",
     "ZTE_FmtUnformatData",
     "ZTE_GetDataString",
+    "ZTE_GetLastProblem",
     "ZTE_GetSpinWidth",
     "ZTE_GetState",
     "ZTE_Init",
+    "ZTE_Initialize",
     "ZTE_PaintSpin",
     "ZTE_PaintSpinOnce",
     "ZTE_SetAutoskip",

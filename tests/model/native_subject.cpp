@@ -1,4 +1,5 @@
 // The library's control without a window: the engine over a field in memory.
+#include "native_settings.h"
 #include "raw_values.h"
 #include "subject.h"
 
@@ -20,22 +21,6 @@ constexpr int kControlKey = 0x11;
 DateTimeValue TellToday()
 {
     return Raw(Today());
-}
-
-// Empty conventions count as absent ones.
-zte::Settings SettingsOf(const Regional& regional)
-{
-    zte::Settings settings = zte::StandardSettings();
-    settings.decimalChar = regional.Point();
-    settings.thousandChar = regional.thousand != '\0' ? regional.thousand : ',';
-    zte::Assign(settings.currencySymbol, regional.currency);
-    settings.currencyPosition = regional.currencyPosition;
-    settings.currencyDigits = regional.currencyDigits;
-    zte::Assign(settings.amString, regional.am);
-    zte::Assign(settings.pmString, regional.pm);
-    zte::Assign(settings.shortDate, regional.shortDate);
-    zte::Assign(settings.timeSeparator, regional.timeSeparator);
-    return settings;
 }
 
 class NativeSubject final : public Subject, private zttest::Keyboard, public zte::FieldListener {

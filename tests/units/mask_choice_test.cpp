@@ -26,7 +26,7 @@ FieldLayout Unset()
 
 bool IsAccepted(const char* mask, int32_t type, FieldLayout& layout)
 {
-    return CheckDateOrTimeMask(FromAscii(mask), type, layout);
+    return static_cast<bool>(CheckDateOrTimeMask(FromAscii(mask), type, layout));
 }
 bool IsAccepted(const char* mask, int32_t type)
 {

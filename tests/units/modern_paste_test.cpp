@@ -172,6 +172,7 @@ constexpr PasteSetup kNamed = {"MMM-DD-YYYY", DT_DATE};
 constexpr PasteSetup kDayNamed = {"DD MMM YY", DT_DATE};
 constexpr PasteSetup kFrenchNamed = {"DD MMM YYYY", DT_DATE, nullptr, French};
 constexpr PasteSetup kDayOfYear = {"JJJ/YYYY", DT_DATE};
+constexpr PasteSetup kYearOfDay = {"YYYY.JJJ", DT_DATE};
 constexpr PasteSetup kMonthOnly = {"MM/YYYY", DT_DATE};
 constexpr PasteSetup kShortMonth = {"MM/YY", DT_DATE};
 constexpr PasteSetup kYearOnly = {"YYYY", DT_DATE};
@@ -303,6 +304,13 @@ const PasteRow kDates[] = {
     {kShortMonth, nullptr, "2024-07",      "07/24|"},
     {kDayOfYear, nullptr, "2024/186",      "186/2024|"},
     {kDayOfYear, nullptr, "2024/7/4",      "186/2024|"},
+    {kYearOfDay, nullptr, "2024/7/4",      "2024.186|"},
+    {kYearOfDay, nullptr, "2024.186",      "2024.186|"},
+    {kYearOfDay, nullptr, "2024/7",        "2024.007|"},
+    {kYearOfDay, nullptr, "2024-04-00",    "does not exist 8"},
+    {kUsDate, nullptr, "07/04/2024-00",    "does not fit 11"},
+    {kUsDate, nullptr, "07/04/2024 00",    "does not fit 11"},
+    {kUsDate, nullptr, "07/04/2024 00:00", "07/04/2024|"},
     // months by their names
     {kUsDate, nullptr, "July 4, 2024",     "07/04/2024|"},
     {kUsDate, nullptr, "Jul 4 2024",       "07/04/2024|"},
@@ -517,6 +525,7 @@ const PasteRow kDateTimes[] = {
     {kBoth, nullptr, "2024-07-04t13:30:15",       "07/04/2024 13:30|"},
     {kBoth, nullptr, "2024-07-04 13:30:15:123456", "07/04/2024 13:30|"},
     {kBoth, nullptr, "2024-07-04T13:30Z",         "does not fit 16"},
+    {kBoth, nullptr, "2024-07-04-13:30",          "does not fit 11"},
     {kBoth, nullptr, "2024-07-04 T 13:30",        "does not fit 12"},
     {kBoth, nullptr, "7/4/2024 1:30 PM",          "07/04/2024 13:30|"},
     {kBoth, nullptr, "7/4/2024, 1:30:15 PM",      "07/04/2024 13:30|"},

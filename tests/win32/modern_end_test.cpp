@@ -196,6 +196,20 @@ TEST_F(ModernEndElsewhere, InAStepOfTheWheelIsSurvived)
     EXPECT_FALSE(IsWindow(hwnd));
 }
 
+// The window is created, and a control, whatever its parent makes of it meanwhile.
+TEST_F(ModernEndElsewhere, OfModernEditingWhileItIsCreated)
+{
+    parent_.onTold = [&](const std::string&) {
+        ZTE_SetModern(FindWindowExA(parent_.hwnd(), nullptr, ZTEDIT_CLASS, nullptr), 0);
+    };
+    Make("MM/DD/YYYY", DT_DATE, "2024-02-29", ZTEO_MODERN);
+    parent_.onTold = nullptr;
+    ASSERT_TRUE(IsWindow(Window()));
+    EXPECT_EQ(ZTE_FmtGetDataType(Window()), DT_DATE);
+    EXPECT_EQ(ZTE_TrySetDataString(Window(), "2024-02-28"), 0);
+    EXPECT_EQ(control_->Text(), "02/28/2024");
+}
+
 TEST_F(ModernEndElsewhere, InAStateMadeByACallIsSurvived)
 {
     const std::function<void()> calls[] = {

@@ -157,6 +157,33 @@ TEST_F(ModernPace, ToldOfEachStepOnce)
     EXPECT_EQ(Beeps(), 1);
 }
 
+TEST_F(ModernPace, ToldOnceThatTheEndIsReachedWhileItIsHeld)
+{
+    MakeSpin("2024-02-29", "2024-02-28~2024-02-29");
+    const Told end = {"rejected end of the range at 3"};
+    PressUp();
+    EXPECT_EQ(TakeTold(), end);
+    Tick();
+    Tick();
+    EXPECT_EQ(TakeTold(), Told());
+    Release();
+    PressUp();
+    EXPECT_EQ(TakeTold(), end);
+    Release();
+    Send(WM_KEYDOWN, VK_UP, 1);
+    EXPECT_EQ(TakeTold(), end);
+    Send(WM_KEYDOWN, VK_UP, 0x40000001);
+    Send(WM_KEYDOWN, VK_UP, 0x40000001);
+    EXPECT_EQ(TakeTold(), Told());
+    Send(WM_KEYDOWN, VK_DOWN, 0x40000001);
+    EXPECT_EQ(TakeTold(), (Told{"update", "change"}));
+    Send(WM_KEYDOWN, VK_UP, 0x40000001);
+    TakeTold();
+    Send(WM_KEYDOWN, VK_UP, 0x40000001);
+    EXPECT_EQ(TakeTold(), end);
+    EXPECT_EQ(Beeps(), 4);
+}
+
 // ---- size
 
 // The width of the system's scroll bars while it lives: what a spin is never wider than.

@@ -1,0 +1,25 @@
+# What cmake --install lays down, and package.sh packs: bin, include, lib, docs, samples, bindings, and how CMake and pkg-config find it.
+include(CMakePackageConfigHelpers)
+
+configure_package_config_file(${CMAKE_SOURCE_DIR}/cmake/ztedit-config.cmake.in ${CMAKE_BINARY_DIR}/package/ztedit-config.cmake
+    INSTALL_DESTINATION cmake)
+write_basic_package_version_file(${CMAKE_BINARY_DIR}/package/ztedit-config-version.cmake COMPATIBILITY SameMinorVersion)
+configure_file(${CMAKE_SOURCE_DIR}/cmake/ztedit.pc.in ${CMAKE_BINARY_DIR}/package/ztedit.pc @ONLY)
+
+foreach(library ztedit050 ztshared ztdecimal)
+    install(FILES $<TARGET_FILE:${library}_dll> DESTINATION bin)
+    if(MINGW)
+        install(FILES ${CMAKE_ARCHIVE_OUTPUT_DIRECTORY}/lib${library}.dll.a DESTINATION lib)
+        install(FILES ${CMAKE_ARCHIVE_OUTPUT_DIRECTORY}/${library}.lib DESTINATION lib OPTIONAL)
+    else()
+        install(FILES $<TARGET_LINKER_FILE:${library}_dll> DESTINATION lib)
+    endif()
+endforeach()
+install(FILES include/ztedit.h include/ztvalues.h include/ztshared.h include/ztdecimal.h DESTINATION include)
+install(FILES ${CMAKE_BINARY_DIR}/package/ztedit-config.cmake ${CMAKE_BINARY_DIR}/package/ztedit-config-version.cmake DESTINATION cmake)
+install(FILES ${CMAKE_BINARY_DIR}/package/ztedit.pc DESTINATION lib/pkgconfig)
+install(FILES README.md CHANGELOG.md LICENSE DESTINATION .)
+install(DIRECTORY docs samples DESTINATION .)
+if(IS_DIRECTORY ${CMAKE_SOURCE_DIR}/bindings)
+    install(DIRECTORY bindings DESTINATION .)
+endif()

@@ -1,0 +1,42 @@
+#!/bin/bash
+# Builds and packs what a form programmer needs: ztedit-<version>-win32.zip and -win64.zip in build/package, each with bin, include, lib
+# (import libraries of mingw-w64 and of MSVC), cmake, docs, samples and bindings.
+# Usage: ./package.sh
+set -euo pipefail
+cd "$(dirname "$0")"
+
+fail()
+{
+    echo "FAILED: $*" >&2
+    exit 1
+}
+
+# The import libraries that MSVC's linker reads: of the names as its callers decorate them, leading to the plain ones of the DLL.
+make_msvc_libraries()
+{
+    local preset=$1 machine=$2 library def
+    for library in ztedit050:win32 ztshared:companions/ztshared ztdecimal:companions/ztdecimal; do
+        def=${library#*:}/${library%:*}.def
+        [ "$preset" = x64 ] || def=build/$preset/lib/lib${library%:*}.dll.a.def
+        "$dlltool" -m "$machine" -k -d "$def" -D "${library%:*}.dll" -l "build/$preset/lib/${library%:*}.lib" || fail "$library for MSVC"
+    done
+}
+
+pack()
+{
+    local preset=$1 machine=$2 name=$3
+    tools/build.sh "$preset" || fail "the $preset build"
+    make_msvc_libraries "$preset" "$machine"
+    rm -rf "build/package/$name" "build/package/$name.zip"
+    cmake --install "build/$preset" --prefix "build/package/$name" >/dev/null || fail "installing into build/package/$name"
+    (cd build/package && zip -q -r -X "$name.zip" "$name") || fail "zip"
+    echo "build/package/$name.zip"
+}
+
+tools/install_deps.sh --package
+dlltool=$(command -v llvm-dlltool || ls /usr/bin/llvm-dlltool-* 2>/dev/null | tail -1)
+[ -n "$dlltool" ] || fail "no llvm-dlltool"
+version=$(sed -n 's/^project(ztedit VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+mkdir -p build/package
+pack x86 i386 "ztedit-$version-win32"
+pack x64 i386:x86-64 "ztedit-$version-win64"

@@ -1,0 +1,4 @@
+#define IDD_ORDER 1
+#define IDC_FIRST_FIELD 101
+#define IDC_LAST_FIELD 106
+#define IDC_TOLD 110
