@@ -11,13 +11,13 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 HERE = Path(__file__).parent
-PROGRAMS = ['units', 'field', 'engine', 'model', 'properties']
-LAWS = 'properties'  # those of modern editing are quick, the others for what all the rest has not noticed
+QUICK = ['units', 'field', 'engine', 'model']
+PROGRAMS = QUICK + ['properties']  # the last for what all others have not noticed
 NO_MUTANT = 0x7FFFFFFF
 HEAVY = 60000  # microseconds: tests that take longer run after all others
 LINKED = ['CMakeLists.txt', 'README.md', 'CHANGELOG.md', 'cmake', 'companions', 'docs', 'include', 'tests', 'tools', 'win32', 'demo']
 # Small samples; see CONTRIBUTING.md.
-SAMPLES = {'ZT_LAW_EVERY': '8192', 'ZT_MASKS': '3000', 'ZT_MODEL_ROUNDS': '1', 'ZT_MODERN_THIN': '6'}
+SAMPLES = {'ZT_LAW_EVERY': '8192', 'ZT_MASKS': '3000', 'ZT_MODEL_ROUNDS': '1'}
 
 
 def link_tree(root, tree):
@@ -132,9 +132,9 @@ class Result:
 
 
 class Worker(threading.Thread):
-    def __init__(self, out, records, late, queue, results, progress):
+    def __init__(self, out, records, programs, queue, results, progress):
         super().__init__()
-        self.out, self.records, self.late = out, records, late
+        self.out, self.records, self.programs = out, records, programs
         self.queue, self.results, self.progress = queue, results, progress
         self.servers, self.killers = {}, {}
         self.numbers = {p: {t.name: i for i, t in enumerate(r.tests)} for p, r in records.items()}
@@ -159,15 +159,15 @@ class Worker(threading.Thread):
         """First the tests that killed others of the file, then all that reach it."""
         killers = self.killers.setdefault(mutant.file, [])
         for program, number in killers[:8]:
-            chosen = choose(self.records[program], mutant.site.first, False, self.late)
+            chosen = choose(self.records[program], mutant.site.first, False)
             if chosen[number] == '1':
                 answer = self.server(program).play(mutant.number, '0' * number + '1' + '0' * (len(chosen) - number - 1))
                 if answer != 'survived':
                     return self.killed(killers, program, answer)
         reached = False
         for heavy in (False, True):
-            for program in PROGRAMS:
-                chosen = choose(self.records[program], mutant.site.first, heavy, self.late)
+            for program in self.programs:
+                chosen = choose(self.records[program], mutant.site.first, heavy)
                 if '1' not in chosen:
                     continue
                 reached = True
@@ -195,23 +195,19 @@ def is_heavy(test):
     return test.microseconds > HEAVY
 
 
-def is_late(record, test):
-    return record.program == LAWS and not test.name.startswith('Modern')
-
-
-def choose(record, first, heavy, late):
+def choose(record, first, heavy):
     """The tests of a program that reach a site, as the agent wants them."""
     chosen = ['0'] * len(record.tests)
     numbers = range(len(record.tests)) if first in record.everywhere else record.reaching.get(first, ())
     for number in numbers:
-        if is_heavy(record.tests[number]) == heavy and is_late(record, record.tests[number]) == late:
+        if is_heavy(record.tests[number]) == heavy:
             chosen[number] = '1'
     return ''.join(chosen)
 
 
-def play(out, records, late, mutants, jobs, progress):
+def play(out, records, programs, mutants, jobs, progress):
     queue, results = list(reversed(mutants)), {}
-    workers = [Worker(out, records, late, queue, results, progress) for _ in range(jobs)]
+    workers = [Worker(out, records, programs, queue, results, progress) for _ in range(jobs)]
     for worker in workers:
         worker.start()
     for worker in workers:
