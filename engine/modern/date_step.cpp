@@ -163,9 +163,8 @@ Outcome StepAlone(const EditInstance& edit, const Content& content, const Place&
         const bool ofHalf = place.kind == FieldKind::Hour && HasAmPmField(edit);
         const Bounds bounds = ofHalf ? Bounds{1, 12} : BoundsOf(place);
         const bool none = field.fill == Fill::Blank || field.fill == Fill::Bad;
-        const int32_t number =
-            none ? (steps > 0 ? bounds.least : bounds.most)
-                 : Around(std::max(field.number, bounds.least), steps, bounds.least, bounds.most);
+        const int32_t number = none ? (steps > 0 ? bounds.least : bounds.most)
+                                    : Around(std::max(field.number, bounds.least), steps, bounds.least, bounds.most);
         PutNumber(edit, after.text, place, number);
     }
     const Layout layout(edit, after.text);
