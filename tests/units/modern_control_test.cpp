@@ -468,7 +468,8 @@ TEST(ModernField, CopiesWhatIsCutAndNothingWithoutASelection)
 // Answers the first event of a kind by an act of its own.
 class Answering final : public FieldListener {
 public:
-    Answering(const TypingSetup& setup, FieldEvent event, void (*act)(MemoryControl&)) : played_(setup), event_(event), act_(act)
+    Answering(const TypingSetup& setup, FieldEvent event, void (*act)(MemoryControl&))
+        : played_(setup), event_(event), act_(act)
     {
         played_.Edit().SetListener(this);
     }
@@ -511,14 +512,16 @@ TEST(ModernParent, MayPutInAnotherTextWhichIsNotTheUsers)
 // The typing goes on although the parent has asked meanwhile.
 TEST(ModernParent, MayAskForTheStateInTheMiddle)
 {
-    Answering parent(kTime, FieldEvent::Change, [](MemoryControl& control) { EXPECT_EQ(StateOf(control.Record()), ZTS_INCOMPLETE); });
+    Answering parent(kTime, FieldEvent::Change,
+                     [](MemoryControl& control) { EXPECT_EQ(StateOf(control.Record()), ZTS_INCOMPLETE); });
     parent.Control().Play("13:30");
     EXPECT_EQ(parent.Control().Shown(), "13:30|");
 }
 
 TEST(ModernParent, MaySetAValueWhereAnActIsRefused)
 {
-    Answering parent(kUs, FieldEvent::Rejected, [](MemoryControl& control) { TrySetDataString(control.Record(), "1999-12-31"); });
+    Answering parent(kUs, FieldEvent::Rejected,
+                     [](MemoryControl& control) { TrySetDataString(control.Record(), "1999-12-31"); });
     parent.Control().Play("x");
     EXPECT_EQ(parent.Control().Shown(), "|12/31/1999");
 }

@@ -20,7 +20,8 @@ constexpr TypingSetup kHours = {"HH:MM", DT_TIME, ZTEO_SPIN, nullptr, "08:00~18:
 constexpr TypingSetup kHoursFrom = {"HH:MM", DT_TIME, ZTEO_SPIN, nullptr, "08:00~"};
 constexpr TypingSetup kHoursTo = {"HH:MM", DT_TIME, ZTEO_SPIN, nullptr, "~18:30"};
 constexpr TypingSetup kDays = {"MM/DD/YYYY HH:MM", DT_DATETIME, ZTEO_SPIN, nullptr, "2024-01-10~2024-01-20"};
-constexpr TypingSetup kMoments = {"MM/DD/YYYY HH:MM", DT_DATETIME, ZTEO_SPIN, nullptr, "2024-01-10 08:15~2024-01-20 09:30"};
+constexpr TypingSetup kMoments = {"MM/DD/YYYY HH:MM", DT_DATETIME, ZTEO_SPIN, nullptr,
+                                  "2024-01-10 08:15~2024-01-20 09:30"};
 constexpr TypingSetup kRangedDays = {"MM/DD/YYYY", DT_DATETIME, ZTEO_SPIN, nullptr, "2024-01-10~2024-01-20"};
 constexpr TypingSetup kTight = {"YYYYMMDD", DT_DATE};
 constexpr TypingSetup kSpaced = {"MM - DD - YYYY", DT_DATE};

@@ -16,8 +16,8 @@ constexpr const char* kReasonNames[] = {
     "in doubt", "does not exist", "no such entry", "end of range", "not in code page"};
 
 // By their numbers; null: told in other words.
-constexpr const char* kEventNames[] = {"update", "change",  "limit",  "beep",         "full",  "stepped", "off",
-                                       "on",     "layout",  "repaint", "repaint spin", nullptr, nullptr,   "value"};
+constexpr const char* kEventNames[] = {"update", "change", "limit",   "beep",         "full",  "stepped", "off",
+                                       "on",     "layout", "repaint", "repaint spin", nullptr, nullptr,   "value"};
 
 DateTimeValue Noon4thOfJune1995()
 {
