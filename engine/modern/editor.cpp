@@ -60,9 +60,7 @@ const Content& Editor::Look()
 Content Editor::Peek() const
 {
     Content now = AtField();
-    const bool isSame = now.text == left_.text;
-    now.isEmpty = isSame && left_.isEmpty;
-    now.isUntouched = isSame && left_.isUntouched;
+    now.isEmpty = now.text == left_.text && left_.isEmpty;
     return now;
 }
 

@@ -36,7 +36,6 @@ Layout::Layout(const EditInstance& edit, const Text& text)
             places_.push_back({at.kind, length_, width});
             length_ += width;
             i += kAmPmLength - 1;
-            afterLiteral = false;
         } else if (at.kind == FieldKind::Literal) {
             if (at.character == Char{})  // a lone "~" at the end shows nothing
                 continue;

@@ -45,6 +45,19 @@ constexpr TypingSetup kBothHalves = {"MM/DD/YY HH:MM AM/PM", DT_DATETIME};
 constexpr TypingSetup kFreeDate = {"MM/DD/YYYY XX", DT_DATE};
 constexpr TypingSetup kNoHalfNames = {"HH:MM AM/PM", DT_TIME, 0, nullptr, nullptr, "", ""};
 
+// More years at once than there are lead out of the calendar from everywhere.
+TEST(ModernDateSteps, OfTooManyYearsAreRefused)
+{
+    Played played(kUsSpin);
+    played.Show("02/15/|0001");
+    played.Record().spinIncrement = 9999;
+    played.Play("{Up}");
+    EXPECT_EQ(played.Shown(), "02/15/|0001");
+    played.Record().spinIncrement = 9998;
+    played.Play("{Up}");
+    EXPECT_EQ(played.Shown(), "02/15/[9999]");
+}
+
 class ModernDateActs : public RowTest<ToldRow> {};
 
 ROW_TEST(ModernDateActs, LeaveAndTell)
@@ -59,6 +72,9 @@ const ToldRow kDateActs[] = {
     {kShortSpin, "02/15/|51", "{Down}", "02/15/[50]", "changed value"},
     {kShortSpin, "02/15/|48", "{Up}", "02/15/[49]", "changed value"},
     {kShortSpin, "02/15/|00", "{Down}", "02/15/[99]", "changed value"},
+    {kShortSpin, "12/  /|99", "{Up}", "12/  /[00]", "changed value"},
+    {kShortSpin, "12/  /|00", "{Down}", "12/  /[99]", "changed value"},
+    {kShortSpin, "12/  /|  ", "{Up}", "12/  /[00]", "changed value"},
     {kUsSpin, "02/15/|0002", "{Down}", "02/15/[0001]", "changed value"},
     {kUsSpin, "02/15/|9998", "{Up}", "02/15/[9999]", "changed value"},
     {kUsSpin, "|01/15/2024", "{Down}", "[12]/15/2024", "changed value"},

@@ -321,6 +321,7 @@ const ReadingRow kReadings[] = {
     {kUs, "01/01/20240", "2 (null)"},
     {kUs, "  /  /2024", "1 (null)"},
     {kUs, "1x/01/2024", "2 (null)"},
+    {kUs, "   ", "2 (null)"},
     {kUs, "x /  /    ", "2 (null)"},
     {kUs, "", "0 "},
     {kShort, "12/31/00", "4 2000-12-31"},
