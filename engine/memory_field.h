@@ -33,6 +33,7 @@ enum class FieldEvent : uint8_t {
     RepaintSpin,
     Rejected,  // an act of the user, see LastRejected
     State,     // see LastState
+    Value,     // another value than was typed
     Count
 };
 
@@ -98,6 +99,7 @@ public:
     void NotifyStepped() override { Tell(FieldEvent::Stepped); }
     bool NotifyRejected(int32_t reason, int32_t position, Char character) override;
     void NotifyState(int32_t was, int32_t is) override;
+    void NotifyValue() override { Tell(FieldEvent::Value); }
     uint32_t Milliseconds() const override { return now_; }
 
     // The user's side: what the control itself does on a key-down, a character, a mouse button.

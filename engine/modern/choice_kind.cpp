@@ -114,7 +114,7 @@ Text Canonical(const EditInstance& edit, const Content& content)
 bool Begins(const EditInstance& edit, const Entry& entry, const Text& letters)
 {
     const Text display = Folded(*edit.settings, entry.display);
-    return display.compare(0, letters.size(), Folded(*edit.settings, letters)) == 0 && display.size() >= letters.size();
+    return display.compare(0, letters.size(), Folded(*edit.settings, letters)) == 0;
 }
 
 size_t IndexShown(const std::vector<const Entry*>& entries, const Text& text)

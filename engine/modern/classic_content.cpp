@@ -21,16 +21,12 @@ bool IsClassicBlank(const EditInstance& edit, const Text& text)
 // Neither a month nor a day nor a year of four digits is ever zero.
 bool IsNoNumber(const Text& text, const Place& place)
 {
-    const bool mayBeZero = dates::BoundsOf(place).least == 0;
     const Text part = TextAt(text, place);
-    return dates::IsPart(place) && !mayBeZero && !part.empty() &&
-           std::all_of(part.begin(), part.end(), [](Char c) { return c == '0'; });
+    return dates::BoundsOf(place).least > 0 && std::all_of(part.begin(), part.end(), [](Char c) { return c == '0'; });
 }
 
 Text WithBlanks(const EditInstance& edit, Text text)
 {
-    if (IsClassicBlank(edit, text))
-        return BlankText(edit);
     const Layout layout(edit, text);
     for (const Place& place : layout.Places())
         if (layout.Fits() && IsNoNumber(text, place))
@@ -66,7 +62,7 @@ Content FromClassic(const EditInstance& edit, const Text& text)
     const Kind& kind = KindOf(edit);
     if (&kind == &kDates && IsClassicBlank(edit, text))
         content.text = BlankText(edit);
-    else if (&kind == &kStrings && HasMask(edit))
+    else if (&kind == &kStrings)
         content.text = Padded(edit, text);
     else if (&kind == &kNumbers)
         content.isEmpty = ShowsZero(edit, content);
@@ -77,15 +73,10 @@ Text ToClassic(const EditInstance& edit, const Content& content)
 {
     if (&KindOf(edit) != &kDates || KindOf(edit).state(edit, content) == ZTS_INVALID)
         return content.text;
-    if (KindOf(edit).state(edit, content) == ZTS_EMPTY) {
-        Display blank;
-        FormatFields(edit, nullptr, blank);
-        return blank.text;
-    }
     Content after = content;
     const Layout layout(edit, after.text);
     for (const Place& place : layout.Places())
-        if (dates::IsPart(place) && place.kind != FieldKind::AmPm && !dates::IsMonthName(place))
+        if (dates::IsPart(place) && !dates::IsMonthName(place))
             std::replace(after.text.begin() + place.start, after.text.begin() + place.End(), Char{' '}, Char{'0'});
     if (layout.Of(FieldKind::AmPm) && !ShownHalf(edit, after.text))
         dates::PutHalf(edit, after, HalfOfDay::Am);

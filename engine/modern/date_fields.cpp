@@ -298,7 +298,7 @@ bool Exists(const DateTimeValue& value)
 
 namespace {
 
-// A mask without days means the first of the month. False: there is no such date.
+// A mask without days means the first of the month; one with days of the year has no others. False: there is no such date.
 bool FinishDate(const EditInstance& edit, Collected& all)
 {
     if (!HasDate(all.value))
@@ -306,11 +306,7 @@ bool FinishDate(const EditInstance& edit, Collected& all)
     if (all.dayOfYear > 0) {
         if (all.dayOfYear > DaysInYear(edit.yearDigits, all.value.year))
             return false;
-        DateTimeValue byDay = all.value;
-        DateFromDayOfYear(edit.yearDigits, all.dayOfYear, byDay);
-        if (all.hasDay && (byDay.day != all.value.day || byDay.month != all.value.month))
-            return false;
-        all.value = byDay;
+        DateFromDayOfYear(edit.yearDigits, all.dayOfYear, all.value);
     } else if (!all.hasDay) {
         all.value.day = 1;
     }

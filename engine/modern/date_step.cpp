@@ -155,8 +155,6 @@ Outcome StepValue(const EditInstance& edit, const Content& content, const Place&
 // Only the field steps, within its own bounds; a blank one begins at the near one.
 Outcome StepAlone(const EditInstance& edit, const Content& content, const Place& place, int32_t steps)
 {
-    if (!IsPart(place))
-        return Refused(ZTR_END_OF_RANGE);
     Content after = Untyped(content);
     const FieldText field = ReadField(edit, content.text, place);
     if (place.kind == FieldKind::AmPm) {
@@ -165,9 +163,8 @@ Outcome StepAlone(const EditInstance& edit, const Content& content, const Place&
         const bool ofHalf = place.kind == FieldKind::Hour && HasAmPmField(edit);
         const Bounds bounds = ofHalf ? Bounds{1, 12} : BoundsOf(place);
         const bool none = field.fill == Fill::Blank || field.fill == Fill::Bad;
-        const int32_t number =
-            none ? (steps > 0 ? bounds.least : bounds.most)
-                 : Around(std::clamp(field.number, bounds.least, bounds.most), steps, bounds.least, bounds.most);
+        const int32_t number = none ? (steps > 0 ? bounds.least : bounds.most)
+                                    : Around(std::max(field.number, bounds.least), steps, bounds.least, bounds.most);
         PutNumber(edit, after.text, place, number);
     }
     const Layout layout(edit, after.text);

@@ -16,8 +16,8 @@ Prefix Judge(const Place& place, int32_t digits, int32_t number)
     const Bounds bounds = BoundsOf(place);
     if (number > bounds.most)
         return Prefix::Refused;
-    if (digits == place.length || place.kind == FieldKind::Fraction)
-        return digits < place.length ? Prefix::Open : number < bounds.least ? Prefix::Refused : Prefix::Full;
+    if (digits == place.length)
+        return number < bounds.least ? Prefix::Refused : Prefix::Full;
     return number * 10 <= bounds.most ? Prefix::Open : Prefix::Full;
 }
 
@@ -69,7 +69,7 @@ private:
     bool TakeRest()
     {
         Text& rest = content_.typing.rest;
-        if (rest.empty() || Upper(rest[0]) != Upper(typed_))
+        if (Upper(At(rest, 0)) != Upper(typed_))
             return TakeDesignator();
         rest.erase(0, 1);
         return true;
@@ -128,7 +128,7 @@ private:
             MoveTo(next->start);
             return TypeInto(*next);
         }
-        if (!next && IsDigit(typed_))
+        if (IsDigit(typed_))
             return Refused(ZTR_FULL);
         if (!next && Choose(Text(1, typed_)))
             return Result();
@@ -183,7 +183,7 @@ private:
         const int32_t before = DigitsBefore(content_.text, place, Caret());
         Text digits = Slice(content_.text, place.start, before) + typed_;
         Text all = digits;
-        if (before > 0 && !IsMonthName(field))
+        if (before > 0)
             all += KeptBehind(place, before + 1);
         if (Judge(place, Length(all), IntegerOf(all)) == Prefix::Refused)
             all = digits;
@@ -253,14 +253,13 @@ private:
     bool Choose(const Text& letters)
     {
         const Place* marker = layout_.Of(FieldKind::AmPm);
-        if (!marker || letters.empty())
+        if (!marker)
             return false;
         const std::optional<HalfOfDay> half = HalfOf(letters);
         if (!half)
             return false;
         const Place place = *marker;
-        const bool inside =
-            place.Holds(Caret()) || (Length(letters) == 1 && Caret() == place.End() && !layout_.At(Caret()));
+        const bool inside = place.Holds(Caret()) || (Length(letters) == 1 && Caret() == place.End());
         PutHalf(edit_, content_, *half);
         if (inside)
             GoOn(place, place.start + static_cast<int32_t>(TextLength(DesignatorOf(*edit_.settings, *half))));
@@ -326,7 +325,7 @@ private:
         if (after.Places().empty())  // a mask of literals alone
             return Refused(ZTR_WRONG_KIND);
         const int32_t end = after.End();
-        const bool isLiteral = end < Length(content_.text) && At(content_.text, end) == typed_;
+        const bool isLiteral = At(content_.text, end) == typed_;
         if (!completed && !(isLiteral && Caret() > after.Places().back().start))
             return Refused(ZTR_WRONG_KIND);
         full_ = completed;

@@ -60,9 +60,7 @@ const Content& Editor::Look()
 Content Editor::Peek() const
 {
     Content now = AtField();
-    const bool isSame = now.text == left_.text;
-    now.isEmpty = isSame && left_.isEmpty;
-    now.isUntouched = isSame && left_.isUntouched;
+    now.isEmpty = now.text == left_.text && left_.isEmpty;
     return now;
 }
 
@@ -206,7 +204,7 @@ void Editor::ShowData(const Content& content)
     history_.Clear();
     left_ = content;
     ShowText(edit_, Text(content.text).c_str());
-    if (content.selection.start != 0 || content.selection.end != 0)
+    if (content.selection.end != 0)
         edit_.field->Select(content.selection.start, content.selection.end);
     TellState();
 }

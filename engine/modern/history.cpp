@@ -3,24 +3,15 @@
 
 namespace zte::modern {
 
-namespace {
-
-bool IsSameText(const Content& one, const Content& other)
+// Whatever undoes, or empties the history, ends the run as well: a run that goes on has its step at the end.
+bool History::GoesOn(Run run, uint32_t time) const
 {
-    return one.text == other.text && one.isEmpty == other.isEmpty;
-}
-
-}  // namespace
-
-bool History::GoesOn(const Content& before, Run run, uint32_t time) const
-{
-    return run != Run::None && run == run_ && CanUndo() && !CanRedo() && time - lastTime_ < kPause &&
-           IsSameText(steps_.back().after, before);
+    return run != Run::None && run == run_ && time - lastTime_ < kPause;
 }
 
 void History::Add(const Content& before, const Content& after, Run run, uint32_t time)
 {
-    if (GoesOn(before, run, time)) {
+    if (GoesOn(run, time)) {
         steps_.back().after = Untyped(after);
     } else {
         steps_.resize(done_);
@@ -35,8 +26,7 @@ void History::Add(const Content& before, const Content& after, Run run, uint32_t
 
 void History::Amend(const Content& before, const Content& after)
 {
-    EndRun();
-    if (CanUndo() && !CanRedo() && IsSameText(steps_.back().after, before))
+    if (CanUndo() && !CanRedo())
         steps_.back().after = Untyped(after);
     else
         Add(before, after, Run::None, lastTime_);
@@ -57,7 +47,6 @@ const Content& History::Undo()
 
 const Content& History::Redo()
 {
-    EndRun();
     return steps_[done_++].after;
 }
 

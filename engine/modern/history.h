@@ -7,9 +7,10 @@
 
 namespace zte::modern {
 
-// Which acts go on as one step: those of one kind, each beginning where the one before ended, less than a second apart.
+// Which acts go on as one step: those of one kind, less than a second apart.
 enum class Run : uint8_t { None, Typing, Deleting, Stepping };
 
+// Nothing changes what is shown but its steps: who shows anything else empties it.
 class History {
 public:
     static constexpr size_t kMostSteps = 100;
@@ -17,7 +18,7 @@ public:
 
     // time: of the act, in milliseconds of any clock that goes round.
     void Add(const Content& before, const Content& after, Run run, uint32_t time);
-    // What completes a field belongs to the step that led there, and ends its run; without such a step it is one of its own.
+    // What completes a field belongs to the step that led there; without such a step it is one of its own.
     void Amend(const Content& before, const Content& after);
     void EndRun() { run_ = Run::None; }
     void Clear();
@@ -25,7 +26,7 @@ public:
     bool CanUndo() const { return done_ > 0; }
     bool CanRedo() const { return done_ < steps_.size(); }
     size_t Steps() const { return done_; }
-    // The content to show; asked where there is one.
+    // The content to show; asked where there is one. What is done again has been undone, which ends a run.
     const Content& Undo();
     const Content& Redo();
 
@@ -35,7 +36,7 @@ private:
         Content after;
     };
 
-    bool GoesOn(const Content& before, Run run, uint32_t time) const;
+    bool GoesOn(Run run, uint32_t time) const;
 
     std::vector<Step> steps_;
     size_t done_ = 0;  // steps that are not undone

@@ -12,11 +12,9 @@ namespace {
 constexpr Char kBlank = ' ';
 
 // A place goes on with the next position: the letters of one date field, any positions of a string.
-bool GoesOn(const EditInstance& edit, const Place& place, const MaskPosition& first, const MaskPosition& next)
+bool GoesOn(const EditInstance& edit, const Place& place, const MaskPosition& next)
 {
-    if (!IsDateOrTime(edit.dataType))
-        return next.IsEditable();
-    return next.kind == place.kind && next.character == first.character;
+    return !IsDateOrTime(edit.dataType) || next.kind == place.kind;
 }
 
 // How many positions a blank designator takes: as many as the longer one.
@@ -30,7 +28,7 @@ int32_t DesignatorWidth(const Settings& settings)
 Layout::Layout(const EditInstance& edit, const Text& text)
 {
     const MaskTable& table = *edit.table;
-    const MaskPosition* first = nullptr;
+    bool afterLiteral = true;
     for (int32_t i = 0; i < table.count; ++i) {
         const MaskPosition& at = table.positions[i];
         if (at.kind == FieldKind::AmPm) {
@@ -38,21 +36,19 @@ Layout::Layout(const EditInstance& edit, const Text& text)
             places_.push_back({at.kind, length_, width});
             length_ += width;
             i += kAmPmLength - 1;
-            first = nullptr;
         } else if (at.kind == FieldKind::Literal) {
             if (at.character == Char{})  // a lone "~" at the end shows nothing
                 continue;
             fits_ = fits_ && zte::At(text, length_) == at.character;
             ++length_;
-            first = nullptr;
+            afterLiteral = true;
         } else {
-            if (first && GoesOn(edit, places_.back(), *first, at)) {
+            if (!afterLiteral && GoesOn(edit, places_.back(), at))
                 ++places_.back().length;
-            } else {
+            else
                 places_.push_back({at.kind, length_, 1});
-                first = &at;
-            }
             ++length_;
+            afterLiteral = false;
         }
     }
     fits_ = fits_ && length_ == Length(text);

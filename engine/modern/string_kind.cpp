@@ -153,7 +153,7 @@ Content Without(const EditInstance& edit, const Content& content, int32_t from, 
     const Layout layout(edit, content.text);
     Content after = Untyped(content);
     after.text = Blanked(layout, after.text, from, to);
-    const Place* next = layout.At(from) ? nullptr : layout.Next(from);
+    const Place* next = layout.Next(from);
     const int32_t caret = layout.At(from) ? from : next ? next->start : layout.End();
     after.selection = {caret, caret};
     return after;
@@ -173,9 +173,7 @@ int32_t WordEnd(const Text& text, const Place& place, int32_t position)
 {
     while (position < place.End() && At(text, position) != kBlank)
         ++position;
-    while (position < place.End() && At(text, position) == kBlank)
-        ++position;
-    return position;
+    return position;  // the blanks behind are blank already
 }
 
 Outcome EraseBack(const EditInstance& edit, const Content& content, bool word)
@@ -341,7 +339,7 @@ public:
     {
         const Place* next = layout_.At(at_) ? nullptr : layout_.Next(at_);
         const int32_t position = next ? next->start : at_;
-        if (PassLiteral(c, next ? position : Length(content_.text)))
+        if (PassLiteral(c))
             return 0;
         if (!layout_.At(position))
             return IsSeparator(c) ? 0 : ZTR_DOES_NOT_FIT;
@@ -361,9 +359,9 @@ public:
 
 private:
     // The literal that comes next; a separator may stand for those before it in its run.
-    bool PassLiteral(Char c, int32_t end)
+    bool PassLiteral(Char c)
     {
-        for (int32_t i = at_; i < end && !layout_.At(i); ++i) {
+        for (int32_t i = at_; i < Length(content_.text) && !layout_.At(i); ++i) {
             if (At(content_.text, i) == c) {
                 at_ = i + 1;
                 return true;

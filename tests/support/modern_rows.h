@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/values/settings.h"
 #include "tests/support/values.h"
 
 namespace zttest::typing {
@@ -18,6 +19,7 @@ struct TypingSetup {
     const char* range = nullptr;
     const char* am = "AM";
     const char* pm = "PM";
+    void (*regional)(zte::Settings&) = nullptr;  // settings of another country
 };
 
 struct TypingRow {
