@@ -1,6 +1,6 @@
 #!/bin/bash
 # Builds and packs what a form programmer needs: ztedit-<version>-win32.zip and -win64.zip in build/package, each with bin, include, lib
-# (import libraries of mingw-w64 and of MSVC), cmake, docs, samples and bindings.
+# (import libraries of mingw-w64 and of MSVC), cmake, docs (in docs/html to be read in a browser), samples and bindings.
 # Usage: ./package.sh
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -29,6 +29,10 @@ pack()
     make_msvc_libraries "$preset" "$machine"
     rm -rf "build/package/$name" "build/package/$name.zip"
     cmake --install "build/$preset" --prefix "build/package/$name" >/dev/null || fail "installing into build/package/$name"
+    cp -r build/manual "build/package/$name/docs/html"
+    # What is not in the package is nothing to read about there.
+    sed -i '/^## Two commands/,/^## A first control/{/^## A first control/!d}; /^`.\/package.sh`/,+1d; /CONTRIBUTING.md/d' \
+        "build/package/$name/README.md"
     (cd build/package && zip -q -r -X "$name.zip" "$name") || fail "zip"
     echo "build/package/$name.zip"
 }
@@ -36,6 +40,7 @@ pack()
 tools/install_deps.sh --package
 dlltool=$(command -v llvm-dlltool || ls /usr/bin/llvm-dlltool-* 2>/dev/null | tail -1)
 [ -n "$dlltool" ] || fail "no llvm-dlltool"
+./manual.sh || fail "the manual"
 version=$(sed -n 's/^project(ztedit VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 mkdir -p build/package
 pack x86 i386 "ztedit-$version-win32"

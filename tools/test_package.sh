@@ -84,6 +84,18 @@ holds_what_it_should() # FOLDER
         diff <(ls "$1") <(printf '%s\n' CHANGELOG.md LICENSE README.md bin bindings cmake docs include lib samples)
 }
 
+# Every link of its own pages to a file.
+links_lead_somewhere() # FOLDER
+{
+    local page link missing=0
+    for page in README.md samples/README.md bindings/README.md docs/*.md docs/manual/*.md; do
+        for link in $(cd "$1" && grep -oE '\]\([^)# ]+' $page | sed 's/^\](//' | grep -v '^https\?:'); do
+            [ -e "$1/$(dirname "$page")/$link" ] || { echo "$page: $link" && missing=1; }
+        done
+    done
+    return $missing
+}
+
 if [ "${1:-}" != --packed ]; then
     ./package.sh || exit
 fi
@@ -99,6 +111,7 @@ for bits in 32 64; do
     check "win$bits: unpacked" unzip -q "build/package/ztedit-*-win$bits.zip" -d "$work"
     folder=$(echo "$work"/ztedit-*-win$bits)
     check "win$bits: what it holds" holds_what_it_should "$folder"
+    check "win$bits: its pages' links" links_lead_somewhere "$folder"
     check "win$bits: the README's first control" first_control "$folder" "$prefix-gcc"
     check "win$bits: the samples, by CMake" samples "$folder" "$prefix"
     check "win$bits: refused where the size is another" refused_by_the_other "$folder" "$other"
