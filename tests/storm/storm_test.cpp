@@ -14,7 +14,7 @@
 namespace storm {
 namespace {
 
-constexpr uint64_t kOperations = 20000;
+constexpr uint64_t kOperations = 12000;
 constexpr uint64_t kNone = UINT64_MAX;
 
 uint64_t FromEnvironment(const char* name, uint64_t standard)

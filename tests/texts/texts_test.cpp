@@ -50,7 +50,7 @@ protected:
 
 ROW_TEST(TextThroughEachDoor, MayHoldEveryCharacter)
 {
-    const Sample sample(IsLive() ? 751 : 15);
+    const Sample sample(IsLive() ? 1009 : 15);
     ForEachField([&](const FieldRow& field, size_t place) {
         const std::vector<std::string> texts = TextsOfEveryByte(GetParam().good(field));
         for (size_t i = 0; i < texts.size() && !HasFailure(); ++i)
@@ -61,8 +61,8 @@ ROW_TEST(TextThroughEachDoor, MayHoldEveryCharacter)
 
 ROW_TEST(TextThroughEachDoor, MayHaveAnyLength)
 {
-    const Sample sample(IsLive() ? 97 : 15);
-    const Sample megabytes(IsLive() ? 241 : 75);
+    const Sample sample(IsLive() ? 151 : 15);
+    const Sample megabytes(IsLive() ? 359 : 75);
     const std::vector<LongText> texts = LongTexts();
     ForEachField([&](const FieldRow& field, size_t place) {
         for (size_t i = 0; i < texts.size() && !HasFailure(); ++i)
@@ -74,7 +74,7 @@ ROW_TEST(TextThroughEachDoor, MayHaveAnyLength)
 
 ROW_TEST(TextThroughEachDoor, MayBeAnyMix)
 {
-    const Sample sample(IsLive() ? 251 : 15);
+    const Sample sample(IsLive() ? 379 : 15);
     const std::vector<std::string> texts = RandomTexts(4711, 300);
     ForEachField([&](const FieldRow& field, size_t place) {
         for (size_t i = 0; i < texts.size() && !HasFailure(); ++i)
@@ -85,7 +85,7 @@ ROW_TEST(TextThroughEachDoor, MayBeAnyMix)
 
 ROW_TEST(TextThroughEachDoor, MayBePeculiar)
 {
-    const Sample sample(IsLive() ? 67 : GetParam().leads == Leads::ToTheMask ? 1 : 15);
+    const Sample sample(IsLive() ? 101 : GetParam().leads == Leads::ToTheMask ? 1 : 15);
     const std::vector<std::string> texts = PeculiarTexts();
     ForEachField([&](const FieldRow& field, size_t place) {
         for (size_t i = 0; i < texts.size() && !HasFailure(); ++i)

@@ -126,7 +126,7 @@ TEST(JudgedMasks, AreInstalledAsTheyAreJudged)
     constexpr char kPieces[] = "#0.,%$~'xMDYHSFX /:-[";
     std::mt19937 random(11);
     int refused = 0;
-    for (int i = 0; i < 60000; ++i) {
+    for (int i = 0; i < 15000; ++i) {
         Text mask;
         for (auto length = random() % 10; length > 0; --length)
             mask.append(1 + random() % 3, static_cast<Char>(kPieces[random() % (sizeof kPieces - 1)]));
@@ -154,7 +154,7 @@ TEST(JudgedMasks, AreInstalledAsTheyAreJudged)
         ASSERT_TRUE(before || lacks(before)) << type << ' ' << std::string(mask.begin(), mask.end()) << " at "
                                              << verdict.offset << " before " << before.reason;
     }
-    EXPECT_GT(refused, 10000);
+    EXPECT_GT(refused, 3000);
 }
 
 }  // namespace
