@@ -28,8 +28,9 @@ pick-list|pick|Pick list|type gre'
 
 shoot() # PICTURE PROGRAM TITLE ACTS
 {
-    local window
+    local window running
     (cd "$work" && exec wine "$2.exe") </dev/null >/dev/null 2>&1 &
+    running=$!
     window=$(window_of "$3") || fail "$2 shows no window"
     xdotool windowfocus --sync "$window" sleep 0.3
     # shellcheck disable=SC2086
@@ -46,7 +47,7 @@ shoot() # PICTURE PROGRAM TITLE ACTS
     sleep 0.5
     import -window "$window" "$root/docs/manual/$picture.png" || fail "$picture"
     wine build/x64/bin/form_reader.exe "$title" close
-    wait
+    wait $running
 }
 
 package=$(echo build/package/ztedit-*-win64)
