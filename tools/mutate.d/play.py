@@ -15,7 +15,8 @@ QUICK = ['units', 'field', 'engine', 'model']
 PROGRAMS = QUICK + ['properties']  # the last for what all others have not noticed
 NO_MUTANT = 0x7FFFFFFF
 HEAVY = 60000  # microseconds: tests that take longer run after all others
-LINKED = ['CMakeLists.txt', 'README.md', 'CHANGELOG.md', 'cmake', 'companions', 'docs', 'include', 'tests', 'tools', 'win32', 'demo', 'samples']
+LINKED = ['CMakeLists.txt', 'README.md', 'CHANGELOG.md', 'cmake', 'companions', 'docs', 'include', 'tests', 'tools', 'win32', 'demo',
+          'samples']
 # Small samples; see CONTRIBUTING.md.
 SAMPLES = {'ZT_LAW_EVERY': '8192', 'ZT_MASKS': '3000', 'ZT_MODEL_ROUNDS': '1'}
 
