@@ -8,7 +8,8 @@ limit=140
 sources=("$@")
 if [ $# -eq 0 ]; then
     cd "$(dirname "$0")/.."
-    tracked=$(git ls-files -- '*.cpp' '*.h' '*.c' '*.rc' '*.def' '*.sh' '*.cmake' '*.py' '*.hpp' '*.pas' '*.cs' '*.bas' '*CMakeLists.txt')
+    tracked=$(git ls-files -- '*.cpp' '*.h' '*.c' '*.rc' '*.def' '*.sh' '*.cmake' '*.py' '*.hpp' '*.pas' '*.cs' '*.bas' '*.html' \
+        '*CMakeLists.txt')
     while read -r source; do
         [ ! -e "$source" ] || sources+=("$source")  # one just deleted is still tracked
     done <<<"$tracked"

@@ -1,7 +1,8 @@
 """What each binding declares, read from its source into the tables of header_facts.Declarations."""
 import ctypes
-import importlib.util
+import importlib.machinery
 import re
+import types
 
 from header_facts import Declarations, Function
 
@@ -159,9 +160,9 @@ def _ctypes_kind(kind, module, where):
 
 
 def load_python(path):
-    spec = importlib.util.spec_from_file_location("ztedit", path)
-    module = importlib.util.module_from_spec(spec)
-    spec.loader.exec_module(module)
+    module = types.ModuleType("ztedit")
+    module.__file__ = str(path)
+    importlib.machinery.SourceFileLoader(module.__name__, str(path)).exec_module(module)
     return module
 
 
