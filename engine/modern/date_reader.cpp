@@ -68,7 +68,7 @@ bool IsTimeField(const Place& place)
 
 bool IsDateField(const Place& place)
 {
-    return IsPart(place) && place.kind <= FieldKind::DayOfYear;
+    return IsPart(place) && IsOfTheDate(place.kind);
 }
 
 // A month is two digits where it stands among digits alone, its name's field too.
