@@ -1,10 +1,12 @@
 /* The demo form: one labelled masked edit for each kind of field, and a status line that shows the notifications as they
  * arrive: what was refused and why, and the state of the field. The focus moves on when a field says that it is full.
  *
- *   demo.exe [--classic] [--places FILE] [--table FILE]
+ *   demo.exe [--classic] [--places FILE] [--table FILE] [--mouse FILE]
  *     --classic       the fields are edited in the classic way
  *     --places FILE   where the fields stand on the screen is written there when the form is shown, for scripts
  *     --table FILE    what each field shows, the value read back and the state are written there at F2
+ *                     (F3 shows the first value of the field that has the focus again)
+ *     --mouse FILE    how many mouse buttons have been released and wheels turned, written there as they come
  */
 #include <stdio.h>
 #include <string.h>
@@ -33,6 +35,7 @@ typedef struct Form {
 
 static Form form;
 static const char* tablePath;
+static const char* mousePath;
 static const char* placesPath;
 static BOOL classic;
 
@@ -158,6 +161,37 @@ static void WriteTable(void)
     fclose(file);
 }
 
+static void ShowFirstValue(HWND window)
+{
+    int i;
+    for (i = 0; i < kFieldCount; ++i)
+        if (FieldWindow(i) == window)
+            ZTE_FmtSetDataString(window, kFields[i].data);
+}
+
+static void OnFunctionKey(WPARAM key)
+{
+    if (key == VK_F2)
+        WriteTable();
+    else if (key == VK_F3)
+        ShowFirstValue(GetFocus());
+}
+
+/* A mouse may come later than keys that were pressed after it: who drives the form by both waits for this count. */
+static void CountMouse(UINT message)
+{
+    static int acts = 0;
+    FILE* file;
+    if (!mousePath || (message != WM_LBUTTONUP && message != WM_MOUSEWHEEL))
+        return;
+    ++acts;
+    file = fopen(mousePath, "w");
+    if (!file)
+        return;
+    fprintf(file, "%d\n", acts);
+    fclose(file);
+}
+
 /* name left top right bottom, in screen pixels */
 static void WritePlaces(void)
 {
@@ -253,6 +287,8 @@ static void ReadArguments(int count, char** arguments)
             classic = TRUE;
         else if (strcmp(arguments[i], "--table") == 0 && i + 1 < count)
             tablePath = arguments[++i];
+        else if (strcmp(arguments[i], "--mouse") == 0 && i + 1 < count)
+            mousePath = arguments[++i];
         else if (strcmp(arguments[i], "--places") == 0 && i + 1 < count)
             placesPath = arguments[++i];
     }
@@ -280,12 +316,13 @@ static void Run(void)
 {
     MSG message;
     while (GetMessageA(&message, NULL, 0, 0) > 0) {
-        if (message.message == WM_KEYDOWN && message.wParam == VK_F2)
-            WriteTable();
-        if (IsDialogMessageA(form.window, &message))
-            continue;
-        TranslateMessage(&message);
-        DispatchMessageA(&message);
+        if (message.message == WM_KEYDOWN)
+            OnFunctionKey(message.wParam);
+        if (!IsDialogMessageA(form.window, &message)) {
+            TranslateMessage(&message);
+            DispatchMessageA(&message);
+        }
+        CountMouse(message.message);
     }
 }
 
