@@ -15,6 +15,7 @@ set(rank_engine/editing 7)  # the two ways of editing as tables
 set(rank_engine/memory 8)   # the field and control in memory, and the engine's own services
 set(rank_companions 9)
 set(rank_win32 10)
+set(rank_ztfield 10)
 
 # floor_of(<path> <out>): the floor of a file; empty for headers of the system and of include/.
 function(floor_of path out)
@@ -26,7 +27,7 @@ function(floor_of path out)
         set(floor engine/editing)
     elseif(path MATCHES "^engine/")
         set(floor engine/host)
-    elseif(path MATCHES "^(companions|win32)/")
+    elseif(path MATCHES "^(companions|win32|ztfield)/")
         set(floor ${CMAKE_MATCH_1})
     else()
         set(floor "")
