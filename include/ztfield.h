@@ -186,7 +186,8 @@ ZTF_API int32_t ZTF_GetState(const ZTField* field);
 /* A key pressed and released with the character that it makes: of Backspace, of Ctrl with a letter ('A' to 'Z') and of the keypad's
  * point. Other characters come by ZTF_Type. */
 ZTF_API void ZTF_Press(ZTField* field, int32_t key, int32_t held);
-/* The halves of a key, and a character by itself, for programs that get them apart. */
+/* The halves of a key, and a character by itself, for programs that get them apart. A key that goes down once more, and has not come up,
+ * is one that is held: its steps are undone together. */
 ZTF_API void ZTF_KeyDown(ZTField* field, int32_t key, int32_t held);
 ZTF_API void ZTF_KeyUp(ZTField* field, int32_t key, int32_t held);
 ZTF_API void ZTF_Character(ZTField* field, uint32_t codePoint);
