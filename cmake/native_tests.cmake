@@ -95,12 +95,16 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     target_link_options(test_soak PRIVATE -Wl,--wrap=malloc,--wrap=realloc,--wrap=free)
 endif()
 
-# The page of the manual that the keystroke tables of the tests give.
+# The page of the manual that the keystroke tables of the tests give, and the tables for those who play them in a browser.
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
-    set(zt_page_sources classic_rows.cpp modern_number_rows.cpp modern_rows.cpp programs/write_keystrokes.cpp)
-    list(TRANSFORM zt_page_sources PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
-    add_executable(write_keystrokes ${zt_page_sources})
-    target_link_libraries(write_keystrokes PRIVATE zt_native_test_flags)
+    set(zt_row_sources classic_rows.cpp modern_number_rows.cpp modern_rows.cpp)
+    list(TRANSFORM zt_row_sources PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
+    add_library(zt_rows OBJECT ${zt_row_sources})
+    target_link_libraries(zt_rows PUBLIC zt_native_test_flags)
+    foreach(program write_keystrokes write_rows)
+        add_executable(${program} ${CMAKE_SOURCE_DIR}/tests/support/programs/${program}.cpp)
+        target_link_libraries(${program} PRIVATE zt_rows)
+    endforeach()
     add_test(NAME keystrokes_page COMMAND write_keystrokes --check ${CMAKE_SOURCE_DIR}/docs/manual/keystrokes.md)
 endif()
 
