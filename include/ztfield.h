@@ -162,6 +162,9 @@ ZTF_API int32_t ZTF_TrySetDataString(ZTField* field, const char* text);
 ZTF_API int32_t ZTF_GetDataString(const ZTField* field, char* buffer, int32_t size);
 /* The value as the control's ZTE_FmtGetData gives it, a date or time as canonical text: "" where it has none of both. -1 for null. */
 ZTF_API int32_t ZTF_ReadData(const ZTField* field, char* buffer, int32_t size);
+/* Reads a text as if the field showed it, as the control's ZTE_FmtUnformatData does: strings without literals; dates and times as
+ * canonical text only. -1 for null and an empty text. */
+ZTF_API int32_t ZTF_ReadText(const ZTField* field, const char* text, char* buffer, int32_t size);
 /* ZTS_ value; -1 for null. */
 ZTF_API int32_t ZTF_GetState(const ZTField* field);
 

@@ -7,6 +7,7 @@
 
 #include "engine/editing.h"
 #include "engine/format/mask_setting.h"
+#include "engine/format/read_back.h"
 #include "engine/modern/editor.h"
 #include "engine/services.h"
 #include "ztfield/date_text.h"
@@ -187,6 +188,12 @@ int32_t ZTF_GetDataString(const ZTField* field, char* buffer, int32_t size)
 int32_t ZTF_ReadData(const ZTField* field, char* buffer, int32_t size)
 {
     void* block = field ? zte::EditingOf(field->Record()).getData(field->Record()) : nullptr;
+    return block ? WriteUtf8(TakeData(*field, block), buffer, size) : WriteNone(buffer, size);
+}
+
+int32_t ZTF_ReadText(const ZTField* field, const char* text, char* buffer, int32_t size)
+{
+    void* block = field ? zte::UnformatData(field->Record(), FromUtf8(text).c_str()) : nullptr;
     return block ? WriteUtf8(TakeData(*field, block), buffer, size) : WriteNone(buffer, size);
 }
 
