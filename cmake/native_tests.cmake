@@ -50,6 +50,14 @@ target_include_directories(test_units PRIVATE ${CMAKE_SOURCE_DIR}/tests/companio
 target_precompile_headers(test_units PRIVATE ${zt_common_headers})
 zt_compile_together(test_units)
 
+# Fields without a window, by their public functions.
+file(GLOB zt_ztfield_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/ztfield/*.cpp)
+add_executable(test_ztfield ${zt_ztfield_sources} ${CMAKE_SOURCE_DIR}/tests/support/marked_text.cpp)
+target_link_libraries(test_ztfield PRIVATE zt_rows ztfield gtest_main)
+target_include_directories(test_ztfield PRIVATE ${CMAKE_SOURCE_DIR})
+add_test(NAME ztfield COMMAND test_ztfield --gtest_brief=1)
+set_tests_properties(ztfield PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
+
 # What the fuzzers play, on the inputs that they have found so far.
 file(GLOB zt_fuzz_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/*.cpp)
 list(FILTER zt_fuzz_sources EXCLUDE REGEX "/fuzzer\\.cpp$")
@@ -69,7 +77,8 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     target_link_libraries(zt_engine_tests PUBLIC zt_native_test_flags)
     target_precompile_headers(zt_engine_tests PRIVATE ${zt_common_headers})
     zt_compile_together(zt_engine_tests)
-    set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/support/keyboard.cpp PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)  # its names of keys
+    set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/support/keyboard.cpp  # has names of keys that others have as well
+        PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     zt_add_native_tests(engine ${CMAKE_SOURCE_DIR}/tests/support/native/masked_edit.cpp
         ${CMAKE_SOURCE_DIR}/tests/support/native/clipboard.cpp ${CMAKE_SOURCE_DIR}/tests/support/record_view.cpp)
     target_link_libraries(test_engine PRIVATE zt_engine_tests)
