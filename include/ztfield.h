@@ -268,8 +268,8 @@ ZTF_API int32_t ZTF_GetPosition(const ZTField* field, int32_t index, ZTFieldPosi
 
 /* ---- Without a field ----------------------------------------------------------------------------------------------- */
 
-/* Whether a mask fits a data type, as a classic field takes it: ZTM_FITS, or what is wrong first. offset, where it is not null, is filled with where, counted in
- * code points of the mask; -1 for a mask that fits. settings null: the defaults. */
+/* Whether a mask fits a data type, as a classic field takes it: ZTM_FITS, or what is wrong first. offset, where it is not null, is
+ * filled with where, counted in code points of the mask; -1 for a mask that fits. settings null: the defaults. */
 ZTF_API int32_t ZTF_CheckMask(const ZTFieldSettings* settings, const char* mask, int32_t dataType, int32_t* offset);
 /* The same as a modern field takes it: a number's mask may be written with '.' and ',' under all settings. */
 ZTF_API int32_t ZTF_CheckModernMask(const ZTFieldSettings* settings, const char* mask, int32_t dataType, int32_t* offset);

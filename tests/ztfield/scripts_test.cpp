@@ -136,9 +136,8 @@ TEST(Halves, OfTheDayMayBeOfAnyScript)
 
 TEST(Months, MayHaveNamesOfAnyScript)
 {
-    const Settings russian({{ZTF_MONTHS,
-                             "\u042f\u041d\u0412/\u0424\u0415\u0412/\u041c\u0410\u0420/\u0410\u041f\u0420/\u041c\u0410\u0419/\u0418\u042e\u041d/"
-                             "\u0418\u042e\u041b/\u0410\u0412\u0413/\u0421\u0415\u041d/\u041e\u041a\u0422/\u041d\u041e\u042f/\u0414\u0415\u041a"}});
+    const char* const kNames = "ЯНВ/ФЕВ/МАР/АПР/МАЙ/ИЮН/ИЮЛ/АВГ/СЕН/ОКТ/НОЯ/ДЕК";
+    const Settings russian({{ZTF_MONTHS, kNames}});
     const Field field("DD-MMM-YYYY", DT_DATE, ZTEO_MODERN, russian.get());
     EXPECT_EQ(ZTF_TrySetDataString(field.get(), "2026-07-04"), 0);
     EXPECT_EQ(field.Text(), "04-\u0418\u042e\u041b-2026");
