@@ -55,8 +55,8 @@ const zte::Char* OrNull(const char* utf8, const Text& text)
 Text TakeData(const ZTField& field, void* block)
 {
     const zte::EditInstance& record = field.Record();
-    const Text text = zte::IsDateOrTime(record.dataType) ? zte::DateTimeText(*static_cast<const DateTimeValue*>(block))
-                                                         : Text(static_cast<const zte::Char*>(block));
+    Text text = zte::IsDateOrTime(record.dataType) ? zte::DateTimeText(*static_cast<const DateTimeValue*>(block))
+                                                   : Text(static_cast<const zte::Char*>(block));
     zte::services::Free(record.heap, block);
     return text;
 }
