@@ -49,6 +49,8 @@ function(check_include file floor included)
         set(problem "the companions are made of texts and values")
     elseif(floor STREQUAL "win32" AND below STREQUAL "companions" AND NOT included MATCHES "^companions/profile/")
         set(problem "the library calls the companions by their public headers")
+    elseif(floor STREQUAL "ztfield" AND below MATCHES "^(win32|companions)$")
+        set(problem "fields without a window are made of the engine alone")
     elseif(floor STREQUAL "win32" AND below STREQUAL "engine/memory")
         set(problem "the library has a field of its own")
     endif()
@@ -59,7 +61,8 @@ function(check_include file floor included)
 endfunction()
 
 file(GLOB_RECURSE files RELATIVE ${SOURCE_DIR} ${SOURCE_DIR}/engine/*.h ${SOURCE_DIR}/engine/*.cpp
-    ${SOURCE_DIR}/companions/*.h ${SOURCE_DIR}/companions/*.cpp ${SOURCE_DIR}/win32/*.h ${SOURCE_DIR}/win32/*.cpp)
+    ${SOURCE_DIR}/companions/*.h ${SOURCE_DIR}/companions/*.cpp ${SOURCE_DIR}/win32/*.h ${SOURCE_DIR}/win32/*.cpp
+    ${SOURCE_DIR}/ztfield/*.h ${SOURCE_DIR}/ztfield/*.cpp)
 list(LENGTH files count)
 if(count LESS 100)
     message(FATAL_ERROR "only ${count} files were found: the check looks at the wrong place")
