@@ -1,6 +1,7 @@
 // Plays a situation in a page, with the keys and the clipboard of the browser, and tells what stands there.
 
-const keyPause = 0;
+/** The keypad's point as keyboards report it while the keypad makes numbers. */
+const keypadPoint = { key: ".", code: "NumpadDecimal", windowsVirtualKeyCode: 110, location: 3, isKeypad: true };
 
 /** For comparison: what is not filled in is blank, and blanks at the end do not count. */
 export function comparable(text) {
@@ -12,9 +13,17 @@ async function paste(page, text) {
     await page.keyboard.press("Control+v");
 }
 
+async function pressKeypadPoint(page) {
+    const protocol = await page.context().newCDPSession(page);
+    await protocol.send("Input.dispatchKeyEvent", { type: "keyDown", text: ".", ...keypadPoint });
+    await protocol.send("Input.dispatchKeyEvent", { type: "keyUp", ...keypadPoint });
+    await protocol.detach();
+}
+
 async function act(page, { typed, pasted, key }) {
-    if (typed !== undefined) await page.keyboard.type(typed, { delay: keyPause });
+    if (typed !== undefined) await page.keyboard.type(typed);
     else if (pasted !== undefined) await paste(page, pasted);
+    else if (key === keypadPoint.code) await pressKeypadPoint(page);
     else await page.keyboard.press(key);
 }
 
