@@ -226,33 +226,33 @@ std::string RowOf(const char* table, const modern_numbers::KeyRow& row)
 struct ClassicTable {
     const char* name;
     const classic::Rows& rows;
-    const Region& region = kUnitedStates;
+    const Region& region;
 };
 
 const ClassicTable kClassicTables[] = {
-    {"classic characters",            classic::kCharacters                     },
-    {"classic behind AM/PM",          classic::kBehindAmPm                     },
-    {"classic string positions",      classic::kStringPositions                },
-    {"classic months",                classic::kMonths                         },
-    {"classic month names",           classic::kMonthNames                     },
-    {"classic days",                  classic::kDays                           },
-    {"classic days of the year",      classic::kDaysOfTheYear                  },
-    {"classic years",                 classic::kYears                          },
-    {"classic times",                 classic::kTimes                          },
-    {"classic shared positions",      classic::kSharedPositions                },
-    {"classic completed fields",      classic::kCompletedFields                },
-    {"classic deletions",             classic::kDeletions                      },
-    {"classic moves",                 classic::kMoves                          },
-    {"classic numbers",               classic::kNumbers                        },
-    {"classic number law",            classic::kNumberLaw                      },
-    {"classic number deletions",      classic::kNumberDeletions                },
-    {"classic German numbers",        classic::kGermanNumbers,     kGerman     },
-    {"classic French numbers",        classic::kFrenchNumbers,     kFrench     },
-    {"classic Swiss numbers",         classic::kSwissNumbers,      kSwiss      },
-    {"classic Swiss francs",          classic::kSwissFrancNumbers, kSwissFranc },
-    {"classic Danish numbers",        classic::kDanishNumbers,     kDanish     },
-    {"classic Mexican numbers",       classic::kMexicanNumbers,    kMexican    },
-    {"classic Czech numbers",         classic::kCzechNumbers,      kCzech      },
+    {"classic characters",       classic::kCharacters,        kUnitedStates},
+    {"classic behind AM/PM",     classic::kBehindAmPm,        kUnitedStates},
+    {"classic string positions", classic::kStringPositions,   kUnitedStates},
+    {"classic months",           classic::kMonths,            kUnitedStates},
+    {"classic month names",      classic::kMonthNames,        kUnitedStates},
+    {"classic days",             classic::kDays,              kUnitedStates},
+    {"classic days of the year", classic::kDaysOfTheYear,     kUnitedStates},
+    {"classic years",            classic::kYears,             kUnitedStates},
+    {"classic times",            classic::kTimes,             kUnitedStates},
+    {"classic shared positions", classic::kSharedPositions,   kUnitedStates},
+    {"classic completed fields", classic::kCompletedFields,   kUnitedStates},
+    {"classic deletions",        classic::kDeletions,         kUnitedStates},
+    {"classic moves",            classic::kMoves,             kUnitedStates},
+    {"classic numbers",          classic::kNumbers,           kUnitedStates},
+    {"classic number law",       classic::kNumberLaw,         kUnitedStates},
+    {"classic number deletions", classic::kNumberDeletions,   kUnitedStates},
+    {"classic German numbers",   classic::kGermanNumbers,     kGerman      },
+    {"classic French numbers",   classic::kFrenchNumbers,     kFrench      },
+    {"classic Swiss numbers",    classic::kSwissNumbers,      kSwiss       },
+    {"classic Swiss francs",     classic::kSwissFrancNumbers, kSwissFranc  },
+    {"classic Danish numbers",   classic::kDanishNumbers,     kDanish      },
+    {"classic Mexican numbers",  classic::kMexicanNumbers,    kMexican     },
+    {"classic Czech numbers",    classic::kCzechNumbers,      kCzech       },
 };
 
 std::string RowOf(const ClassicTable& table, const KeyCase& row)
