@@ -38,7 +38,7 @@ class AttachedInput {
         this.#options = options;
         const { value, ...setup } = options;
         this.#field = new Field({ ...setup, readOnly: options.readOnly || input.readOnly }, (event) => this.#hear(event));
-        this.#take(value === undefined ? input.value : (value ?? ""));
+        this.#work(() => this.#take(value === undefined ? input.value : (value ?? "")));
         this.#clothes = dress(input, this.#field, options);
         this.#committed = this.#field.text;
         this.#noteValue();
@@ -59,7 +59,7 @@ class AttachedInput {
     }
 
     set value(value) {
-        this.#field.value = value;
+        this.#work(() => (this.#field.value = value));
         this.#settle();
     }
 
@@ -68,7 +68,7 @@ class AttachedInput {
     }
 
     setMask(mask, type) {
-        const fits = this.#field.setMask(mask, type);
+        const fits = this.#work(() => this.#field.setMask(mask, type));
         this.#clothes.fit();
         this.#settle();
         return fits;
@@ -304,15 +304,21 @@ class AttachedInput {
     #act(act, inputType = undefined, data = null, fromSelection = true) {
         this.#catchUp(fromSelection);
         const before = this.#field.text;
-        this.#acting = true;
-        act(this.#field);
-        this.#acting = false;
+        this.#work(() => act(this.#field));
         if (this.#isDetached) return;
         this.#show();
         this.#tellValue();
         if (inputType && !this.#isDetached && this.#field.text !== before) {
             this.#dispatch(new InputEvent("input", { bubbles: true, composed: true, inputType, data }));
         }
+    }
+
+    /** Changes the field where what it shows is settled afterwards. */
+    #work(change) {
+        this.#acting = true;
+        const result = change();
+        this.#acting = false;
+        return result;
     }
 
     #dispatch(event) {
@@ -336,9 +342,7 @@ class AttachedInput {
 
     #takeOutside() {
         if (this.#input.value === this.#field.text) return;
-        this.#acting = true;
-        this.#take(this.#input.value);
-        this.#acting = false;
+        this.#work(() => this.#take(this.#input.value));
         this.#show();
     }
 
