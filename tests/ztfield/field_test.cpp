@@ -374,7 +374,10 @@ void DoAnything(const Field& field, Random& random)
     case 9: ZTF_Click(field.get(), number, 0); break;
     case 10: ZTF_DoubleClick(field.get(), number); break;
     case 11: ZTF_SetMask(field.get(), bytes.c_str(), static_cast<int32_t>(random.Below(8))); break;
-    case 12: ZTF_SetSpin(field.get(), random.Below(9), bytes.c_str(), AnyBytes(random).c_str(), 0), ZTF_Step(field.get(), number & 1); break;
+    case 12:
+        ZTF_SetSpin(field.get(), random.Below(9), bytes.c_str(), AnyBytes(random).c_str(), 0);
+        ZTF_Step(field.get(), number & 1);
+        break;
     default: ZTF_Press(field.get(), ZTF_KEY_BACKSPACE, 0); break;
     }
 }
