@@ -1,5 +1,6 @@
 // An input of a page that has become a field: what its user does goes to the field, and what the field shows into the input.
 import { Field } from "./field.mjs";
+import { reportLater } from "./wasm.mjs";
 import { dress } from "./dress.mjs";
 import { commandOf, editOf, isStepKey, notchesOf, recompose } from "./acts.mjs";
 
@@ -112,9 +113,9 @@ class AttachedInput {
             blur: this.#onBlur,
         };
         for (const [name, listener] of Object.entries(listeners)) this.#on(this.#input, name, listener);
-        this.#on(this.#input.ownerDocument, "mouseup", this.#onMouseUp);
-        this.#on(this.#input.ownerDocument, "selectionchange", this.#onSelectionChange);
-        this.#on(this.#input.ownerDocument, "reset", this.#onReset);
+        this.#listenAround(this.#input.ownerDocument, "mouseup", this.#onMouseUp);
+        this.#listenAround(this.#input.ownerDocument, "selectionchange", this.#onSelectionChange);
+        this.#listenAround(this.#input.ownerDocument, "reset", this.#onReset);
     }
 
     #on(target, name, listener) {
@@ -123,6 +124,18 @@ class AttachedInput {
             passive: false,
             signal: this.#stop.signal,
         });
+    }
+
+    /** What stays in the page must not hold an input that has been dropped without having been detached. */
+    #listenAround(target, name, listener) {
+        const weakly = new WeakRef(this);
+        const { signal } = this.#stop;
+        const hear = (event) => {
+            const attached = weakly.deref();
+            if (attached) listener.call(attached, event);
+            else target.removeEventListener(name, hear, true);
+        };
+        target.addEventListener(name, hear, { capture: true, signal });
     }
 
     // ---- keys
@@ -316,9 +329,11 @@ class AttachedInput {
     /** Changes the field where what it shows is settled afterwards. */
     #work(change) {
         this.#acting = true;
-        const result = change();
-        this.#acting = false;
-        return result;
+        try {
+            return change();
+        } finally {
+            this.#acting = false;
+        }
     }
 
     #dispatch(event) {
@@ -401,7 +416,12 @@ class AttachedInput {
         const value = this.#lastValue;
         const state = this.#lastState;
         this.#noteValue();
-        if (value !== this.#lastValue || state !== this.#lastState) this.#options.onValue?.(this.#lastValue, this.#lastState);
+        if (value === this.#lastValue && state === this.#lastState) return;
+        try {
+            this.#options.onValue?.(this.#lastValue, this.#lastState);
+        } catch (error) {
+            reportLater(error); // the page hears of the input all the same
+        }
     }
 
     #hear(event) {

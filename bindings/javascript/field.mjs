@@ -2,7 +2,7 @@
 import { dataTypes, eventKinds, numberOfType, positionKinds, reasons, states } from "./names.mjs";
 import { withSettings } from "./settings.mjs";
 import { pointsBefore, unitsBefore } from "./texts.mjs";
-import { hearField, integersFrom, lend, library, textFrom } from "./wasm.mjs";
+import { destroyField, hearField, integersFrom, lend, library, textFrom } from "./wasm.mjs";
 
 const AUTOSKIP = 0x1;
 const SPIN = 0x2;
@@ -44,9 +44,13 @@ function spinOf(options) {
     return { on: Boolean(options.spin || table), increment: spin.increment ?? 1, range: spin.range ?? null, table };
 }
 
+/** Fields that nobody holds any more give their memory back, too, though later. */
+const dropped = new FinalizationRegistry(destroyField);
+
 export class Field {
     #field;
     #listener;
+    #told = (...event) => this.#hear(...event);
     #modern;
     #readOnly = false;
     #pasted = null; // what the position of a refusal is counted in while a text is pasted
@@ -66,16 +70,17 @@ export class Field {
         this.#field = withSettings(options.settings, (settings) =>
             lend([options.mask ?? "", spin.range, spin.table], (mask, range, table) =>
                 library.ZTW_Create(mask, type, bits, range, spin.increment, table, settings)));
+        dropped.register(this, this.#field, this);
         this.#listener = listener;
         this.#modern = options.modern !== false;
         if (options.value !== undefined) this.value = options.value;
         if (options.readOnly) this.readOnly = true;
-        if (listener) hearField(this.#field, (...event) => this.#hear(...event));
+        if (listener) hearField(this.#field, this.#told);
     }
 
     destroy() {
-        hearField(this.#field, null);
-        library.ZTF_Destroy(this.#field);
+        dropped.unregister(this);
+        destroyField(this.#field);
         this.#field = 0;
     }
 

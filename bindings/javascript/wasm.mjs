@@ -4,8 +4,30 @@ import { packed } from "./packed.mjs";
 const encoder = new TextEncoder();
 const decoder = new TextDecoder("utf-8", { ignoreBOM: true });
 
-/** Who hears the events of a field, by its address. */
+/** Who hears the events of a field, by its address; held weakly, for a field is held by those who use it alone. */
 const listeners = new Map();
+
+/** How many events are being told: the library waits below for what is said to them. */
+let telling = 0;
+
+/** An error of a listener must not go through the library, which could not finish its work: it is the page's, as of any listener. */
+export function reportLater(error) {
+    queueMicrotask(() => {
+        throw error;
+    });
+}
+
+function tell(field, event) {
+    ++telling;
+    try {
+        return listeners.get(field)?.deref()?.(...event) ? 1 : 0;
+    } catch (error) {
+        reportLater(error);
+        return 0;
+    } finally {
+        --telling;
+    }
+}
 
 /** What the library asks of the page. */
 const page = {
@@ -20,7 +42,7 @@ const page = {
         return encoder.encodeInto(value.toExponential(), new Uint8Array(memory.buffer, address, 32)).written;
     },
     told(field, ...event) {
-        return listeners.get(field)?.(...event) ? 1 : 0;
+        return tell(field, event);
     },
 };
 
@@ -36,11 +58,17 @@ library._initialize();
 
 /**
  * @param {number} field
- * @param {((...event: number[]) => boolean | void) | null} listener null: none any more
+ * @param {(...event: number[]) => boolean | void} listener to be held by the field
  */
 export function hearField(field, listener) {
-    if (listener) listeners.set(field, listener);
-    else listeners.delete(field);
+    listeners.set(field, new WeakRef(listener));
+}
+
+/** A field that has told of an event is at work still: it goes when it is done. */
+export function destroyField(field) {
+    listeners.delete(field);
+    if (telling) queueMicrotask(() => library.ZTF_Destroy(field));
+    else library.ZTF_Destroy(field);
 }
 
 /** A NUL would end the text: it goes in as what it is, no character. */

@@ -1,10 +1,13 @@
 // The module without a page: fields in memory, values, masks; what it declares, and what it weighs.
 import assert from "node:assert/strict";
+import { execFileSync } from "node:child_process";
 import { readFileSync } from "node:fs";
 import { describe, test } from "node:test";
+import { fileURLToPath } from "node:url";
 import { gzipSync } from "node:zlib";
 
 import * as module from "../../build/web/ztfield.mjs";
+import { watchedModule } from "./memory.mjs";
 
 const { Field, check, format, parse, version } = module;
 const built = (name) => readFileSync(new URL(`../../build/web/${name}`, import.meta.url));
@@ -269,6 +272,71 @@ describe("masks", () => {
     test("name months as the settings do", () => {
         const months = "JAN FEV MAR AVR MAI JUN JUL AOU SEP OCT NOV DEC".split(" ");
         assert.equal(format("2026-08-04", { mask: "DD-MMM-YYYY", type: "date", settings: { months } }), "04-AOU-2026");
+    });
+});
+
+describe("memory", () => {
+    const settings = { decimal: ",", thousands: "." };
+    const choices = Array.from({ length: 50 }, (_, i) => ({ text: `Choice ${i}`, value: `${i}` }));
+    const kinds = [date, { ...amount, settings }, { choices }, { mask: "(###) ###-####", spin: true, modern: false }];
+
+    function use(field) {
+        field.type("7/4");
+        field.paste("12/31/1999");
+        field.setMask("MM/DD", "date"); // refused
+        return field.value;
+    }
+
+    test("does not grow by fields that are made and destroyed, by questions and by refused settings", async () => {
+        const { module: own, size } = await watchedModule();
+        const round = (i) => {
+            const field = new own.Field(kinds[i % kinds.length], () => false);
+            use(field);
+            field.destroy();
+            if (i % 50 !== 0) return;
+            own.format("1234.5", { ...amount, settings });
+            own.parse("4 July 2026", date);
+            assert.throws(() => new own.Field({ settings: { comma: "," } }));
+        };
+        for (let i = 0; i < 100; ++i) round(i);
+        const before = size();
+        for (let i = 0; i < 20000; ++i) round(i);
+        assert.equal(size(), before);
+    });
+
+    test("of fields that were dropped is given back", { timeout: 30000 }, () => {
+        const program = fileURLToPath(new URL("dropped_fields.mjs", import.meta.url));
+        const told = JSON.parse(execFileSync(process.execPath, ["--expose-gc", program], { encoding: "utf8" }));
+        assert.ok(told.grown < 1 << 20, `${told.grown} bytes`); // ten thousand fields take forty times as much
+        assert.deepEqual([told.heldIsHeard, told.held], [true, "1 "]);
+    });
+});
+
+describe("a listener", () => {
+    test("may destroy its field", () => {
+        let field;
+        const others = [];
+        const destroy = () => {
+            if (field.text !== "") others.push(field.destroy());
+        };
+        field = new Field({ mask: "##" }, destroy);
+        field.type("12");
+        assert.deepEqual(others.length, 1);
+        assert.equal(new Field({ mask: "##", value: "34" }).text, "34");
+    });
+
+    test("that fails does not keep the field from its work; its error is the program's", async () => {
+        const errors = [];
+        const caught = new Promise((told) => process.setUncaughtExceptionCaptureCallback((error) => told(errors.push(error.message))));
+        const field = new Field({ mask: "##" }, ({ kind }) => {
+            if (kind === "changed") throw new Error("of the listener");
+        });
+        field.type("1");
+        field.type("2");
+        assert.equal(field.text, "12");
+        await caught;
+        process.setUncaughtExceptionCaptureCallback(null);
+        assert.equal(errors[0], "of the listener");
     });
 });
 
