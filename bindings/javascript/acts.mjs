@@ -19,6 +19,9 @@ const commandKeys = {
     Delete: "deleteContentForward",
 };
 
+/** In a text that runs from right to left. */
+const turnedKeys = { ArrowLeft: "ArrowRight", ArrowRight: "ArrowLeft" };
+
 const stepKeys = ["ArrowUp", "ArrowDown", "PageUp", "PageDown"];
 
 /** With Ctrl, or on Apple's keyboards with Cmd. */
@@ -29,11 +32,17 @@ export function isStepKey(key) {
     return stepKeys.includes(key);
 }
 
+/** On a keyboard without Latin letters the key that has it elsewhere. */
+function letterOf({ key, code }) {
+    return key < "\x80" ? key.toLowerCase() : code.replace(/^Key/, "").toLowerCase();
+}
+
 function letterCommand(event) {
-    const inputType = commandLetters[event.key.toLowerCase()];
+    const letter = letterOf(event);
+    const inputType = commandLetters[letter];
     if (!inputType || event.altKey) return null;
     const redo = inputType === "historyUndo" && event.shiftKey;
-    return { act: press(event.key, { ctrl: true, shift: event.shiftKey }), inputType: redo ? "historyRedo" : inputType };
+    return { act: press(letter, { ctrl: true, shift: event.shiftKey }), inputType: redo ? "historyRedo" : inputType };
 }
 
 /** Shift and Delete with a selection cut, which comes as an event of its own. */
@@ -44,11 +53,11 @@ function isCut(event, hasSelection) {
 /**
  * What a key does that makes no character; null where that is the browser's, which may tell us by another event.
  * @param {KeyboardEvent} event
- * @param {boolean} hasSpin
- * @param {boolean} hasSelection
+ * @param {{ hasSpin: boolean, hasSelection: boolean, isTurned: boolean }} input
  */
-export function commandOf(event, hasSpin, hasSelection) {
-    const { key, altKey, ctrlKey, metaKey } = event;
+export function commandOf(event, { hasSpin, hasSelection, isTurned }) {
+    const key = isTurned ? (turnedKeys[event.key] ?? event.key) : event.key;
+    const { altKey, ctrlKey, metaKey } = event;
     const held = { shift: event.shiftKey, ctrl: ctrlKey };
     if (key.length === 1 && (isApple ? metaKey : ctrlKey)) return letterCommand(event);
     if (metaKey || (isApple && ctrlKey)) return null;
@@ -75,7 +84,20 @@ function eraseAll(field) {
     field.press("Delete");
 }
 
-const type = (text) => (field) => field.type(text);
+/**
+ * Types a text; spoken, and by extensions, whole values are inserted as they are written anywhere.
+ * @param {import("./field.mjs").Field} field
+ * @param {string} text
+ * @param {((text: string) => boolean) | undefined} isValue
+ */
+export function insert(field, text, isValue) {
+    const { start, end } = field.selection;
+    const all = field.state === "empty" || (start === 0 && end === field.text.length);
+    if (all && /^(?=.*\D).{2}/u.test(text) && isValue?.(text)) field.paste(text);
+    else field.type(text);
+}
+
+const type = (text, isValue) => (field) => insert(field, text, isValue);
 const nothing = () => () => {};
 
 /** What the inputTypes of beforeinput ask for. Of those that are not here none is let through. */
@@ -88,6 +110,7 @@ const edits = {
     deleteContentBackward: () => press("Backspace"),
     deleteContentForward: () => press("Delete"),
     deleteContent: () => press("Delete"),
+    deleteByDrag: () => press("Delete"),
     deleteWordBackward: () => press("Backspace", eraseWord),
     deleteWordForward: () => press("Delete", eraseWord),
     deleteSoftLineBackward: () => eraseTo("start"),
@@ -106,11 +129,12 @@ const browsersOwn = ["insertLineBreak", "insertCompositionText", "insertFromComp
 /**
  * What is asked for; null where it is left to the browser.
  * @param {InputEvent} event
+ * @param {(text: string) => boolean} isValue
  */
-export function editOf(event) {
+export function editOf(event, isValue) {
     if (browsersOwn.includes(event.inputType)) return null;
     const data = event.data ?? event.dataTransfer?.getData("text/plain") ?? "";
-    return { act: (edits[event.inputType] ?? nothing)(data), data: event.data };
+    return { act: (edits[event.inputType] ?? nothing)(data, isValue), data: event.data };
 }
 
 const pixelsOfNotch = 100;

@@ -1,8 +1,10 @@
 // An input of a page that has become a field: what its user does goes to the field, and what the field shows into the input.
 import { Field } from "./field.mjs";
+import { parse } from "./values.mjs";
 import { reportLater } from "./wasm.mjs";
 import { dress } from "./dress.mjs";
-import { commandOf, editOf, isStepKey, notchesOf, recompose } from "./acts.mjs";
+import { numberTypes } from "./names.mjs";
+import { commandOf, editOf, insert, isStepKey, notchesOf, recompose } from "./acts.mjs";
 
 /** Types of inputs whose selection a page can read and set. */
 const selectable = ["text", "search", "tel", "url", "password"];
@@ -21,12 +23,15 @@ class AttachedInput {
     #options;
     #clothes;
     #stop = new AbortController();
+    #roots = new WeakSet(); // where the resets of forms are heard
     #acting = false;
     #telling = false;
     #composing = null; // what stood there when an input method began
     #late = null; // an edit that the browser does not let us take its place of
+    #disturbed = false; // the page has put another text there when it heard of ours: where the caret is says nothing then
     #pressed = false; // a mouse button
     #clicked = 0;
+    #dropped = false; // a text that was dragged, here
     #notches = 0;
     #lastAct = performance.now();
     #committed; // the text that was last told by "change"
@@ -39,8 +44,8 @@ class AttachedInput {
         this.#options = options;
         const { value, ...setup } = options;
         this.#field = new Field({ ...setup, readOnly: options.readOnly || input.readOnly }, (event) => this.#hear(event));
-        this.#work(() => this.#take(value === undefined ? input.value : (value ?? "")));
         this.#clothes = dress(input, this.#field, options);
+        this.#work(() => (value === undefined ? this.#takeTyped(input.value) : this.#take(value ?? "")));
         this.#committed = this.#field.text;
         this.#noteValue();
         this.#listen();
@@ -101,6 +106,8 @@ class AttachedInput {
             keyup: this.#onKeyUp,
             beforeinput: this.#onBeforeInput,
             input: this.#onInput,
+            change: this.#onChange,
+            invalid: this.#onInvalid,
             compositionstart: this.#onCompositionStart,
             compositionend: this.#onCompositionEnd,
             copy: this.#onCopy,
@@ -108,14 +115,28 @@ class AttachedInput {
             paste: this.#onPaste,
             mousedown: this.#onMouseDown,
             dblclick: this.#onDoubleClick,
+            drop: this.#onDrop,
             wheel: this.#onWheel,
             focus: this.#onFocus,
             blur: this.#onBlur,
         };
         for (const [name, listener] of Object.entries(listeners)) this.#on(this.#input, name, listener);
-        this.#listenAround(this.#input.ownerDocument, "mouseup", this.#onMouseUp);
-        this.#listenAround(this.#input.ownerDocument, "selectionchange", this.#onSelectionChange);
-        this.#listenAround(this.#input.ownerDocument, "reset", this.#onReset);
+        const around = {
+            mouseup: this.#onMouseUp,
+            selectionchange: this.#onSelectionChange,
+            keydown: this.#onActElsewhere,
+            pointerdown: this.#onActElsewhere,
+        };
+        for (const [name, listener] of Object.entries(around)) this.#listenAround(this.#input.ownerDocument, name, listener);
+        this.#listenForReset();
+    }
+
+    /** The reset of a form does not come out of a shadow tree; an input may be put into one later. */
+    #listenForReset() {
+        for (const root of [this.#input.ownerDocument, this.#input.getRootNode()]) {
+            if (!this.#roots.has(root)) this.#listenAround(root, "reset", this.#onReset);
+            this.#roots.add(root);
+        }
     }
 
     #on(target, name, listener) {
@@ -146,7 +167,11 @@ class AttachedInput {
             this.#commit();
             return;
         }
-        const command = commandOf(event, this.#clothes.hasSpin, !this.#selectionIsEmpty);
+        const command = commandOf(event, {
+            hasSpin: this.#clothes.hasSpin,
+            hasSelection: !this.#selectionIsEmpty,
+            isTurned: this.#clothes.isTurned,
+        });
         if (!command) return;
         event.preventDefault();
         this.#act(command.act, command.inputType);
@@ -164,10 +189,11 @@ class AttachedInput {
 
     #onBeforeInput(event) {
         if (event.isComposing || this.#composing || event.defaultPrevented) return;
-        const edit = editOf(event);
+        const edit = editOf(event, this.#isValue);
         if (!edit) return;
         if (event.cancelable) {
             event.preventDefault();
+            if (this.#dropped && event.inputType === "deleteByDrag") return;
             this.#act(edit.act, event.inputType, edit.data);
         } else {
             this.#catchUp();
@@ -175,15 +201,20 @@ class AttachedInput {
         }
     }
 
+    #isValue = (text) => {
+        const { mask, dataType: type } = this.#field;
+        return Boolean(parse(text, { mask, type, settings: this.#options.settings }));
+    };
+
     /** What comes here without having been asked for: some keyboards of phones, and whoever fills in forms. */
     #onInput(event) {
         if (this.#telling || this.#composing || event.isComposing) return;
-        const edit = this.#late;
-        this.#late = null;
         const text = this.#input.value;
-        if (text === this.#field.text) return;
+        const edit = this.#late ?? unaskedEditOf(event, this.#field, text, this.#isValue);
+        this.#late = null;
+        if (text === this.#field.text && !isHistory(event)) return;
         this.#restore();
-        this.#act(edit?.act ?? ((field) => replaceAll(field, text)));
+        this.#act(edit.act);
     }
 
     #onCompositionStart() {
@@ -203,11 +234,13 @@ class AttachedInput {
     // ---- the clipboard
 
     #onCopy(event) {
+        if (event.defaultPrevented) return;
         this.#catchUp();
         this.#give(event, this.#field.copy());
     }
 
     #onCut(event) {
+        if (event.defaultPrevented) return;
         this.#act((field) => this.#give(event, field.cut()), "deleteByCut");
     }
 
@@ -217,7 +250,7 @@ class AttachedInput {
     }
 
     #onPaste(event) {
-        if (!event.clipboardData) return;
+        if (!event.clipboardData || event.defaultPrevented) return;
         const text = event.clipboardData.getData("text/plain");
         event.preventDefault();
         if (text) this.#act((field) => field.paste(text), "insertFromPaste", text);
@@ -225,7 +258,14 @@ class AttachedInput {
 
     // ---- the mouse and the caret
 
+    /** What is dragged within the input is copied: without the text that it takes out, positions would not be where it is let go. */
+    #onDrop() {
+        this.#dropped = true;
+        setTimeout(() => (this.#dropped = false));
+    }
+
     #onMouseDown(event) {
+        this.#disturbed = false;
         this.#pressed = event.button === 0;
     }
 
@@ -236,7 +276,7 @@ class AttachedInput {
         const { start, end, anchor, caret } = this.#nativeSelection;
         if (start === end) {
             this.#clicked = start;
-            this.#point((field) => field.click(start, { shift: event.shiftKey }));
+            this.#point((field) => field.click(placeOfClick(field, start), { shift: event.shiftKey }));
         } else if (this.#isSelectedElsewhere) {
             this.#point((field) => field.drag(anchor, caret));
         }
@@ -249,9 +289,9 @@ class AttachedInput {
     /** A caret that has been moved by means that are not ours: a phone's handles, a screen reader, keys of other systems. */
     #onSelectionChange() {
         if (!this.#hasFocus || this.#composing || this.#pressed || !this.#isSelectedElsewhere) return;
-        if (this.#input.value !== this.#field.text) return;
+        if (this.#input.value !== this.#field.text || this.#hasLostCaret()) return;
         const { start, end, anchor, caret } = this.#nativeSelection;
-        this.#point((field) => (start === end ? field.click(start) : field.select(anchor, caret)));
+        this.#point((field) => (start === end ? field.click(placeOfClick(field, start)) : field.select(anchor, caret)));
     }
 
     #point(act) {
@@ -260,7 +300,7 @@ class AttachedInput {
     }
 
     #onWheel(event) {
-        if (!this.#hasFocus || !this.#clothes.hasSpin || event.ctrlKey || !event.deltaY) return;
+        if (!this.#hasFocus || !this.#clothes.hasSpin || event.ctrlKey || !event.deltaY || event.defaultPrevented) return;
         event.preventDefault();
         this.#notches += notchesOf(event);
         const notches = Math.trunc(this.#notches);
@@ -270,7 +310,41 @@ class AttachedInput {
 
     // ---- coming, going, and forms
 
+    /** The browser's own, where it has edited by itself, or of whoever fills in forms and tells no more. Ours comes by #commit. */
+    #onChange(event) {
+        if (this.#telling) return;
+        const text = this.#input.value;
+        if (text !== this.#field.text) this.#insteadOf(text);
+        this.#act((field) => field.leave(), "insertReplacementText");
+        if (event.isTrusted && this.#field.text === this.#committed) event.stopImmediatePropagation();
+        this.#committed = this.#field.text;
+    }
+
+    #insteadOf(text) {
+        this.#restore();
+        this.#act((field) => replaceAll(field, text));
+    }
+
+    /** The form was to be sent. */
+    #onInvalid() {
+        this.#clothes.refused = true;
+        this.#judge();
+    }
+
+    /** What the page has set is judged before the form can be sent. */
+    #onActElsewhere(event) {
+        if (event.target === this.#input || this.#composing || this.#input.value === this.#field.text) return;
+        this.#takeOutside();
+        this.#settle();
+    }
+
     #onFocus() {
+        this.#listenForReset();
+        this.#clothes.turn();
+        if (this.#input.value !== this.#field.text) {
+            this.#takeOutside();
+            this.#tellValue();
+        }
         this.#committed = this.#field.text;
         this.#notches = 0;
         if (!this.#pressed && this.#selectionIsEmpty) this.#show();
@@ -301,6 +375,7 @@ class AttachedInput {
             this.#takeOutside();
             this.#committed = this.#field.text;
             this.#clothes.touched = false;
+            this.#clothes.refused = false;
             this.#settle();
         });
     }
@@ -323,7 +398,25 @@ class AttachedInput {
         this.#tellValue();
         if (inputType && !this.#isDetached && this.#field.text !== before) {
             this.#dispatch(new InputEvent("input", { bubbles: true, composed: true, inputType, data }));
+            this.#meetAnswer();
         }
+    }
+
+    /** Pages put what they have made of the text back into the input: without its blanks, or by and by. The caret is lost by that. */
+    #meetAnswer() {
+        if (this.#isDetached || this.#input.value === this.#field.text) return;
+        if (isSameBut(this.#input.value, this.#field)) this.#restore();
+        else this.#disturbed = true;
+    }
+
+    /** A text that is set has its caret at the end; ours is put back. */
+    #hasLostCaret() {
+        if (!this.#disturbed) return false;
+        this.#disturbed = false;
+        const end = this.#field.text.length;
+        if (this.#input.selectionStart !== end || this.#input.selectionEnd !== end) return false;
+        this.#showSelection();
+        return true;
     }
 
     /** Changes the field where what it shows is settled afterwards. */
@@ -350,20 +443,36 @@ class AttachedInput {
         const readOnly = Boolean(this.#options.readOnly || this.#input.readOnly);
         if (readOnly !== this.#field.readOnly) this.#field.readOnly = readOnly;
         if (this.#input.value !== this.#field.text) this.#takeOutside();
-        else if (withSelection && this.#hasFocus && this.#isSelectedElsewhere) {
+        else if (withSelection && this.#hasFocus && this.#isSelectedElsewhere && !this.#hasLostCaret()) {
             this.#field.select(this.#nativeSelection.anchor, this.#nativeSelection.caret);
         }
     }
 
     #takeOutside() {
-        if (this.#input.value === this.#field.text) return;
-        this.#work(() => this.#take(this.#input.value));
+        const text = this.#input.value;
+        if (text === this.#field.text) return;
+        if (!isSameBut(text, this.#field)) this.#work(() => this.#takeWithCaret(text));
         this.#show();
+    }
+
+    /** Where it is as long as ours it is ours, with other letters: the caret stays. */
+    #takeWithCaret(text) {
+        const { anchor, caret } = this.#field.selection;
+        const stays = text.length === this.#field.text.length;
+        this.#take(text);
+        if (stays) this.#field.select(anchor, caret);
     }
 
     /** A value where the text is one, else as it stands: nothing that a page has set is lost. */
     #take(text) {
         if (this.#field.tryValue(text) !== null) this.#field.setText(text);
+    }
+
+    /** What stands in the input already may have been typed while the page was loaded. */
+    #takeTyped(text) {
+        if (this.#field.tryValue(text) === null) return;
+        if (text !== this.#input.defaultValue) this.#field.type(text);
+        if (this.#field.state === "empty") this.#field.setText(text);
     }
 
     get #nativeSelection() {
@@ -403,6 +512,7 @@ class AttachedInput {
 
     /** After a change by the program. */
     #settle() {
+        if (!this.#hasFocus) this.#committed = this.#field.text;
         this.#show();
         this.#tellValue();
     }
@@ -444,16 +554,49 @@ class AttachedInput {
     }
 }
 
+/** Whether a page has only left out what the mask brings. */
+function isSameBut(text, field) {
+    if (text === "") return false;
+    if (text.trimEnd() === field.text.trimEnd() || text === field.value) return true;
+    if (numberTypes.includes(field.dataType)) return false; // which has its point among the literals
+    const open = field.positions.filter(({ kind }) => kind !== "literal");
+    const bare = open.map(({ index, length }) => field.text.slice(index, index + length)).join("");
+    return withoutBlanks(text) === withoutBlanks(bare);
+}
+
+function withoutBlanks(text) {
+    return text.replace(/\s/g, "");
+}
+
+/** The browser's history knows of other texts than ours: what it makes of them says nothing. */
+function isHistory(event) {
+    return /^history/.test(event.inputType ?? "");
+}
+
+/** What the browser, a script or an extension has edited, told by its result alone. */
+function unaskedEditOf(event, field, text, isValue) {
+    const type = event.inputType ?? "";
+    if (isHistory(event)) return editOf(event, isValue);
+    if (!/^(?:insert(?:Text|From)|delete)/.test(type)) return { act: () => replaceAll(field, text) };
+    const change = recompose({ text: field.text, ...field.selection }, text, event.data ?? "");
+    return { act: () => replace(field, { ...change, pasted: type !== "insertText", isValue }) };
+}
+
+/** Behind a text with nothing filled in there is nothing to be done: who clicks there, where most of an input is, wants to begin. */
+function placeOfClick(field, position) {
+    return field.modern && field.state === "empty" && position === field.text.length ? 0 : position;
+}
+
 function replaceAll(field, text) {
     replace(field, { start: 0, end: field.text.length, text, pasted: true });
 }
 
-function replace(field, { start, end, text, pasted }) {
+function replace(field, { start, end, text, pasted, isValue }) {
     const selection = field.selection;
     if (selection.start !== start || selection.end !== end) field.select(start, end);
     if (!text) field.press("Delete");
     else if (pasted) field.paste(text);
-    else field.type(text);
+    else insert(field, text, isValue);
 }
 
 /**

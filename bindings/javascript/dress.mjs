@@ -1,4 +1,5 @@
 // What a field wears in a page: attributes for phones and screen readers, and what the form is told of its validity.
+import { numberTypes } from "./names.mjs";
 
 /** Kinds of positions that the keypad of a phone can fill. */
 const keypadKinds = ["digit", "year", "month", "day", "day of year", "hour", "minute", "second", "fraction"];
@@ -9,8 +10,6 @@ const sentences = {
     invalid: "There is no such value.",
     "out of range": "This value is out of range.",
 };
-
-const numberTypes = ["number", "decimal"];
 
 /** Why a field is marked before its user has left it: it cannot become right by being gone on with. */
 const wrongAtOnce = ["invalid", "out of range"];
@@ -23,6 +22,13 @@ function inputModeOf(field) {
     return open.length && !named && open.every(({ kind }) => keypadKinds.includes(kind)) ? "numeric" : null;
 }
 
+/** Kinds of positions that a name or a sentence can stand in. */
+const wordKinds = ["letter", "any", "upper", "lower"];
+
+function runsLeftToRight(field) {
+    return field.mask !== "" && !field.positions.some(({ kind }) => wordKinds.includes(kind));
+}
+
 function rangeOf(spin) {
     const [least = "", most = ""] = (spin?.range ?? "").split("~");
     return { least: least || null, most: most || null };
@@ -30,6 +36,7 @@ function rangeOf(spin) {
 
 class Clothes {
     touched = false;
+    refused = false; // its form was not sent because of it
     #input;
     #field;
     #options;
@@ -65,12 +72,27 @@ class Clothes {
         const own = this.#before.has("inputmode") ? this.#before.get("inputmode") : this.#input.getAttribute("inputmode");
         if (own === null && !this.#options.choices) this.put("inputmode", inputModeOf(this.#field));
         this.#tellRange();
+        this.turn();
+    }
+
+    /** In a page that runs from right to left a date, a number or a phone would fall apart: they run as ever, unless the page says how. */
+    turn() {
+        const own = this.#before.has("dir") ? this.#before.get("dir") : this.#input.getAttribute("dir");
+        if (own !== null) return;
+        const around = this.#input.parentElement ?? this.#input.getRootNode().host;
+        const apart = around && getComputedStyle(around).direction === "rtl" && !this.#options.choices && runsLeftToRight(this.#field);
+        if (apart || this.#before.has("dir")) this.put("dir", apart ? "ltr" : null);
+    }
+
+    get isTurned() {
+        return getComputedStyle(this.#input).direction === "rtl";
     }
 
     judge(hasFocus) {
         const message = this.#message();
         this.#input.setCustomValidity(message);
-        const wrong = message && ((this.touched && !hasFocus) || wrongAtOnce.includes(this.#field.state));
+        this.refused &&= Boolean(message);
+        const wrong = message && (this.refused || (this.touched && !hasFocus) || wrongAtOnce.includes(this.#field.state));
         this.put("aria-invalid", wrong ? "true" : null);
         if (this.hasSpin) this.#tellSpin();
     }

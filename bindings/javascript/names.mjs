@@ -2,6 +2,8 @@
 
 export const dataTypes = ["", "string", "number", "date", "time", "datetime", "decimal"];
 
+export const numberTypes = ["number", "decimal"];
+
 export const states = ["empty", "incomplete", "invalid", "out of range", "complete"];
 
 export const eventKinds = ["", "changed", "beep", "full", "stepped", "rejected", "state", "value"];
