@@ -6,14 +6,14 @@ cd "$(dirname "$0")/.."
 
 tools/install_deps.sh --web
 
-# The driver of the browser, from npm; it brings no browser of its own.
-driver=playwright-core@1.65.1
-if [ "$(cat build/browser/driver 2>/dev/null)" != "$driver" ]; then
-    echo "Installing $driver"
+# From npm: the driver of the browser, which brings no browser of its own, and the compiler that checks the types.
+packages="playwright-core@1.65.1 typescript@5.9.3"
+if [ "$(cat build/browser/packages 2>/dev/null)" != "$packages" ]; then
+    echo "Installing $packages"
     mkdir -p build/browser
     echo '{"private": true}' >build/browser/package.json
-    npm install --prefix build/browser --no-audit --no-fund --loglevel=error "$driver" >/dev/null
-    echo "$driver" >build/browser/driver
+    npm install --prefix build/browser --no-audit --no-fund --loglevel=error $packages >/dev/null
+    echo "$packages" >build/browser/packages
 fi
 
 tools/build_web.sh

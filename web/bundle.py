@@ -11,7 +11,7 @@ from pathlib import Path
 
 ENTRY = "ztfield.mjs"
 PACKED = "packed.mjs"
-HEADER = "// Masked fields for the web, with the library inside. Made from bindings/javascript; see ztfield.d.ts for what it gives.\n"
+HEADER = "// Masked fields for the web, with the library inside. Made from bindings/javascript; see ztfield.d.mts for what it gives.\n"
 
 IMPORT = re.compile(r'^import (?:.|\n)*? from "\./([a-z]+\.mjs)";\n', re.MULTILINE)
 REEXPORT = re.compile(r'^export \{ (.*) \} from "\./([a-z]+\.mjs)";\n', re.MULTILINE)

@@ -591,6 +591,10 @@ function replaceAll(field, text) {
     replace(field, { start: 0, end: field.text.length, text, pasted: true });
 }
 
+/**
+ * @param {Field} field
+ * @param {{ start: number, end: number, text: string, pasted?: boolean, isValue?: (text: string) => boolean }} change
+ */
 function replace(field, { start, end, text, pasted, isValue }) {
     const selection = field.selection;
     if (selection.start !== start || selection.end !== end) field.select(start, end);
@@ -601,8 +605,8 @@ function replace(field, { start, end, text, pasted, isValue }) {
 
 /**
  * @param {HTMLInputElement} input
- * @param {import("./ztfield").AttachOptions} [options]
- * @returns {import("./ztfield").Attached}
+ * @param {import("./ztfield.mjs").AttachOptions} [options]
+ * @returns {import("./ztfield.mjs").Attached}
  */
 export function attach(input, options = {}) {
     if (!selectable.includes(input.type)) throw new TypeError(`An input of the type "${input.type}" cannot become a field.`);

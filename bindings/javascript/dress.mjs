@@ -128,7 +128,7 @@ class Clothes {
 /**
  * @param {HTMLInputElement} input
  * @param {import("./field.mjs").Field} field
- * @param {import("./ztfield").AttachOptions} options
+ * @param {import("./ztfield.mjs").AttachOptions} options
  */
 export function dress(input, field, options) {
     return new Clothes(input, field, options);

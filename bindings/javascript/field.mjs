@@ -56,8 +56,8 @@ export class Field {
     #pasted = null; // what the position of a refusal is counted in while a text is pasted
 
     /**
-     * @param {import("./ztfield").FieldOptions} [options]
-     * @param {(event: import("./ztfield").FieldEvent) => boolean | void} [listener]
+     * @param {import("./ztfield.mjs").FieldOptions} [options]
+     * @param {(event: import("./ztfield.mjs").FieldEvent) => boolean | void} [listener]
      */
     constructor(options = {}, listener = undefined) {
         const type = numberOfType(options.type ?? "string");

@@ -1,19 +1,23 @@
 // What the library tells and takes as numbers, by the names that it has in JavaScript. A name's number is its index.
 
-export const dataTypes = ["", "string", "number", "date", "time", "datetime", "decimal"];
+/** @type {(import("./ztfield.mjs").DataType | null)[]} */
+export const dataTypes = [null, "string", "number", "date", "time", "datetime", "decimal"];
 
 export const numberTypes = ["number", "decimal"];
 
+/** @type {import("./ztfield.mjs").State[]} */
 export const states = ["empty", "incomplete", "invalid", "out of range", "complete"];
 
-export const eventKinds = ["", "changed", "beep", "full", "stepped", "rejected", "state", "value"];
+/** @type {(import("./ztfield.mjs").FieldEvent["kind"] | null)[]} */
+export const eventKinds = [null, "changed", "beep", "full", "stepped", "rejected", "state", "value"];
 
+/** @type {import("./ztfield.mjs").PositionKind[]} */
 export const positionKinds = [
     "literal", "digit", "number digit", "letter", "any", "upper", "lower", "year", "month", "day", "day of year", "hour", "minute",
     "second", "fraction", "half of day",
 ];
 
-/** Why an act was refused, and the sentence for it. */
+/** Why an act was refused, and the sentence for it. @type {[import("./ztfield.mjs").Reason | null, string][]} */
 export const reasons = [
     [null, ""],
     ["wrong kind", "This character does not belong here."],
@@ -28,7 +32,7 @@ export const reasons = [
     ["not in code page", "This character cannot be shown."],
 ];
 
-/** Why a mask does not fit its type, and the sentence for it. */
+/** Why a mask does not fit its type, and the sentence for it. @type {[import("./ztfield.mjs").MaskReason | null, string][]} */
 export const maskReasons = [
     [null, ""],
     ["data type", "There is no such data type."],
@@ -45,7 +49,7 @@ export const maskReasons = [
 ];
 
 /**
- * @param {string} type
+ * @param {import("./ztfield.mjs").DataType} type
  * @returns {number}
  */
 export function numberOfType(type) {

@@ -17,7 +17,7 @@ function set(handle, name, value) {
 
 /**
  * @template Result
- * @param {import("./ztfield").Settings | undefined} settings
+ * @param {import("./ztfield.mjs").Settings | undefined} settings
  * @param {(handle: number) => Result} call with 0 for the defaults
  * @returns {Result}
  */

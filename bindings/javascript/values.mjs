@@ -53,7 +53,7 @@ function withField(options, use) {
 
 /**
  * @param {string | number | Date | null} value
- * @param {import("./ztfield").FieldOptions} options
+ * @param {import("./ztfield.mjs").FieldOptions} options
  * @returns {string | null}
  */
 export function format(value, options) {
@@ -69,7 +69,7 @@ export function format(value, options) {
 
 /**
  * @param {string} text
- * @param {import("./ztfield").FieldOptions} options
+ * @param {import("./ztfield.mjs").FieldOptions} options
  * @returns {string | null}
  */
 export function parse(text, options) {
@@ -82,9 +82,9 @@ export function parse(text, options) {
 
 /**
  * @param {string} mask
- * @param {import("./ztfield").DataType} type
- * @param {import("./ztfield").Settings} [settings]
- * @returns {import("./ztfield").MaskVerdict}
+ * @param {import("./ztfield.mjs").DataType} type
+ * @param {import("./ztfield.mjs").Settings} [settings]
+ * @returns {import("./ztfield.mjs").MaskVerdict}
  */
 export function check(mask, type, settings = undefined) {
     const number = numberOfType(type);

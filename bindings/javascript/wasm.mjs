@@ -1,4 +1,5 @@
 // The library: loaded once, its memory, texts handed in and out.
+// @ts-ignore made when the module is joined
 import { packed } from "./packed.mjs";
 
 const encoder = new TextEncoder();
@@ -52,6 +53,7 @@ async function unpack(text) {
     return new Response(stream).arrayBuffer();
 }
 
+/** Its functions are those of the C interface. @type {any} */
 export const library = (await WebAssembly.instantiate(await unpack(packed), { env: page })).instance.exports;
 const memory = library.memory;
 library._initialize();

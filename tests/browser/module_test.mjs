@@ -341,7 +341,7 @@ describe("a listener", () => {
 });
 
 describe("the module", () => {
-    const declarations = written("bindings/javascript/ztfield.d.ts");
+    const declarations = written("bindings/javascript/ztfield.d.mts");
     const membersOf = (name) => {
         const [, body] = new RegExp(`(?:class|interface) ${name} \\{\\n((?:.|\\n)*?)\\n\\}`).exec(declarations);
         const names = [...body.matchAll(/^ {4}(?:readonly )?(\w+)[(:?]/gm)].map(([, member]) => member);
@@ -352,7 +352,7 @@ describe("the module", () => {
         const declared = [...declarations.matchAll(/^export declare (?:class|function|const) (\w+)/gm)].map(([, name]) => name);
         assert.deepEqual(Object.keys(module).sort(), [...new Set(declared)].sort());
         assert.deepEqual(Object.getOwnPropertyNames(Field.prototype).sort(), membersOf("Field"));
-        assert.deepEqual(built("ztfield.d.ts").toString(), declarations);
+        assert.deepEqual(built("ztfield.d.mts").toString(), declarations);
     });
 
     test("has the version of the library", () => {
