@@ -1,5 +1,5 @@
 #!/bin/bash
-# Builds the module for the web into build/web: ztfield.mjs with the WebAssembly inside, and ztfield.d.mts beside it.
+# Builds the module for the web into build/web: ztfield.mjs with the WebAssembly inside, and ztfield.d.mts and the sample beside it.
 # Usage: tools/build_web.sh      (what it needs: tools/install_deps.sh --web)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -53,14 +53,15 @@ write_ninja()
     echo "rule link"
     echo "  command = $compiler $linking $(for name in $(exports); do printf -- '-Wl,--export=%s ' "$name"; done) \$in -o \$out"
     echo "rule bundle"
-    echo "  command = python3 web/bundle.py $out/ztfield.wasm bindings/javascript \$out && cp bindings/javascript/ztfield.d.mts $out/"
+    echo "  command = python3 web/bundle.py $out/ztfield.wasm bindings/javascript \$out &&" \
+        "cp bindings/javascript/ztfield.d.mts bindings/javascript/sample.html $out/"
     for folder in $folders; do
         unit=${folder//\//_}
         echo "build $out/obj/$unit.o: compile $out/units/$unit.cpp"
         objects+=("$out/obj/$unit.o")
     done
     echo "build $out/ztfield.wasm: link ${objects[*]} | tools/build_web.sh include/ztfield.h"
-    echo "build $out/ztfield.mjs: bundle $(ls bindings/javascript/*.mjs bindings/javascript/*.mts | tr '\n' ' ')" \
+    echo "build $out/ztfield.mjs: bundle $(ls bindings/javascript/*.{mjs,mts,html} | tr '\n' ' ')" \
         "| $out/ztfield.wasm web/bundle.py"
     echo "default $out/ztfield.mjs"
 }

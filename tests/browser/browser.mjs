@@ -31,8 +31,8 @@ async function serve() {
     return server;
 }
 
-/** Opens the page; close() ends all of it. */
-export async function openPage(path = "tests/browser/page.html") {
+/** Opens the page, and waits until it is ready; close() ends all of it. */
+export async function openPage(path = "tests/browser/page.html", isReady = () => window.ready) {
     const { chromium } = require("playwright-core");
     const server = await serve();
     const browser = await chromium.launch({ executablePath: "/usr/bin/chromium", args: flags, headless: true });
@@ -42,7 +42,7 @@ export async function openPage(path = "tests/browser/page.html") {
     page.on("pageerror", (error) => problems.push(String(error)));
     page.on("console", (message) => message.type() === "error" && problems.push(message.text()));
     await page.goto(`http://127.0.0.1:${server.address().port}/${path}`);
-    await page.waitForFunction(() => window.ready);
+    await page.waitForFunction(isReady);
     const close = async () => {
         await browser.close();
         server.close();
