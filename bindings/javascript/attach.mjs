@@ -333,9 +333,7 @@ class AttachedInput {
 
     /** What the page has set is judged before the form can be sent. */
     #onActElsewhere(event) {
-        if (event.target === this.#input || this.#composing || this.#input.value === this.#field.text) return;
-        this.#takeOutside();
-        this.#settle();
+        if (event.target !== this.#input && !this.#composing) this.#takeAnswer();
     }
 
     #onFocus() {
@@ -365,6 +363,7 @@ class AttachedInput {
         if (this.#isDetached || this.#field.text === this.#committed) return;
         this.#committed = this.#field.text;
         this.#dispatch(new Event("change", { bubbles: true }));
+        this.#takeAnswer();
     }
 
     /** The form puts its texts back when all have heard of it. */
@@ -407,6 +406,13 @@ class AttachedInput {
         if (this.#isDetached || this.#input.value === this.#field.text) return;
         if (isSameBut(this.#input.value, this.#field)) this.#restore();
         else this.#disturbed = true;
+    }
+
+    /** What a page makes of a text that is done with is there to stay. */
+    #takeAnswer() {
+        if (this.#isDetached || this.#input.value === this.#field.text) return;
+        this.#takeOutside();
+        this.#settle();
     }
 
     /** A text that is set has its caret at the end; ours is put back. */
@@ -470,9 +476,11 @@ class AttachedInput {
 
     /** What stands in the input already may have been typed while the page was loaded. */
     #takeTyped(text) {
-        if (this.#field.tryValue(text) === null) return;
-        if (text !== this.#input.defaultValue) this.#field.type(text);
-        if (this.#field.state === "empty") this.#field.setText(text);
+        const isValue = this.#field.tryValue(text) === null;
+        if (!isValue && text !== this.#input.defaultValue) this.#field.type(text);
+        if (this.#field.state !== "empty") return;
+        if (!isValue) this.#field.setText(text);
+        else if (this.#field.modern) this.#field.press("Home");
     }
 
     get #nativeSelection() {
@@ -568,6 +576,11 @@ function withoutBlanks(text) {
     return text.replace(/\s/g, "");
 }
 
+/** Of what is taken at the caret the field knows better what goes: it takes no literals. */
+function isAtCaret({ start, end, text }, { selection }) {
+    return !text && selection.start === selection.end && [start, end].includes(selection.start);
+}
+
 /** The browser's history knows of other texts than ours: what it makes of them says nothing. */
 function isHistory(event) {
     return /^history/.test(event.inputType ?? "");
@@ -579,6 +592,7 @@ function unaskedEditOf(event, field, text, isValue) {
     if (isHistory(event)) return editOf(event, isValue);
     if (!/^(?:insert(?:Text|From)|delete)/.test(type)) return { act: () => replaceAll(field, text) };
     const change = recompose({ text: field.text, ...field.selection }, text, event.data ?? "");
+    if (isAtCaret(change, field)) return editOf(event, isValue);
     return { act: () => replace(field, { ...change, pasted: type !== "insertText", isValue }) };
 }
 

@@ -100,6 +100,18 @@ describe("a page that answers an input with a text of its own", () => {
         });
     }
 
+    test("may do so when it hears of a change", async () => {
+        await given(date);
+        await page.evaluate(() => {
+            const input = document.querySelector("#field");
+            input.addEventListener("change", () => (input.value = "2020-01-01"));
+        });
+        await type("7/4/2026");
+        await press("Tab");
+        assert.equal((await shown()).replace("|", ""), "01/01/2020");
+        assert.deepEqual(await page.evaluate(() => window.told.at(-1)), ["2020-01-01", "complete"]);
+    });
+
     test("may take another value that looks alike for numbers", async () => {
         await given({ ...amount, value: "1" });
         await page.evaluate(() => (document.querySelector("#field").value = "100"));
@@ -120,6 +132,19 @@ describe("an extension", () => {
         await press("Home");
         await execute("forwardDelete");
         assert.equal(await shown(), "|7 /04/2002"); // the year was completed when it was left
+    });
+
+    test("deletes by a command over literals, too, and what it has selected", async () => {
+        await given({ ...phone, value: "5551234567" });
+        await press("Home", "Control+ArrowRight");
+        assert.equal(await shown(), "(555) |123-4567");
+        await execute("delete");
+        assert.equal(await shown(), "(55| ) 123-4567");
+        await page.evaluate(() => {
+            document.querySelector("#field").setSelectionRange(6, 9);
+            document.execCommand("delete");
+        });
+        assert.equal(await shown(), "(55 ) |   -4567");
     });
 
     test("undoes by a command what it has inserted", async () => {
@@ -294,6 +319,15 @@ describe("a page", () => {
         });
         await type("04");
         assert.equal(await shown(), "07/04/|    ");
+    });
+
+    test("that attaches another field to an input in use has it begun", async () => {
+        await given(phone);
+        await page.evaluate((options) => {
+            window.made.detach();
+            window.made = window.module.attach(document.querySelector("#field"), options);
+        }, phone);
+        assert.equal(await shown(), "(|   )    -    ");
     });
 
     test("that is slow finds what was typed meanwhile", async () => {
