@@ -85,6 +85,23 @@ TEST(ASpin, StepsByKeysTheWheelAndItsArrows)
     EXPECT_EQ(field.Text(), "0");
 }
 
+TEST(AKeyThatIsHeld, MakesStepsThatAreUndoneTogether)
+{
+    ZTFieldSetup setup = SpinSetup();
+    setup.range = "0~100";
+    const Field field(setup);
+    for (int i = 0; i < 3; ++i)
+        ZTF_KeyDown(field.get(), ZTF_KEY_UP, 0);
+    ZTF_KeyUp(field.get(), ZTF_KEY_UP, 0);
+    EXPECT_EQ(field.Text(), "20");
+    field.Press('Z', ZTF_CONTROL);
+    EXPECT_EQ(field.Text(), "5");
+    field.Press(ZTF_KEY_UP);
+    field.Press(ZTF_KEY_UP);
+    field.Press('Z', ZTF_CONTROL);
+    EXPECT_EQ(field.Text(), "10") << "steps of keys pressed anew are undone one by one";
+}
+
 TEST(ARange, MakesAnotherStateAndGoesWithTheSpin)
 {
     Field field(SpinSetup());
