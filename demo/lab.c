@@ -272,11 +272,10 @@ static void ReadSettings(Profile* profile)
         Read((LabItem)(ITEM_SETTING + i), profile->values[i], PROFILE_ROOM);
 }
 
-/* A modern control reads a number's mask in '.' and ',' under all settings. */
-static const char* ExceptionForModern(void)
+/* A modern control takes a number's mask in '.' and ',' under all settings. */
+static BOOL IsTakenAllTheSame(void)
 {
-    const BOOL taken = lab.verdict != ZTM_FITS && ZTE_GetLastProblem(lab.live) == ZTP_NONE;
-    return taken ? " The modern control takes it all the same." : "";
+    return lab.verdict != ZTM_FITS && ZTE_GetLastProblem(lab.live) == ZTP_NONE;
 }
 
 static void TellVerdict(const char* mask)
@@ -286,7 +285,8 @@ static void TellVerdict(const char* mask)
         snprintf(where, sizeof where, "At the end: ");
     else if (lab.position >= 0)
         snprintf(where, sizeof where, "At %d, '%c': ", (int)lab.position, mask[lab.position]);
-    snprintf(text, sizeof text, "%s%s%s", where, VerdictWords(lab.verdict), ExceptionForModern());
+    snprintf(text, sizeof text, "%s%s%s", where, VerdictWords(lab.verdict),
+             IsTakenAllTheSame() ? " A modern control takes it." : "");
     Tell(ITEM_VERDICT, text);
     InvalidateRect(At(ITEM_VERDICT), NULL, TRUE); /* its colour may change where its text does not */
 }
@@ -384,13 +384,19 @@ static void FillSettings(const Profile* profile)
         Fill((LabItem)(ITEM_SETTING + i), profile->values[i]);
 }
 
-/* The first entry are the user's own. */
+/* The entries of the list: the user's own settings, those of the countries, and what has been changed since. */
+static int EntryOfChanged(void)
+{
+    return kCountryCount + 1;
+}
+
 static void FillCountry(void)
 {
     const int chosen = Chosen(ITEM_COUNTRY);
     Profile own;
     ReadProfile(&own);
-    FillSettings(chosen <= 0 ? &own : &kCountries[chosen - 1].profile);
+    if (chosen != EntryOfChanged())
+        FillSettings(chosen == 0 ? &own : &kCountries[chosen - 1].profile);
 }
 
 static void TakeCountry(void)
@@ -401,7 +407,7 @@ static void TakeCountry(void)
 
 static void ChangeSetting(void)
 {
-    Choose(ITEM_COUNTRY, -1);
+    Choose(ITEM_COUNTRY, EntryOfChanged());
     Configure();
 }
 
@@ -477,6 +483,8 @@ static COLORREF ColourOf(HWND told)
     const COLORREF plain = GetSysColor(COLOR_WINDOWTEXT);
     if (IsHighContrast())
         return plain;
+    if (told == At(ITEM_VERDICT) && IsTakenAllTheSame())
+        return plain;
     if (told == At(ITEM_VERDICT))
         return lab.verdict == ZTM_FITS ? kGood : kBad;
     if (state == ZTS_COMPLETE)
@@ -522,6 +530,7 @@ static void FillChoices(void)
     AddChoice(ITEM_COUNTRY, "As in your profile");
     for (i = 0; i < kCountryCount; ++i)
         AddChoice(ITEM_COUNTRY, kCountries[i].name);
+    AddChoice(ITEM_COUNTRY, "As changed below");
 }
 
 static void OpenWith(HWND window)
@@ -615,7 +624,7 @@ static void WriteList(FILE* file)
 static void WriteTable(const char* path)
 {
     FILE* file = path ? fopen(path, "w") : NULL;
-    const HWND focus = GetFocus();
+    const int focus = GetDlgCtrlID(GetFocus()) - FIRST_LAB_ID;
     DWORD from = 0, to = 0;
     char text[TEXT_ROOM];
     int item;
@@ -626,14 +635,20 @@ static void WriteTable(const char* path)
         fprintf(file, "%s|", ItemName((LabItem)item));
         WriteText(file, text);
         fputc('\n', file);
-        if (At((LabItem)item) == focus)
-            fprintf(file, "focus|%s\n", ItemName((LabItem)item));
     }
     fputs("list|", file);
     WriteList(file);
     SendMessageA(At(ITEM_MASK), EM_GETSEL, (WPARAM)&from, (LPARAM)&to);
-    fprintf(file, "\nmarked|%d-%d\nend|\n", (int)from, (int)to);
+    fprintf(file, "\nmarked|%d-%d\n", (int)from, (int)to);
+    fprintf(file, "focus|%s\nend|\n", focus >= 0 && focus < ITEM_COUNT ? ItemName((LabItem)focus) : "");
     fclose(file);
+}
+
+/* The table last: who sees it whole sees the places as well. */
+static void TellScript(const char* placesPath, const char* tablePath)
+{
+    WritePlaces(placesPath);
+    WriteTable(tablePath);
 }
 
 /* ---- The loop ------------------------------------------------------------------------------------------------------ */
@@ -677,7 +692,7 @@ int RunLab(int show, const char* placesPath, const char* tablePath)
     WritePlaces(placesPath);
     while (GetMessageA(&message, NULL, 0, 0) > 0) {
         if (IsKey(&message, VK_F2))
-            WriteTable(tablePath);
+            TellScript(placesPath, tablePath);
         Handle(&message);
     }
     DeleteItemFonts();
