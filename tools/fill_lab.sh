@@ -38,7 +38,8 @@ key alt+m ; type [currency(9)]|live=123,50EUR ; verdict=The mask fits.
 key alt+3 ; type kr.|live=123,50kr. ; country=As changed below
 key alt+8 ; type yyyy-MM-dd ; key alt+t d ; key alt+m ; type [date] ; key alt+l ; type 20260704|live=2026-07-04 ; type=Date
 key alt+u Home|decimal=. ; shortdate=M/d/yyyy ; currency=$ ; live=07/04/2026
-key alt+t s alt+m Delete alt+c ; type One = 1 ; key Return ; type Two/2 = 2|table=One = 1 Two/2 = 2 ; mask= ; type=String
+key alt+t s alt+m ; type ###-#### ; key alt+l ; type 5551234 ; key alt+m ; type (###) ####|live=(555) 1234 ; string=5551234
+key alt+m Delete alt+l ctrl+a Delete alt+c ; type One = 1 ; key Return ; type Two/2 = 2|table=One = 1 Two/2 = 2 ; mask= ; type=String
 key Escape alt+p alt+h alt+s alt+l ; type t|live=Two/2 ; string=2
 key alt+y shift+Tab|list= ; focus=list'
 
