@@ -41,7 +41,9 @@ key alt+u Home|decimal=. ; shortdate=M/d/yyyy ; currency=$ ; live=07/04/2026
 key alt+t s alt+m ; type ###-#### ; key alt+l ; type 5551234 ; key alt+m ; type (###) ####|live=(555) 1234 ; string=5551234
 key alt+m Delete alt+l ctrl+a Delete alt+c ; type One = 1 ; key Return ; type Two/2 = 2|table=One = 1 Two/2 = 2 ; mask= ; type=String
 key Escape alt+p alt+h alt+s alt+l ; type t|live=Two/2 ; string=2
-key alt+y shift+Tab|list= ; focus=list'
+key alt+y shift+Tab|list= ; focus=list
+key alt+g Home alt+v ; type 2026-12-30 ; key Return alt+u g alt+m ; type DD.MM.YYYY|live=30.12.2026 ; list=*"2026-12-30" is shown
+key alt+l Home ; type 31x11|live=31.11.2026 ; state=invalid ; data=(none) ; list=*complete, then invalid'
 
 # wait_for SECONDS COMMAND...: until the command succeeds.
 wait_for()
@@ -141,6 +143,8 @@ while IFS= read -r row; do
     compare "${row#*|}"
 done <<<"$steps"
 
+[ -z "$picture" ] || import -window "$window" "$picture"
+
 # A larger window has a longer list, and the button below it.
 bottom_of()
 {
@@ -154,7 +158,6 @@ if [ "$(bottom_of list)" -le "$former" ] || [ "$(bottom_of empty)" -le "$(bottom
     differences=$((differences + 1))
 fi
 
-[ -z "$picture" ] || import -window "$window" "$picture"
 xdotool key --window "$window" alt+F4
 is_closed()
 {
