@@ -207,6 +207,7 @@ void Configure(void)
     lab.filling = FALSE;
     TellVerdict(mask);
     InvalidateRect(lab.live, NULL, TRUE);
+    UpdateWindow(lab.live); /* the first paint places a spin, which may be clicked at once */
     TellAll();
 }
 
