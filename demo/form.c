@@ -14,6 +14,7 @@
 
 #include "fields.h"
 #include "lab.h"
+#include "mouse_count.h"
 #include "words.h"
 
 enum {
@@ -148,21 +149,6 @@ static void OnFunctionKey(WPARAM key)
         ShowFirstValue(GetFocus());
 }
 
-/* A mouse may come later than keys that were pressed after it: who drives the form by both waits for this count. */
-static void CountMouse(UINT message)
-{
-    static int acts = 0;
-    FILE* file;
-    if (!mousePath || (message != WM_LBUTTONUP && message != WM_MOUSEWHEEL))
-        return;
-    ++acts;
-    file = fopen(mousePath, "w");
-    if (!file)
-        return;
-    fprintf(file, "%d\n", acts);
-    fclose(file);
-}
-
 /* name left top right bottom, in screen pixels */
 static void WritePlaces(void)
 {
@@ -295,7 +281,7 @@ static void Run(void)
             TranslateMessage(&message);
             DispatchMessageA(&message);
         }
-        CountMouse(message.message);
+        CountMouse(message.message, mousePath);
     }
 }
 
@@ -305,7 +291,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine, in
     (void)commandLine;
     ReadArguments(__argc, __argv);
     if (lab)
-        return RunLab(show, placesPath, tablePath);
+        return RunLab(show, placesPath, tablePath, mousePath);
     /* The form links the control library by calling it; loading it has registered the class. */
     ShowWindow(OpenForm(instance), show);
     UpdateWindow(form.window);

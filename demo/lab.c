@@ -12,6 +12,7 @@
 #include "gallery.h"
 #include "lab_control.h"
 #include "lab_script.h"
+#include "mouse_count.h"
 #include "profile.h"
 #include "table_lines.h"
 
@@ -276,7 +277,7 @@ static void Handle(MSG* message)
         FollowLive();
 }
 
-int RunLab(int show, const char* placesPath, const char* tablePath)
+int RunLab(int show, const char* placesPath, const char* tablePath, const char* mousePath)
 {
     MSG message;
     ZTE_Initialize(); /* the class of the live control stands in a table of names */
@@ -288,6 +289,7 @@ int RunLab(int show, const char* placesPath, const char* tablePath)
         if (IsKey(&message, VK_F2))
             TellScript(placesPath, tablePath);
         Handle(&message);
+        CountMouse(message.message, mousePath);
     }
     DeleteItemFonts();
     SharedHeapDestroy(lab.heap);
