@@ -65,5 +65,5 @@ while IFS='|' read -r picture program title acts; do
     shoot "$picture" "$program" "$title" "$acts" </dev/null
 done <<<"$shots"
 tools/fill_demo.sh build/x64/bin/demo.exe docs/demo.png >/dev/null || fail "the demo form"
-tools/fill_lab.sh build/x64/bin/demo.exe docs/manual/laboratory.png >/dev/null || fail "the laboratory"
+tools/fill_lab.sh build/x64/bin/demo.exe docs/manual/laboratory-windows.png >/dev/null || fail "the laboratory"
 ls docs/manual/*.png docs/demo.png
