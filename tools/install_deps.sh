@@ -1,10 +1,11 @@
 #!/bin/bash
 # Installs what building, testing and the demo need on Debian 12; does nothing when all is there.
-# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --peers | --coverage | --bindings | --package | --manual]
+# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --peers | --coverage | --bindings | --package | --field | --manual]
 #     --clang      the second compiler and the code checkers as well
 #     --fuzz       the fuzzers of clang; --mutate  what tools/mutate needs
 #     --bench      what measuring the engine needs, --coverage what counting covered lines needs
 #     --bindings   what compiling and checking the bindings of other languages needs
+#     --field      what trying the packages of libztfield needs
 #     --manual     what building the manual as HTML needs
 #     --peers      what measuring the engine beside others of its kind needs
 set -euo pipefail
@@ -16,6 +17,7 @@ packages=(
     g++-mingw-w64-i686-posix:/usr/bin/i686-w64-mingw32-g++-posix
     g++-mingw-w64-x86-64-posix:/usr/bin/x86_64-w64-mingw32-g++-posix
     python3:python3
+    groff-base:groff
     cmake:cmake
     ninja-build:ninja
     googletest:/usr/src/googletest/CMakeLists.txt
@@ -44,6 +46,7 @@ case ${1:-} in
     ;;
 --coverage) packages+=(gcovr:gcovr) ;;
 --manual) packages+=(pandoc:pandoc) ;;
+--field) packages+=(pkg-config:pkg-config) ;;
 --package) packages+=(llvm:/usr/lib/llvm-14/bin/llvm-dlltool lld:lld-link clang:clang zip:zip unzip:unzip pkg-config:pkg-config) ;;
 --bindings)
     packages+=(clang:clang++ fp-compiler:fpc fpc-source:/usr/share/fpcsrc)

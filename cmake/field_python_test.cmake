@@ -1,0 +1,15 @@
+# The Python binding of libztfield, on the library as it is tested. What watches a library must be there before the program that loads it;
+# clang has no such part by default.
+if(ZT_SANITIZE AND NOT CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    return()
+endif()
+set(zt_python_environment ZTFIELD_LIBRARY=$<TARGET_FILE:ztfield>)
+if(ZT_SANITIZE)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libasan.so OUTPUT_VARIABLE zt_watcher OUTPUT_STRIP_TRAILING_WHITESPACE
+        COMMAND_ERROR_IS_FATAL ANY)
+    # The interpreter gives not all back at its end.
+    list(APPEND zt_python_environment LD_PRELOAD=${zt_watcher} ASAN_OPTIONS=detect_leaks=0)
+endif()
+add_test(NAME bindings_ztfield_python
+    COMMAND ${CMAKE_COMMAND} -E env ${zt_python_environment} ${ZT_PYTHON} -B ${CMAKE_SOURCE_DIR}/tests/bindings/ztfield_python_test.py)
+set_tests_properties(bindings_ztfield_python PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
