@@ -63,6 +63,8 @@ install(FILES ${CMAKE_BINARY_DIR}/package/ztfield-config.cmake ${CMAKE_BINARY_DI
 install(FILES ${CMAKE_BINARY_DIR}/package/ztfield.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT ztfield)
 install(FILES include/ztfield.h include/ztvalues.h DESTINATION include COMPONENT ztfield)
 install(FILES ztfield/ztfield.3 DESTINATION ${CMAKE_INSTALL_MANDIR}/man3 COMPONENT ztfield)
-install(FILES bindings/python/ztfield.py bindings/python/field_sample.py DESTINATION ${CMAKE_INSTALL_DATADIR}/ztfield/python COMPONENT ztfield)
+install(FILES bindings/python/ztfield.py bindings/python/field_sample.py DESTINATION ${CMAKE_INSTALL_DATADIR}/ztfield/python
+    COMPONENT ztfield)
 install(FILES samples/terminal_field.c DESTINATION ${CMAKE_INSTALL_DATADIR}/ztfield/samples COMPONENT ztfield)
-install(FILES docs/manual/ztfield.md LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ztfield COMPONENT ztfield)
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ztfield COMPONENT ztfield)
+install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ztfield COMPONENT ztfield)

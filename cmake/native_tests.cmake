@@ -69,7 +69,8 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     target_link_libraries(zt_engine_tests PUBLIC zt_native_test_flags)
     target_precompile_headers(zt_engine_tests PRIVATE ${zt_common_headers})
     zt_compile_together(zt_engine_tests)
-    set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/support/keyboard.cpp PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)  # its names of keys
+    set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/support/keyboard.cpp  # its names of keys
+        PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     zt_add_native_tests(engine ${CMAKE_SOURCE_DIR}/tests/support/native/masked_edit.cpp
         ${CMAKE_SOURCE_DIR}/tests/support/native/clipboard.cpp ${CMAKE_SOURCE_DIR}/tests/support/record_view.cpp)
     target_link_libraries(test_engine PRIVATE zt_engine_tests)

@@ -28,7 +28,7 @@ flags() # FOLDER OPTION...
 
 holds_what_it_should() # FOLDER
 {
-    diff <(cd "$1" && find . -type f -o -type l | sort) <(sort <<'FILES'
+    diff <(cd "$1" && find . -path ./share/doc -prune -o \( -type f -o -type l \) -print | sort) <(sort <<'FILES'
 ./include/ztfield.h
 ./include/ztvalues.h
 ./lib/cmake/ztfield/ztfield-config-version.cmake
@@ -40,14 +40,12 @@ holds_what_it_should() # FOLDER
 ./lib/libztfield.so.0.5
 ./lib/libztfield.so.0.5.0
 ./lib/pkgconfig/ztfield.pc
-./share/doc/ztfield/LICENSE
-./share/doc/ztfield/ztfield.md
 ./share/man/man3/ztfield.3
 ./share/ztfield/python/field_sample.py
 ./share/ztfield/python/ztfield.py
 ./share/ztfield/samples/terminal_field.c
 FILES
-    ) && ! grep -rl --exclude='*.so*' --exclude='*.a' "$root" "$1"
+    ) && cmp LICENSE "$1/share/doc/ztfield/LICENSE" && diff -r -x LICENSE docs "$1/share/doc/ztfield" && ! grep -rl "$root" "$1"
 }
 
 # Both libraries define the functions of the header for others, and nothing else.
@@ -108,14 +106,15 @@ printed_program() # FOLDER BITS SOURCE EXPECTED
 of_the_manual() # FOLDER BITS
 {
     block() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" "$2" | sed '1d;$d'; }
-    block c "$1/share/doc/ztfield/ztfield.md" >"$1/manual.c" && block text "$1/share/doc/ztfield/ztfield.md" >"$1/manual.txt"
+    block c "$1/share/doc/ztfield/manual/ztfield.md" >"$1/manual.c" && block text "$1/share/doc/ztfield/manual/ztfield.md" >"$1/manual.txt"
     [ -s "$1/manual.txt" ] && printed_program "$1" "$2" "$1/manual.c" "$1/manual.txt"
 }
 
 # The page says in the program's own remarks what it prints.
 of_the_man_page() # FOLDER BITS
 {
-    cmp ztfield/ztfield.3 "$1/share/man/man3/ztfield.3" && python3 -B tests/bindings/ztfield_man_page_test.py --example >"$1/page.c" || return
+    cmp ztfield/ztfield.3 "$1/share/man/man3/ztfield.3" && python3 -B tests/bindings/ztfield_man_page_test.py --example \
+        >"$1/page.c" || return
     sed -n 's|.*puts(text);[[:space:]]*/\* \(.*\) \*/|\1|p' "$1/page.c" >"$1/page.txt"
     [ "$(wc -l <"$1/page.txt")" = 2 ] && printed_program "$1" "$2" "$1/page.c" "$1/page.txt"
 }

@@ -332,7 +332,8 @@ class CarelessPrograms(unittest.TestCase):
             word.wheel(far)
             word.press(far)
             self.assertIn(word.selection.caret, range(5))
-        self.assertEqual(word.text, "abcd")
+        word.click(2 ** 32)
+        self.assertEqual((word.text, word.selection.caret), ("abcd", 4))
 
     def test_play_at_random_and_the_field_stands(self):
         play = random.Random(12)
