@@ -27,22 +27,25 @@ void Append(Text& text, const Part (&parts)[count])
 
 Text DateTimeText(const DateTimeValue& value)
 {
+    const Part date[] = {
+        {value.year + kFirstYear, 4, '\0'},
+        {value.month + 1,         2, '-' },
+        {value.day,               2, '-' }
+    };
+    const auto microseconds = static_cast<int32_t>(value.microsecond);
+    const Part time[] = {
+        {value.hour,   2,            '\0'},
+        {value.minute, 2,            ':' },
+        {value.second, 2,            ':' },
+        {microseconds, kMicroDigits, ':' }
+    };
     Text text;
     if (HasDate(value))
-        Append(text, {
-                         {value.year + kFirstYear, 4, '\0'},
-                         {value.month + 1,         2, '-' },
-                         {value.day,               2, '-' }
-        });
+        Append(text, date);
     if (HasDate(value) && HasTime(value))
         text += ' ';
     if (HasTime(value))
-        Append(text, {
-                         {value.hour,                              2,            '\0'},
-                         {value.minute,                            2,            ':' },
-                         {value.second,                            2,            ':' },
-                         {static_cast<int32_t>(value.microsecond), kMicroDigits, ':' }
-        });
+        Append(text, time);
     return text;
 }
 

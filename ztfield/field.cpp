@@ -1,6 +1,8 @@
 // A field behind the interface.
 #include "ztfield/field.h"
 
+#include <utility>
+
 #include "engine/edit/plain_edit.h"
 #include "engine/editing.h"
 #include "ztfield/clock.h"
@@ -159,7 +161,7 @@ void ZTField::KeyDown(int32_t key, int32_t held)
 {
     Hold(held);
     Edit().HoldRight(key == ZTF_KEY_RIGHT);
-    control_.KeyDown(key);
+    control_.KeyDown(key, std::exchange(keyDown_, key) == key);
 }
 
 void ZTField::KeyUp(int32_t key, int32_t held)
@@ -167,6 +169,7 @@ void ZTField::KeyUp(int32_t key, int32_t held)
     Hold(held);
     if (key == ZTF_KEY_RIGHT)
         Edit().HoldRight(false);
+    keyDown_ = 0;
     control_.KeyUp(key);
 }
 

@@ -33,7 +33,8 @@ private:
     void Hold(int32_t held);
 
     zte::Settings settings_;
-    zte::Text mask_;  // as it was given
+    zte::Text mask_;       // as it was given
+    int32_t keyDown_ = 0;  // and not up yet
     ZTFieldListener listener_;
     void* context_;
     zte::MemoryControl control_;

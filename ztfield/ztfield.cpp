@@ -8,6 +8,7 @@
 #include "engine/editing.h"
 #include "engine/format/mask_setting.h"
 #include "engine/format/read_back.h"
+#include "engine/modern/data.h"
 #include "engine/modern/editor.h"
 #include "engine/services.h"
 #include "ztfield/date_text.h"
@@ -54,10 +55,21 @@ const zte::Char* OrNull(const char* utf8, const Text& text)
 Text TakeData(const ZTField& field, void* block)
 {
     const zte::EditInstance& record = field.Record();
-    const Text text = zte::IsDateOrTime(record.dataType) ? zte::DateTimeText(*static_cast<const DateTimeValue*>(block))
-                                                         : Text(static_cast<const zte::Char*>(block));
+    Text text = zte::IsDateOrTime(record.dataType) ? zte::DateTimeText(*static_cast<const DateTimeValue*>(block))
+                                                   : Text(static_cast<const zte::Char*>(block));
     zte::services::Free(record.heap, block);
     return text;
+}
+
+using Judgement = zte::MaskVerdict (*)(const zte::Char*, int32_t, const zte::Settings&);
+
+int32_t Judge(Judgement judge, const ZTFieldSettings* settings, const char* mask, int32_t dataType, int32_t* offset)
+{
+    const Text text = FromUtf8(mask);
+    const zte::MaskVerdict verdict = judge(OrNull(mask, text), dataType, zte::SettingsOf(settings));
+    if (offset)
+        *offset = verdict.offset;
+    return verdict.reason;
 }
 
 // A field for one question.
@@ -380,11 +392,12 @@ int32_t ZTF_GetPosition(const ZTField* field, int32_t index, ZTFieldPosition* po
 
 int32_t ZTF_CheckMask(const ZTFieldSettings* settings, const char* mask, int32_t dataType, int32_t* offset)
 {
-    const Text text = FromUtf8(mask);
-    const zte::MaskVerdict verdict = zte::JudgeMask(OrNull(mask, text), dataType, zte::SettingsOf(settings));
-    if (offset)
-        *offset = verdict.offset;
-    return verdict.reason;
+    return Judge(zte::JudgeMask, settings, mask, dataType, offset);
+}
+
+int32_t ZTF_CheckModernMask(const ZTFieldSettings* settings, const char* mask, int32_t dataType, int32_t* offset)
+{
+    return Judge(zte::modern::JudgeMask, settings, mask, dataType, offset);
 }
 
 int32_t ZTF_Format(const ZTFieldSettings* settings, const char* mask, int32_t dataType, const char* data, char* buffer,
