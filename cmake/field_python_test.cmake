@@ -10,6 +10,18 @@ if(ZT_SANITIZE)
     # The interpreter gives not all back at its end.
     list(APPEND zt_python_environment LD_PRELOAD=${zt_watcher} ASAN_OPTIONS=detect_leaks=0)
 endif()
-add_test(NAME bindings_ztfield_python
-    COMMAND ${CMAKE_COMMAND} -E env ${zt_python_environment} ${ZT_PYTHON} -B ${CMAKE_SOURCE_DIR}/tests/bindings/ztfield_python_test.py)
-set_tests_properties(bindings_ztfield_python PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
+
+# zt_add_field_python_test(<name> <argument>...): ctest's bindings_<name>, tests/bindings/<name>_test.py with the library.
+function(zt_add_field_python_test name)
+    add_test(NAME bindings_${name} COMMAND ${CMAKE_COMMAND} -E env ${zt_python_environment} ${ZT_PYTHON} -B
+        ${CMAKE_SOURCE_DIR}/tests/bindings/${name}_test.py ${ARGN})
+    set_tests_properties(bindings_${name} PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
+endfunction()
+zt_add_field_python_test(ztfield_python)
+
+# The keystroke tables, as they are played in a browser.
+set(zt_rows_file ${CMAKE_BINARY_DIR}/rows.json)
+add_test(NAME bindings_ztfield_rows_written COMMAND write_rows ${zt_rows_file})
+zt_add_field_python_test(ztfield_rows ${zt_rows_file})
+set_tests_properties(bindings_ztfield_rows_written PROPERTIES FIXTURES_SETUP zt_rows_file)
+set_tests_properties(bindings_ztfield_rows PROPERTIES FIXTURES_REQUIRED zt_rows_file)

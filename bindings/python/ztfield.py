@@ -243,6 +243,7 @@ _FUNCTIONS = {
     "ZTF_CountPositions": (c_int32, _FIELD),
     "ZTF_GetPosition": (c_int32, _FIELD, c_int32, POINTER(ZTFieldPosition)),
     "ZTF_CheckMask": (c_int32, _SETTINGS, c_char_p, c_int32, _NUMBER_OUT),
+    "ZTF_CheckModernMask": (c_int32, _SETTINGS, c_char_p, c_int32, _NUMBER_OUT),
     "ZTF_Format": (c_int32, _SETTINGS, c_char_p, c_int32, c_char_p, _BUFFER, c_int32),
     "ZTF_Parse": (c_int32, _SETTINGS, c_char_p, c_int32, c_char_p, _BUFFER, c_int32, _NUMBER_OUT),
 }
@@ -870,14 +871,15 @@ def _code_table(codes):
 
 # ---- without a field
 
-def check(mask, data_type, settings=None):
-    """Whether a mask fits a type: a Verdict.
+def check(mask, data_type, settings=None, modern=True):
+    """Whether a mask fits a type, as a modern field or as a classic one takes it: a Verdict.
 
     >>> bool(check("(###) ###-####", "string")), check("MM/MM/YYYY", "date")
     (True, Verdict(fault=<MaskFault.TWICE: 7>, position=3))
     """
     position = c_int32(-1)
-    fault = library.ZTF_CheckMask(_settings(settings), _utf8(mask), _data_type(data_type), position)
+    judge = library.ZTF_CheckModernMask if modern else library.ZTF_CheckMask
+    fault = judge(_settings(settings), _utf8(mask), _data_type(data_type), position)
     return Verdict(MaskFault(fault), position.value)
 
 

@@ -147,6 +147,11 @@ class Values(unittest.TestCase):
             ztfield.parse("555", "(###) ###-####", "string")
         self.assertEqual(refused.exception.reason, Reason.DOES_NOT_FIT)
 
+    def test_masks_are_judged_as_modern_fields_take_them_and_as_classic_ones_do(self):
+        german = Settings(decimal=",", thousands=".")
+        self.assertTrue(ztfield.check("#,##0.00", "number", german))
+        self.assertEqual(ztfield.check("#,##0.00", "number", german, modern=False).fault, MaskFault.OUT_OF_PLACE)
+
     def test_longer_than_any_first_guess_come_whole(self):
         long = "ü" * 250
         note = Field("X" * 250, "string", value=long)
