@@ -412,11 +412,9 @@ int32_t ZTF_Parse(const ZTFieldSettings* settings, const char* mask, int32_t dat
 {
     ZTField field(Asking(settings, mask, dataType));
     const int32_t refused = ZTF_TrySetDataString(&field, text);
+    if (reason)
+        *reason = refused;
     const int32_t state = ZTF_GetState(&field);
     const bool isValue = refused == 0 && (state == ZTS_COMPLETE || state == ZTS_EMPTY);
-    // A part of a value can be shown, and is none by itself.
-    const int32_t why = refused != 0 ? refused : ZTR_DOES_NOT_FIT;
-    if (reason)
-        *reason = isValue ? 0 : why;
     return isValue ? ZTF_GetDataString(&field, buffer, size) : WriteNone(buffer, size);
 }
