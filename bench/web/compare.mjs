@@ -40,7 +40,8 @@ async function keysPerSecond(page) {
     for (let turn = 0; turn < turns; turn++) {
         for (const name of names) {
             for (const [i, { kind, keys }] of typing.entries()) {
-                const spent = await page.evaluate(([who, what, typed, often]) => window.measure(who, what, typed, often), [name, kind, keys, rounds]);
+                const asked = [name, kind, keys, rounds];
+                const spent = await page.evaluate(([who, what, typed, often]) => window.measure(who, what, typed, often), asked);
                 times[name][i].push((rounds * keys.length * 1000) / spent);
             }
         }
@@ -60,7 +61,8 @@ async function playAll(page) {
 
 function situationRow({ situation, played }) {
     const done = situation.done.replaceAll("|", "\\|");
-    return [situation.kind, situation.title, code(done), code(situation.shown), ...played.map(({ shown, right }) => (right ? "yes" : code(comparable(shown))))];
+    const verdicts = played.map(({ shown, right }) => (right ? "yes" : code(comparable(shown))));
+    return [situation.kind, situation.title, code(done), code(situation.shown), ...verdicts];
 }
 
 const { page, close } = await openPage("bench/web/page.html");

@@ -25,7 +25,11 @@ function imaskKinds(IMask) {
         clock: {
             ...shown,
             mask: "h:i a",
-            blocks: { h: range({ from: 1, to: 12, maxLength: 2 }), i: range({ from: 0, to: 59, maxLength: 2 }), a: { mask: IMask.MaskedEnum, enum: halves } },
+            blocks: {
+                h: range({ from: 1, to: 12, maxLength: 2 }),
+                i: range({ from: 0, to: 59, maxLength: 2 }),
+                a: { mask: IMask.MaskedEnum, enum: halves },
+            },
             prepareChar: (typed) => typed.toUpperCase(),
         },
         code: { ...shown, mask: "aa-0000", prepareChar: (typed) => typed.toUpperCase() },

@@ -1,6 +1,7 @@
 // What clerks do with masked inputs, and what they should find there: the same for whoever masks the input.
 //
-// kind | what is tried | text at first, with its caret or selection marked; "" for an empty input | what is done | the text that must stand there
+// kind | what is tried | text at first, with its caret or selection marked; "" for an empty input | what is done |
+// the text that must stand there
 //
 // Done: characters are typed; keys stand in braces, as do {Paste text} and {Tab}, which leaves the input. Blanks at the end do not count,
 // and "_" for what is not filled in counts as a blank.

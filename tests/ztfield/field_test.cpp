@@ -85,6 +85,23 @@ TEST(ASpin, StepsByKeysTheWheelAndItsArrows)
     EXPECT_EQ(field.Text(), "0");
 }
 
+TEST(AKeyThatIsHeld, MakesStepsThatAreUndoneTogether)
+{
+    ZTFieldSetup setup = SpinSetup();
+    setup.range = "0~100";
+    const Field field(setup);
+    for (int i = 0; i < 3; ++i)
+        ZTF_KeyDown(field.get(), ZTF_KEY_UP, 0);
+    ZTF_KeyUp(field.get(), ZTF_KEY_UP, 0);
+    EXPECT_EQ(field.Text(), "20");
+    field.Press('Z', ZTF_CONTROL);
+    EXPECT_EQ(field.Text(), "5");
+    field.Press(ZTF_KEY_UP);
+    field.Press(ZTF_KEY_UP);
+    field.Press('Z', ZTF_CONTROL);
+    EXPECT_EQ(field.Text(), "10") << "steps of keys pressed anew are undone one by one";
+}
+
 TEST(ARange, MakesAnotherStateAndGoesWithTheSpin)
 {
     Field field(SpinSetup());
@@ -374,7 +391,10 @@ void DoAnything(const Field& field, Random& random)
     case 9: ZTF_Click(field.get(), number, 0); break;
     case 10: ZTF_DoubleClick(field.get(), number); break;
     case 11: ZTF_SetMask(field.get(), bytes.c_str(), static_cast<int32_t>(random.Below(8))); break;
-    case 12: ZTF_SetSpin(field.get(), random.Below(9), bytes.c_str(), AnyBytes(random).c_str(), 0), ZTF_Step(field.get(), number & 1); break;
+    case 12:
+        ZTF_SetSpin(field.get(), random.Below(9), bytes.c_str(), AnyBytes(random).c_str(), 0);
+        ZTF_Step(field.get(), number & 1);
+        break;
     default: ZTF_Press(field.get(), ZTF_KEY_BACKSPACE, 0); break;
     }
 }
