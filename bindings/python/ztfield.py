@@ -392,11 +392,11 @@ def from_canonical(text, data_type):
 
 
 class Refused(ValueError):
-    """A value that cannot be shown or read; `reason` is the Reason, NONE of a text that is a part of a value only."""
+    """A value that cannot be shown or read; `reason` is the Reason."""
 
     def __init__(self, reason):
         self.reason = Reason(reason)
-        super().__init__("refused: " + self.reason.name.lower().replace("_", " ") if reason else "a part of a value only")
+        super().__init__("refused: " + self.reason.name.lower().replace("_", " "))
 
 
 # ---- settings

@@ -314,7 +314,8 @@ TEST(Parse, GivesTheValueOrWhyThereIsNone)
     const ValueRow rows[] = {
         {"MM/DD/YYYY", DT_DATE, "4 July 2026", "2026-07-04", 0},  {"MM/DD/YYYY", DT_DATE, "Feb 30 2024", "(none)", ZTR_DOES_NOT_EXIST},
         {"#,##0.00", DT_DECIMAL, "$1,234.50", "1234.50", 0},      {"#,##0.00", DT_DECIMAL, "12 apples", "(none)", ZTR_DOES_NOT_FIT},
-        {"~(###~) ###-####", DT_STRING, "(212) 555-1234", "2125551234", 0}, {"~(###~) ###-####", DT_STRING, "212", "(none)", 0},
+        {"~(###~) ###-####", DT_STRING, "(212) 555-1234", "2125551234", 0},
+        {"~(###~) ###-####", DT_STRING, "212", "(none)", ZTR_DOES_NOT_FIT},
         {"HH:MM", DT_TIME, "1:05 pm", "13:05:00", 0},             {"MM/DD/YYYY", DT_DATE, "", "", 0},
     };
     for (const ValueRow& row : rows) {
