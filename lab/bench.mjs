@@ -112,11 +112,9 @@ export const benchOf = address => {
     return { bench, unread };
 };
 
-// An entry of the gallery as a bench; how the user likes to edit stays.
-export const benchOfEntry = (entry, before) => ({
+// An entry of the gallery as a bench: modern, since only then a number's mask is the same in every country.
+export const benchOfEntry = entry => ({
     ...freshBench(),
-    modern: before.modern,
-    autoskip: before.autoskip,
     spin: false,
     ...entry.more,
     mask: entry.mask,

@@ -1,7 +1,7 @@
 // The dialog of ready masks: drawers of buttons, thinned out by a search.
 import { format } from "ztfield";
 
-import { benchOfEntry, freshBench, optionsOf } from "./bench.mjs";
+import { benchOfEntry, optionsOf } from "./bench.mjs";
 import { drawers } from "./gallery.mjs";
 import { byId, make, show } from "./page.mjs";
 import { regionOf } from "./regions.mjs";
@@ -9,7 +9,7 @@ import { regionOf } from "./regions.mjs";
 const typeNames = { string: "text", number: "number", decimal: "decimal", date: "date", time: "time", datetime: "date and time" };
 
 // As the country shows the entry's value.
-export const sampleOf = entry => format(entry.value, { ...optionsOf(benchOfEntry(entry, freshBench())), modern: true });
+export const sampleOf = entry => format(entry.value, optionsOf(benchOfEntry(entry)));
 
 const simple = text => text.toLowerCase().normalize("NFD").replace(/\p{Diacritic}/gu, "");
 

@@ -61,9 +61,10 @@ const c = bench => [
     ...(isStepped(bench) && rangeOf(bench) ? [`p.spinRangeText = ${quoted(rangeOf(bench))};`] : []),
     ...(bench.choices ? [`p.codeTableText = ${quoted(codeTableOf(bench))};`] : []),
     `p.options = ${optionBits(bench).join(" | ") || "0"};`,
-    "HWND field = CreateWindowExA(WS_EX_CLIENTEDGE, ZTEDIT_CLASS, \"\",",
-    "                             WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL,",
-    "                             20, 20, 160, 24, form, (HMENU)101, instance, &p);",
+    "HWND field = CreateWindowExA(",
+    "    WS_EX_CLIENTEDGE, ZTEDIT_CLASS, \"\",",
+    "    WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL,",
+    "    20, 20, 160, 24, form, (HMENU)101, instance, &p);",
     ...(bench.readOnly ? ["SendMessageA(field, EM_SETREADONLY, TRUE, 0);"] : []),
 ];
 

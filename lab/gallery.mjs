@@ -30,7 +30,6 @@ const times = [
     ["With seconds",               "gb", "HH:MM:SS",        "time", "14:07:09"],
     ["With milliseconds",          "us", "HH:MM:SS.FFF",    "time", "14:07:09:250"],
     ["With a dot",                 "it", "HH.MM",           "time", "14:07"],
-    ["Hours of a railway",         "fr", "HH~hMM",          "time", "14:07"],
     ["Office hours",               "nl", "HH:MM",           "time", "09:30", { spin: true, minimum: "08:00", maximum: "18:00" }],
 ];
 
@@ -44,7 +43,7 @@ const moments = [
 
 const phones = [
     ["Phone",               "us", "(###) ###-####",      "string", "5551234567"],
-    ["Phone and extension", "us", "(###) ###-#### ext. ####", "string", "55512345671234"],
+    ["Phone and extension", "us", "(###) ###-#### e~xt. ####", "string", "55512345671234"],
     ["Mobile",              "gb", "##### ######",        "string", "07700900123"],
     ["Phone",               "fr", "## ## ## ## ##",      "string", "0199001234"],
     ["International",       "de", "+49 ### #######",     "string", "3012345678"],
@@ -59,19 +58,19 @@ const codes = [
     ["Postal code and more", "us", "#####-####",         "string", "902101234"],
     ["Social security",     "us", "###-##-####",         "string", "078051120"],
     ["Postal code",         "pl", "##-###",              "string", "00950"],
-    ["Postal code",         "nl", "#### !!",             "string", "1012ab"],
+    ["Postal code",         "nl", "#### !!",             "string", "1012AB"],
     ["Postal code",         "br", "#####-###",           "string", "01310100"],
     ["Taxpayer",            "br", "###.###.###-##",      "string", "12345678909"],
     ["Postal code",         "jp", "〒###-####",          "string", "1000001"],
-    ["National insurance",  "gb", "!! ## ## ## !",       "string", "qq123456c"],
-    ["Fiscal code",         "it", "!!!!!!##!##!###!",    "string", "rssmra85t10a562s"],
+    ["National insurance",  "gb", "!! ## ## ## !",       "string", "QQ123456C"],
+    ["Fiscal code",         "it", "!!!!!!##!##!###!",    "string", "RSSMRA85T10A562S"],
     ["Bank account",        "de", "DE## #### #### #### #### ##", "string", "89370400440532013000"],
-    ["Old-age insurance",   "ch", "756.####.####.##",    "string", "921700010"],
-    ["Taxpayer",            "in", "!!!!!####!",          "string", "abcpe1234f"],
-    ["Number plate",        "fr", "!!-###-!!",           "string", "ab123cd"],
+    ["Old-age insurance",   "ch", "756.####.####.##",    "string", "9217076985"],
+    ["Taxpayer",            "in", "!!!!!####!",          "string", "ABCPE1234F"],
+    ["Number plate",        "fr", "!!-###-!!",           "string", "AB123CD"],
     ["Payment card",        "us", "#### #### #### ####", "string", "4000001234567899"],
     ["Book",                "us", "###-#-##-######-#",   "string", "9780000000000"],
-    ["Licence key",         "us", "!!!!!-!!!!!-!!!!!",   "string", "a1b2c3d4e5f6g7h"],
+    ["Licence key",         "us", "!!!!!-!!!!!-!!!!!",   "string", "A1B2C3D4E5F6G7H"],
     ["Part of a machine",   "de", "~A##-^^/###",         "string", "12xy345"],
 ];
 
@@ -104,7 +103,7 @@ const shares = [
 const lists = [
     ["Size",                "us", "",                    "string",  "M",  { spin: true, choices: "small = S\nmedium = M\nlarge = L" }],
     ["Salutation",          "gb", "",                    "string",  "ms", { spin: true, choices: "Ms = ms\nMr = mr\nMx = mx\n(none) =" }],
-    ["Day of the week",     "de", "",                    "number",  "1",
+    ["Day of the week",     "de", "",                    "string",  "1",
         { spin: true, choices: "Montag = 1\nDienstag = 2\nMittwoch = 3\nDonnerstag = 4\nFreitag = 5" }],
 ];
 // clang-format on

@@ -36,13 +36,9 @@ export const strokeOf = name => {
     return key === null ? null : { key, held: { ctrl: parts.includes("Ctrl"), shift: parts.includes("Shift") } };
 };
 
-// Keys since the field stood as it did at the start, with what was refused meanwhile. Whatever is no key begins it anew.
+// Keys since the field stood as it did at the start, with what was refused meanwhile.
 export class Recording {
     constructor(start) {
-        this.begin(start);
-    }
-
-    begin(start) {
         this.start = start;
         this.keys = "";
         this.reasons = [];

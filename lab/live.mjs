@@ -1,13 +1,14 @@
 // The field that is typed into: the module's own attach on one input, made anew for each bench, with what its keys have been.
-import { attach } from "ztfield";
+import { Field, attach } from "ztfield";
 
 import { optionsOf } from "./bench.mjs";
 import { Recording, marked, nameOf, split, strokeOf } from "./keys.mjs";
 
-const selectionOf = input => {
-    const start = input.selectionStart ?? 0;
-    const end = input.selectionEnd ?? start;
-    return { start, end, caret: input.selectionDirection === "backward" ? start : end };
+const canShow = (options, value) => {
+    const field = new Field(options);
+    const isShown = field.tryValue(value) === null;
+    field.destroy();
+    return isShown;
 };
 
 export class Live {
@@ -24,17 +25,21 @@ export class Live {
         });
     }
 
-    // Puts a field for the bench in place of the last one, with a value or with keys that are played.
+    // Puts a field for the bench in place of the last one, with a value where it can be shown, or with keys that are played.
     build(bench, value, keys = "") {
+        const options = optionsOf(bench);
         this.attached?.detach();
+        this.attached = null;
         this.input.value = "";
         this.attached = attach(this.input, {
-            ...optionsOf(bench),
-            ...(value ? { value } : {}),
+            ...options,
+            value: value && canShow(options, value) ? value : "",
             onEvent: event => this.hear(event),
             onValue: () => this.refresh(),
         });
-        this.beginRow(value === "" || value === null);
+        this.isFresh = this.field.state === "empty";
+        this.freshMarks = this.marked;
+        this.beginRow();
         this.play(keys);
         this.refresh();
     }
@@ -48,11 +53,11 @@ export class Live {
     }
 
     get selection() {
-        return selectionOf(this.input);
+        return this.field.selection;
     }
 
     get marked() {
-        return marked(this.input.value, this.selection);
+        return marked(this.text, this.selection);
     }
 
     // What the page does to the field in the user's place.
@@ -66,10 +71,8 @@ export class Live {
     give(text) {
         this.freeze();
         const reason = this.field.tryValue(text);
-        if (reason === null) {
-            this.attached.value = this.field.value;  // so that the input shows it
-            this.beginRow(text === "");
-        }
+        if (reason === null)
+            this.beginRow();
         this.refresh();
         return reason;
     }
@@ -82,11 +85,12 @@ export class Live {
         return undefined;
     }
 
+    // Once for all that happens together, and after the module has settled it.
     refresh() {
         if (this.isAwaited)
             return;
         this.isAwaited = true;
-        queueMicrotask(() => {
+        setTimeout(() => {
             this.isAwaited = false;
             if (!this.isFrozen)
                 this.after = this.marked;
@@ -96,11 +100,12 @@ export class Live {
 
     // ---- the row of keys
 
-    beginRow(isFresh) {
+    beginRow() {
         this.recording = new Recording({
             marked: this.marked,
-            fresh: isFresh,
-            isBlank: isFresh || this.field.state === "empty",
+            isFresh: this.isFresh && this.marked === this.freshMarks,
+            isAllSelected: this.isFresh && this.marked === marked(this.text, { start: 0, end: this.text.length })
+                && this.text === this.freshMarks.replace("|", ""),
             isValue: this.field.state === "complete",
         });
         this.after = this.marked;
@@ -117,7 +122,7 @@ export class Live {
     // Goes on with the row, or begins another where the field stands otherwise than the keys have left it.
     thaw() {
         if (this.isFrozen && this.marked !== this.after)
-            this.beginRow(false);
+            this.beginRow();
         this.isFrozen = false;
     }
 
@@ -130,8 +135,8 @@ export class Live {
                 this.record(event.data ?? "");
         });
         listen("compositionend", event => this.record(event.data ?? ""));
-        for (const name of ["blur", "pointerdown", "paste", "cut", "drop", "wheel"])
-            listen(name, () => name === "cut" ? undefined : this.freeze());
+        for (const name of ["blur", "pointerdown", "paste", "drop", "wheel"])
+            listen(name, () => this.freeze());
     }
 
     hearKey(event) {
@@ -164,16 +169,14 @@ export class Live {
             else
                 this.field.press(stroke.key, stroke.held);
         }
-        if (keys !== "")
-            this.attached.value = this.field.value ?? this.attached.value;
         this.freeze();
     }
 
     // The keys from the empty field on, where what is shown came of them alone.
     get keysFromEmpty() {
         const { start, keys } = this.recording;
-        return start.isBlank && keys !== "" && keys.length <= 400 && this.marked === this.after
-            ? (start.fresh || !start.marked.includes("[") ? keys : "{Ctrl+A}" + keys)
-            : "";
+        if (keys === "" || keys.length > 400 || this.marked !== this.after || !(start.isFresh || start.isAllSelected))
+            return "";
+        return start.isFresh ? keys : "{Ctrl+A}" + keys;
     }
 }

@@ -25,7 +25,14 @@ const ticks = { "autoskip": "autoskip", "read-only": "readOnly", "spin": "spin" 
 
 let bench = freshBench();
 
-const tell = text => show(byId("told"), text);
+let silence = 0;
+
+// Goes away by itself, so that it covers nothing for long.
+const tell = text => {
+    clearTimeout(silence);
+    show(byId("told"), text);
+    silence = setTimeout(() => show(byId("told")), 8000);
+};
 
 const live = new Live(byId("field"), {
     told: event => {
@@ -194,7 +201,7 @@ function showSteps() {
 }
 
 function put(entry) {
-    bench = benchOfEntry(entry, bench);
+    bench = benchOfEntry(entry);
     log.clear(byId("log"));
     fillControls();
     rebuild(bench.value);

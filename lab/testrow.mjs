@@ -32,7 +32,7 @@ const modernSetup = bench => {
 };
 
 const modernRow = (bench, recording, shown) => {
-    const before = recording.start.fresh ? "nullptr" : quoted(recording.start.marked);
+    const before = recording.start.isFresh ? "nullptr" : quoted(recording.start.marked);
     const reasons = recording.reasons.map(reason => reasonNames[reason] ?? reason).join(", ");
     return `{kBench, ${before}, ${quoted((bench.readOnly ? "{ReadOnly}" : "") + actsOf(recording.keys))}, ${quoted(shown)}`
         + (reasons ? `, ${quoted(reasons)}},` : "},");

@@ -7,7 +7,7 @@ import { make, show } from "./page.mjs";
 // Modern editing reads "." and "," of a number's mask alike in all countries, so the field itself is asked; the check says why.
 export const judge = bench => {
     const field = new Field({ type: bench.type, settings: bench.settings, modern: bench.modern });
-    const isTaken = field.setMask(bench.mask, bench.type);
+    const isTaken = field.setMask(bench.mask, bench.type) || (bench.mask === "" && bench.type === "string");
     const blank = new Field({ ...optionsOf(bench), value: null });
     const judged = { isTaken, inForce: field.mask, blank: blank.text, check: check(bench.mask, bench.type, bench.settings) };
     field.destroy();

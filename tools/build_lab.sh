@@ -17,7 +17,7 @@ module=$(realpath "${1:-build/web/ztfield.mjs}")
 joiner=build/browser/node_modules/.bin/esbuild
 out=build/lab
 
-[ -x "$joiner" ] || fail "no $joiner; tools/install_deps.sh --web installs it"
+tools/browser_modules.sh esbuild@0.28.2
 mkdir -p "$out"
 "$joiner" lab/main.mjs --bundle --format=esm --charset=utf8 --alias:ztfield="$module" --log-level=warning --outfile="$out/lab.mjs"
 node tools/join_page.mjs lab/index.html lab/lab.css "$out/lab.mjs" >"$out/mask-laboratory.html.new"
