@@ -37,6 +37,8 @@ export class Live {
             onEvent: event => this.hear(event),
             onValue: () => this.refresh(),
         });
+        this.given = value ?? "";
+        this.givenText = this.text;
         this.isFresh = this.field.state === "empty";
         this.freshMarks = this.marked;
         this.beginRow();
@@ -46,6 +48,12 @@ export class Live {
 
     get field() {
         return this.attached.field;
+    }
+
+    // The value to go on with under another bench: what was given, as long as the field has not been touched, though this bench may
+    // not show it (a mask that is half typed).
+    get value() {
+        return this.text === this.givenText ? this.given : this.field.value ?? "";
     }
 
     get text() {

@@ -145,7 +145,7 @@ function rebuild(value, keys = "") {
 
 // A change of the bench keeps the value where it is of the same type.
 function change(changes) {
-    const value = changes.type === undefined || changes.type === bench.type ? live.field.value ?? "" : "";
+    const value = changes.type === undefined || changes.type === bench.type ? live.value : "";
     bench = { ...bench, value: changes.type === undefined ? bench.value : "", ...changes };
     rebuild(value);
 }

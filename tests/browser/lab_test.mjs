@@ -11,6 +11,7 @@ import { launch, root } from "./browser.mjs";
 
 const page = pathToFileURL(process.env.PAGE ?? root + "build/lab/mask-laboratory.html").href;
 const widths = [360, 820, 1440];
+const schemes = ["light", "dark"];
 
 let browser;
 let context;
@@ -23,7 +24,7 @@ before(async () => {
     context = await browser.newContext({ viewport: { width: 1440, height: 900 }, reducedMotion: "reduce" });
     await context.grantPermissions(["clipboard-read", "clipboard-write"]);
     tab = await context.newPage();
-    tab.setDefaultTimeout(8000);
+    tab.setDefaultTimeout(60000);  // of a machine that others use too
     tab.on("pageerror", error => faults.push(String(error)));
     tab.on("console", message => message.type() === "error" && faults.push(message.text()));
     tab.on("request", request => requests.push(request.url()));
@@ -31,13 +32,16 @@ before(async () => {
 
 after(() => browser?.close());
 
+// Another address behind the "?" opens the page anew, where another one behind the "#" would not.
+let opened = 0;
+const open = address => tab.goto(`${page}?${++opened}${address}`);
+
 // A test on a page opened anew; an error anywhere in the page fails it.
 const on = (name, address, play) =>
     test(name, async () => {
         faults = [];
         requests = [];
-        await tab.goto("about:blank");
-        await tab.goto(page + address);
+        await open(address);
         await tab.waitForFunction(() => document.querySelector("#version").textContent !== "");
         await play();
         assert.deepEqual(faults, []);
@@ -54,11 +58,11 @@ const seen = id => tab.locator(`#${id}`).evaluate(element => {
 
 const eventually = async (get, expected) => {
     let found;
-    for (let tries = 0; tries < 60; ++tries) {
+    for (let pause = 1; pause < 4000; pause *= 2) {
         found = await get();
         if (JSON.stringify(found) === JSON.stringify(expected))
             return;
-        await new Promise(done => setTimeout(done, 25));
+        await new Promise(done => setTimeout(done, pause));
     }
     assert.deepEqual(found, expected);
 };
@@ -106,7 +110,7 @@ const caretCell = () => tab.evaluate(() => {
 on("opens from its file, alone, and asks nobody for anything", "", async () => {
     await keys("7/4/2026");
     await showsText("07/04/2026");
-    assert.deepEqual(requests.filter(url => url !== page && !url.startsWith("data:") && url !== "about:blank"), []);
+    assert.deepEqual(requests.filter(url => !url.startsWith("data:")), [tab.url().replace(/#.*/, "")]);
 });
 
 on("begins with a date that can be typed into", "", async () => {
@@ -237,7 +241,7 @@ on("lists what is refused, with the reason", "", async () => {
     await keys("13x");
     await eventually(logged, [
         "● State: empty to incomplete",
-        "✕ “3” refused at 2, out of bounds. The field has no such number.",
+        "✕ “3” refused at 2, out of bounds. There is no such number here.",
         "♪ Beep",
         "✕ “x” refused at 2, wrong kind. This character does not belong here.",
         "♪ Beep",
@@ -253,7 +257,7 @@ on("lists each change when asked to, and is cleared", "", async () => {
     assert.deepEqual(await logged(), []);
     await tab.uncheck("#log-changes");
     await keys("2");
-    await showsText("12/  /    ");
+    await showsText("02/  /    ");
     assert.deepEqual((await logged()).filter(line => line.startsWith("…")), []);
 });
 
@@ -281,12 +285,12 @@ on("steps by buttons and keys, as far as the range goes", "#mask=*0&type=number&
     await press("Enter");
     await showsText("3");
     await keys("");
-    await press("ArrowUp", "ArrowUp", "ArrowUp");
-    await eventually(async () => (await logged()).some(line => line.includes("end of range")), true);
-    assert.ok((await logged()).includes("↕ Stepped"));
-    const top = await text();
-    await press("ArrowUp");
-    await showsText(top);
+    await press("ArrowUp", "ArrowUp");
+    await eventually(async () => (await logged()).filter(line => line.includes("end of range")).length, 1);
+    await showsText("8");
+    await tab.check("#classic", { force: true });
+    await tab.click("#step-up");
+    await eventually(async () => (await logged()).filter(line => line === "↕ Stepped").length, 1);
 });
 
 on("has no steps without a spin", "#mask=MM/DD/YYYY&type=date&spin=0&value=2026-07-04", async () => {
@@ -297,10 +301,13 @@ on("has no steps without a spin", "#mask=MM/DD/YYYY&type=date&spin=0&value=2026-
     await showsText("07/04/2026");
     assert.ok(await tab.locator("#increment").isDisabled());
     await tab.check("#spin");
-    await typeIn("increment", "3");
     await keys("");
     await press("Home", "ArrowUp");
-    await showsText("10/04/2026");
+    await showsText("08/04/2026");
+    await typeIn("increment", "3");
+    await keys("");
+    await press("End", "ArrowUp");
+    await showsText("08/04/2029");
 });
 
 on("takes a range that is typed", "#mask=MM/DD/YYYY&type=date", async () => {
@@ -357,9 +364,9 @@ on("edits in the classic way", "", async () => {
     await shows("blank", "00/00/0000");
     await keys("");
     await press("Home");
-    await tab.keyboard.type("07042026x");
+    await tab.keyboard.type("07x042026");
     await showsText("07/04/2026");
-    assert.deepEqual(await logged(), ["● State: empty to incomplete", "● State: incomplete to complete", "♪ Beep"].filter(line => line === "♪ Beep"));
+    assert.deepEqual(await logged(), ["♪ Beep"]);
 });
 
 const typesByKeys = [
@@ -424,7 +431,7 @@ on("has the settings of many countries", "#mask=[date]&type=date&value=2026-07-0
         await showsText(date);
     }
     for (const [id, [, money]] of Object.entries(countries)) {
-        await tab.goto(`${page}#mask=[currency(9)]&type=decimal&value=1234.5&region=${id}`);
+        await open(`#mask=[currency(9)]&type=decimal&value=1234.5&region=${id}`);
         await showsText(money);
     }
 });
@@ -452,7 +459,8 @@ on("puts ready masks on the bench, found and chosen by keys alone", "", async ()
 });
 
 on("closes the gallery by Escape and by its button, and gives the focus back", "", async () => {
-    for (const close of [() => press("Escape"), () => tab.click("#close-gallery")]) {
+    // The first Escape empties the search, as in any such field.
+    for (const close of [() => press("Escape", "Escape"), () => tab.click("#close-gallery")]) {
         await tab.click("#open-gallery");
         await tab.keyboard.type("nothing like this");
         assert.equal(await seen("found"), "Nothing found.");
@@ -539,8 +547,7 @@ on("makes a row of the tests of what is typed, modern", "#mask=MM/DD/YYYY&type=d
     await press("Backspace", "ArrowLeft");
     const setup = "inline constexpr TypingSetup kBench = {\"MM/DD/YYYY\", DT_DATE, ZTEO_SPIN, nullptr, nullptr, \"午前\", \"午後\"};";
     await eventually(call, ["// under the settings of Japan", setup,
-        "{kBench, \"[  /  /    ]\", \"{Home}7/x4{Bs}{Left}\", \"07/|  /    \", \"wrong kind, wrong kind\"},"].join("\n").replace("wrong kind, ", "")
-        .replace("07/|  ", "0|7/  "));
+        "{kBench, nullptr, \"{Home}7/x4{Bs}{Left}\", \"07/|0 /    \", \"wrong kind\"},"].join("\n"));
 });
 
 on("makes a row of the tests of what is typed, classic", "#mask=MM/DD/YYYY&type=date&modern=0", async () => {
@@ -548,7 +555,7 @@ on("makes a row of the tests of what is typed, classic", "#mask=MM/DD/YYYY&type=
     await keys("");
     await press("Home");
     await tab.keyboard.type("7x");
-    await eventually(call, "{\"Bench\", \"MM/DD/YYYY\", DT_DATE, \"text:[00/00/0000]\", \"{Home}7x\", \"07/|00/0000\", 1},");
+    await eventually(call, "{\"Bench\", \"MM/DD/YYYY\", DT_DATE, \"text:|00/00/0000\", \"{Home}7x\", \"07/|00/0000\", 1},");
 });
 
 on("begins the row anew behind what is no key", "", async () => {
@@ -568,9 +575,8 @@ on("shares all of the bench by its address, keys and all", "#mask=(***)+***-****
     await tab.click("#share");
     await shows("told", "The link is on the clipboard.");
     const link = await clipboard();
-    assert.ok(link.startsWith(page + "#mask=(***)+***-****&type=string&keys="), link);
-    await tab.goto("about:blank");
-    await tab.goto(link);
+    assert.ok(link.startsWith(`${page}?${opened}#mask=(***)+***-****&type=string&keys=`), link);
+    await open(link.slice(link.indexOf("#")));
     await showsText("(555) 12 -    ");
     assert.equal(await tab.inputValue("#region"), "fr");
     await shows("state", shown("incomplete"));
@@ -661,13 +667,10 @@ on("describes the mask's field by its verdict, and the ids that it names are the
 
 // Every control is reached by Tab, in the order of the page, and shows that it has the focus.
 on("is walked through by Tab", "", async () => {
-    await tab.click("summary");
     await tab.evaluate(() => {
-        document.activeElement.blur();
-        getSelection().removeAllRanges();
-        window.scrollTo(0, 0);
+        document.querySelector("#regional").open = true;
     });
-    await tab.locator("#skip").focus();
+    await press("Tab");
     const visited = [];
     for (let i = 0; i < 80; ++i) {
         const at = await tab.evaluate(() => {
@@ -706,7 +709,7 @@ on("is worked by keys alone", "", async () => {
     await press("Enter");
     assert.equal(await tab.locator("#regional").evaluate(details => details.open), true);
     await at("given");
-    await tab.keyboard.type("4.7.2026");
+    await tab.keyboard.type("2026-07-04");
     await press("Tab", "Enter");
     await showsText("07/04/2026");
     await at("step-up");
@@ -733,7 +736,7 @@ on("is worked by keys alone", "", async () => {
     await press("Enter");
     await at("share");
     await press("Enter");
-    await eventually(async () => (await clipboard()).startsWith(page + "#mask="), true);
+    await eventually(async () => (await clipboard()).startsWith(`${page}?${opened}#mask=`), true);
     await at("theme");
     await tab.keyboard.type("Dar");
     await eventually(() => tab.evaluate(() => document.documentElement.dataset.theme), "dark");
@@ -806,17 +809,17 @@ const scenes = {
         await eventually(() => tab.locator(".wrong").count(), 1);
         await tab.click("summary");
     },
-    "every kind of position": async () => {
-        await tab.goto(page + "#mask=~A*AX!^+YYYY&type=string&value=1b2c&lock=1");
+    "some kinds of position": async () => {
+        await open("#mask=~A*AX!^+YYYY&type=string&value=1b2c&lock=1");
         await keys("x");
     },
     "a date and time": async () => {
-        await tab.goto(page + "#mask=MM/DD/YYYY+HH:MM:SS+AM/PM&type=datetime");
+        await open("#mask=MM/DD/YYYY+HH:MM:SS+AM/PM&type=datetime");
         await keys("13x");
         await tab.click("#share");
     },
     "a mask of two hundred and fifty positions": async () => {
-        await tab.goto(page + "#mask=" + "*".repeat(250) + "&type=string");
+        await open("#mask=" + "*".repeat(250) + "&type=string");
         await keys("1234567890".repeat(25));
         await tab.check("#language-test", { force: true });
     },
@@ -825,33 +828,32 @@ const scenes = {
     },
 };
 
-for (const colorScheme of ["light", "dark"])
-    for (const [name, play] of Object.entries(scenes))
-        on(`has texts of contrast in ${colorScheme}: ${name}`, "", async () => {
-            await tab.emulateMedia({ colorScheme });
-            await play();
-            assert.deepEqual(await faintTexts(), []);
-            await tab.emulateMedia({ colorScheme: null });
-        });
+// What cannot be seen without scrolling sideways.
+const cutOff = () => tab.evaluate(() => [...document.querySelectorAll("button, input, select, textarea, pre, .cell, .panel, dialog[open] *")]
+    .filter(element => element.checkVisibility() && !element.closest(".heard"))
+    .map(element => [element.id || element.className || element.tagName, element.getBoundingClientRect()])
+    .filter(([, box]) => box.width > 0 && (box.left < -0.5 || box.right > innerWidth + 0.5))
+    .map(([id]) => id));
 
-for (const width of widths)
-    for (const [name, play] of Object.entries(scenes))
-        on(`does not scroll sideways at ${width}: ${name}`, "", async () => {
+const tooSmallForFingers = () => tab.evaluate(() => [...document.querySelectorAll("button, select, textarea, input[type=text], label.check, .segments label")]
+    .filter(element => element.checkVisibility())
+    .map(element => [element.id || element.textContent.trim(), element.getBoundingClientRect()])
+    .filter(([, box]) => box.width > 0 && (box.width < 24 || box.height < 24))
+    .map(([id]) => id));
+
+for (const [name, play] of Object.entries(scenes))
+    on(`can be read at all widths, by day and by night: ${name}`, "", async () => {
+        await play();
+        for (const colorScheme of schemes) {
+            await tab.emulateMedia({ colorScheme });
+            assert.deepEqual(await faintTexts(), [], colorScheme);
+        }
+        await tab.emulateMedia({ colorScheme: null });
+        for (const width of widths) {
             await tab.setViewportSize({ width, height: 800 });
-            await play();
-            const wide = await tab.evaluate(() => document.documentElement.scrollWidth);
-            assert.ok(wide <= width, `${wide} at ${width}`);
-            const out = await tab.evaluate(() => [...document.querySelectorAll("button, input, select, textarea, pre, .cell, .panel, dialog[open], dialog[open] *")]
-                .filter(element => element.checkVisibility() && !element.closest(".heard"))
-                .map(element => [element.id || element.className || element.tagName, element.getBoundingClientRect()])
-                .filter(([, box]) => box.width > 0 && (box.left < -0.5 || box.right > innerWidth + 0.5))
-                .map(([id]) => id));
-            assert.deepEqual(out, []);
-            const small = await tab.evaluate(() => [...document.querySelectorAll("button, select, input:not([type=radio]):not([type=checkbox]), label.check")]
-                .filter(element => element.checkVisibility())
-                .map(element => [element.id || element.textContent.trim(), element.getBoundingClientRect()])
-                .filter(([, box]) => box.width > 0 && (box.width < 24 || box.height < 24))
-                .map(([id]) => id));
-            assert.deepEqual(small, []);
-            await tab.setViewportSize({ width: 1440, height: 900 });
-        });
+            assert.ok(await tab.evaluate(() => document.documentElement.scrollWidth) <= width, `${width}`);
+            assert.deepEqual(await cutOff(), [], `${width}`);
+            assert.deepEqual(await tooSmallForFingers(), [], `${width}`);
+        }
+        await tab.setViewportSize({ width: 1440, height: 900 });
+    });
