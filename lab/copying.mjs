@@ -1,7 +1,7 @@
 // Puts a text on the clipboard, and says so.
 
 // Of a page in a file some browsers refuse the clipboard's interface; what is selected can be copied everywhere.
-const copySelected = text => {
+const copySelected = (text) => {
     const area = document.createElement("textarea");
     area.value = text;
     area.setAttribute("aria-hidden", "true");
@@ -15,7 +15,7 @@ const copySelected = text => {
     return isCopied;
 };
 
-export const copy = async text => {
+export const copy = async (text) => {
     try {
         await navigator.clipboard.writeText(text);
         return true;

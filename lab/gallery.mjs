@@ -1,6 +1,6 @@
 // Ready masks. Each is shown with its sample as its own country writes it, and put on the bench under that country's settings.
 
-// clang-format off
+// prettier-ignore
 const dates = [
     // title                       region mask              type     sample          more
     ["As the country writes it",   "us", "[date]",          "date", "2026-07-04"],
@@ -18,9 +18,11 @@ const dates = [
     ["With signs of the calendar", "jp", "YYYY年MM月DD日",  "date", "2026-07-04"],
     ["Card expires",               "us", "MM/YY",           "date", "2029-11-01"],
     ["Day of the year",            "us", "JJJ/YYYY",        "date", "2026-07-04"],
-    ["Within one year",            "ch", "DD.MM.YYYY",      "date", "2026-07-04", { spin: true, minimum: "2026-01-01", maximum: "2026-12-31" }],
+    ["Within one year",            "ch", "DD.MM.YYYY",      "date", "2026-07-04",
+        { spin: true, minimum: "2026-01-01", maximum: "2026-12-31" }],
 ];
 
+// prettier-ignore
 const times = [
     ["As the country writes it",   "dk", "[time]",          "time", "14:07:09"],
     ["Hours and minutes",          "de", "HH:MM",           "time", "14:07", { spin: true }],
@@ -33,6 +35,7 @@ const times = [
     ["Office hours",               "nl", "HH:MM",           "time", "09:30", { spin: true, minimum: "08:00", maximum: "18:00" }],
 ];
 
+// prettier-ignore
 const moments = [
     ["As the country writes it",   "de", "[date] [time]",       "datetime", "2026-07-04 14:07:09"],
     ["Appointment",                "us", "MM/DD/YYYY HH:MM AM/PM", "datetime", "2026-07-04 14:07", { spin: true }],
@@ -41,6 +44,7 @@ const moments = [
     ["With fractions",             "ch", "DD.MM.YYYY HH:MM:SS.FFF", "datetime", "2026-07-04 14:07:09:250"],
 ];
 
+// prettier-ignore
 const phones = [
     ["Phone",               "us", "(###) ###-####",      "string", "5551234567"],
     ["Phone and extension", "us", "(###) ###-#### e~xt. ####", "string", "55512345671234"],
@@ -53,6 +57,7 @@ const phones = [
     ["Mobile",              "pl", "+48 ### ### ###",     "string", "512345678"],
 ];
 
+// prettier-ignore
 const codes = [
     ["Postal code",         "us", "#####",               "string", "90210"],
     ["Postal code and more", "us", "#####-####",         "string", "902101234"],
@@ -74,6 +79,7 @@ const codes = [
     ["Part of a machine",   "de", "~A##-^^/###",         "string", "12xy345"],
 ];
 
+// prettier-ignore
 const amounts = [
     ["Money, nine digits",  "us", "[currency(9)]",       "decimal", "1234.5"],
     ["Money, nine digits",  "de", "[currency(9)]",       "decimal", "1234.5"],
@@ -92,6 +98,7 @@ const amounts = [
     ["Total in front",      "us", "Total #,##0.00",      "number",  "1234.5"],
 ];
 
+// prettier-ignore
 const shares = [
     ["Percentage",          "us", "##0%",                "number",  "0.15", { spin: true, minimum: "0", maximum: "1" }],
     ["One place",           "us", "##0.0%",              "number",  "0.125"],
@@ -100,14 +107,13 @@ const shares = [
     ["Two places",          "in", "##0.00%",             "decimal", "0.18"],
 ];
 
+// prettier-ignore
 const lists = [
     ["Size",                "us", "",                    "string",  "M",  { spin: true, choices: "small = S\nmedium = M\nlarge = L" }],
     ["Salutation",          "gb", "",                    "string",  "ms", { spin: true, choices: "Ms = ms\nMr = mr\nMx = mx\n(none) =" }],
     ["Day of the week",     "de", "",                    "string",  "1",
         { spin: true, choices: "Montag = 1\nDienstag = 2\nMittwoch = 3\nDonnerstag = 4\nFreitag = 5" }],
 ];
-// clang-format on
-
 const drawer = (name, rows) => ({
     name,
     entries: rows.map(([title, region, mask, type, value, more = {}]) => ({ title, region, mask, type, value, more })),

@@ -20,8 +20,7 @@ export class Live {
         this.isFrozen = true;
         this.hearKeys();
         document.addEventListener("selectionchange", () => {
-            if (document.activeElement === input)
-                this.refresh();
+            if (document.activeElement === input) this.refresh();
         });
     }
 
@@ -34,7 +33,7 @@ export class Live {
         this.attached = attach(this.input, {
             ...options,
             value: value && canShow(options, value) ? value : "",
-            onEvent: event => this.hear(event),
+            onEvent: (event) => this.hear(event),
             onValue: () => this.refresh(),
         });
         this.given = value ?? "";
@@ -53,7 +52,7 @@ export class Live {
     // The value to go on with under another bench: what was given, as long as the field has not been touched, though this bench may
     // not show it (a mask that is half typed).
     get value() {
-        return this.text === this.givenText ? this.given : this.field.value ?? "";
+        return this.text === this.givenText ? this.given : (this.field.value ?? "");
     }
 
     get text() {
@@ -79,29 +78,29 @@ export class Live {
     give(text) {
         this.freeze();
         const reason = this.field.tryValue(text);
-        if (reason === null)
-            this.beginRow();
+        if (reason === null) this.beginRow();
         this.refresh();
         return reason;
     }
 
     hear(event) {
-        if (!this.isFrozen)
-            this.recording.hear(event);
-        this.listener.told(event.kind === "changed" || event.kind === "value" ? { ...event, text: this.attached?.field.text ?? "" } : event);
+        if (!this.isFrozen) this.recording.hear(event);
+        this.listener.told(
+            event.kind === "changed" || event.kind === "value"
+                ? { ...event, text: this.attached?.field.text ?? "" }
+                : event,
+        );
         this.refresh();
         return undefined;
     }
 
     // Once for all that happens together, and after the module has settled it.
     refresh() {
-        if (this.isAwaited)
-            return;
+        if (this.isAwaited) return;
         this.isAwaited = true;
         setTimeout(() => {
             this.isAwaited = false;
-            if (!this.isFrozen)
-                this.after = this.marked;
+            if (!this.isFrozen) this.after = this.marked;
             this.listener.shown();
         });
     }
@@ -112,8 +111,10 @@ export class Live {
         this.recording = new Recording({
             marked: this.marked,
             isFresh: this.isFresh && this.marked === this.freshMarks,
-            isAllSelected: this.isFresh && this.marked === marked(this.text, { start: 0, end: this.text.length })
-                && this.text === this.freshMarks.replace("|", ""),
+            isAllSelected:
+                this.isFresh &&
+                this.marked === marked(this.text, { start: 0, end: this.text.length }) &&
+                this.text === this.freshMarks.replace("|", ""),
             isValue: this.field.state === "complete",
         });
         this.after = this.marked;
@@ -122,40 +123,33 @@ export class Live {
 
     // The row ends here: what comes now is no key.
     freeze() {
-        if (!this.isFrozen)
-            this.after = this.marked;
+        if (!this.isFrozen) this.after = this.marked;
         this.isFrozen = true;
     }
 
     // Goes on with the row, or begins another where the field stands otherwise than the keys have left it.
     thaw() {
-        if (this.isFrozen && this.marked !== this.after)
-            this.beginRow();
+        if (this.isFrozen && this.marked !== this.after) this.beginRow();
         this.isFrozen = false;
     }
 
     hearKeys() {
         const { input } = this;
         const listen = (name, heard) => input.addEventListener(name, heard, { capture: true });
-        listen("keydown", event => this.hearKey(event));
-        listen("beforeinput", event => {
-            if (this.isUnnamed && event.inputType === "insertText" && !event.isComposing)
-                this.record(event.data ?? "");
+        listen("keydown", (event) => this.hearKey(event));
+        listen("beforeinput", (event) => {
+            if (this.isUnnamed && event.inputType === "insertText" && !event.isComposing) this.record(event.data ?? "");
         });
-        listen("compositionend", event => this.record(event.data ?? ""));
-        for (const name of ["blur", "pointerdown", "paste", "drop", "wheel"])
-            listen(name, () => this.freeze());
+        listen("compositionend", (event) => this.record(event.data ?? ""));
+        for (const name of ["blur", "pointerdown", "paste", "drop", "wheel"]) listen(name, () => this.freeze());
     }
 
     hearKey(event) {
-        if (event.isComposing || ["Shift", "Control", "Alt", "Meta", "Tab"].includes(event.key))
-            return;
+        if (event.isComposing || ["Shift", "Control", "Alt", "Meta", "Tab"].includes(event.key)) return;
         const name = nameOf(event);
         this.isUnnamed = event.key === "Unidentified";
-        if (name === null)
-            this.freeze();
-        else if (name !== "")
-            this.record(name);
+        if (name === null) this.freeze();
+        else if (name !== "") this.record(name);
     }
 
     record(name) {
@@ -168,14 +162,11 @@ export class Live {
     play(keys) {
         for (const name of split(keys)) {
             const stroke = strokeOf(name);
-            if (!stroke)
-                continue;
+            if (!stroke) continue;
             this.isFrozen = false;
             this.recording.add(name);
-            if (stroke.held.ctrl && stroke.key === "a")
-                this.field.select(0, this.field.text.length);
-            else
-                this.field.press(stroke.key, stroke.held);
+            if (stroke.held.ctrl && stroke.key === "a") this.field.select(0, this.field.text.length);
+            else this.field.press(stroke.key, stroke.held);
         }
         this.freeze();
     }

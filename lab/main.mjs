@@ -14,41 +14,55 @@ import { testRowOf } from "./testrow.mjs";
 import { setUpTheme } from "./theme.mjs";
 import { judge, showVerdict } from "./verdict.mjs";
 
-const typeLabels = { string: "Text", number: "Number", decimal: "Decimal", date: "Date", time: "Time", datetime: "Date and time" };
+const typeLabels = {
+    string: "Text",
+    number: "Number",
+    decimal: "Decimal",
+    date: "Date",
+    time: "Time",
+    datetime: "Date and time",
+};
 
-const languages = [["c", "C"], ["cpp", "C++"], ["csharp", "C#"], ["pascal", "Pascal"], ["python", "Python"],
-    ["javascript", "JavaScript"], ["test", "Test row"]];
+const languages = [
+    ["c", "C"],
+    ["cpp", "C++"],
+    ["csharp", "C#"],
+    ["pascal", "Pascal"],
+    ["python", "Python"],
+    ["javascript", "JavaScript"],
+    ["test", "Test row"],
+];
 
 // Controls whose text or tick is the bench's, by their names there.
 const texts = { mask: "mask", increment: "increment", minimum: "minimum", maximum: "maximum", choices: "choices" };
-const ticks = { "autoskip": "autoskip", "read-only": "readOnly", "spin": "spin" };
+const ticks = { autoskip: "autoskip", "read-only": "readOnly", spin: "spin" };
 
 let bench = freshBench();
 
 let silence = 0;
 
 // Goes away by itself, so that it covers nothing for long.
-const tell = text => {
+const tell = (text) => {
     clearTimeout(silence);
     show(byId("told"), text);
     silence = setTimeout(() => show(byId("told")), 8000);
 };
 
 const live = new Live(byId("field"), {
-    told: event => {
-        if (event.kind !== "changed" || byId("log-changes").checked)
-            log.add(byId("log"), event);
+    told: (event) => {
+        if (event.kind !== "changed" || byId("log-changes").checked) log.add(byId("log"), event);
     },
     shown: () => showField(),
 });
 
 // ---- what is shown
 
-const stateSigns = { "empty": "○", "incomplete": "◐", "invalid": "✕", "out of range": "↔", "complete": "●" };
+const stateSigns = { empty: "○", incomplete: "◐", invalid: "✕", "out of range": "↔", complete: "●" };
 
-const valueWords = value => (value === null ? ["none yet"] : value === "" ? ["the empty value"] : withBlanks(value));
+const valueWords = (value) => (value === null ? ["none yet"] : value === "" ? ["the empty value"] : withBlanks(value));
 
-const caretWords = ({ start, end, caret }) => (start === end ? `at ${caret}` : `${start} to ${end} selected, caret at ${caret}`);
+const caretWords = ({ start, end, caret }) =>
+    start === end ? `at ${caret}` : `${start} to ${end} selected, caret at ${caret}`;
 
 const setAvailable = (button, isAvailable) => button.setAttribute("aria-disabled", String(!isAvailable));
 
@@ -56,20 +70,25 @@ let mapped = "";
 
 function showPositions(text, positions, selection) {
     const drawn = JSON.stringify([text, positions]);
-    if (drawn !== mapped)
-        showMap(byId("map"), text, positions);
+    if (drawn !== mapped) showMap(byId("map"), text, positions);
     mapped = drawn;
     markCaret(byId("map"), selection, text.length);
     show(byId("at-caret"), atCaret(positions, selection));
 }
 
 function showField() {
-    if (!live.attached)
-        return;
+    if (!live.attached) return;
     const { field, selection } = live;
     const { state, text } = field;
-    show(byId("state"), make("span", { "class": `state`, "data-state": state },
-        make("span", { "aria-hidden": "true" }, stateSigns[state]), " " + state));
+    show(
+        byId("state"),
+        make(
+            "span",
+            { class: `state`, "data-state": state },
+            make("span", { "aria-hidden": "true" }, stateSigns[state]),
+            " " + state,
+        ),
+    );
     show(byId("value"), ...valueWords(field.value));
     byId("value").classList.toggle("soft", !field.value);
     show(byId("shown"), ...withBlanks(text));
@@ -102,9 +121,11 @@ const callNotes = {
 
 function showCall() {
     const language = checkedOf("language") ?? "c";
-    const source = language === "test" ? testRowOf(bench, live.recording, live.isFrozen ? live.after : live.marked) : callOf(language, bench);
-    if (byId("call").textContent !== source)
-        show(byId("call"), source);
+    const source =
+        language === "test"
+            ? testRowOf(bench, live.recording, live.isFrozen ? live.after : live.marked)
+            : callOf(language, bench);
+    if (byId("call").textContent !== source) show(byId("call"), source);
     show(byId("call-note"), callNotes[language] ?? "The control; heap, form and instance are the program's.");
 }
 
@@ -112,7 +133,7 @@ function showCall() {
 
 const currentAddress = () => {
     const keys = live.keysFromEmpty;
-    return "#" + addressOf({ ...bench, keys, value: keys === "" ? live.field.value ?? "" : "" });
+    return "#" + addressOf({ ...bench, keys, value: keys === "" ? (live.field.value ?? "") : "" });
 };
 
 let awaited = 0;
@@ -122,8 +143,7 @@ function keepAddress() {
     clearTimeout(awaited);
     awaited = setTimeout(() => {
         const address = currentAddress();
-        if (address !== location.hash)
-            history.replaceState(null, "", address);
+        if (address !== location.hash) history.replaceState(null, "", address);
     }, 200);
 }
 
@@ -132,7 +152,11 @@ function takeAddress() {
     bench = told;
     fillControls();
     rebuild(bench.value, bench.keys);
-    tell(unread.length === 0 ? "" : `The address says something that cannot be read: ${unread.join(", ").slice(0, 100)}.`);
+    tell(
+        unread.length === 0
+            ? ""
+            : `The address says something that cannot be read: ${unread.join(", ").slice(0, 100)}.`,
+    );
 }
 
 // ---- from the controls to the bench
@@ -151,24 +175,38 @@ function change(changes) {
 }
 
 function fillSettings() {
-    show(byId("settings"), ...settingRows.map(row => {
-        const id = `setting-${row.name}`;
-        const hint = make("span", { class: "hint", id: `${id}-hint` }, row.hint);
-        const control = row.choices
-            ? make("select", { id }, ...row.choices.map(([value, label]) => make("option", { value }, label)))
-            : make("input", { id, "type": "text", "class": "mono", "autocomplete": "off", "spellcheck": "false",
-                "aria-describedby": `${id}-hint` });
-        control.addEventListener("input", () => changeSetting(row, control, hint));
-        return make("div", { class: `setting setting-${row.name}` }, make("label", { for: id }, row.label), control, hint);
-    }));
+    show(
+        byId("settings"),
+        ...settingRows.map((row) => {
+            const id = `setting-${row.name}`;
+            const hint = make("span", { class: "hint", id: `${id}-hint` }, row.hint);
+            const control = row.choices
+                ? make("select", { id }, ...row.choices.map(([value, label]) => make("option", { value }, label)))
+                : make("input", {
+                      id,
+                      type: "text",
+                      class: "mono",
+                      autocomplete: "off",
+                      spellcheck: "false",
+                      "aria-describedby": `${id}-hint`,
+                  });
+            control.addEventListener("input", () => changeSetting(row, control, hint));
+            return make(
+                "div",
+                { class: `setting setting-${row.name}` },
+                make("label", { for: id }, row.label),
+                control,
+                hint,
+            );
+        }),
+    );
 }
 
 function changeSetting(row, control, hint) {
     const allowed = row.allows(control.value);
     control.setAttribute("aria-invalid", String(!allowed));
     show(hint, unseen(control.value) || row.hint);
-    if (allowed)
-        change({ settings: { ...bench.settings, [row.name]: read(row, control.value) } });
+    if (allowed) change({ settings: { ...bench.settings, [row.name]: read(row, control.value) } });
 }
 
 function showSettings() {
@@ -181,10 +219,8 @@ function showSettings() {
 }
 
 function fillControls() {
-    for (const [id, name] of Object.entries(texts))
-        byId(id).value = bench[name];
-    for (const [id, name] of Object.entries(ticks))
-        byId(id).checked = bench[name];
+    for (const [id, name] of Object.entries(texts)) byId(id).value = bench[name];
+    for (const [id, name] of Object.entries(ticks)) byId(id).checked = bench[name];
     check("type", bench.type);
     check("way", bench.modern ? "modern" : "classic");
     byId("region").value = bench.region;
@@ -196,8 +232,7 @@ const hasSteps = () => bench.spin || choicesOf(bench.choices).length > 0;
 
 function showSteps() {
     byId("spin-settings").disabled = !bench.spin;
-    for (const id of ["step-up", "step-down"])
-        setAvailable(byId(id), hasSteps());
+    for (const id of ["step-up", "step-down"]) setAvailable(byId(id), hasSteps());
 }
 
 function put(entry) {
@@ -212,8 +247,7 @@ function put(entry) {
 function give() {
     const text = byId("given").value;
     const reason = live.give(text);
-    if (reason === null)
-        bench.value = text;
+    if (reason === null) bench.value = text;
     show(byId("given-answer"), reason === null ? "Taken." : `Refused: ${reason}. Nothing has changed.`);
     showField();
 }
@@ -227,68 +261,76 @@ function empty() {
 
 function setUpControls() {
     for (const [id, name] of Object.entries(texts))
-        byId(id).addEventListener("input", event => {
+        byId(id).addEventListener("input", (event) => {
             change({ [name]: event.target.value });
             showSteps();
         });
     for (const [id, name] of Object.entries(ticks))
-        byId(id).addEventListener("change", event => {
+        byId(id).addEventListener("change", (event) => {
             change({ [name]: event.target.checked });
             showSteps();
         });
     byId("types").addEventListener("change", () => change({ type: checkedOf("type") }));
     byId("ways").addEventListener("change", () => change({ modern: checkedOf("way") === "modern" }));
     byId("languages").addEventListener("change", showCall);
-    byId("region").addEventListener("change", event => {
+    byId("region").addEventListener("change", (event) => {
         const region = regionOf(event.target.value);
         change({ region: region.id, settings: { ...region.settings } });
         showSettings();
     });
 }
 
-const available = button => button.getAttribute("aria-disabled") !== "true";
+const available = (button) => button.getAttribute("aria-disabled") !== "true";
 
 function setUpDeeds() {
     const deeds = {
-        "step-up": () => live.act(attached => attached.field.step(true)),
-        "step-down": () => live.act(attached => attached.field.step(false)),
-        "undo": () => live.act(attached => attached.field.undo()),
-        "redo": () => live.act(attached => attached.field.redo()),
-        "empty": empty,
-        "give": give,
+        "step-up": () => live.act((attached) => attached.field.step(true)),
+        "step-down": () => live.act((attached) => attached.field.step(false)),
+        undo: () => live.act((attached) => attached.field.undo()),
+        redo: () => live.act((attached) => attached.field.redo()),
+        empty: empty,
+        give: give,
         "clear-log": () => log.clear(byId("log")),
-        "copy-call": async () => tell(await copy(byId("call").textContent) ? "Copied." : "The browser does not let the page copy."),
-        "share": share,
-        "reset": () => {
+        "copy-call": async () =>
+            tell((await copy(byId("call").textContent)) ? "Copied." : "The browser does not let the page copy."),
+        share: share,
+        reset: () => {
             history.replaceState(null, "", "#");
             log.clear(byId("log"));
             takeAddress();
         },
     };
     for (const [id, deed] of Object.entries(deeds))
-        byId(id).addEventListener("click", event => available(event.currentTarget) && deed());
-    byId("given").addEventListener("keydown", event => event.key === "Enter" && give());
+        byId(id).addEventListener("click", (event) => available(event.currentTarget) && deed());
+    byId("given").addEventListener("keydown", (event) => event.key === "Enter" && give());
 }
 
 async function share() {
     history.replaceState(null, "", currentAddress());
-    tell(await copy(location.href) ? "The link is on the clipboard." : "Copy the address of the page: it holds all of this.");
+    tell(
+        (await copy(location.href))
+            ? "The link is on the clipboard."
+            : "Copy the address of the page: it holds all of this.",
+    );
 }
 
 // A click on a cell puts the caret there; with keys it is moved in the field itself.
 function setUpMap() {
-    byId("map").addEventListener("click", event => {
+    byId("map").addEventListener("click", (event) => {
         const cell = event.target.closest(".cell");
-        if (!cell)
-            return;
+        if (!cell) return;
         const index = Number(cell.dataset.index);
         byId("field").focus();
-        live.act(attached => attached.field.click(index));
+        live.act((attached) => attached.field.click(index));
         byId("field").setSelectionRange(live.field.selection.start, live.field.selection.end);
     });
 }
 
-fillSegments(byId("types"), "type", types.map(type => [type, typeLabels[type]]));
+fillSegments(
+    byId("types"),
+    "type",
+    types.map((type) => [type, typeLabels[type]]),
+);
 fillSegments(byId("languages"), "language", languages);
 byId("region").append(...regions.map(({ id, name }) => make("option", { value: id }, name)));
 check("language", "c");

@@ -13,7 +13,7 @@ const nordic = "JAN FEB MAR APR MAJ JUN JUL AUG SEP OKT NOV DEC".split(" ");
 const noBreak = "\u00a0";
 const narrowNoBreak = "\u202f";
 
-// clang-format off
+// prettier-ignore
 const rows = [
     // id  name             point  group          symbol  where digits am      pm      date          time months
     ["us", "United States",  ".", ",",           "$",     0, 2, "AM",   "PM",   "M/d/yyyy",    ":", english],
@@ -33,36 +33,74 @@ const rows = [
     ["jp", "Japan",          ".", ",",           "¥",     0, 0, "午前", "午後", "yyyy/MM/dd",  ":", english],
     ["za", "South Africa",   ",", noBreak,       "R",     0, 2, "AM",   "PM",   "yyyy/MM/dd",  ":", english],
 ];
-// clang-format on
+const settingsOf = ([
+    ,
+    ,
+    decimal,
+    thousands,
+    currency,
+    currencyPosition,
+    currencyDigits,
+    am,
+    pm,
+    date,
+    time,
+    months,
+]) => ({ decimal, thousands, currency, currencyPosition, currencyDigits, am, pm, date, time, months });
 
-const settingsOf = ([, , decimal, thousands, currency, currencyPosition, currencyDigits, am, pm, date, time, months]) =>
-    ({ decimal, thousands, currency, currencyPosition, currencyDigits, am, pm, date, time, months });
-
-export const regions = rows.map(row => ({ id: row[0], name: row[1], settings: settingsOf(row) }));
+export const regions = rows.map((row) => ({ id: row[0], name: row[1], settings: settingsOf(row) }));
 
 export const home = regions[0];
 
-export const regionOf = id => regions.find(region => region.id === id) ?? home;
+export const regionOf = (id) => regions.find((region) => region.id === id) ?? home;
 
 // Exactly one character, however many units it takes.
-const isOne = text => [...text].length === 1;
-const isUpTo = most => text => [...text].length <= most;
-const isTwelveNames = text => text.split("/").length === 12 && text.split("/").every(name => name.length > 0);
+const isOne = (text) => [...text].length === 1;
+const isUpTo = (most) => (text) => [...text].length <= most;
+const isTwelveNames = (text) => text.split("/").length === 12 && text.split("/").every((name) => name.length > 0);
 
 // Every setting as it is written in a form or an address: what it is called, what may stand there, and how it is read.
 export const settingRows = [
     { name: "decimal", label: "Decimal character", hint: "one character", allows: isOne },
     { name: "thousands", label: "Thousands separator", hint: "one character", allows: isOne },
     { name: "currency", label: "Currency symbol", hint: "any text", allows: isUpTo(255) },
-    { name: "currencyPosition", label: "Symbol stands", hint: "", allows: text => /^[0-3]$/.test(text), read: Number,
-        choices: [["0", "before: $1"], ["1", "behind: 1$"], ["2", "before, apart: $ 1"], ["3", "behind, apart: 1 $"]] },
-    { name: "currencyDigits", label: "Digits of money", hint: "0 to 16", allows: text => /^([0-9]|1[0-6])$/.test(text), read: Number },
+    {
+        name: "currencyPosition",
+        label: "Symbol stands",
+        hint: "",
+        allows: (text) => /^[0-3]$/.test(text),
+        read: Number,
+        choices: [
+            ["0", "before: $1"],
+            ["1", "behind: 1$"],
+            ["2", "before, apart: $ 1"],
+            ["3", "behind, apart: 1 $"],
+        ],
+    },
+    {
+        name: "currencyDigits",
+        label: "Digits of money",
+        hint: "0 to 16",
+        allows: (text) => /^([0-9]|1[0-6])$/.test(text),
+        read: Number,
+    },
     { name: "am", label: "Before noon", hint: "up to 4 characters", allows: isUpTo(4) },
     { name: "pm", label: "After noon", hint: "up to 4 characters", allows: isUpTo(4) },
-    { name: "date", label: "Picture of [date]", hint: "such as dd.MM.yyyy", allows: text => text !== "" && isUpTo(99)(text) },
-    { name: "time", label: "Separator of [time]", hint: "usually :", allows: text => text !== "" && isUpTo(9)(text) },
-    { name: "months", label: "Names of months", hint: "twelve, parted by /", allows: isTwelveNames, read: text => text.split("/"),
-        write: names => names.join("/") },
+    {
+        name: "date",
+        label: "Picture of [date]",
+        hint: "such as dd.MM.yyyy",
+        allows: (text) => text !== "" && isUpTo(99)(text),
+    },
+    { name: "time", label: "Separator of [time]", hint: "usually :", allows: (text) => text !== "" && isUpTo(9)(text) },
+    {
+        name: "months",
+        label: "Names of months",
+        hint: "twelve, parted by /",
+        allows: isTwelveNames,
+        read: (text) => text.split("/"),
+        write: (names) => names.join("/"),
+    },
 ];
 
 export const written = (row, settings) => (row.write ?? String)(settings[row.name]);
@@ -70,9 +108,15 @@ export const written = (row, settings) => (row.write ?? String)(settings[row.nam
 export const read = (row, text) => (row.read ?? String)(text);
 
 // Those in which two differ.
-export const differences = (settings, others) => settingRows.filter(row => written(row, settings) !== written(row, others));
+export const differences = (settings, others) =>
+    settingRows.filter((row) => written(row, settings) !== written(row, others));
 
-const blanks = { " ": "a blank", [noBreak]: "a no-break blank", [narrowNoBreak]: "a narrow no-break blank", "\t": "a tab" };
+const blanks = {
+    " ": "a blank",
+    [noBreak]: "a no-break blank",
+    [narrowNoBreak]: "a narrow no-break blank",
+    "\t": "a tab",
+};
 
 // What cannot be seen in a field is told beside it.
-export const unseen = text => blanks[text] ?? "";
+export const unseen = (text) => blanks[text] ?? "";

@@ -10,7 +10,7 @@ const remembered = () => {
     }
 };
 
-const remember = theme => {
+const remember = (theme) => {
     try {
         localStorage.setItem(key, theme);
     } catch {
@@ -18,8 +18,8 @@ const remember = theme => {
     }
 };
 
-export const setUpTheme = select => {
-    const use = theme => {
+export const setUpTheme = (select) => {
+    const use = (theme) => {
         document.documentElement.dataset.theme = theme;
         select.value = theme;
     };
