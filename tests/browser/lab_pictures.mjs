@@ -25,7 +25,16 @@ const cabinet = async (tab) => {
     await tab.keyboard.type("de");
 };
 
-const scenes = { typed: refused, refused: wrong, gallery: cabinet };
+const amount = async (tab) => {
+    await tab.goto(address + "#mask=[currency(9)]&type=decimal&region=de&keys=-1234,5");
+    await tab.focus("#field");
+    await tab.keyboard.press("End");
+    await tab.keyboard.press("Backspace");
+    await tab.keyboard.type("x");
+    await tab.check("#language-test", { force: true });
+};
+
+const scenes = { typed: refused, amount, refused: wrong, gallery: cabinet };
 
 const browser = await launch();
 mkdirSync(folder, { recursive: true });
