@@ -280,12 +280,14 @@ function setUpControls() {
     });
 }
 
-const available = (button) => button.getAttribute("aria-disabled") !== "true";
+function step(up) {
+    if (hasSteps()) live.act((attached) => attached.field.step(up));
+}
 
 function setUpDeeds() {
     const deeds = {
-        "step-up": () => live.act((attached) => attached.field.step(true)),
-        "step-down": () => live.act((attached) => attached.field.step(false)),
+        "step-up": () => step(true),
+        "step-down": () => step(false),
         undo: () => live.act((attached) => attached.field.undo()),
         redo: () => live.act((attached) => attached.field.redo()),
         empty: empty,
@@ -301,7 +303,7 @@ function setUpDeeds() {
         },
     };
     for (const [id, deed] of Object.entries(deeds))
-        byId(id).addEventListener("click", (event) => available(event.currentTarget) && deed());
+        byId(id).addEventListener("click", deed);
     byId("given").addEventListener("keydown", (event) => event.key === "Enter" && give());
 }
 

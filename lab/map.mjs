@@ -53,6 +53,10 @@ const told = (position, number, kind, character) => {
     return `Position ${number}: ${what}, ${isBlank(character) ? "blank" : character}`;
 };
 
+// What the mask has there. A number's digits come and go, and have no letter of their own.
+const letterOf = ({ kind, character, escaped }) =>
+    escaped ? "~" + character : kind === "literal" || kind === "number digit" ? "·" : character;
+
 const cellOf = (position, number, text, positions) => {
     const kind = kindOf(position, positions);
     const character = shownAt(text, position);
@@ -61,11 +65,7 @@ const cellOf = (position, number, text, positions) => {
         { class: "cell", "data-index": String(position.index) },
         make("span", { class: "number", "aria-hidden": "true" }, String(number)),
         make("span", { class: "character mono", "aria-hidden": "true" }, isBlank(character) ? "␣" : character),
-        make(
-            "span",
-            { class: "letter mono", "aria-hidden": "true" },
-            position.kind === "literal" ? (position.escaped ? "~" + position.character : "·") : position.character,
-        ),
+        make("span", { class: "letter mono", "aria-hidden": "true" }, letterOf(position)),
         make("span", { class: "heard" }, told(position, number, kind, character)),
     );
     cell.classList.toggle("blank", isBlank(character));

@@ -1,6 +1,7 @@
 // The laboratory as its users have it: opened from its file, with real keys, in a real browser.
-// Run by tools/test_lab.sh; PAGE tells another file.
+// The page is built anew of the module in build/web, unless PAGE tells another file.
 import assert from "node:assert/strict";
+import { execFileSync } from "node:child_process";
 import { after, before, test } from "node:test";
 import { pathToFileURL } from "node:url";
 
@@ -20,6 +21,7 @@ let faults = [];
 let requests = [];
 
 before(async () => {
+    if (!process.env.PAGE) execFileSync(root + "tools/build_lab.sh", [root + "build/web/ztfield.mjs"]);
     browser = await launch();
     context = await browser.newContext({ viewport: { width: 1440, height: 900 }, reducedMotion: "reduce" });
     await context.grantPermissions(["clipboard-read", "clipboard-write"]);
