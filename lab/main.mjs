@@ -302,8 +302,7 @@ function setUpDeeds() {
             takeAddress();
         },
     };
-    for (const [id, deed] of Object.entries(deeds))
-        byId(id).addEventListener("click", deed);
+    for (const [id, deed] of Object.entries(deeds)) byId(id).addEventListener("click", deed);
     byId("given").addEventListener("keydown", (event) => event.key === "Enter" && give());
 }
 

@@ -15,7 +15,7 @@ const folder = mkdtempSync(tmpdir() + "/lab-calls-");
 const benches = [
     "",
     "#mask=MM/DD/YYYY&type=date&autoskip=1&lock=1&by=7&from=2026-01-01&to=2026-12-31&value=2026-07-04&region=de",
-    "#mask=&type=string&spin=0&choices=a/b+=+1;say+\"hi\"+=;it's+=+2;back\\slash",
+    '#mask=&type=string&spin=0&choices=a/b+=+1;say+"hi"+=;it\'s+=+2;back\\slash',
     "#mask=~A\\**'\"&type=string&modern=0&spin=0",
     "#mask=[date]+[time]&type=datetime&by=0&region=fr&currency=*",
     "#mask=*0&type=decimal&to=9",
@@ -31,7 +31,8 @@ const inFunction = (name, parameters, source, last) => `void ${name}(${parameter
 const readers = {
     c: {
         file: "calls.c",
-        frame: (source, i) => inFunction(`Make${i}`, "SharedHeap heap, HWND form, HINSTANCE instance", source, "(void)field;\n"),
+        frame: (source, i) =>
+            inFunction(`Make${i}`, "SharedHeap heap, HWND form, HINSTANCE instance", source, "(void)field;\n"),
         head: '#include "ztedit.h"\n',
         command: (file) => ["x86_64-w64-mingw32-gcc", ...headers, file],
     },

@@ -8,6 +8,7 @@ import { pathToFileURL } from "node:url";
 import { addressOf, benchOf, freshBench } from "../../lab/bench.mjs";
 import { drawers } from "../../lab/gallery.mjs";
 import { regions } from "../../lab/regions.mjs";
+import { testRowOf } from "../../lab/testrow.mjs";
 import { launch, root } from "./lab_browser.mjs";
 
 const page = pathToFileURL(process.env.PAGE ?? root + "build/lab/mask-laboratory.html").href;
@@ -735,6 +736,20 @@ on("makes a row of the tests of what is typed, classic", "#mask=MM/DD/YYYY&type=
     await press("Home");
     await tab.keyboard.type("7x");
     await eventually(call, '{"Bench", "MM/DD/YYYY", DT_DATE, "text:|00/00/0000", "{Home}7x", "07/|00/0000", 1},');
+});
+
+test("a row says what keeps it from being played", () => {
+    const recording = (keys, isFresh) => ({ keys, reasons: [], beeps: 0, start: { isFresh, marked: "|07/04/2026" } });
+    const doubts = (keys, isFresh = true) =>
+        testRowOf(freshBench(), recording(keys, isFresh), "|")
+            .split("\n")
+            .filter((line) => line.startsWith("//"));
+    assert.deepEqual(doubts("7{Home}{Shift+Left}{Ctrl+Z}"), []);
+    assert.deepEqual(doubts("{Shift+End}{Ctrl+Home}{Shift+End}"), [
+        "// these rows have no name for {Shift+End}",
+        "// these rows have no name for {Ctrl+Home}",
+    ]);
+    assert.deepEqual(doubts("{Ctrl+Z}", false), ["// undoing may reach back before this row"]);
 });
 
 on("begins the row anew behind what is no key", "", async () => {
