@@ -6,6 +6,7 @@
 #        ./bench.sh --native      the engine on this machine: times by Google Benchmark, and instructions per key as callgrind counts them,
 #                                 which are the same in every run, so that a change can be compared exactly
 #        ./bench.sh --peers       the engine on this machine beside a formatter and two mask libraries of the web (bench/peers)
+#        ./bench.sh --web         the module beside the same two in a browser: what each does in sixty situations, keys a second, bytes
 set -euo pipefail
 root=$(cd "$(dirname "$0")" && pwd)
 cd "$root"
@@ -108,6 +109,7 @@ measure_windows()
 case ${1:-both} in
 --native) measure_engine ;;
 --peers) bench/peers/run.sh ;;
+--web) bench/web/run.sh ;;
 x86 | x64 | both)
     tools/install_deps.sh
     presets=${1:-both}
@@ -118,7 +120,7 @@ x86 | x64 | both)
     done
     ;;
 *)
-    echo "usage: ./bench.sh [x86 | x64 | --native | --peers]" >&2
+    echo "usage: ./bench.sh [x86 | x64 | --native | --peers | --web]" >&2
     exit 2
     ;;
 esac

@@ -1,6 +1,6 @@
 #!/bin/bash
 # Installs what is missing, builds, and runs all tests: the engine's on this machine with sanitizers, for 64 and 32 bits, then
-# those of the libraries on x86 and x64 under Wine, both at once.
+# those of the libraries on x86 and x64 under Wine, both at once, and those of the module for the web in Chromium.
 # Usage: ./test.sh [--native | --clang]
 #     --native   the engine's tests only: seconds
 #     --clang    builds and tests with the second compiler too
@@ -46,6 +46,9 @@ run_windows_tests()
 }
 
 timed tools/install_deps.sh "$@" || exit
+if [ ${#windows[@]} -gt 0 ]; then
+    timed tools/install_deps.sh --web || exit
+fi
 failed=()
 for preset in "${native[@]}"; do
     timed tools/build.sh "$preset" || fail "the $preset build"
@@ -68,6 +71,11 @@ for preset in "${windows[@]}"; do
     echo "=== Tests on $preset ==="
     cat "build/tests-$preset.log"
 done
+if [ ${#windows[@]} -gt 0 ]; then
+    echo
+    echo "=== Tests in a browser ==="
+    timed tools/test_browser.sh || failed+=(browser)
+fi
 [ ${#failed[@]} -eq 0 ] || fail "tests on ${failed[*]}"
 echo
-echo "All tests passed on ${native[*]} ${windows[*]} ($SECONDS s)"
+echo "All tests passed on ${native[*]} ${windows[*]}${windows:+ and in a browser} ($SECONDS s)"

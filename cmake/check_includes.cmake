@@ -15,6 +15,7 @@ set(rank_engine/editing 7)  # the two ways of editing as tables
 set(rank_engine/memory 8)   # the field and control in memory, and the engine's own services
 set(rank_companions 9)
 set(rank_win32 10)
+set(rank_ztfield 10)
 
 # floor_of(<path> <out>): the floor of a file; empty for headers of the system and of include/.
 function(floor_of path out)
@@ -26,7 +27,7 @@ function(floor_of path out)
         set(floor engine/editing)
     elseif(path MATCHES "^engine/")
         set(floor engine/host)
-    elseif(path MATCHES "^(companions|win32)/")
+    elseif(path MATCHES "^(companions|win32|ztfield)/")
         set(floor ${CMAKE_MATCH_1})
     else()
         set(floor "")
@@ -48,6 +49,8 @@ function(check_include file floor included)
         set(problem "the companions are made of texts and values")
     elseif(floor STREQUAL "win32" AND below STREQUAL "companions" AND NOT included MATCHES "^companions/profile/")
         set(problem "the library calls the companions by their public headers")
+    elseif(floor STREQUAL "ztfield" AND below MATCHES "^(win32|companions)$")
+        set(problem "fields without a window are made of the engine alone")
     elseif(floor STREQUAL "win32" AND below STREQUAL "engine/memory")
         set(problem "the library has a field of its own")
     endif()
@@ -58,7 +61,8 @@ function(check_include file floor included)
 endfunction()
 
 file(GLOB_RECURSE files RELATIVE ${SOURCE_DIR} ${SOURCE_DIR}/engine/*.h ${SOURCE_DIR}/engine/*.cpp
-    ${SOURCE_DIR}/companions/*.h ${SOURCE_DIR}/companions/*.cpp ${SOURCE_DIR}/win32/*.h ${SOURCE_DIR}/win32/*.cpp)
+    ${SOURCE_DIR}/companions/*.h ${SOURCE_DIR}/companions/*.cpp ${SOURCE_DIR}/win32/*.h ${SOURCE_DIR}/win32/*.cpp
+    ${SOURCE_DIR}/ztfield/*.h ${SOURCE_DIR}/ztfield/*.cpp)
 list(LENGTH files count)
 if(count LESS 100)
     message(FATAL_ERROR "only ${count} files were found: the check looks at the wrong place")

@@ -5,7 +5,7 @@
 #   zt_editing   the floors above them; the program that links it provides the services
 #   zt_memory    the field in memory, which the tests hold to the system's own
 # Elsewhere:
-#   zt_engine    all of it, with its own services
+#   zt_engine    all of it, with its own services; over whole code points it is part of libztfield (cmake/field.cmake)
 
 function(zt_add_floor name)
     set(sources)
@@ -34,14 +34,6 @@ else()
     # The engine throws nothing and asks no object for its type; a build without either says so. (In the library a field may
     # unwind through it.)
     target_compile_options(zt_engine PRIVATE -fno-exceptions -fno-rtti)
-    # The same sources over whole code points: no character is taken for a byte. Once is enough.
-    if(CMAKE_SIZEOF_VOID_P EQUAL 8)
-        add_library(zt_engine_wide OBJECT ${zt_engine_sources})
-        target_link_libraries(zt_engine_wide PRIVATE zt_build_flags)
-        target_compile_definitions(zt_engine_wide PRIVATE ZT_WIDE_CHARACTERS)
-        target_compile_options(zt_engine_wide PRIVATE -O0)
-        set_target_properties(zt_engine_wide PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
-    endif()
     # Only the engine is watched; the tests around it build in half the time without.
     if(ZT_SANITIZE)
         target_precompile_headers(zt_engine PRIVATE ${zt_engine_headers})

@@ -50,6 +50,14 @@ target_include_directories(test_units PRIVATE ${CMAKE_SOURCE_DIR}/tests/companio
 target_precompile_headers(test_units PRIVATE ${zt_common_headers})
 zt_compile_together(test_units)
 
+# Fields without a window, by their public functions.
+file(GLOB zt_ztfield_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/ztfield/*.cpp)
+add_executable(test_ztfield ${zt_ztfield_sources} ${CMAKE_SOURCE_DIR}/tests/support/marked_text.cpp)
+target_link_libraries(test_ztfield PRIVATE zt_rows ztfield gtest_main)
+target_include_directories(test_ztfield PRIVATE ${CMAKE_SOURCE_DIR})
+add_test(NAME ztfield COMMAND test_ztfield --gtest_brief=1)
+set_tests_properties(ztfield PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
+
 # What the fuzzers play, on the inputs that they have found so far.
 file(GLOB zt_fuzz_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/fuzz/*.cpp)
 list(FILTER zt_fuzz_sources EXCLUDE REGEX "/fuzzer\\.cpp$")
@@ -60,13 +68,28 @@ set_tests_properties(fuzz PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT})
 
 # Once is enough for these: on 64 bits. What 32 bits do otherwise shows in the suites above, and on windows of x86.
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
-    # The tests that are played on live windows as well, here on fields in memory.
-    file(GLOB zt_engine_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/engine/*.cpp ${CMAKE_SOURCE_DIR}/tests/support/*.cpp
-        ${CMAKE_SOURCE_DIR}/tests/support/native/*.cpp)
-    list(FILTER zt_engine_sources EXCLUDE REGEX "/rows\\.cpp$")
-    zt_add_native_tests(engine ${zt_engine_sources})
-    target_precompile_headers(test_engine PRIVATE ${zt_common_headers})
-    zt_compile_together(test_engine)
+    # The tests that are played on live windows as well, here on fields in memory, by the engine itself and by libztfield. They are the
+    # same objects: what makes a control under test is chosen when a program is linked.
+    file(GLOB zt_engine_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/engine/*.cpp ${CMAKE_SOURCE_DIR}/tests/support/*.cpp)
+    list(FILTER zt_engine_sources EXCLUDE REGEX "/(rows|record_view)\\.cpp$")
+    add_library(zt_engine_tests OBJECT ${zt_engine_sources} ${CMAKE_SOURCE_DIR}/tests/support/native/main.cpp
+        ${CMAKE_SOURCE_DIR}/tests/support/native/profile_store.cpp)
+    target_link_libraries(zt_engine_tests PUBLIC zt_native_test_flags)
+    target_precompile_headers(zt_engine_tests PRIVATE ${zt_common_headers})
+    zt_compile_together(zt_engine_tests)
+    set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/support/keyboard.cpp  # has names of keys that others have as well
+        PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+    zt_add_native_tests(engine ${CMAKE_SOURCE_DIR}/tests/support/native/masked_edit.cpp
+        ${CMAKE_SOURCE_DIR}/tests/support/native/clipboard.cpp ${CMAKE_SOURCE_DIR}/tests/support/record_view.cpp)
+    target_link_libraries(test_engine PRIVATE zt_engine_tests)
+    add_executable(test_engine_ztfield ${CMAKE_SOURCE_DIR}/tests/support/fields/masked_edit.cpp)
+    target_link_libraries(test_engine_ztfield PRIVATE zt_native_test_flags zt_engine_tests ztfield)
+    file(STRINGS ${CMAKE_SOURCE_DIR}/tests/support/fields/not_told.txt zt_not_told REGEX "^[^#]")
+    list(JOIN zt_not_told ":" zt_not_told)
+    add_test(NAME engine_ztfield COMMAND test_engine_ztfield --gtest_brief=1 --gtest_filter=-${zt_not_told})
+    # So that a pattern too wide does not pass for a test.
+    set_tests_properties(engine_ztfield PROPERTIES TIMEOUT ${ZT_TEST_TIMEOUT} PASS_REGULAR_EXPRESSION "PASSED  . [4-9][0-9][0-9][0-9] tests"
+        FAIL_REGULAR_EXPRESSION "FAILED")
 
     # Laws over many random inputs; a sample of the law of typing stands among the tests of the engine, too.
     file(GLOB zt_property_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/properties/*.cpp)
@@ -95,12 +118,17 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     target_link_options(test_soak PRIVATE -Wl,--wrap=malloc,--wrap=realloc,--wrap=free)
 endif()
 
-# The page of the manual that the keystroke tables of the tests give.
+# The page of the manual that the keystroke tables of the tests give, and the tables for those who play them in a browser.
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
-    set(zt_page_sources classic_rows.cpp modern_number_rows.cpp modern_rows.cpp programs/write_keystrokes.cpp)
-    list(TRANSFORM zt_page_sources PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
-    add_executable(write_keystrokes ${zt_page_sources})
-    target_link_libraries(write_keystrokes PRIVATE zt_native_test_flags)
+    set(zt_row_sources classic_rows.cpp modern_number_rows.cpp modern_rows.cpp)
+    list(TRANSFORM zt_row_sources PREPEND ${CMAKE_SOURCE_DIR}/tests/support/)
+    add_library(zt_keystroke_rows OBJECT ${zt_row_sources})
+    target_link_libraries(zt_keystroke_rows PUBLIC zt_build_flags)
+    target_include_directories(zt_keystroke_rows SYSTEM PUBLIC ${ZT_GOOGLETEST_DIR}/googletest/include)  # they are tests' rows
+    foreach(program write_keystrokes write_rows)
+        add_executable(${program} ${CMAKE_SOURCE_DIR}/tests/support/programs/${program}.cpp)
+        target_link_libraries(${program} PRIVATE zt_keystroke_rows)
+    endforeach()
     add_test(NAME keystrokes_page COMMAND write_keystrokes --check ${CMAKE_SOURCE_DIR}/docs/manual/keystrokes.md)
 endif()
 

@@ -10,7 +10,8 @@ namespace zte {
 
 namespace {
 
-constexpr KeyData kFromKeyboard = 1;  // a key was pressed
+constexpr KeyData kFromKeyboard = 1;       // a key was pressed
+constexpr KeyData kRepeated = 0x40000000;  // and was down before
 
 }  // namespace
 
@@ -42,11 +43,12 @@ MemoryControl::~MemoryControl()
     DestroyHeap(record_.heap);  // with all that the record points to
 }
 
-void MemoryControl::KeyDown(int32_t key)
+void MemoryControl::KeyDown(int32_t key, bool repeated)
 {
     const auto pressed = static_cast<uint32_t>(key);
+    const KeyData keyData = repeated ? kFromKeyboard | kRepeated : kFromKeyboard;
     const bool plain = IsPlainEdit(record_);
-    const Reply reply = plain ? OnPlainKeyDown(record_, pressed) : Reading().keyDown(record_, pressed, kFromKeyboard);
+    const Reply reply = plain ? OnPlainKeyDown(record_, pressed) : Reading().keyDown(record_, pressed, keyData);
     if (reply.kept)
         return;
     field_.Press(static_cast<Key>(key));

@@ -33,7 +33,7 @@ public:
     const MemoryField& Edit() const { return field_; }
 
     // What a keyboard sends: a key going down, the character that it makes, the key coming up.
-    void KeyDown(int32_t key);
+    void KeyDown(int32_t key, bool repeated = false);
     void Type(uint32_t character);
     void KeyUp(int32_t key);
 

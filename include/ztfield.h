@@ -15,8 +15,8 @@
  *   memory      Nothing is thrown. A library that gets no memory ends the program, but for the three functions that make something:
  *               these return null.
  *
- * Masks, data types, canonical texts, states, reasons and spins are those of the masked edit control (ztvalues.h, and the manual). A
- * mask is written in the regional settings of the field, as there.
+ * Masks, data types, canonical texts, states, reasons and spins are those of the masked edit control (ztvalues.h, and the manual). In
+ * a modern field '.' and ',' in a number's mask stand for the point and the separators of the settings: "#,##0.00" serves every country.
  *
  *     ZTFieldSetup setup = {0};
  *     setup.mask = "MM/DD/YYYY";
@@ -134,7 +134,7 @@ ZTF_API void ZTF_Destroy(ZTField* field);
 /* Takes other settings over; null for the defaults. The mask is read anew under them and the value is laid under it. */
 ZTF_API void ZTF_UseSettings(ZTField* field, const ZTFieldSettings* settings);
 
-/* Installs a mask and shows the empty value under it. 1, or 0 when the type's default stands in. */
+/* Installs a mask and shows the empty value under it. 1, or 0 when the type's default stands in: of strings no mask at all. */
 ZTF_API int32_t ZTF_SetMask(ZTField* field, const char* mask, int32_t dataType);
 /* The mask in force: of a keyword what it stands for. */
 ZTF_API int32_t ZTF_GetMask(const ZTField* field, char* buffer, int32_t size);
@@ -162,6 +162,9 @@ ZTF_API int32_t ZTF_TrySetDataString(ZTField* field, const char* text);
 ZTF_API int32_t ZTF_GetDataString(const ZTField* field, char* buffer, int32_t size);
 /* The value as the control's ZTE_FmtGetData gives it, a date or time as canonical text: "" where it has none of both. -1 for null. */
 ZTF_API int32_t ZTF_ReadData(const ZTField* field, char* buffer, int32_t size);
+/* Reads a text as if the field showed it, as the control's ZTE_FmtUnformatData does: strings without literals; dates and times as
+ * canonical text only. -1 for null and an empty text. */
+ZTF_API int32_t ZTF_ReadText(const ZTField* field, const char* text, char* buffer, int32_t size);
 /* ZTS_ value; -1 for null. */
 ZTF_API int32_t ZTF_GetState(const ZTField* field);
 
@@ -186,7 +189,8 @@ ZTF_API int32_t ZTF_GetState(const ZTField* field);
 /* A key pressed and released with the character that it makes: of Backspace, of Ctrl with a letter ('A' to 'Z') and of the keypad's
  * point. Other characters come by ZTF_Type. */
 ZTF_API void ZTF_Press(ZTField* field, int32_t key, int32_t held);
-/* The halves of a key, and a character by itself, for programs that get them apart. */
+/* The halves of a key, and a character by itself, for programs that get them apart. A key that goes down once more, and has not come up,
+ * is one that is held: its steps are undone together. */
 ZTF_API void ZTF_KeyDown(ZTField* field, int32_t key, int32_t held);
 ZTF_API void ZTF_KeyUp(ZTField* field, int32_t key, int32_t held);
 ZTF_API void ZTF_Character(ZTField* field, uint32_t codePoint);
@@ -265,9 +269,11 @@ ZTF_API int32_t ZTF_GetPosition(const ZTField* field, int32_t index, ZTFieldPosi
 
 /* ---- Without a field ----------------------------------------------------------------------------------------------- */
 
-/* Whether a mask fits a data type: ZTM_FITS, or what is wrong first. offset, where it is not null, is filled with where, counted in
- * code points of the mask; -1 for a mask that fits. settings null: the defaults. */
+/* Whether a mask fits a data type, as a classic field takes it: ZTM_FITS, or what is wrong first. offset, where it is not null, is
+ * filled with where, counted in code points of the mask; -1 for a mask that fits. settings null: the defaults. */
 ZTF_API int32_t ZTF_CheckMask(const ZTFieldSettings* settings, const char* mask, int32_t dataType, int32_t* offset);
+/* The same as a modern field takes it: a number's mask may be written with '.' and ',' under all settings. */
+ZTF_API int32_t ZTF_CheckModernMask(const ZTFieldSettings* settings, const char* mask, int32_t dataType, int32_t* offset);
 /* A value given as canonical text, as a field would show it. -1, and "", for a text that is no value of the type or does not fit. */
 ZTF_API int32_t ZTF_Format(const ZTFieldSettings* settings, const char* mask, int32_t dataType, const char* data, char* buffer,
                            int32_t size);

@@ -9,7 +9,7 @@ sources=("$@")
 if [ $# -eq 0 ]; then
     cd "$(dirname "$0")/.."
     tracked=$(git ls-files -- '*.cpp' '*.h' '*.c' '*.rc' '*.def' '*.sh' '*.cmake' '*.py' '*.hpp' '*.pas' '*.cs' '*.bas' '*.html' \
-        '*CMakeLists.txt')
+        '*.mjs' '*.ts' '*CMakeLists.txt')
     while read -r source; do
         [ ! -e "$source" ] || sources+=("$source")  # one just deleted is still tracked
     done <<<"$tracked"

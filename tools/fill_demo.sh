@@ -20,10 +20,10 @@ fail()
 }
 
 # field | what is done | shown | value read back | state
-# Done: plain text is typed from the field's start; "over:" types over the whole selected text; "keys:" presses named keys;
-# "paste:" pastes a text over everything; "up:" and "down:" press a spin arrow that many times with the mouse; "hold:" holds the upper
-# arrow for so many seconds; "wheel:" turns the wheel that many notches upwards. Shown and value are shell patterns: how often a held
-# arrow repeats depends on the machine.
+# Done: plain text is typed from the field's start; "quick:" the same without a pause; "over:" over the whole selected
+# text; "keys:" presses named keys; "paste:" pastes a text over everything; "up:" and "down:" press a spin arrow that many times with the
+# mouse; "hold:" holds the upper arrow for so many seconds; "wheel:" turns the wheel that many notches upwards. Shown and value are
+# shell patterns: how often a held arrow repeats depends on the machine.
 # shellcheck disable=SC2016  # the dollar sign is a currency symbol
 classic_steps='date|070495|07/04/95|1995-07-04
 date|7/4/95|07/04/95|1995-07-04
@@ -83,7 +83,7 @@ percent|over:12.5|12.50%|0.125|complete
 currency|over:$12345.67|$12,345.67|12345.67|complete
 currency|over:-5|$-5.00|-5.00|complete
 decimal|over:1234567.8901|1,234,567.8901|1234567.8901|complete
-pick|gr|Green|G|complete
+pick|quick:gr|Green|G|complete
 pick|keys:Down|Red|R|complete
 spinnumber|hold:1|[2-7][05]|[2-7][05]|complete
 spinnumber|over:40|40|40|complete
@@ -110,9 +110,22 @@ place_of() # field: LEFT TOP RIGHT BOTTOM
     tr -d '\r' <"$work/places" | awk -v name="$1" '$1 == name { print $2, $3, $4, $5 }'
 }
 
+# What the mouse has done so far. The form may be handed a click later than keys that are pressed after it, so keys wait for it.
+mouse_acts=0
+mouse_has_come()
+{
+    [ "$(tr -d '\r' <"$work/mouse")" = "$mouse_acts" ]
+}
+await_mouse() # acts
+{
+    mouse_acts=$((mouse_acts + $1))
+    wait_for 60 mouse_has_come || fail "the form has not got the mouse"
+}
+
 click() # X Y
 {
-    xdotool mousemove "$1" "$2" sleep 0.05 click 1 sleep 0.05
+    xdotool mousemove "$1" "$2" sleep 0.05 click 1
+    await_mouse 1
 }
 
 spin_arrow() # field row(1 up, 3 down): moves the pointer there
@@ -122,12 +135,52 @@ spin_arrow() # field row(1 up, 3 down): moves the pointer there
     xdotool mousemove $((right - 9)) $((top + (bottom - top) * $2 / 4)) sleep 0.05
 }
 
-press_arrow() # field row times
+# An arrow that is held for half a second steps on by itself.
+press_once()
+{
+    local begun=${EPOCHREALTIME/./}
+    xdotool mousedown 1 sleep 0.03 mouseup 1
+    [ $(((${EPOCHREALTIME/./} - begun) / 1000)) -lt 400 ]
+}
+
+press_often() # times
 {
     local i
+    for ((i = 0; i < $1; ++i)); do
+        press_once || return
+        await_mouse 1
+    done
+}
+
+# Presses as a person does. Where the machine stands still so long that a press becomes a held one, the field shows its first value
+# again and is stepped anew.
+press_arrow() # field row times
+{
+    local tries=6
     spin_arrow "$1" "$2"
-    for ((i = 0; i < $3; ++i)); do
-        xdotool mousedown 1 sleep 0.03 mouseup 1 sleep 0.05
+    until press_often "$3"; do
+        await_mouse 1
+        tries=$((tries - 1))
+        [ $tries -gt 0 ] || return
+        echo "(the machine stood still: $1 is stepped again)"
+        xdotool key F3
+        ask_for_table || fail "the form tells nothing of $1"
+    done
+}
+
+# Types what a pause of a second would part; anew where the machine stands still that long.
+type_quickly() # text
+{
+    local tries=6 begun
+    until
+        begun=${EPOCHREALTIME/./}
+        xdotool key --delay 20 Home type --delay 25 -- "$1"
+        [ $(((${EPOCHREALTIME/./} - begun) / 1000)) -lt 800 ]
+    do
+        tries=$((tries - 1))
+        [ $tries -gt 0 ] || return
+        echo "(the machine stood still: $1 is typed again)"
+        sleep 1.2
     done
 }
 
@@ -143,6 +196,7 @@ do_step() # field action
     click $((left + offsets[$1])) $(((top + bottom) / 2))
     case $2 in
     over:*) xdotool key --delay 20 Home shift+End type --delay 25 -- "${2#over:}" ;;
+    quick:*) type_quickly "${2#quick:}" ;;
     keys:*)
         # shellcheck disable=SC2086  # one word a key
         xdotool key --delay 40 ${2#keys:}
@@ -152,12 +206,16 @@ do_step() # field action
     hold:*)
         spin_arrow "$1" 1
         xdotool mousedown 1 sleep "${2#hold:}" mouseup 1
+        await_mouse 1
         ;;
     paste:*)
         printf %s "${2#paste:}" | xclip -selection clipboard
         xdotool key --delay 40 ctrl+a ctrl+v
         ;;
-    wheel:*) xdotool click --repeat "${2#wheel:}" --delay 50 4 ;;
+    wheel:*)
+        xdotool click --repeat "${2#wheel:}" --delay 50 4
+        await_mouse "${2#wheel:}"
+        ;;
     *) xdotool key --delay 20 Home type --delay 25 -- "$2" ;;
     esac
     sleep 0.1
@@ -169,7 +227,8 @@ if [ $way = classic ]; then
     options=(--classic)
     steps=$classic_steps
 fi
-options+=(--places "$(winepath -w "$work/places")" --table "$(winepath -w "$work/table")")
+options+=(--places "$(winepath -w "$work/places")" --table "$(winepath -w "$work/table")"
+    --mouse "$(winepath -w "$work/mouse")")
 wine "$demo" "${options[@]}" </dev/null >/dev/null 2>&1 &
 wait_for 60 test -s "$work/places" || fail "the form did not open"
 window=$(xdotool search --sync --onlyvisible --name '^Masked edit fields$' | head -n 1)

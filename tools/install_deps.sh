@@ -1,11 +1,12 @@
 #!/bin/bash
 # Installs what building, testing and the demo need on Debian 12; does nothing when all is there.
-# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --peers | --coverage | --bindings | --package | --manual]
+# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --peers | --coverage | --bindings | --package | --manual | --web]
 #     --clang      the second compiler and the code checkers as well
 #     --fuzz       the fuzzers of clang; --mutate  what tools/mutate needs
 #     --bench      what measuring the engine needs, --coverage what counting covered lines needs
 #     --bindings   what compiling and checking the bindings of other languages needs
 #     --manual     what building the manual as HTML needs
+#     --web        what building the module for the web and trying it in a browser needs
 #     --peers      what measuring the engine beside others of its kind needs
 set -euo pipefail
 
@@ -44,6 +45,12 @@ case ${1:-} in
     ;;
 --coverage) packages+=(gcovr:gcovr) ;;
 --manual) packages+=(pandoc:pandoc) ;;
+--web)
+    packages+=(clang-14:clang++-14 lld-14:wasm-ld-14 wasi-libc:/usr/lib/wasm32-wasi/libc.a)
+    packages+=(libc++-14-dev-wasm32:/usr/lib/wasm32-wasi/libc++.a libc++abi-14-dev-wasm32:/usr/lib/llvm-14/lib/wasm32-wasi/libc++abi.a)
+    packages+=(libclang-rt-14-dev-wasm32:/usr/lib/llvm-14/lib/clang/14.0.6/lib/wasi/libclang_rt.builtins-wasm32.a)
+    packages+=(chromium:chromium nodejs:node npm:npm)
+    ;;
 --package) packages+=(llvm:/usr/lib/llvm-14/bin/llvm-dlltool lld:lld-link clang:clang zip:zip unzip:unzip pkg-config:pkg-config) ;;
 --bindings)
     packages+=(clang:clang++ fp-compiler:fpc fpc-source:/usr/share/fpcsrc)

@@ -21,12 +21,13 @@ end_wine_session()
     fi
 }
 
-# Starts an X server of our own on a display number that it chooses itself.
+# Starts an X server of our own on a display number that it chooses itself. It repeats no keys that are held: where the machine stands
+# still for a moment, every key would be.
 start_display()
 {
     local number_file
     number_file=$(mktemp)
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 </dev/null &
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -r 3>"$number_file" >/dev/null 2>&1 </dev/null &
     zt_xvfb_pid=$!
     local tries=100
     while [ ! -s "$number_file" ] && [ $tries -gt 0 ] && kill -0 "$zt_xvfb_pid" 2>/dev/null; do

@@ -155,13 +155,19 @@ export declare class Field {
     readOnly: boolean;
     /** The mask in force: of a keyword what it stands for. */
     readonly mask: string;
-    readonly type: DataType;
+    readonly dataType: DataType;
     setMask(mask: string, type: DataType): boolean;
     setSettings(settings: Settings): void;
     setSpin(spin: boolean | Spin, choices?: readonly Choice[]): void;
 
-    /** Keys by their names in KeyboardEvent.key: "Backspace", "ArrowLeft", "a" with ctrl ... */
+    /** Puts a text there from outside, as it is. */
+    setText(text: string): void;
+
+    /** Keys by their names in KeyboardEvent.key: "Backspace", "ArrowLeft", "a" with ctrl ...; "NumpadDecimal" is the keypad's point. */
     press(key: string, held?: { shift?: boolean; ctrl?: boolean }): void;
+    /** The halves of a key that makes no character, where it is held: the steps of one such key are undone together. */
+    keyDown(key: string, held?: { shift?: boolean; ctrl?: boolean }): void;
+    keyUp(key: string, held?: { shift?: boolean; ctrl?: boolean }): void;
     type(text: string): void;
     paste(text: string): void;
     /** What was cut or copied, "" where nothing is selected. */

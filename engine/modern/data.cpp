@@ -86,6 +86,12 @@ int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType)
     return asGiven ? 1 : 0;
 }
 
+MaskVerdict JudgeMask(const Char* mask, int32_t dataType, const Settings& settings)
+{
+    const MaskVerdict regional = zte::JudgeMask(mask, dataType, settings);
+    return regional || !IsNumeric(dataType) ? regional : zte::JudgeMask(mask, dataType, WithPlainSeparators(settings));
+}
+
 int32_t SetData(EditInstance& edit, const void* data)
 {
     if (!edit.mask)

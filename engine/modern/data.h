@@ -2,11 +2,14 @@
 #pragma once
 
 #include "engine/format/display.h"
+#include "engine/mask/mask_verdict.h"
 #include "engine/record.h"
 
 namespace zte::modern {
 
 int32_t SetMask(EditInstance& edit, const Char* mask, int32_t dataType);
+// What SetMask would say of a mask, without a control.
+MaskVerdict JudgeMask(const Char* mask, int32_t dataType, const Settings& settings);
 int32_t SetData(EditInstance& edit, const void* data);
 int32_t SetDataString(EditInstance& edit, const Char* text);
 void* GetData(const EditInstance& edit);

@@ -12,19 +12,41 @@
 
 namespace zte {
 
+namespace {
+
+constexpr int32_t kLongestDouble = 32;
+
+// A double, not negative, as the shortest digits that stand for it alone, d.ddde+xxx; returns how many characters.
+#if defined(__wasm__)
+
+// The page can do it; tables for it would be a third of the module.
+extern "C" __attribute__((import_module("env"), import_name("write"))) int32_t WriteDouble(double value, char* buffer);
+
+#else
+
+int32_t WriteDouble(double value, char* buffer)
+{
+    const auto written = std::to_chars(buffer, buffer + kLongestDouble, value, std::chars_format::scientific);
+    return static_cast<int32_t>(written.ptr - buffer);
+}
+
+#endif
+
+}  // namespace
+
 DecimalDigits DecimalDigits::FromDouble(double value)
 {
     DecimalDigits number;
     if (!std::isfinite(value))
         return number;
-    char text[kMaxDigits] = "";  // d.ddde+xxx
-    const auto written = std::to_chars(text, text + kMaxDigits, std::fabs(value), std::chars_format::scientific);
-    const char* const exponent = std::find(text, written.ptr, 'e') + 1;
+    char text[kLongestDouble] = "";
+    const char* const end = text + WriteDouble(std::fabs(value), text);
+    const char* const exponent = std::find<const char*>(text, end, 'e') + 1;
     for (const char* at = text; at < exponent; ++at)
         if (*at >= '0' && *at <= '9')
             number.Append(*at);
     int32_t power = 0;
-    std::from_chars(exponent + (*exponent == '+'), written.ptr, power);
+    std::from_chars(exponent + (*exponent == '+'), end, power);
     number.pointPos_ = power + 1;
     number.negative_ = value < 0;
     number.Normalize();

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 
 #include "engine/text/ascii.h"
 
@@ -29,6 +30,16 @@ const Char* EndOfNumber(const Char* text)
     return end;
 }
 
+#if defined(__wasm__)
+
+// Its from_chars knows no double; and there is no host whose locale would speak into this.
+double ValueOf(const std::string& number)
+{
+    return std::strtod(number.c_str(), nullptr);
+}
+
+#else
+
 // A number out of a double's range: too large or too small, as the power of ten of its first digit tells.
 double OutOfRange(const std::string& number)
 {
@@ -38,6 +49,16 @@ double OutOfRange(const std::string& number)
     const int64_t exponent = end < number.size() ? IntegerOf(FromAscii(number.c_str() + end + 1)) : 0;
     return power + exponent > 0 ? HUGE_VAL : 0.0;
 }
+
+// Parsed without the runtime's locale, which belongs to the host.
+double ValueOf(const std::string& number)
+{
+    double value = 0.0;
+    const auto parsed = std::from_chars(number.data(), number.data() + number.size(), value);
+    return parsed.ec == std::errc::result_out_of_range ? OutOfRange(number) : value;
+}
+
+#endif
 
 const Char* SkipBlanks(const Char* text)
 {
@@ -64,7 +85,6 @@ const Char* SkipDigitsAndPoint(const Char* text, Char decimalChar)
 
 }  // namespace
 
-// Parsed without the runtime's locale, which belongs to the host.
 double NumberFromPlainText(const Char* text)
 {
     while (IsSpace(*text))
@@ -72,11 +92,7 @@ double NumberFromPlainText(const Char* text)
     const bool negative = *text == '-';
     if (IsSign(*text))
         ++text;
-    const std::string number(text, EndOfNumber(text));
-    double value = 0.0;
-    const auto parsed = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (parsed.ec == std::errc::result_out_of_range)
-        value = OutOfRange(number);
+    const double value = ValueOf(std::string(text, EndOfNumber(text)));
     return negative ? -value : value;
 }
 

@@ -73,7 +73,7 @@ protected:
     std::string Unformat(const char* text) const { return control_->Unformat(text); }
     FormattedValue Format(const void* data) const { return control_->Format(data); }
     RecordView Record() const { return control_->Record(); }
-    std::string MaskInForce() const { return Record().mask; }
+    std::string MaskInForce() const { return control_->Mask(); }
 };
 
 // A control with a spin, stepped by its keys.

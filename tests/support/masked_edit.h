@@ -93,6 +93,7 @@ public:
     void SetDataString(const std::string& text);
     FormattedValue Format(const void* data) const;
     int32_t DataType() const;
+    std::string Mask() const;  // the one in force
     void SetAutoskip(uint32_t on);
     void SetSpin(uint32_t increment, const char* range, const char* codes, uint32_t style);
     void CreateSpin();

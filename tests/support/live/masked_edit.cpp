@@ -296,6 +296,11 @@ void MaskedEdit::OnNotice(std::function<void()> listener)
     it_->listener = std::move(listener);
 }
 
+std::string MaskedEdit::Mask() const
+{
+    return Record().mask;
+}
+
 RecordView MaskedEdit::Record() const
 {
     return ViewOf(*RecordOf(it_->control.hwnd()));
