@@ -19,7 +19,10 @@ const tellers = {
     state: (event) => ({ sign: "●", words: `State: ${event.was} to ${event.is}` }),
 };
 
-export const add = (list, event) => {
+const listOf = (log) => log.querySelector("ol");
+
+export const add = (log, event) => {
+    const list = listOf(log);
     const { sign, words } = tellers[event.kind](event);
     list.append(
         make(
@@ -30,7 +33,7 @@ export const add = (list, event) => {
         ),
     );
     while (list.children.length > most) list.firstElementChild.remove();
-    list.scrollTop = list.scrollHeight;
+    log.scrollTop = log.scrollHeight;
 };
 
-export const clear = (list) => list.replaceChildren();
+export const clear = (log) => listOf(log).replaceChildren();

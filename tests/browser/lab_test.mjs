@@ -894,6 +894,18 @@ on("is told in roles and names", "#mask=MM/DD/YYY&type=date", async () => {
     assert.doesNotMatch(roles, /^\s*- (button|textbox|combobox|checkbox|radio|spinbutton|searchbox|link)(:| \[|$)/m);
 });
 
+// Who types hears what is typed: not each reading as well.
+on("speaks by itself only of the verdict, of notifications and of what it has done", "", async () => {
+    const speaking = await tab.evaluate(() =>
+        [...document.querySelectorAll("output, [aria-live], [role=status], [role=log], [role=alert]")].map(
+            (it) => it.id,
+        ),
+    );
+    assert.deepEqual(speaking, ["verdict", "given-answer", "log", "told", "found"]);
+    await keys("13");
+    await eventually(() => tab.locator("#log > ol > li").count(), 3);
+});
+
 on("describes the mask's field by its verdict, and the ids that it names are there", "", async () => {
     const missing = await tab.evaluate(() =>
         ["for", "aria-labelledby", "aria-describedby", "aria-controls"].flatMap((name) =>
