@@ -31,6 +31,7 @@ pack()
     rm -rf "build/package/$name" "build/package/$name.zip"
     cmake --install "build/$preset" --prefix "build/package/$name" >/dev/null || fail "installing into build/package/$name"
     cp -r build/manual "build/package/$name/docs/html"
+    cp build/lab/mask-laboratory.html "build/package/$name/docs"
     # What is not in the package is nothing to read about there.
     sed -i '/^## Two commands/,/^## A first control/{/^## A first control/!d}; /^`.\/package.sh`/,+1d; /CONTRIBUTING.md/d' \
         "build/package/$name/README.md"
@@ -50,6 +51,17 @@ pack_field()
     echo "build/package/$name.tar.gz"
 }
 
+# The module for the web with its types, and the laboratory made of it.
+pack_web()
+{
+    local name="ztfield-$version-web"
+    rm -rf "build/package/$name" "build/package/$name.zip"
+    mkdir -p "build/package/$name"
+    cp build/web/ztfield.mjs build/web/ztfield.d.ts build/lab/mask-laboratory.html docs/manual/javascript.md LICENSE "build/package/$name"
+    (cd build/package && zip -q -r -X "$name.zip" "$name") || fail "zip"
+    echo "build/package/$name.zip"
+}
+
 pack_fields()
 {
     pack_field field "ztfield-$version-linux64"
@@ -67,6 +79,9 @@ tools/install_deps.sh --package
 dlltool=$(command -v llvm-dlltool || ls /usr/bin/llvm-dlltool-* 2>/dev/null | tail -1)
 [ -n "$dlltool" ] || fail "no llvm-dlltool"
 ./manual.sh || fail "the manual"
+tools/install_deps.sh --web
+tools/build_lab.sh >/dev/null || fail "the laboratory"
 pack x86 i386 "ztedit-$version-win32"
 pack x64 i386:x86-64 "ztedit-$version-win64"
 pack_fields
+pack_web
