@@ -7,4 +7,4 @@ cd "$(dirname "$0")/.."
 tools/install_deps.sh --web
 tools/build_web.sh
 tools/browser_modules.sh playwright-core@1.65.1
-node --test --test-reporter=spec ${1:+--test-name-pattern="$1"} tests/browser/lab_test.mjs tests/browser/lab_calls_test.mjs
+node --test --test-reporter=dot ${1:+--test-name-pattern="$1"} tests/browser/lab_test.mjs tests/browser/lab_calls_test.mjs
