@@ -148,6 +148,8 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     find_program(ZT_PYTHON python3 REQUIRED)
     add_test(NAME bindings_declarations COMMAND ${ZT_PYTHON} -B ${CMAKE_SOURCE_DIR}/tests/bindings/check_declarations.py)
     add_test(NAME bindings_python COMMAND ${ZT_PYTHON} -B ${CMAKE_SOURCE_DIR}/tests/bindings/python_binding_test.py)
+    add_test(NAME bindings_ztfield_man_page COMMAND ${ZT_PYTHON} -B ${CMAKE_SOURCE_DIR}/tests/bindings/ztfield_man_page_test.py)
+    include(cmake/field_python_test.cmake)
 endif()
 
 add_test(NAME includes COMMAND ${CMAKE_COMMAND} -DSOURCE_DIR=${CMAKE_SOURCE_DIR}

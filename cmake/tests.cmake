@@ -91,3 +91,10 @@ endif()
 add_test(NAME demo COMMAND ${CMAKE_SOURCE_DIR}/tools/run_under_wine.sh
     ${CMAKE_SOURCE_DIR}/tests/demo/types_into_the_form.sh ${zt_demo_way} ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/demo.exe)
 set_tests_properties(demo PROPERTIES TIMEOUT 300)
+
+# The laboratory in the same way; on one architecture, since it is the same program.
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    add_test(NAME laboratory COMMAND ${CMAKE_SOURCE_DIR}/tools/run_under_wine.sh
+        ${CMAKE_SOURCE_DIR}/tests/demo/plays_the_laboratory.sh ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/demo.exe)
+    set_tests_properties(laboratory PROPERTIES TIMEOUT 300)
+endif()

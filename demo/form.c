@@ -1,7 +1,8 @@
 /* The demo form: one labelled masked edit for each kind of field, and a status line that shows the notifications as they
  * arrive: what was refused and why, and the state of the field. The focus moves on when a field says that it is full.
  *
- *   demo.exe [--classic] [--places FILE] [--table FILE] [--mouse FILE]
+ *   demo.exe [--lab] [--classic] [--places FILE] [--table FILE] [--mouse FILE]
+ *     --lab           the laboratory instead of the form, see lab.c
  *     --classic       the fields are edited in the classic way
  *     --places FILE   where the fields stand on the screen is written there when the form is shown, for scripts
  *     --table FILE    what each field shows, the value read back and the state are written there at F2
@@ -12,6 +13,9 @@
 #include <string.h>
 
 #include "fields.h"
+#include "lab.h"
+#include "mouse_count.h"
+#include "words.h"
 
 enum {
     FIRST_ID = 100,
@@ -38,20 +42,7 @@ static const char* tablePath;
 static const char* mousePath;
 static const char* placesPath;
 static BOOL classic;
-
-/* By their numbers. */
-static const char* const kStates[] = {"empty", "incomplete", "invalid", "out of range", "complete"};
-static const char* const kReasons[] = {"",
-                                       "it does not belong there",
-                                       "there is no such number",
-                                       "there is no room for more",
-                                       "the field is read-only",
-                                       "the text does not fit",
-                                       "the number is in doubt",
-                                       "there is no such date",
-                                       "there is no such entry",
-                                       "the range ends here",
-                                       "the character is not in the code page"};
+static BOOL lab;
 
 static int RowsPerColumn(void)
 {
@@ -122,28 +113,9 @@ static void CreateForm(HWND window)
     AddStatus();
 }
 
-/* The value of a field as text. Dates and times are printed in their canonical form. */
-static void ReadValue(int index, char* text, size_t size)
-{
-    void* data = ZTE_FmtGetData(FieldWindow(index));
-    const DateTimeValue* value = (const DateTimeValue*)data;
-    if (!data)
-        snprintf(text, size, "(none)");
-    else if (kFields[index].type == DT_DATE)
-        snprintf(text, size, "%04d-%02d-%02d", value->year + 1900, value->month + 1, value->day);
-    else if (kFields[index].type == DT_TIME)
-        snprintf(text, size, "%02d:%02d:%02d:%06u", value->hour, value->minute, value->second, value->microsecond);
-    else if (kFields[index].type == DT_DATETIME)
-        snprintf(text, size, "%04d-%02d-%02d %02d:%02d:%02d:%06u", value->year + 1900, value->month + 1, value->day,
-                 value->hour, value->minute, value->second, value->microsecond);
-    else
-        snprintf(text, size, "%s", (const char*)data);
-    SharedHeapFree(form.heap, data);
-}
-
 static const char* StateName(int index)
 {
-    return kStates[ZTE_GetState(FieldWindow(index))];
+    return StateWord(ZTE_GetState(FieldWindow(index)));
 }
 
 static void WriteTable(void)
@@ -155,7 +127,7 @@ static void WriteTable(void)
         return;
     for (i = 0; i < kFieldCount; ++i) {
         GetWindowTextA(FieldWindow(i), shown, sizeof shown);
-        ReadValue(i, value, sizeof value);
+        ReadValue(FieldWindow(i), form.heap, value, sizeof value);
         fprintf(file, "%s|%s|%s|%s|%s\n", kFields[i].name, kFields[i].label, shown, value, StateName(i));
     }
     fclose(file);
@@ -175,21 +147,6 @@ static void OnFunctionKey(WPARAM key)
         WriteTable();
     else if (key == VK_F3)
         ShowFirstValue(GetFocus());
-}
-
-/* A mouse may come later than keys that were pressed after it: who drives the form by both waits for this count. */
-static void CountMouse(UINT message)
-{
-    static int acts = 0;
-    FILE* file;
-    if (!mousePath || (message != WM_LBUTTONUP && message != WM_MOUSEWHEEL))
-        return;
-    ++acts;
-    file = fopen(mousePath, "w");
-    if (!file)
-        return;
-    fprintf(file, "%d\n", acts);
-    fclose(file);
 }
 
 /* name left top right bottom, in screen pixels */
@@ -246,7 +203,7 @@ static void OnNotification(WORD id, WORD code, HWND control)
 static void OnRefused(const ZTNotifyRejected* refused)
 {
     char what[100];
-    snprintf(what, sizeof what, "refused: %s", kReasons[refused->reason]);
+    snprintf(what, sizeof what, "refused: %s", ReasonWords(refused->reason));
     if (IsField((int)refused->hdr.idFrom - FIRST_ID))
         ShowStatus((int)refused->hdr.idFrom - FIRST_ID, what);
 }
@@ -285,6 +242,8 @@ static void ReadArguments(int count, char** arguments)
     for (i = 1; i < count; ++i) {
         if (strcmp(arguments[i], "--classic") == 0)
             classic = TRUE;
+        else if (strcmp(arguments[i], "--lab") == 0)
+            lab = TRUE;
         else if (strcmp(arguments[i], "--table") == 0 && i + 1 < count)
             tablePath = arguments[++i];
         else if (strcmp(arguments[i], "--mouse") == 0 && i + 1 < count)
@@ -322,7 +281,7 @@ static void Run(void)
             TranslateMessage(&message);
             DispatchMessageA(&message);
         }
-        CountMouse(message.message);
+        CountMouse(message.message, mousePath);
     }
 }
 
@@ -331,6 +290,8 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine, in
     (void)previous;
     (void)commandLine;
     ReadArguments(__argc, __argv);
+    if (lab)
+        return RunLab(show, placesPath, tablePath, mousePath);
     /* The form links the control library by calling it; loading it has registered the class. */
     ShowWindow(OpenForm(instance), show);
     UpdateWindow(form.window);

@@ -1,6 +1,8 @@
 // A masked edit in memory.
 #include "engine/memory_control.h"
 
+#include <algorithm>
+
 #include "engine/edit/plain_edit.h"
 #include "engine/editing.h"
 #include "engine/own_heap.h"
@@ -132,9 +134,10 @@ void MemoryControl::Wheel(int32_t notches)
 void MemoryControl::DoubleClick(int32_t position)
 {
     ForgetPassed(record_);
+    const int32_t within = std::clamp(position, 0, Length(field_.Shown()));
     const auto select = IsPlainEdit(record_) ? nullptr : Reading().doubleClick;
-    if (!select || !select(record_, position).kept)
-        field_.DoubleClick(position);
+    if (!select || !select(record_, within).kept)
+        field_.DoubleClick(within);
 }
 
 void MemoryControl::Select(int32_t anchor, int32_t caret)

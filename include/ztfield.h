@@ -12,8 +12,7 @@
  *   a field     belongs to the thread that uses it. Different fields, and different settings, may be used by different threads at the
  *               same time: nothing is shared between them.
  *   null        for a field or for settings does nothing and gives 0, -1 or "" as stated.
- *   memory      Nothing is thrown. A library that gets no memory ends the program, but for the three functions that make something:
- *               these return null.
+ *   memory      Nothing is thrown. A library that gets no memory ends the program.
  *
  * Masks, data types, canonical texts, states, reasons and spins are those of the masked edit control (ztvalues.h, and the manual). In
  * a modern field '.' and ',' in a number's mask stand for the point and the separators of the settings: "#,##0.00" serves every country.
@@ -126,7 +125,7 @@ typedef struct ZTFieldSetup {
     void* context;
 } ZTFieldSetup;
 
-/* Makes a field; setup null counts as all zero. Null where there is no memory. A mask that does not fit its type is told by
+/* Makes a field; setup null counts as all zero. A mask that does not fit its type is told by
  * ZTF_CheckMask: the type's default stands in. */
 ZTF_API ZTField* ZTF_Create(const ZTFieldSetup* setup);
 ZTF_API void ZTF_Destroy(ZTField* field);

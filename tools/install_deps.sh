@@ -1,10 +1,12 @@
 #!/bin/bash
 # Installs what building, testing and the demo need on Debian 12; does nothing when all is there.
-# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --peers | --coverage | --bindings | --package | --manual | --web]
+# Usage: tools/install_deps.sh [--clang | --fuzz | --mutate | --bench | --peers | --coverage | --bindings | --package | --field | --manual |
+#                               --web]
 #     --clang      the second compiler and the code checkers as well
 #     --fuzz       the fuzzers of clang; --mutate  what tools/mutate needs
 #     --bench      what measuring the engine needs, --coverage what counting covered lines needs
 #     --bindings   what compiling and checking the bindings of other languages needs
+#     --field      what trying the packages of libztfield needs
 #     --manual     what building the manual as HTML needs
 #     --web        what building the module for the web and trying it in a browser needs
 #     --peers      what measuring the engine beside others of its kind needs
@@ -17,6 +19,7 @@ packages=(
     g++-mingw-w64-i686-posix:/usr/bin/i686-w64-mingw32-g++-posix
     g++-mingw-w64-x86-64-posix:/usr/bin/x86_64-w64-mingw32-g++-posix
     python3:python3
+    groff-base:groff
     cmake:cmake
     ninja-build:ninja
     googletest:/usr/src/googletest/CMakeLists.txt
@@ -45,6 +48,7 @@ case ${1:-} in
     ;;
 --coverage) packages+=(gcovr:gcovr) ;;
 --manual) packages+=(pandoc:pandoc) ;;
+--field) packages+=(pkg-config:pkg-config) ;;
 --web)
     packages+=(clang-14:clang++-14 lld-14:wasm-ld-14 wasi-libc:/usr/lib/wasm32-wasi/libc.a)
     packages+=(libc++-14-dev-wasm32:/usr/lib/wasm32-wasi/libc++.a libc++abi-14-dev-wasm32:/usr/lib/llvm-14/lib/wasm32-wasi/libc++abi.a)

@@ -1,5 +1,5 @@
 #!/bin/bash
-# Makes the pictures of the manual: samples of the package, typed into with real keys, and the demo form. Needs ./package.sh to have run.
+# Makes the pictures of the manual: samples of the package, typed into with real keys, and the demo. Needs ./package.sh to have run.
 # Usage: tools/screenshots.sh     writes docs/manual/*.png and docs/demo.png
 set -uo pipefail
 cd "$(dirname "$0")/.." || exit
@@ -65,4 +65,5 @@ while IFS='|' read -r picture program title acts; do
     shoot "$picture" "$program" "$title" "$acts" </dev/null
 done <<<"$shots"
 tools/fill_demo.sh build/x64/bin/demo.exe docs/demo.png >/dev/null || fail "the demo form"
+tools/fill_lab.sh build/x64/bin/demo.exe docs/manual/laboratory-windows.png >/dev/null || fail "the laboratory"
 ls docs/manual/*.png docs/demo.png

@@ -1,7 +1,7 @@
 // The functions of the interface: texts and null are settled here, the rest is the field's.
 #include "ztfield.h"
 
-#include <new>
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -24,6 +24,7 @@ using zte::Text;
 using zte::WriteUtf8;
 
 constexpr int32_t kNone = -1;
+constexpr int32_t kMostNotches = 1000;  // at a time: no wheel turns further, and each is a step
 
 // No text: "" in the buffer, and no length.
 int32_t WriteNone(char* buffer, int32_t size)
@@ -32,17 +33,30 @@ int32_t WriteNone(char* buffer, int32_t size)
     return kNone;
 }
 
+// Nothing is thrown through a C interface: without memory the program ends in one of these.
+template <typename Work>
+auto Ended(Work work) noexcept
+{
+    return work();
+}
+
 template <typename Ask>
-int32_t WriteOf(const ZTField* field, char* buffer, int32_t size, Ask ask)
+int32_t WriteOf(const ZTField* field, char* buffer, int32_t size, Ask ask) noexcept
 {
     return WriteUtf8(field ? ask(*field) : Text(), buffer, size);
 }
 
 template <typename Act>
-void Do(ZTField* field, Act act)
+void Do(ZTField* field, Act act) noexcept
 {
     if (field)
         act(*field);
+}
+
+template <typename Field, typename Act>
+int32_t Asked(Field* field, int32_t otherwise, Act act) noexcept
+{
+    return field ? static_cast<int32_t>(act(*field)) : otherwise;
 }
 
 // Null stays null for the calls that tell it from "".
@@ -61,9 +75,17 @@ Text TakeData(const ZTField& field, void* block)
     return text;
 }
 
+template <typename Read>
+int32_t WriteData(const ZTField* field, char* buffer, int32_t size, Read read) noexcept
+{
+    void* block = field ? read(field->Record()) : nullptr;
+    return block ? WriteUtf8(TakeData(*field, block), buffer, size) : WriteNone(buffer, size);
+}
+
 using Judgement = zte::MaskVerdict (*)(const zte::Char*, int32_t, const zte::Settings&);
 
-int32_t Judge(Judgement judge, const ZTFieldSettings* settings, const char* mask, int32_t dataType, int32_t* offset)
+int32_t Judge(Judgement judge, const ZTFieldSettings* settings, const char* mask, int32_t dataType,
+              int32_t* offset) noexcept
 {
     const Text text = FromUtf8(mask);
     const zte::MaskVerdict verdict = judge(OrNull(mask, text), dataType, zte::SettingsOf(settings));
@@ -94,7 +116,7 @@ uint32_t ZTF_Version(void)
 
 ZTFieldSettings* ZTF_CreateSettings(void)
 {
-    return new (std::nothrow) ZTFieldSettings;
+    return Ended([] { return new ZTFieldSettings; });
 }
 
 void ZTF_DestroySettings(ZTFieldSettings* settings)
@@ -104,19 +126,19 @@ void ZTF_DestroySettings(ZTFieldSettings* settings)
 
 int32_t ZTF_SetSetting(ZTFieldSettings* settings, int32_t setting, const char* value)
 {
-    return settings && zte::SetSetting(settings->value, setting, FromUtf8(value)) ? 1 : 0;
+    return Asked(settings, 0, [&](ZTFieldSettings& it) { return zte::SetSetting(it.value, setting, FromUtf8(value)); });
 }
 
 int32_t ZTF_GetSetting(const ZTFieldSettings* settings, int32_t setting, char* buffer, int32_t size)
 {
-    return WriteUtf8(zte::SettingOf(zte::SettingsOf(settings), setting), buffer, size);
+    return Ended([&] { return WriteUtf8(zte::SettingOf(zte::SettingsOf(settings), setting), buffer, size); });
 }
 
 // ---- fields
 
 ZTField* ZTF_Create(const ZTFieldSetup* setup)
 {
-    return new (std::nothrow) ZTField(setup ? *setup : ZTFieldSetup{});
+    return Ended([&] { return new ZTField(setup ? *setup : ZTFieldSetup{}); });
 }
 
 void ZTF_Destroy(ZTField* field)
@@ -131,7 +153,7 @@ void ZTF_UseSettings(ZTField* field, const ZTFieldSettings* settings)
 
 int32_t ZTF_SetMask(ZTField* field, const char* mask, int32_t dataType)
 {
-    return field && field->SetMask(mask, dataType) ? 1 : 0;
+    return Asked(field, 0, [&](ZTField& it) { return it.SetMask(mask, dataType); });
 }
 
 int32_t ZTF_GetMask(const ZTField* field, char* buffer, int32_t size)
@@ -147,7 +169,7 @@ int32_t ZTF_GetDataType(const ZTField* field)
 
 int32_t ZTF_SetModern(ZTField* field, int32_t on)
 {
-    return field && zte::SetModern(field->Record(), on != 0) ? 1 : 0;
+    return Asked(field, 0, [&](ZTField& it) { return zte::SetModern(it.Record(), on != 0); });
 }
 
 void ZTF_SetAutoskip(ZTField* field, int32_t on)
@@ -181,8 +203,10 @@ void ZTF_ShowSpin(ZTField* field, int32_t on)
 
 void ZTF_SetDataString(ZTField* field, const char* text)
 {
-    const Text data = FromUtf8(text);
-    Do(field, [&](ZTField& it) { zte::EditingOf(it.Record()).setDataString(it.Record(), OrNull(text, data)); });
+    Do(field, [&](ZTField& it) {
+        const Text data = FromUtf8(text);
+        zte::EditingOf(it.Record()).setDataString(it.Record(), OrNull(text, data));
+    });
 }
 
 int32_t ZTF_TrySetDataString(ZTField* field, const char* text)
@@ -193,25 +217,28 @@ int32_t ZTF_TrySetDataString(ZTField* field, const char* text)
 
 int32_t ZTF_GetDataString(const ZTField* field, char* buffer, int32_t size)
 {
-    Text text;
-    return field && zte::CanonicalText(field->Record(), text) ? WriteUtf8(text, buffer, size) : WriteNone(buffer, size);
+    return Ended([&] {
+        Text text;
+        return field && zte::CanonicalText(field->Record(), text) ? WriteUtf8(text, buffer, size)
+                                                                  : WriteNone(buffer, size);
+    });
 }
 
 int32_t ZTF_ReadData(const ZTField* field, char* buffer, int32_t size)
 {
-    void* block = field ? zte::EditingOf(field->Record()).getData(field->Record()) : nullptr;
-    return block ? WriteUtf8(TakeData(*field, block), buffer, size) : WriteNone(buffer, size);
+    return WriteData(field, buffer, size,
+                     [](const zte::EditInstance& edit) { return zte::EditingOf(edit).getData(edit); });
 }
 
 int32_t ZTF_ReadText(const ZTField* field, const char* text, char* buffer, int32_t size)
 {
-    void* block = field ? zte::UnformatData(field->Record(), FromUtf8(text).c_str()) : nullptr;
-    return block ? WriteUtf8(TakeData(*field, block), buffer, size) : WriteNone(buffer, size);
+    return WriteData(field, buffer, size,
+                     [&](const zte::EditInstance& edit) { return zte::UnformatData(edit, FromUtf8(text).c_str()); });
 }
 
 int32_t ZTF_GetState(const ZTField* field)
 {
-    return field ? zte::StateOf(field->Record()) : kNone;
+    return Asked(field, kNone, [](const ZTField& it) { return zte::StateOf(it.Record()); });
 }
 
 // ---- the user
@@ -238,8 +265,10 @@ void ZTF_Character(ZTField* field, uint32_t codePoint)
 
 void ZTF_Type(ZTField* field, const char* text)
 {
-    for (const zte::Char character : FromUtf8(text))
-        ZTF_Character(field, character);
+    Do(field, [&](ZTField& it) {
+        for (const zte::Char character : FromUtf8(text))
+            it.Control().Type(character);
+    });
 }
 
 void ZTF_SetClipboard(ZTField* field, const char* text)
@@ -249,8 +278,10 @@ void ZTF_SetClipboard(ZTField* field, const char* text)
 
 int32_t ZTF_GetClipboard(const ZTField* field, char* buffer, int32_t size)
 {
-    const std::optional<Text> text = field ? field->Edit().ReadClipboard() : std::nullopt;
-    return text ? WriteUtf8(*text, buffer, size) : WriteNone(buffer, size);
+    return Ended([&] {
+        const std::optional<Text> text = field ? field->Edit().ReadClipboard() : std::nullopt;
+        return text ? WriteUtf8(*text, buffer, size) : WriteNone(buffer, size);
+    });
 }
 
 void ZTF_Paste(ZTField* field)
@@ -285,12 +316,12 @@ void ZTF_Redo(ZTField* field)
 
 int32_t ZTF_CanUndo(const ZTField* field)
 {
-    return field && field->CanUndo() ? 1 : 0;
+    return Asked(field, 0, [](const ZTField& it) { return it.CanUndo(); });
 }
 
 int32_t ZTF_CanRedo(const ZTField* field)
 {
-    return field && field->Record().editor && field->Record().editor->CanRedo() ? 1 : 0;
+    return Asked(field, 0, [](const ZTField& it) { return it.Record().editor && it.Record().editor->CanRedo(); });
 }
 
 void ZTF_Click(ZTField* field, int32_t position, int32_t held)
@@ -310,7 +341,7 @@ void ZTF_Drag(ZTField* field, int32_t from, int32_t to)
 
 void ZTF_Wheel(ZTField* field, int32_t notches)
 {
-    Do(field, [&](ZTField& it) { it.Control().Wheel(notches); });
+    Do(field, [&](ZTField& it) { it.Control().Wheel(std::clamp(notches, -kMostNotches, kMostNotches)); });
 }
 
 void ZTF_Step(ZTField* field, int32_t up)
@@ -337,14 +368,12 @@ int32_t ZTF_GetText(const ZTField* field, char* buffer, int32_t size)
 
 void ZTF_SetText(ZTField* field, const char* text)
 {
-    const Text shown = FromUtf8(text);
-    Do(field, [&](ZTField& it) { it.Control().SetText(shown.c_str()); });
+    Do(field, [&](ZTField& it) { it.Control().SetText(FromUtf8(text).c_str()); });
 }
 
 void ZTF_ReplaceSelection(ZTField* field, const char* text)
 {
-    const Text put = FromUtf8(text);
-    Do(field, [&](ZTField& it) { it.Control().Replace(put.c_str(), false); });
+    Do(field, [&](ZTField& it) { it.Control().Replace(FromUtf8(text).c_str(), false); });
 }
 
 void ZTF_GetSelection(const ZTField* field, int32_t* anchor, int32_t* caret)
@@ -375,17 +404,21 @@ void ZTF_SetModified(ZTField* field, int32_t on)
 
 int32_t ZTF_CountPositions(const ZTField* field)
 {
-    return field ? static_cast<int32_t>(zte::PositionsShown(field->Record()).size()) : 0;
+    return Asked(field, 0, [](const ZTField& it) { return zte::PositionsShown(it.Record()).size(); });
 }
 
 int32_t ZTF_GetPosition(const ZTField* field, int32_t index, ZTFieldPosition* position)
 {
-    const std::vector<ZTFieldPosition> shown =
-        field ? zte::PositionsShown(field->Record()) : std::vector<ZTFieldPosition>();
-    const bool isThere = index >= 0 && static_cast<size_t>(index) < shown.size();
+    ZTFieldPosition found{};
+    const int32_t isThere = Asked(field, 0, [&](const ZTField& it) {
+        const std::vector<ZTFieldPosition> shown = zte::PositionsShown(it.Record());
+        const bool isIn = index >= 0 && static_cast<size_t>(index) < shown.size();
+        found = isIn ? shown[static_cast<size_t>(index)] : ZTFieldPosition{};
+        return isIn;
+    });
     if (position)
-        *position = isThere ? shown[static_cast<size_t>(index)] : ZTFieldPosition{};
-    return isThere ? 1 : 0;
+        *position = found;
+    return isThere;
 }
 
 // ---- without a field
@@ -403,18 +436,22 @@ int32_t ZTF_CheckModernMask(const ZTFieldSettings* settings, const char* mask, i
 int32_t ZTF_Format(const ZTFieldSettings* settings, const char* mask, int32_t dataType, const char* data, char* buffer,
                    int32_t size)
 {
-    ZTField field(Asking(settings, mask, dataType));
-    return ZTF_TrySetDataString(&field, data) == 0 ? ZTF_GetText(&field, buffer, size) : WriteNone(buffer, size);
+    return Ended([&] {
+        ZTField field(Asking(settings, mask, dataType));
+        return ZTF_TrySetDataString(&field, data) == 0 ? ZTF_GetText(&field, buffer, size) : WriteNone(buffer, size);
+    });
 }
 
 int32_t ZTF_Parse(const ZTFieldSettings* settings, const char* mask, int32_t dataType, const char* text, char* buffer,
                   int32_t size, int32_t* reason)
 {
-    ZTField field(Asking(settings, mask, dataType));
-    const int32_t refused = ZTF_TrySetDataString(&field, text);
-    if (reason)
-        *reason = refused;
-    const int32_t state = ZTF_GetState(&field);
-    const bool isValue = refused == 0 && (state == ZTS_COMPLETE || state == ZTS_EMPTY);
-    return isValue ? ZTF_GetDataString(&field, buffer, size) : WriteNone(buffer, size);
+    return Ended([&] {
+        ZTField field(Asking(settings, mask, dataType));
+        const int32_t refused = ZTF_TrySetDataString(&field, text);
+        const int32_t state = ZTF_GetState(&field);
+        const bool isValue = refused == 0 && (state == ZTS_COMPLETE || state == ZTS_EMPTY);
+        if (reason)
+            *reason = isValue || refused ? refused : ZTR_DOES_NOT_FIT;  // a part of a value is none
+        return isValue ? ZTF_GetDataString(&field, buffer, size) : WriteNone(buffer, size);
+    });
 }

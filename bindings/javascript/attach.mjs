@@ -480,7 +480,7 @@ class AttachedInput {
         if (!isValue && text !== this.#input.defaultValue) this.#field.type(text);
         if (this.#field.state !== "empty") return;
         if (!isValue) this.#field.setText(text);
-        else if (this.#field.modern) this.#field.press("Home");
+        else if (this.#field.modern) this.#field.click(0);
     }
 
     get #nativeSelection() {

@@ -69,7 +69,7 @@ class Links:
 
 def outside_of_code(text, change):
     """Changes a page, but for what stands in blocks of code and in marks of code."""
-    parts = re.split(r"(^```.*?^```$|^(?: {4}.*\n)+|`[^`\n]+`)", text, flags=re.M | re.S)
+    parts = re.split(r"(^```.*?^```$|^(?: {4}[^\n]*\n)+|`[^`\n]+`)", text, flags=re.M | re.S)
     return "".join(part if index % 2 else change(part) for index, part in enumerate(parts))
 
 
