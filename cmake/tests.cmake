@@ -54,7 +54,7 @@ function(zt_add_test_program folder)
 endfunction()
 
 file(GLOB zt_test_folders CONFIGURE_DEPENDS LIST_DIRECTORIES true RELATIVE ${CMAKE_SOURCE_DIR}/tests ${CMAKE_SOURCE_DIR}/tests/*)
-list(REMOVE_ITEM zt_test_folders support units abi demo properties fuzz)
+list(REMOVE_ITEM zt_test_folders support units abi demo properties fuzz ztfield ztfield_package)
 foreach(folder IN LISTS zt_test_folders)
     if(IS_DIRECTORY ${CMAKE_SOURCE_DIR}/tests/${folder})
         zt_add_test_program(${folder} ztedit050 ztshared ztdecimal)

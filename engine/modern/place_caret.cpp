@@ -64,6 +64,18 @@ Selection WordIn(const Text& text, const Place& place, int32_t position)
     return several && !word.IsEmpty() ? word : Selection{place.start, place.End()};
 }
 
+// On a literal the nearest position; the tie goes to the right, where the next field begins.
+int32_t Nearest(const Layout& layout, int32_t position)
+{
+    if (const Place* place = layout.At(position))
+        return place->kind == FieldKind::AmPm ? place->start : position;
+    const Place* before = layout.Before(position);
+    const Place* next = layout.Next(position);
+    if (!before || !next)
+        return next ? next->start : layout.End();
+    return position - (before->End() - 1) < next->start - position ? before->End() - 1 : next->start;
+}
+
 }  // namespace
 
 int32_t Move(const EditInstance& edit, const Content& content, Key key, bool control)
@@ -74,22 +86,16 @@ int32_t Move(const EditInstance& edit, const Content& content, Key key, bool con
     switch (key) {
     case KEY_HOME: return layout.First();
     case KEY_END: return End(layout, content.text, selection.end);
-    case KEY_LEFT: return collapses ? Click(edit, content, selection.start) : Left(layout, selection.start, control);
-    default: return collapses ? Click(edit, content, selection.end) : Right(layout, selection.end, control);
+    case KEY_LEFT: return collapses ? Nearest(layout, selection.start) : Left(layout, selection.start, control);
+    default: return collapses ? Nearest(layout, selection.end) : Right(layout, selection.end, control);
     }
 }
 
-// On a literal the nearest position; the tie goes to the right, where the next field begins.
+// Behind all positions where something is to be filled in: most clicks into an empty field are meant so.
 int32_t Click(const EditInstance& edit, const Content& content, int32_t position)
 {
     const Layout layout(edit, content.text);
-    if (const Place* place = layout.At(position))
-        return place->kind == FieldKind::AmPm ? place->start : position;
-    const Place* before = layout.Before(position);
-    const Place* next = layout.Next(position);
-    if (!before || !next)
-        return next ? next->start : layout.End();
-    return position - (before->End() - 1) < next->start - position ? before->End() - 1 : next->start;
+    return Nearest(layout, position < layout.End() ? position : EndOfFilled(layout, content.text));
 }
 
 Selection WordAt(const EditInstance& edit, const Content& content, int32_t position)

@@ -308,7 +308,10 @@ int ModernControl::Do(const std::string& act)
         Content next = content_;
         next.Place(std::clamp(std::atoi(rest.c_str()), 0, static_cast<int>(next.text.size())));
         Settle(next, By::Program);
-        const int right = kind_->Correct(content_, content_.caret);
+        // Who clicks behind everything means the place where something is still to be filled in.
+        const bool behind = content_.caret >= kind_->Last(content_);
+        const int meant = behind ? std::min(content_.caret, kind_->BehindFilled(content_)) : content_.caret;
+        const int right = kind_->Correct(content_, meant);
         if (right != content_.caret)
             Forget(content_);
         content_.Place(right);

@@ -274,6 +274,10 @@ const TypingRow kCaretRows[] = {
     {kUs, "|12/31/1999", "{Click5}",         "12/31/|1999"},
     {kUs, "|12/31/1999", "{Click4}",         "12/3|1/1999"},
     {kUs, "|12/31/1999", "{Click10}",        "12/31/1999|"},
+    {kUs, nullptr, "{Click10}",              "|  /  /    "},  // behind a blank that is to be filled in
+    {kUs, nullptr, "{Click10}7",             "07/|  /    "},
+    {kUs, nullptr, "7{Click10}",             "07/|  /    "},
+    {kUs, nullptr, "0704{Left}{Click10}",    "07/04/|    "},
     {kUs, "|12/31/1999", "{Double4}",        "12/[31]/1999"},
     {kUs, "|12/31/1999", "{Double8}",        "12/31/[1999]"},
     {kUs, "|12/31/1999", "{All}",            "[12/31/1999]"},
