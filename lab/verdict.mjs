@@ -13,7 +13,7 @@ export const judge = (bench) => {
         isTaken,
         inForce: field.mask,
         blank: blank.text,
-        check: check(bench.mask, bench.type, bench.settings),
+        check: check(bench.mask, bench.type, bench.settings, { modern: false }),
     };
     field.destroy();
     blank.destroy();

@@ -84,12 +84,14 @@ export function parse(text, options) {
  * @param {string} mask
  * @param {import("./ztfield.mjs").DataType} type
  * @param {import("./ztfield.mjs").Settings} [settings]
+ * @param {{ modern?: boolean }} [editing]
  * @returns {import("./ztfield.mjs").MaskVerdict}
  */
-export function check(mask, type, settings = undefined) {
+export function check(mask, type, settings = undefined, { modern = true } = {}) {
     const number = numberOfType(type);
+    const judge = modern ? library.ZTF_CheckModernMask : library.ZTF_CheckMask;
     const [reason, offset] = withSettings(settings, (handle) =>
-        lend([mask], (address) => integersFrom(1, (at) => library.ZTF_CheckMask(handle, address, number, at))));
+        lend([mask], (address) => integersFrom(1, (at) => judge(handle, address, number, at))));
     const fits = reason === 0;
     const position = fits ? -1 : unitsBefore(mask, offset);
     return { fits, reason: maskReasons[reason][0], position, message: maskReasons[reason][1] };

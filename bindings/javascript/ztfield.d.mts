@@ -215,7 +215,8 @@ export declare function format(value: string | number | Date | null, options: Fi
 /** The canonical text of what was typed or pasted in any of the usual forms; null where it cannot be read as one value. */
 export declare function parse(text: string, options: FieldOptions): string | null;
 
-export declare function check(mask: string, type: DataType, settings?: Settings): MaskVerdict;
+/** As a modern field takes the mask, or a classic one: there a number's mask is judged by the settings' own separators. */
+export declare function check(mask: string, type: DataType, settings?: Settings, editing?: { modern?: boolean }): MaskVerdict;
 
 /** "0.5.0" */
 export declare const version: string;

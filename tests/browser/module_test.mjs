@@ -261,6 +261,9 @@ describe("masks", () => {
         });
         assert.equal(check("\u{1F600}\u{1F600}M", "date").position, 4);
         assert.equal(check("[currency(17)]", "number").reason, "keyword");
+        const german = { decimal: ",", thousands: "." };
+        assert.equal(check("#,##0.00", "number", german).fits, true);
+        assert.equal(check("#,##0.00", "number", german, { modern: false }).reason, "out of place");
     });
 
     test("are of a type that there is, under settings that there are", () => {
