@@ -34,6 +34,10 @@ else()
     # The engine throws nothing and asks no object for its type; a build without either says so. (In the library a field may
     # unwind through it.)
     target_compile_options(zt_engine PRIVATE -fno-exceptions -fno-rtti)
+    # On 64 bits each file is compiled by itself, so that it names what it needs; on 32 some at a time, which takes half as long.
+    if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+        set_target_properties(zt_engine PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+    endif()
     # Only the engine is watched; the tests around it build in half the time without.
     if(ZT_SANITIZE)
         target_precompile_headers(zt_engine PRIVATE ${zt_engine_headers})

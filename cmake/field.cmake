@@ -11,9 +11,12 @@ target_link_libraries(zt_field_objects PRIVATE zt_build_flags)
 target_compile_definitions(zt_field_objects PRIVATE ZT_WIDE_CHARACTERS)
 target_compile_options(zt_field_objects PRIVATE -fno-exceptions -fno-rtti)
 set_target_properties(zt_field_objects PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden
-    VISIBILITY_INLINES_HIDDEN ON UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
-if(ZT_SANITIZE)
-    target_compile_options(zt_field_objects PRIVATE -O1 -g1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    VISIBILITY_INLINES_HIDDEN ON UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
+# Once is enough: what 32 bits do otherwise shows in the engine, which is watched there as well.
+set(zt_field_is_watched OFF)
+if(ZT_SANITIZE AND CMAKE_SIZEOF_VOID_P EQUAL 8)
+    set(zt_field_is_watched ON)
+    target_compile_options(zt_field_objects PRIVATE -O0 -g1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
 endif()
 
 # A program in C finds all that it needs in the shared library; what the compiler's own libraries declare stays inside as well.
@@ -21,7 +24,7 @@ add_library(ztfield SHARED $<TARGET_OBJECTS:zt_field_objects>)
 set_target_properties(ztfield PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
     LINKER_LANGUAGE CXX LINK_DEPENDS ${CMAKE_SOURCE_DIR}/ztfield/ztfield.map)
 target_link_options(ztfield PRIVATE -Wl,--version-script=${CMAKE_SOURCE_DIR}/ztfield/ztfield.map)
-if(NOT ZT_SANITIZE)  # what watches a library is the program's, with one of the compilers
+if(NOT zt_field_is_watched)  # what watches a library is the program's, with one of the compilers
     target_link_options(ztfield PRIVATE -Wl,--no-undefined -static-libstdc++ -static-libgcc -Wl,--gc-sections)
 endif()
 
@@ -40,7 +43,7 @@ target_link_libraries(ztfield_static INTERFACE stdc++ m)
 
 foreach(library ztfield ztfield_static)
     target_include_directories(${library} PUBLIC $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/include> $<INSTALL_INTERFACE:include>)
-    if(ZT_SANITIZE)
+    if(zt_field_is_watched)
         target_link_options(${library} PUBLIC -fsanitize=address,undefined)
     endif()
 endforeach()

@@ -2,7 +2,9 @@
 #include "tests/support/modern_rows.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
+#include <optional>
 
 #include "tests/support/engine_test.h"
 #include "tests/support/modern_number_rows.h"
@@ -33,6 +35,15 @@ const ActRow* ActNamed(const std::string& name)
     return found == std::end(kActs) ? nullptr : found;
 }
 
+// The position of "Click10"; none for other acts.
+std::optional<int> ClickedAt(const std::string& name)
+{
+    const std::string click = "Click";
+    if (name.compare(0, click.size(), click) != 0)
+        return std::nullopt;
+    return std::atoi(name.c_str() + click.size());
+}
+
 // Characters, and acts named in braces; handed on one by one.
 template <typename Type, typename Act>
 void Walk(const std::string& keys, Type type, Act act)
@@ -54,7 +65,7 @@ bool CanBePlayed(const TypingRow& row)
     bool all = std::strcmp(row.setup.am, "AM") == 0;
     const bool fromToday = (row.setup.options & ZTEO_SPIN) != 0 && !row.before;
     Walk(
-        row.keys, [](char) {}, [&](const std::string& name) { all = all && (typing::KeyOf(name) || ActNamed(name)); });
+        row.keys, [](char) {}, [&](const std::string& name) { all = all && (typing::KeyOf(name) || ActNamed(name) || ClickedAt(name)); });
     return all && !fromToday;
 }
 
@@ -89,6 +100,8 @@ protected:
     {
         if (const char* key = typing::KeyOf(name))
             Play(key);
+        else if (const std::optional<int> position = ClickedAt(name))
+            control_->Click(*position);
         else
             ActNamed(name)->act(*control_);
     }
